@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+
+namespace kaldo {
+
+// What the program accepts. Larger inputs are refused with a sentence, never cut.
+
+/// Individuals in the table of the collected parents, separators included (males and females
+/// together), and in the table of the offspring.
+inline constexpr std::size_t kMaxIndividuals = 50'000;
+
+/// Loci in a names-of-loci file.
+inline constexpr std::size_t kMaxLoci = 50;
+
+/// Distinct allele sizes at one locus, parents and offspring together.
+inline constexpr std::size_t kMaxAlleles = 100;
+
+/// Bytes of an individual's name.
+inline constexpr std::size_t kMaxNameLength = 15;
+
+/// Bytes of a locus name.
+inline constexpr std::size_t kMaxLocusNameLength = 14;
+
+/// Digits of one allele in a genotype field.
+inline constexpr std::size_t kMaxAlleleDigits = 4;
+
+/// Bytes of an input file; a larger one is no genotype file of this size class.
+inline constexpr std::size_t kMaxInputBytes = 256U * 1024 * 1024;
+
+/// Bytes of two names that must agree for them to be the same individual in the test for pairs met
+/// twice. Laboratories put running numbers of a replicate behind the tenth character.
+inline constexpr std::size_t kNameKeyLength = 10;
+
+}  // namespace kaldo

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "genotypes/file_wide_checks.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "genotypes/record_checks.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::size_t kLongestEvenField = 1000;
+
+/// A field of the file that breaks a rule, and the record in which it stands.
+struct FieldPlace {
+  Token field;
+  Token name;
+  std::uint32_t record = 0;
+  std::size_t locus = 0;
+};
+
+bool IsEven(std::string_view field) {
+  return field.size() % 2 == 0 && field.size() <= kLongestEvenField;
+}
+
+/// Which halves of a genotype field are zeros only.
+struct ZeroHalves {
+  bool first = false;
+  bool second = false;
+};
+
+ZeroHalves ZeroHalvesOf(std::string_view field) {
+  const std::size_t half = field.size() / 2;
+  const auto zeros = [half](std::string_view part) {
+    return static_cast<std::size_t>(std::count(part.begin(), part.end(), '0')) == half;
+  };
+  return {zeros(field.substr(0, half)), zeros(field.substr(half))};
+}
+
+bool IsForbidden(std::string_view field, UndefinedAlleles allowed) {
+  const auto [first, second] = ZeroHalvesOf(field);
+  return allowed == UndefinedAlleles::kNone ? first || second : first != second;
+}
+
+/// Walks over as many records as the counts allow. Fields missing at the end count as empty ones.
+template <typename Visit>
+void ForEachField(std::span<const Token> tokens, RecordLayout layout, std::size_t records,
+                  Visit visit) {
+  RecordCursor cursor(tokens, layout);
+  for (std::size_t record = 0; record < records; ++record) {
+    cursor.Next();
+    const std::size_t fields = cursor.IsSeparator() ? 0 : layout.number_of_loci;
+    for (std::size_t locus = 0; locus < fields; ++locus) {
+      const Token field = locus < cursor.Fields().size() ? cursor.Fields()[locus] : Token{};
+      visit(FieldPlace{field, cursor.Name(), cursor.Record(), locus});
+    }
+  }
+}
+
+Problem ProblemAt(const FieldPlace& place, const FileWideCheck& check, const LociList& loci,
+                  std::string_view sentence, std::string found) {
+  Problem problem;
+  problem.sentence = sentence;
+  problem.file = check.file->Path();
+  problem.line = place.field.line;
+  problem.individual = place.name.text;
+  problem.record = place.record;
+  problem.locus = loci.Names()[place.locus];
+  problem.found = std::move(found);
+  return problem;
+}
+
+Problem OddDigits(const FileWideCheck& check, const LociList& loci, RecordLayout layout,
+                  const std::optional<FieldPlace>& odd, const TokenCounts& counts) {
+  const auto tokens = check.file->Tokens();
+  const bool torn = (counts.tokens - counts.separators) % (layout.number_of_loci + 1) != 0;
+  if (torn || !odd || !IsAllDigits(odd->field.text)) {
+    if (auto problem = FindMisshapenRecord(*check.file, layout)) {
+      problem->sentence = check.odd_digits_sentence;
+      return *problem;
+    }
+  }
+  if (odd) {
+    return ProblemAt(
+        *odd, check, loci, check.odd_digits_sentence,
+        fmt::format("{} has {} characters; both alleles need the same number of digits",
+                    Quoted(odd->field.text), odd->field.text.size()));
+  }
+  Problem problem;
+  problem.sentence = check.odd_digits_sentence;
+  problem.file = check.file->Path();
+  problem.found = fmt::format("{} words do not make whole records of a name and {} fields",
+                              tokens.size(), layout.number_of_loci);
+  return problem;
+}
+
+}  // namespace
+
+std::optional<Problem> CheckFileWide(const FileWideCheck& check, const LociList& loci) {
+  const auto tokens = check.file->Tokens();
+  const RecordLayout layout{loci.Count(), check.separators};
+  const TokenCounts counts = CountTokens(tokens, layout);
+
+  std::size_t even_fields = 0;
+  std::optional<FieldPlace> first_odd;
+  std::optional<FieldPlace> first_undefined;
+  ForEachField(tokens, layout, counts.records, [&](const FieldPlace& place) {
+    if (IsEven(place.field.text)) {
+      ++even_fields;
+    } else if (!first_odd) {
+      first_odd = place;
+    }
+    if (!first_undefined && IsForbidden(place.field.text, check.undefined_alleles)) {
+      first_undefined = place;
+    }
+  });
+  const std::size_t expected =
+      ((counts.tokens - counts.separators) * loci.Count()) / (loci.Count() + 1);
+  if (even_fields != expected) {
+    return OddDigits(check, loci, layout, first_odd, counts);
+  }
+  if (first_undefined) {
+    return ProblemAt(
+        *first_undefined, check, loci, check.undefined_sentence,
+        fmt::format("{} holds an undefined allele", Quoted(first_undefined->field.text)));
+  }
+  return std::nullopt;
+}
+
+std::optional<Problem> CheckFilesWide(std::span<const FileWideCheck> checks, const LociList& loci,
+                                      std::optional<Problem> earlier) {
+  for (const FileWideCheck& check : checks) {
+    auto problem = CheckFileWide(check, loci);
+    if (!problem) {
+      continue;
+    }
+    if (check.odd_digits_ends_checks && problem->sentence == check.odd_digits_sentence) {
+      return problem;
+    }
+    earlier = std::move(problem);
+  }
+  return earlier;
+}
+
+}  // namespace kaldo

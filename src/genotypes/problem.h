@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace kaldo {
+
+/// What is wrong with the files or the choices of a user, as a value: one sentence that never
+/// changes, and where to look. A run does not start while there is a Problem.
+struct Problem {
+  /// The sentence shown first, for instance "Offspring file name is missing!".
+  std::string sentence;
+
+  // Where it is; empty or 0 where it does not apply.
+  std::string file;
+  std::uint32_t line = 0;    ///< counted from 1
+  std::string individual;    ///< the name at the head of the record
+  std::uint32_t record = 0;  ///< counted from 1, separators included
+  std::string locus;
+
+  /// What was found there and what to do, in plain words.
+  std::string found;
+
+  /// True where the windows close without a message (unequal numbers of separators).
+  bool silent_in_windows = false;
+};
+
+/// One line of detail below the sentence: `offspring.txt, line 12, record 11 (B07), locus Ssa85:
+/// "95100" has 5 digits ...`. Control characters are shown escaped. Empty when there is nothing to
+/// add to the sentence.
+std::string DetailLine(const Problem& problem);
+
+/// `text` between double quotes as it may be shown to a user: at most 40 bytes, and bytes that a
+/// terminal would obey are escaped.
+std::string Quoted(std::string_view text);
+
+/// Ends a run from outside: a report that cannot be written, a folder that cannot be made.
+class RunFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The user asked to stop.
+class RunStopped : public std::runtime_error {
+ public:
+  RunStopped() : std::runtime_error("Stopped. The results of earlier runs are as they were.") {}
+};
+
+}  // namespace kaldo

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "genotypes/record_checks.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "genotypes/capacities.h"
+
+namespace kaldo {
+
+namespace {
+
+/// The words of one line of the file.
+using Line = std::span<const Token>;
+
+std::vector<Line> LinesOf(std::span<const Token> tokens) {
+  std::vector<Line> lines;
+  std::size_t begin = 0;
+  for (std::size_t i = 1; i <= tokens.size(); ++i) {
+    if (i == tokens.size() || tokens[i].line != tokens[begin].line) {
+      lines.push_back(tokens.subspan(begin, i - begin));
+      begin = i;
+    }
+  }
+  return lines;
+}
+
+bool IsOneRecord(Line line, RecordLayout layout) {
+  return layout.IsSeparator(line.front().text) ? line.size() == 1
+                                               : line.size() == layout.number_of_loci + 1;
+}
+
+Problem ProblemOf(const TokenFile& file, std::uint32_t line, std::uint32_t record,
+                  std::string_view individual, std::string sentence, std::string found) {
+  Problem problem;
+  problem.sentence = std::move(sentence);
+  problem.file = file.Path();
+  problem.line = line;
+  problem.record = record;
+  problem.individual = individual;
+  problem.found = std::move(found);
+  return problem;
+}
+
+std::string FieldCountText(Line line, RecordLayout layout) {
+  std::string text = fmt::format("{} fields after the name, {} loci are named", line.size() - 1,
+                                 layout.number_of_loci);
+  if (line.front().text.starts_with('*') && layout.separators == Separators::kNone) {
+    text += "; separators are read in parents files only";
+  } else if (layout.IsSeparator(line.front().text)) {
+    text = "a separator stands alone on its line";
+  }
+  return text;
+}
+
+Problem WrongFieldCount(const TokenFile& file, RecordLayout layout) {
+  if (auto problem = FindMisshapenRecord(file, layout)) {
+    problem->sentence = "A record has a wrong number of fields!";
+    return *problem;
+  }
+  RecordCursor cursor(file.Tokens(), layout);
+  do {
+    cursor.Next();
+  } while (!cursor.AtEnd());
+  return ProblemOf(file, cursor.Name().line, cursor.Record(), cursor.Name().text,
+                   "A record has a wrong number of fields!",
+                   fmt::format("the file ends after {} of its {} fields", cursor.Fields().size(),
+                               layout.number_of_loci));
+}
+
+/// What is wrong with one genotype field by itself; empty when nothing is.
+struct FieldFault {
+  std::string sentence;
+  std::string found;
+};
+
+FieldFault FaultOfField(std::string_view field, std::size_t digits_per_field) {
+  if (!IsAllDigits(field)) {
+    return {"A genotype field is not all digits!",
+            fmt::format("{} should be both allele sizes as digits side by side", Quoted(field))};
+  }
+  if (field.size() != digits_per_field) {
+    std::string advice;
+    if (field.size() < digits_per_field) {
+      advice = "; spreadsheets drop leading zeros: write them again or correct the field";
+    }
+    return {"A genotype field has another number of digits!",
+            fmt::format("{} has {} digits, the first parents file uses {}{}", Quoted(field),
+                        field.size(), digits_per_field, advice)};
+  }
+  if (field.size() > 2 * kMaxAlleleDigits || field.size() % 2 != 0) {
+    return {fmt::format("An allele has more than {} digits!", kMaxAlleleDigits),
+            fmt::format("{} has {} digits for both alleles", Quoted(field), field.size())};
+  }
+  return {};
+}
+
+}  // namespace
+
+bool IsAllDigits(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char character) { return character >= '0' && character <= '9'; });
+}
+
+std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout) {
+  const auto lines = LinesOf(file.Tokens());
+  const auto regular = std::count_if(lines.begin(), lines.end(),
+                                     [layout](Line line) { return IsOneRecord(line, layout); });
+  if (2 * static_cast<std::size_t>(regular) <= lines.size()) {
+    return std::nullopt;
+  }
+  const auto odd_one = std::find_if_not(lines.begin(), lines.end(),
+                                        [layout](Line line) { return IsOneRecord(line, layout); });
+  if (odd_one == lines.end()) {
+    return std::nullopt;
+  }
+  return ProblemOf(file, odd_one->front().line,
+                   static_cast<std::uint32_t>(odd_one - lines.begin()) + 1, odd_one->front().text,
+                   "", FieldCountText(*odd_one, layout));
+}
+
+std::size_t DigitsPerField(const TokenFile& first_parents_file, RecordLayout layout) {
+  RecordCursor cursor(first_parents_file.Tokens(), layout);
+  while (!cursor.AtEnd()) {
+    cursor.Next();
+    if (!cursor.IsSeparator()) {
+      return cursor.Fields().empty() ? 0 : cursor.Fields().front().text.size();
+    }
+  }
+  return 0;
+}
+
+std::optional<Problem> CheckRecords(const TokenFile& file, RecordLayout layout,
+                                    const LociList& loci, std::size_t digits_per_field) {
+  const TokenCounts counts = CountTokens(file.Tokens(), layout);
+  if ((counts.tokens - counts.separators) % (layout.number_of_loci + 1) != 0) {
+    return WrongFieldCount(file, layout);
+  }
+  RecordCursor cursor(file.Tokens(), layout);
+  while (!cursor.AtEnd()) {
+    cursor.Next();
+    const Token& name = cursor.Name();
+    for (std::size_t locus = 0; locus < cursor.Fields().size(); ++locus) {
+      const Token& field = cursor.Fields()[locus];
+      FieldFault fault = FaultOfField(field.text, digits_per_field);
+      if (fault.sentence.empty()) {
+        continue;
+      }
+      // A name where a genotype should be means that an earlier record lost or gained a field.
+      if (!IsAllDigits(field.text) && FindMisshapenRecord(file, layout)) {
+        return WrongFieldCount(file, layout);
+      }
+      Problem problem = ProblemOf(file, field.line, cursor.Record(), name.text,
+                                  std::move(fault.sentence), std::move(fault.found));
+      problem.locus = loci.Names()[locus];
+      return problem;
+    }
+    if (!cursor.IsSeparator() && name.text.size() > kMaxNameLength) {
+      return ProblemOf(file, name.line, cursor.Record(), name.text,
+                       fmt::format("A name has more than {} characters!", kMaxNameLength),
+                       fmt::format("{} has {} characters", Quoted(name.text), name.text.size()));
+    }
+  }
+  return std::nullopt;
+}
+
+std::size_t CountIndividuals(const TokenFile& file, RecordLayout layout) {
+  const TokenCounts counts = CountTokens(file.Tokens(), layout);
+  return counts.records - counts.separators;
+}
+
+}  // namespace kaldo

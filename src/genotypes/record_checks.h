@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "genotypes/loci_list.h"
+#include "genotypes/record_cursor.h"
+
+namespace kaldo {
+
+bool IsAllDigits(std::string_view text);
+
+/// Looks for a line with too few or too many fields in a file that otherwise has one record a line.
+/// The Problem found has no sentence yet. Nothing is found in files laid out in another way.
+std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout);
+
+/// The number of digits of a genotype field (both alleles) of a run: that of the first field of the
+/// first parents file. 0 when the file has no individual.
+std::size_t DigitsPerField(const TokenFile& first_parents_file, RecordLayout layout);
+
+/// Tests every record of a genotype file for itself, after the file-wide checks: the number of
+/// fields, digits only, `digits_per_field` of them and at most 8, names of at most 15 bytes.
+std::optional<Problem> CheckRecords(const TokenFile& file, RecordLayout layout,
+                                    const LociList& loci, std::size_t digits_per_field);
+
+/// Individuals of a genotype file without its separators. The file must have passed CheckRecords.
+std::size_t CountIndividuals(const TokenFile& file, RecordLayout layout);
+
+}  // namespace kaldo

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "genotypes/run_record.h"
+
+#include <fmt/chrono.h>
+#include <fmt/format.h>
+
+namespace kaldo {
+
+namespace {
+
+std::string TomlText(std::string_view text) {
+  std::string quoted = "\"";
+  for (const char character : text) {
+    const auto byte = static_cast<unsigned char>(character);
+    if (character == '"' || character == '\\') {
+      quoted += '\\';
+      quoted += character;
+    } else if (byte < 0x20 || byte == 0x7f) {
+      quoted += fmt::format("\\u{:04x}", byte);
+    } else {
+      quoted += character;
+    }
+  }
+  return quoted + '"';
+}
+
+// TOML tells 1.0 from 1: a probability of one must stay a floating-point number.
+std::string Toml(double value) {
+  std::string text = fmt::format("{}", value);
+  return text.find_first_of(".en") == std::string::npos ? text + ".0" : text;
+}
+
+std::string Toml(bool value) { return value ? "true" : "false"; }
+std::string Toml(std::int64_t value) { return std::to_string(value); }
+std::string Toml(const std::string& value) { return TomlText(value); }
+
+template <typename Value>
+std::string Toml(const std::vector<Value>& values) {
+  std::vector<std::string> parts;
+  for (const Value& value : values) {
+    parts.push_back(Toml(value));
+  }
+  return fmt::format("[{}]", fmt::join(parts, ", "));
+}
+
+}  // namespace
+
+std::string FormatRunRecord(const RunRecord& record) {
+  std::string text = "# What this run was made with. `kaldo rerun` with this file repeats it.\n";
+  const auto line = [&text](std::string_view key, const std::string& value) {
+    text += fmt::format("{} = {}\n", key, value);
+  };
+  line("program", TomlText("KALDO"));
+  line("version", TomlText(record.version));
+  line("date", record.date);
+  line("flow", TomlText(record.flow));
+  line("folder", TomlText(record.folder));
+  if (record.seed) {
+    line("seed", std::to_string(*record.seed));
+  }
+  line("threads", Toml(record.threads));
+  line("duration_seconds", Toml(record.duration_seconds));
+  line("warnings", Toml(record.warnings));
+  text += "\n[settings]\n";
+  for (const auto& [key, value] : record.settings) {
+    line(key, std::visit([](const auto& plain) { return Toml(plain); }, value));
+  }
+  for (const RecordedInput& input : record.inputs) {
+    text += "\n[[input]]\n";
+    line("role", TomlText(input.role));
+    line("path", TomlText(input.path));
+    line("bytes", std::to_string(input.digest.bytes));
+    line("sha256", TomlText(input.digest.sha256));
+  }
+  return text;
+}
+
+std::string DateText(std::chrono::system_clock::time_point time) {
+  return fmt::format("{:%Y-%m-%dT%H:%M:%SZ}",
+                     fmt::gmtime(std::chrono::system_clock::to_time_t(time)));
+}
+
+std::vector<std::string> ChangedInputs(const RunRecord& record) {
+  std::vector<std::string> changed;
+  for (const RecordedInput& input : record.inputs) {
+    const auto now = DigestOfFile(input.path);
+    if (now && *now != input.digest) {
+      changed.push_back(
+          fmt::format("{} (\"{}\") has changed since the recorded run: {} bytes then, {} bytes "
+                      "now, other contents.",
+                      input.role, input.path, input.digest.bytes, now->bytes));
+    }
+  }
+  return changed;
+}
+
+}  // namespace kaldo

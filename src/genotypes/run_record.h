@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include <tl/expected.hpp>
+
+#include "genotypes/token_file.h"
+
+namespace kaldo {
+
+/// A setting as it stands in a run record.
+using RecordValue = std::variant<bool, std::int64_t, double, std::string, std::vector<std::string>,
+                                 std::vector<std::int64_t>, std::vector<double>>;
+
+/// An input file of a run: what it was for, its path as typed, and what identifies its contents.
+struct RecordedInput {
+  std::string role;
+  std::string path;
+  FileDigest digest;
+};
+
+/// What a reviewer asks for: which program, which settings, which files, which seed. It is written
+/// beside the reports of every run, and `kaldo rerun` repeats the run from it.
+struct RunRecord {
+  std::string version;
+  std::string date;    ///< UTC, "2026-03-01T14:02:11Z"
+  std::string flow;    ///< for instance "allocation, non-sexed"
+  std::string folder;  ///< the working folder, from which relative paths are taken
+  std::vector<std::pair<std::string, RecordValue>> settings;  ///< in the order of writing
+  std::vector<RecordedInput> inputs;
+  std::optional<std::uint32_t> seed;
+  std::int64_t threads = 1;
+  double duration_seconds = 0;
+  std::vector<std::string> warnings;
+
+  /// The setting of that name when it has that type.
+  template <typename Value>
+  std::optional<Value> Setting(std::string_view name) const {
+    for (const auto& [key, value] : settings) {
+      if (const auto* found = std::get_if<Value>(&value); found != nullptr && key == name) {
+        return *found;
+      }
+    }
+    return std::nullopt;
+  }
+};
+
+/// The record as TOML text, every key in its place.
+std::string FormatRunRecord(const RunRecord& record);
+
+/// Reads a record back. A file that is no run record is a Problem that names file and line.
+tl::expected<RunRecord, Problem> ReadRunRecord(const std::string& path);
+
+/// Now, as a run record writes it.
+std::string DateText(std::chrono::system_clock::time_point time);
+
+/// The sentences that tell which inputs are no longer what they were when the record was written.
+std::vector<std::string> ChangedInputs(const RunRecord& record);
+
+}  // namespace kaldo

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <fmt/format.h>
+#include <toml++/toml.h>
+
+#include "genotypes/run_record.h"
+
+namespace kaldo {
+
+namespace {
+
+Problem NotARecord(const std::string& path, std::string found, std::uint32_t line = 0) {
+  Problem problem;
+  problem.sentence = "This is not a run record!";
+  problem.file = path;
+  problem.line = line;
+  problem.found = std::move(found);
+  return problem;
+}
+
+template <typename Value>
+std::optional<std::vector<Value>> ArrayOf(const toml::array& array) {
+  std::vector<Value> values;
+  for (const toml::node& node : array) {
+    const auto value = node.value_exact<Value>();
+    if (!value) {
+      return std::nullopt;
+    }
+    values.push_back(*value);
+  }
+  return values;
+}
+
+std::optional<RecordValue> ValueOf(const toml::node& node) {
+  if (const auto text = node.value_exact<std::string>()) {
+    return *text;
+  }
+  if (const auto flag = node.value_exact<bool>()) {
+    return *flag;
+  }
+  if (const auto whole = node.value_exact<std::int64_t>()) {
+    return *whole;
+  }
+  if (const auto number = node.value_exact<double>()) {
+    return *number;
+  }
+  if (const toml::array* array = node.as_array()) {
+    if (auto texts = ArrayOf<std::string>(*array)) {
+      return *texts;
+    }
+    if (auto wholes = ArrayOf<std::int64_t>(*array)) {
+      return *wholes;
+    }
+    if (auto numbers = ArrayOf<double>(*array)) {
+      return *numbers;
+    }
+  }
+  return std::nullopt;
+}
+
+std::string TextOf(const toml::table& table, std::string_view key) {
+  return table[key].value_exact<std::string>().value_or("");
+}
+
+void ReadInputs(const toml::table& table, RunRecord& record) {
+  const toml::array* inputs = table["input"].as_array();
+  if (inputs == nullptr) {
+    return;
+  }
+  for (const toml::node& node : *inputs) {
+    if (const toml::table* input = node.as_table()) {
+      const auto bytes = (*input)["bytes"].value_exact<std::int64_t>().value_or(0);
+      record.inputs.push_back({TextOf(*input, "role"),
+                               TextOf(*input, "path"),
+                               {static_cast<std::uint64_t>(bytes), TextOf(*input, "sha256")}});
+    }
+  }
+}
+
+}  // namespace
+
+tl::expected<RunRecord, Problem> ReadRunRecord(const std::string& path) {
+  const auto file = TokenFile::Read(path);
+  if (!file) {
+    return tl::unexpected(file.error());
+  }
+  toml::table table;
+  try {
+    table = toml::parse_file(path);
+  } catch (const toml::parse_error& error) {
+    return tl::unexpected(
+        NotARecord(path, std::string(error.description()), error.source().begin.line));
+  }
+  const toml::table* settings = table["settings"].as_table();
+  if (TextOf(table, "program") != "KALDO" || settings == nullptr) {
+    return tl::unexpected(NotARecord(path, "program = \"KALDO\" and [settings] are missing"));
+  }
+  RunRecord record;
+  record.version = TextOf(table, "version");
+  record.flow = TextOf(table, "flow");
+  record.folder = TextOf(table, "folder");
+  record.threads = table["threads"].value_exact<std::int64_t>().value_or(1);
+  record.duration_seconds = table["duration_seconds"].value_exact<double>().value_or(0);
+  if (const auto seed = table["seed"].value_exact<std::int64_t>()) {
+    record.seed = static_cast<std::uint32_t>(*seed);
+  }
+  for (const auto& [key, node] : *settings) {
+    const auto value = ValueOf(node);
+    if (!value) {
+      return tl::unexpected(NotARecord(
+          path, fmt::format("the setting {} has no value of a known kind", std::string(key.str())),
+          node.source().begin.line));
+    }
+    record.settings.emplace_back(std::string(key.str()), *value);
+  }
+  ReadInputs(table, record);
+  return record;
+}
+
+}  // namespace kaldo

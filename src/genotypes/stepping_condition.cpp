@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "genotypes/stepping_condition.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "genotypes/unit_distance.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::string_view kHeading =
+    "STEPPING ERROR FILE :\n"
+    "\n"
+    "Stepping condition :\t\tWithin each locus, the smallest allelic distance (difference in nbp)\n"
+    "\t\thas to be larger than one and all other distances have to be multiples\n"
+    "\t\t(of the smallest allelic distance).\n"
+    "\n"
+    "The following loci do not satisfy the stepping condition :\n"
+    "\n";
+
+/// The differences between neighbouring sizes, in base pairs.
+std::vector<std::uint32_t> AllelicDistances(std::span<const AlleleSize> sorted_sizes) {
+  std::vector<std::uint32_t> distances;
+  for (std::size_t k = 1; k < sorted_sizes.size(); ++k) {
+    distances.push_back(sorted_sizes[k].Value() - sorted_sizes[k - 1].Value());
+  }
+  return distances;
+}
+
+}  // namespace
+
+bool IsInStep(std::span<const AlleleSize> sorted_sizes) {
+  const auto distances = AllelicDistances(sorted_sizes);
+  if (distances.empty()) {
+    return true;
+  }
+  const std::uint32_t smallest = *std::min_element(distances.begin(), distances.end());
+  return smallest != 1 &&
+         std::all_of(distances.begin(), distances.end(),
+                     [smallest](auto distance) { return distance % smallest == 0; });
+}
+
+SteppingReport CheckStepping(const LociList& loci, const AlleleCatalogues& catalogues) {
+  SteppingReport report{std::string(kHeading), false};
+  for (const LocusIndex locus : loci.LociInUse()) {
+    const auto sizes = catalogues[locus.Value()].Sizes();
+    if (IsInStep(sizes)) {
+      continue;
+    }
+    report.any_out_of_step = true;
+    report.text += fmt::format("Locus {} :\n\tAlleles : ", loci.Name(locus));
+    for (const AlleleSize size : sizes) {
+      report.text += fmt::format("{} ", size.Value());
+    }
+    report.text += "\n\tAllelic distances : ";
+    for (const std::uint32_t distance : AllelicDistances(sizes)) {
+      report.text += fmt::format("{}  ", distance);
+    }
+    report.text += "\n\n";
+  }
+  return report;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "genotypes/catalogued_loci.h"
+
+namespace kaldo {
+
+/// Whether the alleles of a locus are in step: every difference between neighbouring sizes is a
+/// multiple of the smallest one, and none is 1 bp. Sizes out of step mostly are misread or come
+/// from another laboratory's binning; offsets in unit distances then lose their meaning. A locus
+/// without any size, or with a single one, is in step.
+bool IsInStep(std::span<const AlleleSize> sorted_sizes);
+
+/// The text of "/Stepping error file.xls", and whether it lists any locus.
+struct SteppingReport {
+  std::string text;
+  bool any_out_of_step = false;
+};
+
+SteppingReport CheckStepping(const LociList& loci, const AlleleCatalogues& catalogues);
+
+}  // namespace kaldo
