@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/allocation_counters.h"
+
+namespace kaldo {
+
+void AllocationCounters::Count(const AllocationOutcome& outcome) {
+  const bool par1 = outcome.HasPair() && !outcome.par1_uncollected;
+  const bool par2 = outcome.HasPair() && !outcome.par2_uncollected;
+  double& counter = par1 && par2 ? both_collected
+                    : par1       ? only_par1_collected
+                    : par2       ? only_par2_collected
+                                 : none_collected;
+  ++counter;
+}
+
+double SingleProportion(const AllocationCounters& counters) {
+  const double n = counters.Offspring();
+  return (2 * counters.both_collected / n + counters.OneCollected() / n) * 0.5;
+}
+
+double MaleProportion(const AllocationCounters& counters) {
+  const double n = counters.Offspring();
+  return counters.both_collected / n + counters.only_par1_collected / n;
+}
+
+double FemaleProportion(const AllocationCounters& counters) {
+  const double n = counters.Offspring();
+  return counters.only_par2_collected / n + counters.both_collected / n;
+}
+
+}  // namespace kaldo

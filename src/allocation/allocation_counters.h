@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "allocation/allocation_outcome.h"
+
+namespace kaldo {
+
+/// How many offspring of a run have which sides allocated to a collected parent, by their first
+/// pair. An offspring without a pair counts as having none. In the sexed flow parent 1 is the male.
+struct AllocationCounters {
+  double both_collected = 0;       ///< "2 C", "CM + CF"
+  double only_par1_collected = 0;  ///< part of "C + UC"; "CM + UCF"
+  double only_par2_collected = 0;  ///< part of "C + UC"; "UCM + CF"
+  double none_collected = 0;       ///< "2 UC", "UCM + UCF"
+
+  void Count(const AllocationOutcome& outcome);
+
+  double OneCollected() const { return only_par1_collected + only_par2_collected; }
+  double Offspring() const { return both_collected + OneCollected() + none_collected; }
+};
+
+/// The share of the 2n single allocations that go to a collected parent.
+double SingleProportion(const AllocationCounters& counters);
+
+/// The share of offspring allocated to a collected male (parent 1), and female (parent 2).
+double MaleProportion(const AllocationCounters& counters);
+double FemaleProportion(const AllocationCounters& counters);
+
+}  // namespace kaldo

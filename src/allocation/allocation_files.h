@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <tl/expected.hpp>
+
+#include "allocation/allocation_settings.h"
+#include "genotypes/loci_list.h"
+#include "genotypes/record_cursor.h"
+
+namespace kaldo {
+
+/// What an input file is for, with the sentences that belong to it.
+struct AllocationFileRole {
+  std::string AllocationSettings::*path = nullptr;
+  std::string_view name;  ///< as in messages and run records: "collected males"
+  std::string_view missing_sentence;
+  std::string_view odd_digits_sentence;
+  std::string_view undefined_sentence;
+  bool holds_parents = false;
+};
+
+/// An open input file and what it is for.
+struct AllocationFile {
+  AllocationFileRole role;
+  TokenFile tokens;
+
+  Separators SeparatorsHere() const {
+    return role.holds_parents ? Separators::kAllowed : Separators::kNone;
+  }
+};
+
+/// The open files of an allocation.
+struct AllocationFiles {
+  /// One file of parents or a file of males and one of females, then the offspring.
+  std::vector<AllocationFile> genotypes;
+  AllocationFile loci;
+};
+
+/// Opens the files of a flow: first every name must be given, then every file must open.
+tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings);
+
+/// The tests of the file screen, file by file and for all files together.
+std::optional<Problem> CheckAllocationFiles(const AllocationFiles& files, const LociList& loci);
+
+/// The stricter tests of every record that follow them.
+std::optional<Problem> CheckAllocationRecords(const AllocationFiles& files, const LociList& loci,
+                                              std::size_t digits_per_field);
+
+}  // namespace kaldo

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/allocation_input.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "allocation/allocation_files.h"
+#include "allocation/cumulative_sequence.h"
+#include "genotypes/genotype_reader.h"
+#include "genotypes/record_checks.h"
+
+namespace kaldo {
+
+namespace {
+
+std::optional<Problem> CheckToleranceChoice(const AllocationSettings& settings) {
+  if (settings.tolerance.Value() >= 0) {
+    return std::nullopt;
+  }
+  Problem problem;
+  problem.sentence = "Enter a positive number";
+  problem.found = fmt::format("the maximal offset tolerance is {}", settings.tolerance.Value());
+  return problem;
+}
+
+/// The positions of the loci in the cumulative sequence, or nothing without one.
+std::optional<std::vector<std::int32_t>> SequenceOf(const AllocationSettings& settings,
+                                                    std::size_t number_of_loci) {
+  if (settings.sequence && settings.sequence->empty()) {
+    return FileOrderSequence(number_of_loci);
+  }
+  return settings.sequence;
+}
+
+/// The choices behind the file screen: error model, loci in use, sequence.
+std::optional<Problem> ApplyChoices(const AllocationSettings& settings, AllocationInput& input) {
+  if (auto problem = ValidateForAllocation(settings.error_model)) {
+    return problem;
+  }
+  if (settings.loci_in_use) {
+    if (auto problem = input.loci.Use(*settings.loci_in_use)) {
+      return problem;
+    }
+  }
+  const auto in_use = input.loci.LociInUse();
+  const auto sequence = SequenceOf(settings, input.loci.Count());
+  if (!sequence) {
+    input.combinations = {in_use};
+    return std::nullopt;
+  }
+  if (auto problem = CheckSequence(*sequence, input.loci.Count())) {
+    return problem;
+  }
+  const auto order = OrderOfEntry(in_use, *sequence);
+  for (std::size_t k = 1; k <= order.size(); ++k) {
+    input.combinations.emplace_back(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(k));
+  }
+  return std::nullopt;
+}
+
+void FillTable(const AllocationFiles& files, AllocationInput& input) {
+  input.table = GenotypeTable(input.loci.Count());
+  std::vector<SlotRange> ranges;
+  for (const AllocationFile& file : files.genotypes) {
+    ranges.push_back(AppendIndividuals(file.tokens, {input.loci.Count(), file.SeparatorsHere()},
+                                       input.loci, input.table));
+  }
+  input.first_parents = ranges.front();
+  input.offspring = ranges.back();
+  input.second_parents = {input.first_parents.end, input.offspring.begin};
+}
+
+Problem TooManyAllelesProblem(const AllocationFiles& files, const AllocationInput& input,
+                              TooManyAlleles at) {
+  const std::uint32_t slot = at.slot.Value();
+  const SlotRange* const ranges[] = {&input.first_parents, &input.second_parents, &input.offspring};
+  const auto* const range = *std::find_if(std::begin(ranges), std::end(ranges),
+                                          [slot](const auto* r) { return slot < r->end; });
+  const AllocationFile& file = range == &input.first_parents ? files.genotypes.front()
+                               : range == &input.offspring   ? files.genotypes.back()
+                                                             : files.genotypes[1];
+  Problem problem;
+  problem.sentence = fmt::format("More than {} alleles at a locus!", kMaxAlleles);
+  problem.file = file.tokens.Path();
+  problem.record = slot - range->begin + 1;
+  problem.individual = input.table.Name(at.slot).Text();
+  RecordCursor cursor(file.tokens.Tokens(), {input.loci.Count(), file.SeparatorsHere()});
+  while (cursor.Record() < problem.record) {
+    cursor.Next();
+  }
+  problem.line = cursor.Name().line;
+  problem.locus = input.loci.Name(at.locus);
+  problem.found = "this individual brings the first size too many, parents and offspring together";
+  return problem;
+}
+
+}  // namespace
+
+std::size_t AllocationInput::NumberOfParents() const {
+  std::size_t parents = 0;
+  for (const CandidateGroup& group : groups) {
+    parents += group.first.Size();
+    parents += group.second == group.first ? 0 : group.second.Size();
+  }
+  return parents;
+}
+
+std::size_t AllocationInput::NumberOfMissingGenotypes() const {
+  std::size_t missing = 0;
+  for (const LocusIndex locus : loci.LociInUse()) {
+    const auto genotypes = table.Locus(locus).subspan(offspring.begin, offspring.Size());
+    missing += static_cast<std::size_t>(
+        std::count_if(genotypes.begin(), genotypes.end(),
+                      [](const LocusGenotype& genotype) { return genotype.IsMissing(); }));
+  }
+  return missing;
+}
+
+tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSettings& settings) {
+  auto files = OpenAllocationFiles(settings);
+  if (!files) {
+    return tl::unexpected(std::move(files.error()));
+  }
+  if (auto problem = CheckToleranceChoice(settings)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  AllocationInput input;
+  input.loci = LociList(files->loci.tokens);
+  if (auto problem = CheckAllocationFiles(*files, input.loci)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  if (auto problem = CheckLoci(files->loci.tokens)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  const AllocationFile& first_parents = files->genotypes.front();
+  input.digits_per_field =
+      DigitsPerField(first_parents.tokens, {input.loci.Count(), first_parents.SeparatorsHere()});
+  if (auto problem = CheckAllocationRecords(*files, input.loci, input.digits_per_field)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  if (auto problem = ApplyChoices(settings, input)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  FillTable(*files, input);
+  input.groups = FormGroups(settings.flow, input.table, input.first_parents, input.second_parents);
+  auto catalogues = CatalogueAlleles(input.table, input.loci);
+  if (!catalogues) {
+    return tl::unexpected(TooManyAllelesProblem(*files, input, catalogues.error()));
+  }
+  input.catalogues = std::move(*catalogues);
+  for (const AllocationFile& file : files->genotypes) {
+    input.files.push_back({std::string(file.role.name), file.tokens.Path(), file.tokens.Digest()});
+  }
+  input.files.push_back(
+      {std::string(files->loci.role.name), files->loci.tokens.Path(), files->loci.tokens.Digest()});
+  return input;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+
+#include <tl/expected.hpp>
+
+#include "allocation/allocation_settings.h"
+#include "allocation/candidate_groups.h"
+#include "genotypes/catalogued_loci.h"
+#include "genotypes/genotype_table.h"
+#include "genotypes/loci_list.h"
+#include "genotypes/run_record.h"
+
+namespace kaldo {
+
+/// The checked and loaded files of an allocation.
+struct AllocationInput {
+  LociList loci;
+  std::size_t digits_per_field = 0;  ///< both alleles of a locus together
+
+  /// Parents first (sexed: males, then females), then the offspring.
+  GenotypeTable table;
+  SlotRange first_parents;   ///< all collected parents, or the males
+  SlotRange second_parents;  ///< the females; empty in the non-sexed flow
+  SlotRange offspring;
+  std::vector<CandidateGroup> groups;
+
+  AlleleCatalogues catalogues;
+
+  /// The loci of each combination in the order in which they entered. One combination of all loci
+  /// in use, unless a cumulative sequence was chosen.
+  std::vector<std::vector<LocusIndex>> combinations;
+
+  std::vector<RecordedInput> files;
+
+  /// The slots of all collected parents, separators included.
+  SlotRange Parents() const { return {0, offspring.begin}; }
+
+  /// Collected parents without separators.
+  std::size_t NumberOfParents() const;
+
+  std::size_t NumberOfOffspring() const { return offspring.Size(); }
+
+  /// Missing loci (in use) of the offspring.
+  std::size_t NumberOfMissingGenotypes() const;
+};
+
+/// Tests the files and the choices of an allocation in the order of its screens, then each record
+/// for itself, and loads them. Nothing is written. The first Problem ends the tests.
+tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSettings& settings);
+
+}  // namespace kaldo

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/allocation_reports.h"
+
+#include "allocation/allocation_record.h"
+#include "allocation/matrices_report.h"
+#include "allocation/max_like_report.h"
+#include "allocation/result_line.h"
+#include "allocation/results_report.h"
+#include "allocation/sequence_report.h"
+#include "genotypes/allele_listing.h"
+
+namespace kaldo {
+
+AllocationReports::AllocationReports(const AllocationSettings& settings)
+    : reports_(ProjectFolder(settings.project)),
+      results_(reports_.Add(kAllocationResultsFile)),
+      pairs_(reports_.Add(kMaxLikePairsFile)),
+      matrices_(reports_.Add(kTransmissionMatricesFile)) {}
+
+void AllocationReports::WriteOffspring(const AllocationSettings& settings,
+                                       const AllocationInput& input, const AllocationResult& result,
+                                       RunObserver& observer) {
+  observer.OnPart("Writing the reports", result.outcomes.size());
+  for (std::size_t offspring = 0; offspring < result.outcomes.size(); ++offspring) {
+    if (observer.StopRequested()) {
+      throw RunStopped();
+    }
+    pairs_.Append(MaxLikeBlock(input, result, offspring));
+    matrices_.Append(MatricesBlock(settings, input, result, offspring));
+    results_.Append(ResultLine(settings.flow, input, result, offspring));
+    observer.OnSteps(1);
+  }
+}
+
+void AllocationReports::Write(const AllocationSettings& settings, const AllocationInput& input,
+                              const AllocationResult& result, RunObserver& observer) {
+  results_.Append(ResultsHead(settings, input, result));
+  WriteOffspring(settings, input, result, observer);
+  results_.Append(ResultsProportions(settings.flow, result.LastCounters()));
+
+  reports_.Add(kSteppingErrorFile, result.stepping.text);
+  if (settings.sequence) {
+    reports_.Add(kSequenceResultsFile, SequenceReport(settings, input, result));
+    reports_.Add(kServiceFile,
+                 AlleleListing(input.loci, input.catalogues, input.table.NumberOfIndividuals()));
+  } else {
+    reports_.Remove(kSequenceResultsFile);
+    reports_.Remove(kServiceFile);
+  }
+  reports_.Add(kRunRecordFile, FormatRunRecord(RecordOf(settings, input, result)));
+  reports_.Commit();
+}
+
+}  // namespace kaldo

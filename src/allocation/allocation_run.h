@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <chrono>
+#include <string_view>
+#include <vector>
+
+#include <tl/expected.hpp>
+
+#include "allocation/allocation_counters.h"
+#include "allocation/allocation_decision.h"
+#include "allocation/allocation_input.h"
+#include "genotypes/run_observer.h"
+#include "genotypes/stepping_condition.h"
+
+namespace kaldo {
+
+/// What an allocation found.
+struct AllocationResult {
+  /// One per combination of loci, in their order; a run without a sequence has one.
+  std::vector<AllocationCounters> counters;
+
+  // Of the last combination:
+  LociOfRun loci;
+  std::vector<AllocationOutcome> outcomes;  ///< one per offspring, in file order
+
+  SteppingReport stepping;
+
+  unsigned threads = 1;
+  std::chrono::system_clock::time_point started;
+  std::chrono::duration<double> duration{};
+
+  const AllocationCounters& LastCounters() const { return counters.back(); }
+};
+
+/// Allocates every offspring, for every combination of loci in turn. The result is the same for any
+/// number of threads.
+AllocationResult Allocate(const AllocationSettings& settings, const AllocationInput& input,
+                          RunObserver& observer);
+
+/// The sentence that closes the run: "Calculations completed!", or that some loci are out of step.
+std::string_view ClosingSentence(const AllocationResult& result);
+
+/// A finished run.
+struct AllocationRun {
+  AllocationInput input;
+  AllocationResult result;
+};
+
+/// The whole run: checks, allocates, and writes all reports and the run record into the project
+/// folder, each whole or not at all. A Problem means that nothing was done. Throws RunFailure when
+/// a report cannot be written and RunStopped when the observer asks to stop; the reports of earlier
+/// runs then are as they were.
+tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& settings,
+                                                   RunObserver& observer);
+
+}  // namespace kaldo

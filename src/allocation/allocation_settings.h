@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "allocation/error_model.h"
+#include "allocation/flow.h"
+#include "allocation/offset_tolerance.h"
+
+namespace kaldo {
+
+/// Everything a user chooses for an allocation. The command line and the windows fill it; no rule
+/// of the method is theirs.
+struct AllocationSettings {
+  Flow flow = Flow::kNonSexed;
+
+  std::string project;  ///< the folder for the results, as typed
+
+  // Paths as typed; they stand so in the reports.
+  std::string parents_file;  ///< non-sexed
+  std::string males_file;    ///< sexed
+  std::string females_file;  ///< sexed
+  std::string offspring_file;
+  std::string loci_file;
+
+  OffsetTolerance tolerance{1};
+  ErrorModel error_model;
+
+  /// Names of the loci in use; all when nothing is said.
+  std::optional<std::vector<std::string>> loci_in_use;
+
+  /// Set for a run over a cumulative sequence of loci: the position of each locus of the
+  /// names-of-loci file. An empty vector stands for the file order.
+  std::optional<std::vector<std::int32_t>> sequence;
+
+  unsigned threads = 0;  ///< 0: as many as the machine has cores. Results never depend on it.
+};
+
+}  // namespace kaldo

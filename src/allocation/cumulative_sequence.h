@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "genotypes/problem.h"
+#include "genotypes/units.h"
+
+namespace kaldo {
+
+/// Told when a field of the sequence is 0 or no whole number.
+inline constexpr std::string_view kSequenceHasZero =
+    "Set of indices has to run from 1 to the total number of loci. No zero! Only integers!";
+
+/// The indices 1, 2, ..., n: the loci enter in file order.
+std::vector<std::int32_t> FileOrderSequence(std::size_t number_of_loci);
+
+/// Tests the positions at which the loci enter the sequence, one per locus of the file: none is 0,
+/// none exceeds the number of loci, and they sum to 1 + 2 + ... + n. Only the sum is tested, so
+/// that two loci may share a position: 2, 2, 2 is a sequence of three loci.
+std::optional<Problem> CheckSequence(std::span<const std::int32_t> indices,
+                                     std::size_t number_of_loci);
+
+/// The loci in use in the order in which they enter: by their index, those of equal index in file
+/// order. Combination k of a run is the first k of them.
+std::vector<LocusIndex> OrderOfEntry(std::span<const LocusIndex> loci_in_use,
+                                     std::span<const std::int32_t> indices);
+
+}  // namespace kaldo

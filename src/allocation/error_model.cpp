@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/error_model.h"
+
+#include <cmath>
+
+#include <fmt/format.h>
+
+#include "genotypes/number_text.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr double kLargestEpsilon = 0.1;
+constexpr double kSmallestFocal = 0.9;
+
+Problem Fault(std::string sentence, std::string found) {
+  Problem problem;
+  problem.sentence = std::move(sentence);
+  problem.found = std::move(found);
+  return problem;
+}
+
+std::string FiveValues(const ErrorModel& model, std::string_view separator) {
+  return fmt::format("{1}{0}{2}{0}{3}{0}{4}{0}{5}", separator, FormatDouble(model.minus2),
+                     FormatDouble(model.minus1), FormatDouble(model.focal),
+                     FormatDouble(model.plus1), FormatDouble(model.plus2));
+}
+
+std::optional<Problem> ValidateUniform(const ErrorModel& model) {
+  if (model.epsilon <= kLargestEpsilon && std::isfinite(model.epsilon)) {
+    return std::nullopt;
+  }
+  return Fault("Espilon should be between 0 and 0.1",
+               fmt::format("epsilon is {}", FormatDouble(model.epsilon)));
+}
+
+std::optional<Problem> ValidateNonUniform(const ErrorModel& model) {
+  const double sum = model.minus2 + model.minus1 + model.focal + model.plus1 + model.plus2;
+  if (sum != 1.0) {
+    return Fault("Sum of probability must be 1 ! ",
+                 fmt::format("{} sum to {}", FiveValues(model, " + "), fmt::format("{}", sum)));
+  }
+  if (!(model.focal >= kSmallestFocal && model.focal <= 1.0)) {
+    return Fault("Error sum should not exceed 0.1!",
+                 fmt::format("the focal probability is {}, at least 0.9 is wanted",
+                             FormatDouble(model.focal)));
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<Problem> ValidateForAllocation(const ErrorModel& model) {
+  switch (model.kind) {
+    case ErrorKind::kNoError:
+      return std::nullopt;
+    case ErrorKind::kUniform:
+      return ValidateUniform(model);
+    case ErrorKind::kNonUniform:
+      return ValidateNonUniform(model);
+    case ErrorKind::kNotChosen:
+      break;
+  }
+  return Fault("Choose a model of error", "");
+}
+
+std::string Describe(const ErrorModel& model) {
+  switch (model.kind) {
+    case ErrorKind::kNoError:
+      return "No Error\t";
+    case ErrorKind::kUniform:
+      return "Uniform Error Distribution\nError sum  =  " + FormatDouble(model.epsilon);
+    case ErrorKind::kNonUniform:
+      return "Non Uniform Error Distribution\nError Description : \t\t" + FiveValues(model, "   ");
+    case ErrorKind::kNotChosen:
+      break;
+  }
+  return {};
+}
+
+std::string ShortDescription(const ErrorModel& model) {
+  switch (model.kind) {
+    case ErrorKind::kNoError:
+      return "No Error";
+    case ErrorKind::kUniform:
+      return fmt::format("Uniform (epsilon {})", FormatDouble(model.epsilon));
+    case ErrorKind::kNonUniform:
+      return fmt::format("Non Uniform ({})", FiveValues(model, " "));
+    case ErrorKind::kNotChosen:
+      break;
+  }
+  return "none chosen";
+}
+
+}  // namespace kaldo

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "allocation/flow.h"
+#include "genotypes/genotype_table.h"
+
+namespace kaldo {
+
+/// A candidate pair by slots of the parents' table; in the sexed flow parent 1 is the male.
+struct ParentPair {
+  Slot parent1;
+  Slot parent2;
+
+  friend bool operator==(ParentPair, ParentPair) = default;
+};
+
+/// What the scan does after a pair has been shown to KeptPairs.
+enum class AfterPair {
+  kGoOn,
+  kLeaveRow,  ///< skip the remaining partners of the current first parent
+};
+
+/// The most likely pairs of one offspring met so far. The rule, for pairs shown in scan order:
+///
+///  - a strictly larger likelihood empties the list and stores the pair;
+///  - a pair of individuals that already stand in the list (by the first ten bytes of their names)
+///    is passed over: the same fish genotyped twice is no second explanation;
+///  - an equal likelihood is stored while there are fewer than five pairs; the sixth sets the mark
+///    "more than five" and the rest of its row is left out. The mark stays, also when a better pair
+///    empties the list later: it says that the scan has not seen everything.
+///
+/// Likelihoods are compared exactly, and one of 0 never enters.
+class KeptPairs {
+ public:
+  static constexpr std::size_t kCapacity = 5;
+
+  KeptPairs(Flow flow, std::span<const IndividualName> names) : flow_(flow), names_(names) {}
+
+  /// True where `likelihood` can change what is kept; everything else need not be shown.
+  bool Matters(double likelihood) const { return likelihood >= best_ && likelihood > 0; }
+
+  AfterPair Show(ParentPair pair, double likelihood);
+
+  std::span<const ParentPair> Pairs() const { return std::span(pairs_).first(count_); }
+  bool MoreThanFive() const { return more_than_five_; }
+  double BestLikelihood() const { return best_; }
+
+ private:
+  bool IsStored(ParentPair pair) const;
+
+  Flow flow_;
+  std::span<const IndividualName> names_;
+  std::array<ParentPair, kCapacity> pairs_{};
+  std::size_t count_ = 0;
+  bool more_than_five_ = false;
+  double best_ = 0;
+};
+
+}  // namespace kaldo

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/matrices_report.h"
+
+#include <fmt/format.h>
+
+#include "allocation/condition_record.h"
+#include "allocation/genotype_text.h"
+
+namespace kaldo {
+
+namespace {
+
+std::string Heading(Flow flow) {
+  const bool sexed = flow == Flow::kSexed;
+  return fmt::format(
+      "{}\t{}\t{}\t\tCondition\t\tParent -> Rejeton\t\tCondensé\t/ Dist_unit\tOffset\n\n",
+      NameField("Rejeton"), sexed ? "Male" : "Parent1", sexed ? "Female" : "Parent2");
+}
+
+std::string GenotypeText(const LocusGenotype& genotype, std::size_t digits) {
+  return PaddedAllele(genotype.allele1, digits) + ' ' + PaddedAllele(genotype.allele2, digits);
+}
+
+std::string LociLines(std::span<const LocusComparison> comparisons, std::size_t digits) {
+  std::string lines;
+  for (const LocusComparison& locus : comparisons) {
+    lines += fmt::format("{}\t{}\t{}\t\t{}\n\n", GenotypeText(locus.offspring, digits),
+                         GenotypeText(locus.par1, digits), GenotypeText(locus.par2, digits),
+                         ConditionRecord(locus));
+  }
+  return lines;
+}
+
+std::string LociLinesWithoutPair(const AllocationInput& input, const LociOfRun& loci,
+                                 Slot offspring) {
+  std::string lines;
+  for (const LocusIndex locus : loci.loci) {
+    lines += GenotypeText(input.table.Genotype(locus, offspring), input.digits_per_field / 2) +
+             "\t   *   \t\t   *   \n\n\n";
+  }
+  return lines;
+}
+
+std::string OffsetsLine(std::string_view label, std::span<const UnitDistances> offsets) {
+  std::string line = fmt::format("{}\t\t[  ", label);
+  for (const UnitDistances offset : offsets) {
+    line += fmt::format("{}  ", offset.Value());
+  }
+  return line + "]\n";
+}
+
+}  // namespace
+
+std::string MatricesBlock(const AllocationSettings& settings, const AllocationInput& input,
+                          const AllocationResult& result, std::size_t offspring) {
+  const AllocationOutcome& outcome = result.outcomes[offspring];
+  const Slot slot{input.offspring.begin + static_cast<std::uint32_t>(offspring)};
+  std::string block = Heading(settings.flow);
+  PairOffsets offsets;
+  if (outcome.HasPair()) {
+    const auto comparisons = CompareWithPair(input.table, slot, outcome.pairs.front(), result.loci);
+    block += LociLines(comparisons, input.digits_per_field / 2);
+    offsets = OffsetsOf(comparisons);
+  } else {
+    block += LociLinesWithoutPair(input, result.loci, slot);
+    offsets.par1.resize(result.loci.loci.size());
+    offsets.par2.resize(result.loci.loci.size());
+  }
+  block += OffsetsLine("Offsets Parent_1 :", offsets.par1);
+  block += OffsetsLine("Offsets Parent_2 :", offsets.par2);
+  block += fmt::format("Offset maximum toléré : {}\n", settings.tolerance.Value());
+  block += fmt::format("offset_par1_depasse = {}\n", outcome.par1_uncollected ? "Oui" : "Non");
+  block += fmt::format("offset_par2_depasse = {}\n", outcome.par2_uncollected ? "Oui" : "Non");
+  return block + '\n';
+}
+
+}  // namespace kaldo

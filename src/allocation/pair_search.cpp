@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/pair_search.h"
+
+#include <algorithm>
+#include <array>
+#include <cassert>
+
+#include "genotypes/problem.h"
+
+namespace kaldo {
+
+namespace {
+
+// Partners whose likelihoods are computed together: they stay in the nearest cache, and the
+// compiler computes several at a time without changing any of them.
+constexpr std::size_t kPartnersAtOnce = 512;
+
+using Likelihoods = std::array<double, kPartnersAtOnce>;
+
+/// The likelihoods of `first_parent` with the partners begin, begin + 1, ... Every product runs in
+/// locus order on its own.
+void MultiplyLoci(const TransmissionScores& scores, std::size_t first_parent, std::size_t begin,
+                  std::size_t count, Likelihoods& likelihoods) {
+  for (std::size_t k = 0; k < scores.Loci(); ++k) {
+    const double r1 = scores.R(k)[first_parent];
+    const double j1 = scores.J(k)[first_parent];
+    const double* const r2 = scores.R(k).subspan(begin, count).data();
+    const double* const j2 = scores.J(k).subspan(begin, count).data();
+    if (k == 0) {
+      for (std::size_t i = 0; i < count; ++i) {
+        likelihoods[i] = r1 * j2[i] + j1 * r2[i];
+      }
+    } else {
+      for (std::size_t i = 0; i < count; ++i) {
+        likelihoods[i] *= r1 * j2[i] + j1 * r2[i];
+      }
+    }
+  }
+}
+
+/// Shows the pairs of one first parent until its row is over or left.
+void ScanRow(const TransmissionScores& scores, std::uint32_t first_parent, SlotRange partners,
+             KeptPairs& kept) {
+  Likelihoods likelihoods;
+  for (std::size_t begin = partners.begin; begin < partners.end; begin += kPartnersAtOnce) {
+    const std::size_t count = std::min(kPartnersAtOnce, partners.end - begin);
+    MultiplyLoci(scores, first_parent, begin, count, likelihoods);
+    for (std::size_t i = 0; i < count; ++i) {
+      if (!kept.Matters(likelihoods[i])) {
+        continue;
+      }
+      const ParentPair pair{Slot{first_parent}, Slot{static_cast<std::uint32_t>(begin + i)}};
+      if (kept.Show(pair, likelihoods[i]) == AfterPair::kLeaveRow) {
+        return;
+      }
+    }
+  }
+}
+
+}  // namespace
+
+AllocationOutcome SearchPairs(const TransmissionScores& scores, const Candidates& candidates,
+                              const RunObserver& observer) {
+  assert(scores.Loci() > 0 && "a likelihood needs a locus");
+  KeptPairs kept(candidates.flow, candidates.names);
+  for (const CandidateGroup& group : candidates.groups) {
+    for (std::uint32_t parent = group.first.begin; parent < group.first.end; ++parent) {
+      if (observer.StopRequested()) {
+        throw RunStopped();
+      }
+      ScanRow(scores, parent, PartnersOf(candidates.flow, group, parent), kept);
+    }
+  }
+  AllocationOutcome outcome;
+  std::copy(kept.Pairs().begin(), kept.Pairs().end(), outcome.pairs.begin());
+  outcome.pair_entries = 2 * static_cast<int>(kept.Pairs().size());
+  outcome.more_than_five = kept.MoreThanFive();
+  outcome.best_likelihood = kept.BestLikelihood();
+  return outcome;
+}
+
+}  // namespace kaldo
