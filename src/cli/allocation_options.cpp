@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/allocation_options.h"
+
+#include <CLI/CLI.hpp>
+
+#include "cli/option_text.h"
+
+namespace kaldo {
+
+namespace {
+
+void AddFileOptions(CLI::App& command, AllocationOptions& options) {
+  const std::string group = "Files";
+  command.add_option("--project", options.project, "Folder for the results; made when missing")
+      ->type_name("DIR")
+      ->group(group);
+  command.add_option("--loci", options.loci, "Names of the loci, in the order of the genotypes")
+      ->type_name("FILE")
+      ->group(group);
+  command.add_option("--offspring", options.offspring, "Genotypes of the offspring")
+      ->type_name("FILE")
+      ->group(group);
+  command.add_option("--parents", options.parents, "Non-sexed: genotypes of the collected parents")
+      ->type_name("FILE")
+      ->group(group);
+  command.add_option("--males", options.males, "Sexed: genotypes of the collected males")
+      ->type_name("FILE")
+      ->group(group);
+  command.add_option("--females", options.females, "Sexed: genotypes of the collected females")
+      ->type_name("FILE")
+      ->group(group);
+}
+
+void AddMethodOptions(CLI::App& command, AllocationOptions& options) {
+  const std::string group = "Method";
+  command
+      .add_option("--tolerance", options.tolerance,
+                  "Maximal offset tolerance, in whole unit distances (repeats), 0 or more")
+      ->type_name("N")
+      ->capture_default_str()
+      ->group(group);
+  command
+      .add_option("--error", options.error,
+                  "Transmission error: none | uniform=EPS | nonuniform | "
+                  "nonuniform=M2,M1,FOCAL,P1,P2 (plain nonuniform: "
+                  "0.002,0.008,0.980,0.008,0.002)")
+      ->type_name("MODEL")
+      ->capture_default_str()
+      ->group(group);
+  command.add_option("--use", options.use, "Loci in use, by name, between commas; default: all")
+      ->type_name("NAME,...")
+      ->group(group);
+  command
+      .add_option(
+          "--sequence", options.sequence,
+          "Repeat for a cumulative sequence of loci: alone in file order, else the position "
+          "of each locus of the names file, between commas")
+      ->type_name("[I1,I2,...]")
+      ->expected(0, 1)
+      ->group(group);
+  command
+      .add_option("--threads", options.threads,
+                  "Threads; default: all cores. The results never depend on it")
+      ->type_name("N")
+      ->group("Machine");
+}
+
+std::optional<Problem> CheckParentOptions(const AllocationOptions& options) {
+  if (!options.parents || !(options.males || options.females)) {
+    return std::nullopt;
+  }
+  Problem problem;
+  problem.sentence = "Choose one file of parents, or one of males and one of females!";
+  problem.found = "--parents goes without --males and --females";
+  return problem;
+}
+
+}  // namespace
+
+void AddAllocationOptions(CLI::App& command, AllocationOptions& options) {
+  AddFileOptions(command, options);
+  AddMethodOptions(command, options);
+}
+
+tl::expected<AllocationSettings, Problem> SettingsFrom(const AllocationOptions& options) {
+  if (auto problem = CheckParentOptions(options)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  AllocationSettings settings;
+  settings.flow = options.males || options.females ? Flow::kSexed : Flow::kNonSexed;
+  settings.project = options.project;
+  settings.loci_file = options.loci;
+  settings.offspring_file = options.offspring;
+  settings.parents_file = options.parents.value_or("");
+  settings.males_file = options.males.value_or("");
+  settings.females_file = options.females.value_or("");
+  if (options.use) {
+    settings.loci_in_use = ParseNames(*options.use);
+  }
+
+  const auto tolerance = ParseWholeOption("--tolerance", options.tolerance);
+  if (!tolerance) {
+    return tl::unexpected(tolerance.error());
+  }
+  settings.tolerance = OffsetTolerance{*tolerance};
+
+  const auto error_model = ParseErrorModel(options.error);
+  if (!error_model) {
+    return tl::unexpected(error_model.error());
+  }
+  settings.error_model = *error_model;
+
+  if (options.sequence) {
+    auto sequence = ParseSequence(*options.sequence);
+    if (!sequence) {
+      return tl::unexpected(std::move(sequence.error()));
+    }
+    settings.sequence = std::move(*sequence);
+  }
+  if (options.threads) {
+    const auto threads = ParseThreads(*options.threads);
+    if (!threads) {
+      return tl::unexpected(threads.error());
+    }
+    settings.threads = *threads;
+  }
+  return settings;
+}
+
+}  // namespace kaldo

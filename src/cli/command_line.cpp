@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/command_line.h"
+
+#include <new>
+#include <ostream>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include "allocation/allocation_record.h"
+#include "allocation/allocation_run.h"
+#include "cli/allocation_options.h"
+#include "cli/option_text.h"
+#include "cli/short_result.h"
+#include "cli/terminal_progress.h"
+#include "genotypes/version.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::string_view kExamples =
+    "Examples:\n"
+    "  kaldo allocate --project lake --loci loci.txt --parents parents.txt \\\n"
+    "                 --offspring young.txt\n"
+    "  kaldo allocate --project ponds --loci loci.txt --males males.txt --females females.txt \\\n"
+    "                 --offspring young.txt --tolerance 2 --sequence\n"
+    "  kaldo rerun \"lake/Run record.toml\"\n"
+    "\n"
+    "Exit codes: 0 done, 1 failed while running, 2 bad input or usage, 130 stopped by Ctrl-C.";
+
+ExitCode Tell(const Problem& problem, const CommandLineStreams& streams) {
+  streams.err << problem.sentence << '\n';
+  if (const std::string detail = DetailLine(problem); !detail.empty()) {
+    streams.err << detail << '\n';
+  }
+  return ExitCode::kBadInput;
+}
+
+tl::expected<AllocationRun, Problem> RunWithProgress(const AllocationSettings& settings,
+                                                     const CommandLineStreams& streams) {
+  TerminalProgress progress(streams.err, streams.err_is_terminal);
+  return RunAllocation(settings, progress);
+}
+
+ExitCode RunAllocate(const AllocationOptions& options, const CommandLineStreams& streams) {
+  const auto settings = SettingsFrom(options);
+  if (!settings) {
+    return Tell(settings.error(), streams);
+  }
+  const auto run = RunWithProgress(*settings, streams);
+  if (!run) {
+    return Tell(run.error(), streams);
+  }
+  streams.out << ShortResult(*settings, *run);
+  return ExitCode::kDone;
+}
+
+ExitCode RunCheck(const AllocationOptions& options, const CommandLineStreams& streams) {
+  const auto settings = SettingsFrom(options);
+  if (!settings) {
+    return Tell(settings.error(), streams);
+  }
+  const auto input = LoadAllocationInput(*settings);
+  if (!input) {
+    return Tell(input.error(), streams);
+  }
+  streams.err << InputSummary(settings->flow, *input) << '\n';
+  streams.out << "ok\n";
+  return ExitCode::kDone;
+}
+
+ExitCode RunRerun(const std::string& path, const std::optional<std::string>& threads,
+                  const CommandLineStreams& streams) {
+  const auto record = ReadRunRecord(path);
+  if (!record) {
+    return Tell(record.error(), streams);
+  }
+  auto settings = SettingsOf(*record, path);
+  if (!settings) {
+    return Tell(settings.error(), streams);
+  }
+  if (threads) {
+    const auto number = ParseThreads(*threads);
+    if (!number) {
+      return Tell(number.error(), streams);
+    }
+    settings->threads = *number;
+  }
+  if (record->version != Version()) {
+    streams.err << fmt::format("Warning: the record was made by KALDO {}, this is KALDO {}.\n",
+                               record->version, Version());
+  }
+  for (const std::string& changed : ChangedInputs(*record)) {
+    streams.err << "Warning: " << changed << '\n';
+  }
+  const auto run = RunWithProgress(*settings, streams);
+  if (!run) {
+    if (!record->folder.empty()) {
+      streams.err << fmt::format("Paths count from the folder of the recorded run: {}\n",
+                                 record->folder);
+    }
+    return Tell(run.error(), streams);
+  }
+  streams.out << ShortResult(*settings, *run);
+  return ExitCode::kDone;
+}
+
+std::string VersionLine() { return fmt::format("kaldo {} ({})\n", Version(), BuildNote()); }
+
+/// A negative first index would be taken for an option: "--sequence -1,4,4,3".
+std::vector<std::string> JoinNegativeSequence(const std::vector<std::string>& arguments) {
+  std::vector<std::string> joined;
+  for (const std::string& argument : arguments) {
+    const bool is_negative_number =
+        argument.size() > 1 && argument[0] == '-' && argument[1] >= '0' && argument[1] <= '9';
+    if (is_negative_number && !joined.empty() && joined.back() == "--sequence") {
+      joined.back() += '=' + argument;
+    } else {
+      joined.push_back(argument);
+    }
+  }
+  return joined;
+}
+
+ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineStreams& streams) {
+  CLI::App app(
+      "KALDO allocates offspring to their parents from microsatellite genotypes when only\n"
+      "part of the true parents has been collected.",
+      "kaldo");
+  app.set_version_flag("--version", VersionLine());
+  app.footer(std::string(kExamples));
+  app.require_subcommand(0, 1);
+
+  AllocationOptions options;
+  CLI::App* const allocate =
+      app.add_subcommand("allocate", "Allocate every offspring to its most likely pair of parents");
+  CLI::App* const check = app.add_subcommand("check", "Check files and choices; write nothing");
+  for (CLI::App* const command : {allocate, check}) {
+    AddAllocationOptions(*command, options);
+  }
+  std::string record;
+  std::optional<std::string> rerun_threads;
+  CLI::App* const rerun = app.add_subcommand("rerun", "Repeat a run from its run record");
+  rerun->add_option("record", record, "The file \"Run record.toml\" of a project folder")
+      ->type_name("FILE")
+      ->required();
+  rerun->add_option("--threads", rerun_threads, "Threads; default: all cores")->type_name("N");
+  for (CLI::App* const command : {allocate, check, rerun}) {
+    command->set_version_flag("--version", VersionLine());
+    command->footer(std::string(kExamples));
+  }
+
+  auto backwards = JoinNegativeSequence(arguments);
+  std::reverse(backwards.begin(), backwards.end());
+  try {
+    app.parse(std::move(backwards));
+  } catch (const CLI::ParseError& error) {
+    const int code = app.exit(error, streams.out, streams.err);
+    return code == 0 ? ExitCode::kDone : ExitCode::kBadInput;
+  }
+  if (allocate->parsed()) {
+    return RunAllocate(options, streams);
+  }
+  if (check->parsed()) {
+    return RunCheck(options, streams);
+  }
+  if (rerun->parsed()) {
+    return RunRerun(record, rerun_threads, streams);
+  }
+  streams.err << app.help();
+  return ExitCode::kBadInput;
+}
+
+}  // namespace
+
+ExitCode RunCommandLine(const std::vector<std::string>& arguments,
+                        const CommandLineStreams& streams) {
+  try {
+    return Dispatch(arguments, streams);
+  } catch (const RunStopped& stopped) {
+    streams.err << stopped.what() << '\n';
+    return ExitCode::kStopped;
+  } catch (const std::bad_alloc&) {
+    streams.err << "Out of memory. The results of earlier runs are as they were.\n";
+  } catch (const std::exception& error) {
+    streams.err << error.what() << '\n';
+  }
+  return ExitCode::kFailed;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/short_result.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "genotypes/project_folder.h"
+#include "genotypes/version.h"
+
+namespace kaldo {
+
+namespace {
+
+std::string ParentsText(Flow flow, const AllocationInput& input) {
+  std::size_t males = 0;
+  for (const CandidateGroup& group : input.groups) {
+    males += group.first.Size();
+  }
+  std::string text = flow == Flow::kSexed ? fmt::format("{} males and {} females", males,
+                                                        input.NumberOfParents() - males)
+                                          : fmt::format("{} parents", input.NumberOfParents());
+  if (input.groups.size() > 1) {
+    text += fmt::format(" in {} groups", input.groups.size());
+  }
+  return text;
+}
+
+std::string Row(std::string_view label, double count, double offspring) {
+  return fmt::format("  {:<28}{:>8g}{:>9.4f}\n", label, count, count / offspring);
+}
+
+std::string Proportions(Flow flow, const AllocationCounters& counters) {
+  const double n = counters.Offspring();
+  std::string text = fmt::format("  {:<28}{:>8}{:>9}\n", "", "number", "share");
+  if (flow == Flow::kSexed) {
+    text += Row("collected male", counters.both_collected + counters.only_par1_collected, n);
+    text += Row("collected female", counters.both_collected + counters.only_par2_collected, n);
+    text += Row("pairs CM + CF", counters.both_collected, n);
+    text += Row("pairs CM + UCF", counters.only_par1_collected, n);
+    text += Row("pairs UCM + CF", counters.only_par2_collected, n);
+    text += Row("pairs UCM + UCF", counters.none_collected, n);
+  } else {
+    text += Row("sides collected", 2 * counters.both_collected + counters.OneCollected(), 2 * n);
+    text += Row("pairs 2 C", counters.both_collected, n);
+    text += Row("pairs C + UC", counters.OneCollected(), n);
+    text += Row("pairs 2 UC", counters.none_collected, n);
+  }
+  return text;
+}
+
+/// The share of sides allocated to a collected parent for each combination of a sequence.
+std::string SequenceRows(const AllocationInput& input, const AllocationResult& result) {
+  std::string text = "\nSides allocated to a collected parent, by number of loci:\n";
+  for (std::size_t k = 0; k < result.counters.size(); ++k) {
+    text += fmt::format("  {:>3}  + {:<15}{:>7.4f}\n", k + 1,
+                        input.loci.Name(input.combinations[k].back()),
+                        SingleProportion(result.counters[k]));
+  }
+  return text;
+}
+
+std::string Doubts(const AllocationResult& result) {
+  const auto count = [&result](auto is_one) {
+    return std::count_if(result.outcomes.begin(), result.outcomes.end(), is_one);
+  };
+  const auto ties =
+      count([](const auto& outcome) { return outcome.pair_entries > 2 || outcome.more_than_five; });
+  const auto marked = count([](const auto& outcome) { return outcome.more_than_five; });
+  const auto without = count([](const auto& outcome) { return !outcome.HasPair(); });
+  std::string text;
+  if (ties > 0) {
+    text += fmt::format(
+        "  {} offspring have several equally likely pairs ({} more than five): the "
+        "first found decided.\n",
+        ties, marked);
+  }
+  if (without > 0) {
+    text += fmt::format("  {} offspring have no possible pair.\n", without);
+  }
+  return text.empty() ? text : '\n' + text;
+}
+
+std::string FilesWritten(const AllocationSettings& settings) {
+  std::string text = fmt::format("\nFiles in \"{}\":\n", settings.project);
+  std::vector<std::string_view> files = {kAllocationResultsFile, kMaxLikePairsFile,
+                                         kTransmissionMatricesFile, kSteppingErrorFile};
+  if (settings.sequence) {
+    files.insert(files.end(), {kSequenceResultsFile, kServiceFile});
+  }
+  files.push_back(kRunRecordFile);
+  for (const std::string_view file : files) {
+    text += fmt::format("  {}\n", file.substr(1));
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string InputSummary(Flow flow, const AllocationInput& input) {
+  return fmt::format(
+      "{}, {} offspring ({} missing loci), {} of {} loci in use, {} digits per field",
+      ParentsText(flow, input), input.NumberOfOffspring(), input.NumberOfMissingGenotypes(),
+      input.loci.LociInUse().size(), input.loci.Count(), input.digits_per_field);
+}
+
+std::string ShortResult(const AllocationSettings& settings, const AllocationRun& run) {
+  const auto& [input, result] = run;
+  std::string text = fmt::format("KALDO {}, {} allocation\n", Version(),
+                                 settings.flow == Flow::kSexed ? "sexed" : "non-sexed");
+  text += fmt::format("  {}\n  error model {}, maximal offset tolerance {}\n\n",
+                      InputSummary(settings.flow, input), ShortDescription(settings.error_model),
+                      settings.tolerance.Value());
+  text += Proportions(settings.flow, result.LastCounters());
+  if (settings.sequence) {
+    text += SequenceRows(input, result);
+  }
+  text += Doubts(result);
+  text += FilesWritten(settings);
+  return text + '\n' + std::string(ClosingSentence(result)) + '\n';
+}
+
+}  // namespace kaldo
