@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whole runs from files to files.
+#include "allocation/allocation_run.h"
+
+#include <atomic>
+#include <filesystem>
+#include <regex>
+
+#include <gtest/gtest.h>
+
+#include "genotypes/project_folder.h"
+#include "tests/support/temp_folder.h"
+
+namespace kaldo {
+namespace {
+
+using test::ReadFile;
+using test::TempFolder;
+
+/// Makes a folder the working folder while it lives: the reports show paths as typed.
+class WorkingFolder {
+ public:
+  explicit WorkingFolder(const std::string& path) : earlier_(std::filesystem::current_path()) {
+    std::filesystem::current_path(path);
+  }
+  WorkingFolder(const WorkingFolder&) = delete;
+  WorkingFolder& operator=(const WorkingFolder&) = delete;
+  WorkingFolder(WorkingFolder&&) = delete;
+  WorkingFolder& operator=(WorkingFolder&&) = delete;
+  ~WorkingFolder() { std::filesystem::current_path(earlier_); }
+
+ private:
+  std::filesystem::path earlier_;
+};
+
+AllocationSettings NonSexedSettings() {
+  AllocationSettings settings;
+  settings.project = "project";
+  settings.parents_file = "parents.txt";
+  settings.offspring_file = "offspring.txt";
+  settings.loci_file = "loci.txt";
+  return settings;
+}
+
+AllocationSettings SexedSettings() {
+  AllocationSettings settings = NonSexedSettings();
+  settings.flow = Flow::kSexed;
+  settings.males_file = "males.txt";
+  settings.females_file = "females.txt";
+  return settings;
+}
+
+/// Runs in a copy of tests/cases/NAME and compares every file with the one worked out by hand.
+void ExpectCase(const std::string& name, const AllocationSettings& settings) {
+  const TempFolder folder;
+  std::filesystem::copy(std::string(KALDO_ROOT) + "/tests/cases/" + name, folder.Path(""),
+                        std::filesystem::copy_options::recursive);
+  const WorkingFolder here(folder.Path(""));
+  RunObserver observer;
+  const auto run = RunAllocation(settings, observer);
+  ASSERT_TRUE(run) << run.error().sentence << ' ' << DetailLine(run.error());
+
+  auto expected = folder.FilesIn("expected");
+  for (const std::string& file : expected) {
+    EXPECT_EQ(ReadFile("project/" + file), ReadFile("expected/" + file)) << file;
+  }
+  expected.emplace_back("Run record.toml");
+  std::sort(expected.begin(), expected.end());
+  EXPECT_EQ(folder.FilesIn("project"), expected);
+}
+
+TEST(AllocationRun, WritesTheReportsOfTwoGroupsWorkedOutByHand) {
+  AllocationSettings settings = NonSexedSettings();
+  settings.loci_in_use = {"Bb2", "Aa1"};
+  ExpectCase("two-groups", settings);
+}
+
+TEST(AllocationRun, WritesTheReportsOfASexedSequenceWorkedOutByHand) {
+  AllocationSettings settings = SexedSettings();
+  settings.tolerance = OffsetTolerance{0};
+  settings.error_model.kind = ErrorKind::kUniform;
+  settings.error_model.epsilon = 0.02;
+  settings.sequence = {2, 1};
+  ExpectCase("sexed-sequence", settings);
+}
+
+/// The example data sets, run in a folder of their own.
+class ExampleRun : public testing::Test {
+ protected:
+  AllocationSettings Settings(Flow flow) const {
+    AllocationSettings settings = flow == Flow::kSexed ? SexedSettings() : NonSexedSettings();
+    const std::string examples =
+        std::string(KALDO_ROOT) + "/examples/" + (flow == Flow::kSexed ? "sexed/" : "non-sexed/");
+    for (std::string* path : {&settings.parents_file, &settings.males_file, &settings.females_file,
+                              &settings.offspring_file, &settings.loci_file}) {
+      if (!path->empty()) {
+        path->insert(0, examples);
+      }
+    }
+    settings.project = folder_.Path("project");
+    return settings;
+  }
+
+  /// Every report of the project folder, one after the other.
+  std::string Reports() const {
+    std::string text;
+    for (const std::string& file : folder_.FilesIn("project")) {
+      if (file != "Run record.toml") {
+        text += file + '\n' + ReadFile(folder_.Path("project/" + file));
+      }
+    }
+    return text;
+  }
+
+  TempFolder folder_;
+};
+
+TEST_F(ExampleRun, GivesTheSameReportsForAnyNumberOfThreads) {
+  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
+    AllocationSettings settings = Settings(flow);
+    settings.sequence.emplace();
+    std::string with_one_thread;
+    for (const unsigned threads : {1U, 2U, 7U}) {
+      settings.threads = threads;
+      RunObserver observer;
+      ASSERT_TRUE(RunAllocation(settings, observer));
+      if (threads == 1) {
+        with_one_thread = Reports();
+      }
+      EXPECT_EQ(Reports(), with_one_thread) << threads;
+    }
+  }
+}
+
+TEST_F(ExampleRun, RemovesSequenceFilesOfAnEarlierRun) {
+  AllocationSettings settings = Settings(Flow::kNonSexed);
+  settings.sequence.emplace();
+  RunObserver observer;
+  ASSERT_TRUE(RunAllocation(settings, observer));
+  EXPECT_TRUE(std::filesystem::exists(folder_.Path("project/Sequence results.xls")));
+  settings.sequence.reset();
+  ASSERT_TRUE(RunAllocation(settings, observer));
+  EXPECT_FALSE(std::filesystem::exists(folder_.Path("project/Sequence results.xls")));
+  EXPECT_FALSE(std::filesystem::exists(folder_.Path("project/Service file.xls")));
+  EXPECT_TRUE(std::filesystem::exists(folder_.Path("project/Allocation results.xls")));
+}
+
+/// Asks to stop after so many steps of either part of a run.
+class StoppingObserver : public RunObserver {
+ public:
+  StoppingObserver(std::string_view part, std::uint64_t steps) : part_(part), steps_(steps) {}
+
+  void OnPart(std::string_view name, std::uint64_t /*steps*/) override { in_part_ = name == part_; }
+  void OnSteps(std::uint64_t steps) override { done_ += in_part_ ? steps : 0; }
+  bool StopRequested() const override { return in_part_ && done_ >= steps_; }
+
+ private:
+  std::string_view part_;
+  std::uint64_t steps_;
+  std::atomic<bool> in_part_{false};
+  std::atomic<std::uint64_t> done_{0};
+};
+
+TEST_F(ExampleRun, StoppedRunLeavesEarlierResultsAsTheyWere) {
+  AllocationSettings settings = Settings(Flow::kSexed);
+  RunObserver observer;
+  ASSERT_TRUE(RunAllocation(settings, observer));
+  const std::string earlier = Reports();
+
+  settings.tolerance = OffsetTolerance{3};
+  settings.sequence.emplace();
+  for (const std::string_view part : {"Allocating", "Writing the reports"}) {
+    for (const std::uint64_t steps : {0U, 20U}) {
+      StoppingObserver stopping(part, steps);
+      EXPECT_THROW((void)RunAllocation(settings, stopping), RunStopped);
+      EXPECT_EQ(Reports(), earlier) << part;
+    }
+  }
+  settings.project = folder_.Path("new");
+  StoppingObserver stopping("Allocating", 0);
+  EXPECT_THROW((void)RunAllocation(settings, stopping), RunStopped);
+  EXPECT_FALSE(std::filesystem::exists(folder_.Path("new")));
+}
+
+TEST_F(ExampleRun, RenamingIndividualsChangesNothingButTheirNames) {
+  const auto read = [&](const AllocationSettings& settings) {
+    RunObserver observer;
+    const auto run = RunAllocation(settings, observer);
+    EXPECT_TRUE(run);
+    return run->result.outcomes;
+  };
+  AllocationSettings settings = Settings(Flow::kNonSexed);
+  const auto before = read(settings);
+  const std::string text = ReadFile(settings.parents_file);
+  const std::string renamed = std::regex_replace(text, std::regex("Adult"), "Z");
+  ASSERT_NE(renamed, text);
+  settings.parents_file = folder_.Write("renamed.txt", renamed);
+  const auto after = read(settings);
+  ASSERT_EQ(after.size(), before.size());
+  for (std::size_t i = 0; i < after.size(); ++i) {
+    EXPECT_EQ(after[i].pairs, before[i].pairs);
+    EXPECT_EQ(after[i].best_likelihood, before[i].best_likelihood);
+    EXPECT_EQ(after[i].par1_uncollected, before[i].par1_uncollected);
+  }
+}
+
+}  // namespace
+}  // namespace kaldo
