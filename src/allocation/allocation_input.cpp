@@ -74,16 +74,18 @@ void FillTable(const AllocationFiles& files, AllocationInput& input) {
 Problem TooManyAllelesProblem(const AllocationFiles& files, const AllocationInput& input,
                               TooManyAlleles at) {
   const std::uint32_t slot = at.slot.Value();
-  const SlotRange* const ranges[] = {&input.first_parents, &input.second_parents, &input.offspring};
-  const auto* const range = *std::find_if(std::begin(ranges), std::end(ranges),
-                                          [slot](const auto* r) { return slot < r->end; });
-  const AllocationFile& file = range == &input.first_parents ? files.genotypes.front()
-                               : range == &input.offspring   ? files.genotypes.back()
-                                                             : files.genotypes[1];
+  const bool in_first = slot < input.first_parents.end;
+  const bool in_offspring = slot >= input.offspring.begin;
+  const SlotRange range = in_first       ? input.first_parents
+                          : in_offspring ? input.offspring
+                                         : input.second_parents;
+  const AllocationFile& file = in_first       ? files.genotypes.front()
+                               : in_offspring ? files.genotypes.back()
+                                              : files.genotypes[1];
   Problem problem;
   problem.sentence = fmt::format("More than {} alleles at a locus!", kMaxAlleles);
   problem.file = file.tokens.Path();
-  problem.record = slot - range->begin + 1;
+  problem.record = slot - range.begin + 1;
   problem.individual = input.table.Name(at.slot).Text();
   RecordCursor cursor(file.tokens.Tokens(), {input.loci.Count(), file.SeparatorsHere()});
   while (cursor.Record() < problem.record) {

@@ -16,8 +16,8 @@ double UniformCell(const ErrorModel& model, std::size_t alleles, bool diagonal) 
 
 double NonUniformCell(const ErrorModel& model, BasePairs unit, AlleleSize parental,
                       AlleleSize offspring) {
-  const std::int64_t change =
-      static_cast<std::int64_t>(offspring.Value()) - static_cast<std::int64_t>(parental.Value());
+  const std::int32_t change =
+      static_cast<std::int32_t>(offspring.Value()) - static_cast<std::int32_t>(parental.Value());
   if (change == 0) {
     return model.focal;
   }

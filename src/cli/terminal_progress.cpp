@@ -2,6 +2,7 @@
 #include "cli/terminal_progress.h"
 
 #include <algorithm>
+#include <cmath>
 #include <ostream>
 
 #include <fmt/format.h>
@@ -20,7 +21,7 @@ constexpr std::uint64_t kBarWidth = 24;
 constexpr std::string_view kEraseLine = "\r\033[K";
 
 std::string TimeText(double seconds) {
-  const auto whole = static_cast<std::uint64_t>(seconds + 0.5);
+  const auto whole = static_cast<std::uint64_t>(std::llround(seconds));
   return whole < 3600 ? fmt::format("{}:{:02}", whole / 60, whole % 60)
                       : fmt::format("{}:{:02}:{:02}", whole / 3600, whole / 60 % 60, whole % 60);
 }

@@ -27,7 +27,7 @@ inline constexpr std::size_t kMaxLocusNameLength = 14;
 inline constexpr std::size_t kMaxAlleleDigits = 4;
 
 /// Bytes of an input file; a larger one is no genotype file of this size class.
-inline constexpr std::size_t kMaxInputBytes = 256U * 1024 * 1024;
+inline constexpr std::size_t kMaxInputBytes = std::size_t{256} * 1024 * 1024;
 
 /// Bytes of two names that must agree for them to be the same individual in the test for pairs met
 /// twice. Laboratories put running numbers of a replicate behind the tenth character.

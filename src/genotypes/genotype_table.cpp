@@ -10,8 +10,8 @@ IndividualName::IndividualName(std::string_view text) {
 }
 
 std::string_view IndividualName::Text() const {
-  const auto end = std::find(bytes_.begin(), bytes_.end(), '\0');
-  return {bytes_.data(), static_cast<std::size_t>(end - bytes_.begin())};
+  const std::string_view bytes(bytes_.data(), bytes_.size());
+  return bytes.substr(0, bytes.find('\0'));
 }
 
 bool IndividualName::SameKeyAs(const IndividualName& other) const {

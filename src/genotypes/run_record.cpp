@@ -37,6 +37,7 @@ std::string Toml(const std::string& value) { return TomlText(value); }
 template <typename Value>
 std::string Toml(const std::vector<Value>& values) {
   std::vector<std::string> parts;
+  parts.reserve(values.size());
   for (const Value& value : values) {
     parts.push_back(Toml(value));
   }

@@ -49,7 +49,7 @@ tl::expected<std::vector<char>, Problem> ReadBytes(const std::string& path) {
   if (bytes.size() > kMaxInputBytes) {
     return tl::unexpected(
         CannotOpen(path, fmt::format("it holds more than {} MB and cannot be a genotype file",
-                                     kMaxInputBytes / (1024 * 1024))));
+                                     kMaxInputBytes / 1024 / 1024)));
   }
   return bytes;
 }

@@ -125,15 +125,15 @@ def stepping_report(names, in_use, catalogues):
 
 
 def allele_listing(names, in_use, catalogues, individual_count):
-    """Sizes and frequencies of the loci in use, computed in single precision."""
+    """Sizes and frequencies of the loci in use, with the counts in order of first appearance."""
     text = "LIST OF ALLELES FOR EACH LOCUS\n\n"
     for locus in in_use:
         catalogue = catalogues[locus]
-        frequencies = [single(catalogue.counts[slot] / (2 * individual_count))
+        frequencies = [catalogue.counts[slot] / (2 * individual_count)
                        for slot, size in enumerate(catalogue.sizes) if size != 0]
         total = 0.0
         for frequency in frequencies:
-            total = single(total + frequency)
+            total += frequency
         text += names[locus] + "\t" + "".join(f"{size}\t" for size in catalogue.listed) + "\n"
         text += "frequency\t" + "".join(f"{value:g}\t" for value in frequencies) + "\n"
         text += f"sum total\t{total:g}\n\n"
