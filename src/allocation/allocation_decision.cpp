@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "allocation/allocation_decision.h"
 
+#include <array>
+
+#include "genotypes/capacities.h"
+
 namespace kaldo {
 
 std::vector<LocusComparison> CompareWithPair(const GenotypeTable& table, Slot offspring,
@@ -16,23 +20,26 @@ std::vector<LocusComparison> CompareWithPair(const GenotypeTable& table, Slot of
   return comparisons;
 }
 
-PairOffsets OffsetsOf(std::span<const LocusComparison> comparisons) {
-  PairOffsets offsets;
-  for (const LocusComparison& locus : comparisons) {
-    offsets.par1.push_back(locus.offset_par1);
-    offsets.par2.push_back(locus.offset_par2);
-  }
-  return offsets;
-}
-
 void DecideSides(const GenotypeTable& table, Slot offspring, const LociOfRun& loci,
                  OffsetTolerance tolerance, AllocationOutcome& outcome) {
   if (!outcome.HasPair()) {
     return;
   }
-  const auto offsets = OffsetsOf(CompareWithPair(table, offspring, outcome.pairs.front(), loci));
-  const ToleranceVerdict par1 = CheckTolerance(offsets.par1, tolerance);
-  const ToleranceVerdict par2 = CheckTolerance(offsets.par2, tolerance);
+  // Simulations come here millions of times: the offsets stay on the stack.
+  std::array<UnitDistances, kMaxLoci> offsets1;
+  std::array<UnitDistances, kMaxLoci> offsets2;
+  const ParentPair pair = outcome.pairs.front();
+  const std::size_t count = loci.loci.size();
+  for (std::size_t k = 0; k < count; ++k) {
+    const LocusIndex locus = loci.loci[k];
+    const LocusComparison comparison =
+        ClassifyLocus(table.Genotype(locus, offspring), table.Genotype(locus, pair.parent1),
+                      table.Genotype(locus, pair.parent2), loci.unit_distances[k]);
+    offsets1.at(k) = comparison.offset_par1;
+    offsets2.at(k) = comparison.offset_par2;
+  }
+  const ToleranceVerdict par1 = CheckTolerance(std::span(offsets1).first(count), tolerance);
+  const ToleranceVerdict par2 = CheckTolerance(std::span(offsets2).first(count), tolerance);
   outcome.par1_uncollected = par1.uncollected;
   outcome.par2_uncollected = par2.uncollected;
   outcome.errors_par1 = par1.errors;

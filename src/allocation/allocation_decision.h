@@ -20,14 +20,6 @@ struct LociOfRun {
 std::vector<LocusComparison> CompareWithPair(const GenotypeTable& table, Slot offspring,
                                              ParentPair pair, const LociOfRun& loci);
 
-/// The offsets of parent 1 and of parent 2 over the compared loci.
-struct PairOffsets {
-  std::vector<UnitDistances> par1;
-  std::vector<UnitDistances> par2;
-};
-
-PairOffsets OffsetsOf(std::span<const LocusComparison> comparisons);
-
 /// Decides for each side of the first pair whether the collected parent is accepted or must be
 /// taken as uncollected. Without a pair nothing changes.
 void DecideSides(const GenotypeTable& table, Slot offspring, const LociOfRun& loci,

@@ -2,26 +2,17 @@
 #include "allocation/allocation_record.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 
 #include <fmt/format.h>
 
 #include "allocation/cumulative_sequence.h"
+#include "allocation/error_model_record.h"
 #include "genotypes/version.h"
 
 namespace kaldo {
 
 namespace {
-
-struct NamedError {
-  ErrorKind kind;
-  std::string_view name;
-};
-
-constexpr std::array<NamedError, 3> kErrorNames = {{{ErrorKind::kNoError, "none"},
-                                                    {ErrorKind::kUniform, "uniform"},
-                                                    {ErrorKind::kNonUniform, "nonuniform"}}};
 
 /// The path of each input file under its name in the record.
 struct NamedPath {
@@ -41,53 +32,6 @@ std::vector<NamedPath> PathsOf(Flow flow) {
   return paths;
 }
 
-void RecordErrorModel(const ErrorModel& model, RunRecord& record) {
-  for (const auto& [kind, name] : kErrorNames) {
-    if (kind == model.kind) {
-      record.settings.emplace_back("error", std::string(name));
-    }
-  }
-  if (model.kind == ErrorKind::kUniform) {
-    record.settings.emplace_back("epsilon", model.epsilon);
-  }
-  if (model.kind == ErrorKind::kNonUniform) {
-    record.settings.emplace_back(
-        "error_values",
-        std::vector<double>{model.minus2, model.minus1, model.focal, model.plus1, model.plus2});
-  }
-}
-
-std::optional<ErrorModel> ErrorModelOf(const RunRecord& record) {
-  const std::string name = record.Setting<std::string>("error").value_or("");
-  const auto* const named =
-      std::find_if(kErrorNames.begin(), kErrorNames.end(),
-                   [&name](const NamedError& error) { return error.name == name; });
-  if (named == kErrorNames.end()) {
-    return std::nullopt;
-  }
-  ErrorModel model;
-  model.kind = named->kind;
-  if (model.kind == ErrorKind::kUniform) {
-    const auto epsilon = record.Setting<double>("epsilon");
-    if (!epsilon) {
-      return std::nullopt;
-    }
-    model.epsilon = *epsilon;
-  }
-  if (model.kind == ErrorKind::kNonUniform) {
-    const auto values = record.Setting<std::vector<double>>("error_values");
-    if (!values || values->size() != 5) {
-      return std::nullopt;
-    }
-    model.minus2 = (*values)[0];
-    model.minus1 = (*values)[1];
-    model.focal = (*values)[2];
-    model.plus1 = (*values)[3];
-    model.plus2 = (*values)[4];
-  }
-  return model;
-}
-
 std::vector<std::string> WarningsOf(const AllocationInput& input, const AllocationResult& result) {
   std::vector<std::string> warnings;
   if (result.stepping.any_out_of_step) {
@@ -103,14 +47,6 @@ std::vector<std::string> WarningsOf(const AllocationInput& input, const Allocati
                     ambiguous, input.NumberOfOffspring()));
   }
   return warnings;
-}
-
-Problem RecordProblem(const std::string& path, std::string found) {
-  Problem problem;
-  problem.sentence = "This run record cannot be used!";
-  problem.file = path;
-  problem.found = std::move(found);
-  return problem;
 }
 
 }  // namespace
@@ -147,30 +83,18 @@ RunRecord RecordOf(const AllocationSettings& settings, const AllocationInput& in
 tl::expected<AllocationSettings, Problem> SettingsOf(const RunRecord& record,
                                                      const std::string& path) {
   AllocationSettings settings;
-  if (record.flow != kNonSexedAllocationFlow && record.flow != kSexedAllocationFlow) {
-    return tl::unexpected(
-        RecordProblem(path, fmt::format("the flow {} is not an allocation", Quoted(record.flow))));
-  }
+  RecordedSettings recorded(record);
   settings.flow = record.flow == kSexedAllocationFlow ? Flow::kSexed : Flow::kNonSexed;
-  settings.project = record.Setting<std::string>("project").value_or("");
+  settings.project = recorded.Needed<std::string>("project");
   for (const auto& [name, member] : PathsOf(settings.flow)) {
-    settings.*member = record.Setting<std::string>(name).value_or("");
+    settings.*member = recorded.Needed<std::string>(name);
   }
-  const auto model = ErrorModelOf(record);
-  const auto tolerance = record.Setting<std::int64_t>("tolerance");
-  if (!model || !tolerance) {
-    return tl::unexpected(
-        RecordProblem(path, fmt::format("the setting \"{}\" is missing or not understood",
-                                        model ? "tolerance" : "error")));
-  }
-  settings.error_model = *model;
-  settings.tolerance = OffsetTolerance{static_cast<std::int32_t>(*tolerance)};
-  settings.loci_in_use = record.Setting<std::vector<std::string>>("use");
-  if (const auto sequence = record.Setting<std::vector<std::int64_t>>("sequence")) {
-    settings.sequence.emplace();
-    for (const std::int64_t index : *sequence) {
-      settings.sequence->push_back(static_cast<std::int32_t>(index));
-    }
+  settings.tolerance = OffsetTolerance{recorded.WholeNumber("tolerance")};
+  settings.error_model = RecordedErrorModel(recorded);
+  settings.loci_in_use = recorded.Optional<std::vector<std::string>>("use");
+  settings.sequence = recorded.WholeNumbers("sequence");
+  if (auto fault = recorded.Fault(path)) {
+    return tl::unexpected(std::move(*fault));
   }
   return settings;
 }

@@ -16,8 +16,8 @@ inline constexpr std::string_view kSexedAllocationFlow = "allocation, sexed";
 RunRecord RecordOf(const AllocationSettings& settings, const AllocationInput& input,
                    const AllocationResult& result);
 
-/// The settings of a recorded allocation. A record of another flow, or one in which a setting is
-/// missing, is a Problem; `path` names the record in it.
+/// The settings of a recorded allocation of either flow. A setting that is missing or of the wrong
+/// kind is a Problem; `path` names the record in it.
 tl::expected<AllocationSettings, Problem> SettingsOf(const RunRecord& record,
                                                      const std::string& path);
 

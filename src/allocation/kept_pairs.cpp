@@ -6,6 +6,9 @@
 namespace kaldo {
 
 bool KeptPairs::IsStored(ParentPair pair) const {
+  if (names_.empty()) {
+    return false;
+  }
   const auto same = [this](Slot a, Slot b) {
     return names_[a.Value()].SameKeyAs(names_[b.Value()]);
   };

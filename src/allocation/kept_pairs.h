@@ -37,6 +37,7 @@ class KeptPairs {
  public:
   static constexpr std::size_t kCapacity = 5;
 
+  /// `names` by slot; without names (simulated parents have none) no pair is passed over.
   KeptPairs(Flow flow, std::span<const IndividualName> names) : flow_(flow), names_(names) {}
 
   /// True where `likelihood` can change what is kept; everything else need not be shown.

@@ -41,6 +41,21 @@ std::string LociLinesWithoutPair(const AllocationInput& input, const LociOfRun& 
   return lines;
 }
 
+/// The offsets of both parents over the compared loci, all 0 without a pair.
+struct PairOffsets {
+  std::vector<UnitDistances> par1;
+  std::vector<UnitDistances> par2;
+};
+
+PairOffsets OffsetsOf(std::span<const LocusComparison> comparisons) {
+  PairOffsets offsets;
+  for (const LocusComparison& locus : comparisons) {
+    offsets.par1.push_back(locus.offset_par1);
+    offsets.par2.push_back(locus.offset_par2);
+  }
+  return offsets;
+}
+
 std::string OffsetsLine(std::string_view label, std::span<const UnitDistances> offsets) {
   std::string line = fmt::format("{}\t\t[  ", label);
   for (const UnitDistances offset : offsets) {

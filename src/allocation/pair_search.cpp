@@ -13,14 +13,27 @@ namespace {
 
 // Partners whose likelihoods are computed together: they stay in the nearest cache, and the
 // compiler computes several at a time without changing any of them.
-constexpr std::size_t kPartnersAtOnce = 512;
+constexpr std::size_t kPartnersAtOnce = 128;
+
+// After every so many loci a stretch whose likelihoods are all 0 by then is left: 0 times anything
+// stays 0, and most pairs fail at the first loci.
+constexpr std::size_t kLociBetweenLooks = 3;
 
 using Likelihoods = std::array<double, kPartnersAtOnce>;
+
+bool AnyIsNotZero(std::span<const double> likelihoods) {
+  int any = 0;
+  for (const double likelihood : likelihoods) {
+    any |= static_cast<int>(likelihood != 0);
+  }
+  return any != 0;
+}
 
 /// The likelihoods of `first_parent` with the partners begin, begin + 1, ... Every product runs in
 /// locus order on its own.
 void MultiplyLoci(const TransmissionScores& scores, std::size_t first_parent, std::size_t begin,
-                  std::size_t count, Likelihoods& likelihoods) {
+                  std::span<double> likelihoods) {
+  const std::size_t count = likelihoods.size();
   for (std::size_t k = 0; k < scores.Loci(); ++k) {
     const double r1 = scores.R(k)[first_parent];
     const double j1 = scores.J(k)[first_parent];
@@ -30,21 +43,38 @@ void MultiplyLoci(const TransmissionScores& scores, std::size_t first_parent, st
       for (std::size_t i = 0; i < count; ++i) {
         likelihoods[i] = r1 * j2[i] + j1 * r2[i];
       }
-    } else {
-      for (std::size_t i = 0; i < count; ++i) {
-        likelihoods[i] *= r1 * j2[i] + j1 * r2[i];
-      }
+      continue;
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+      likelihoods[i] *= r1 * j2[i] + j1 * r2[i];
+    }
+    if (k % kLociBetweenLooks == 0 && !AnyIsNotZero(likelihoods)) {
+      return;
     }
   }
+}
+
+/// True where the first parent can have given neither allele at some locus: all its likelihoods are
+/// 0, whoever the partner is.
+bool IsImpossible(const TransmissionScores& scores, std::size_t first_parent) {
+  for (std::size_t k = 0; k < scores.Loci(); ++k) {
+    if (scores.R(k)[first_parent] == 0 && scores.J(k)[first_parent] == 0) {
+      return true;
+    }
+  }
+  return false;
 }
 
 /// Shows the pairs of one first parent until its row is over or left.
 void ScanRow(const TransmissionScores& scores, std::uint32_t first_parent, SlotRange partners,
              KeptPairs& kept) {
+  if (IsImpossible(scores, first_parent)) {
+    return;
+  }
   Likelihoods likelihoods;
   for (std::size_t begin = partners.begin; begin < partners.end; begin += kPartnersAtOnce) {
     const std::size_t count = std::min(kPartnersAtOnce, partners.end - begin);
-    MultiplyLoci(scores, first_parent, begin, count, likelihoods);
+    MultiplyLoci(scores, first_parent, begin, std::span(likelihoods).first(count));
     for (std::size_t i = 0; i < count; ++i) {
       if (!kept.Matters(likelihoods[i])) {
         continue;

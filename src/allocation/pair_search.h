@@ -14,7 +14,7 @@ namespace kaldo {
 struct Candidates {
   Flow flow = Flow::kNonSexed;
   std::span<const CandidateGroup> groups;
-  std::span<const IndividualName> names;  ///< by slot
+  std::span<const IndividualName> names;  ///< by slot; none for simulated parents
 };
 
 /// The most likely pairs of collected parents of one offspring: every pair of every group, group by

@@ -36,9 +36,16 @@ double NonUniformCell(const ErrorModel& model, BasePairs unit, AlleleSize parent
 }  // namespace
 
 TransmissionMatrix BuildMatrix(const ErrorModel& model, std::span<const AlleleSize> sorted_sizes) {
+  TransmissionMatrix matrix;
+  BuildMatrix(model, sorted_sizes, matrix);
+  return matrix;
+}
+
+void BuildMatrix(const ErrorModel& model, std::span<const AlleleSize> sorted_sizes,
+                 TransmissionMatrix& matrix) {
   const std::size_t alleles = sorted_sizes.size();
   const BasePairs unit = UnitDistance(sorted_sizes);
-  TransmissionMatrix matrix(alleles);
+  matrix.Resize(alleles);
   for (std::size_t i = 0; i < alleles; ++i) {
     for (std::size_t j = 0; j < alleles; ++j) {
       switch (model.kind) {
@@ -55,7 +62,6 @@ TransmissionMatrix BuildMatrix(const ErrorModel& model, std::span<const AlleleSi
       }
     }
   }
-  return matrix;
 }
 
 }  // namespace kaldo

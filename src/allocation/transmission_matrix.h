@@ -14,7 +14,13 @@ namespace kaldo {
 class TransmissionMatrix {
  public:
   TransmissionMatrix() = default;
-  explicit TransmissionMatrix(std::size_t alleles) : alleles_(alleles), cells_(alleles * alleles) {}
+  explicit TransmissionMatrix(std::size_t alleles) { Resize(alleles); }
+
+  /// Makes it a matrix of so many alleles, all cells 0. Memory once taken is kept.
+  void Resize(std::size_t alleles) {
+    alleles_ = alleles;
+    cells_.assign(alleles * alleles, 0.0);
+  }
 
   std::size_t Alleles() const { return alleles_; }
 
@@ -36,5 +42,9 @@ class TransmissionMatrix {
 /// 0 elsewhere; rows are not scaled to sum to 1 at the ends of the range (this program's
 /// convention: an allele that slipped out of the range was not seen).
 TransmissionMatrix BuildMatrix(const ErrorModel& model, std::span<const AlleleSize> sorted_sizes);
+
+/// The same into a matrix that exists.
+void BuildMatrix(const ErrorModel& model, std::span<const AlleleSize> sorted_sizes,
+                 TransmissionMatrix& matrix);
 
 }  // namespace kaldo

@@ -70,11 +70,22 @@ ExitCode RunCheck(const AllocationOptions& options, const CommandLineStreams& st
   return ExitCode::kDone;
 }
 
+Problem UnknownFlow(const RunRecord& record, const std::string& path) {
+  Problem problem;
+  problem.sentence = "This run record cannot be used!";
+  problem.file = path;
+  problem.found = fmt::format("the flow {} is not known", Quoted(record.flow));
+  return problem;
+}
+
 ExitCode RunRerun(const std::string& path, const std::optional<std::string>& threads,
                   const CommandLineStreams& streams) {
   const auto record = ReadRunRecord(path);
   if (!record) {
     return Tell(record.error(), streams);
+  }
+  if (record->flow != kNonSexedAllocationFlow && record->flow != kSexedAllocationFlow) {
+    return Tell(UnknownFlow(*record, path), streams);
   }
   auto settings = SettingsOf(*record, path);
   if (!settings) {
@@ -106,22 +117,7 @@ ExitCode RunRerun(const std::string& path, const std::optional<std::string>& thr
   return ExitCode::kDone;
 }
 
-std::string VersionLine() { return fmt::format("kaldo {} ({})\n", Version(), BuildNote()); }
-
-/// A negative first index would be taken for an option: "--sequence -1,4,4,3".
-std::vector<std::string> JoinNegativeSequence(const std::vector<std::string>& arguments) {
-  std::vector<std::string> joined;
-  for (const std::string& argument : arguments) {
-    const bool is_negative_number =
-        argument.size() > 1 && argument[0] == '-' && argument[1] >= '0' && argument[1] <= '9';
-    if (is_negative_number && !joined.empty() && joined.back() == "--sequence") {
-      joined.back() += '=' + argument;
-    } else {
-      joined.push_back(argument);
-    }
-  }
-  return joined;
-}
+std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
 
 ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineStreams& streams) {
   CLI::App app(
@@ -151,8 +147,7 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
     command->footer(std::string(kExamples));
   }
 
-  auto backwards = JoinNegativeSequence(arguments);
-  std::reverse(backwards.begin(), backwards.end());
+  std::vector<std::string> backwards(arguments.rbegin(), arguments.rend());
   try {
     app.parse(std::move(backwards));
   } catch (const CLI::ParseError& error) {

@@ -83,6 +83,10 @@ Problem OddDigits(const FileWideCheck& check, const LociList& loci, RecordLayout
     }
   }
   if (odd) {
+    if (IsEven(odd->field.text)) {
+      return ProblemAt(*odd, check, loci, check.odd_digits_sentence,
+                       fmt::format("{} stands where a genotype should", Quoted(odd->field.text)));
+    }
     return ProblemAt(
         *odd, check, loci, check.odd_digits_sentence,
         fmt::format("{} has {} characters; both alleles need the same number of digits",
@@ -105,12 +109,16 @@ std::optional<Problem> CheckFileWide(const FileWideCheck& check, const LociList&
 
   std::size_t even_fields = 0;
   std::optional<FieldPlace> first_odd;
+  std::optional<FieldPlace> first_no_genotype;
   std::optional<FieldPlace> first_undefined;
   ForEachField(tokens, layout, counts.records, [&](const FieldPlace& place) {
     if (IsEven(place.field.text)) {
       ++even_fields;
     } else if (!first_odd) {
       first_odd = place;
+    }
+    if (!first_no_genotype && !IsAllDigits(place.field.text)) {
+      first_no_genotype = place;
     }
     if (!first_undefined && IsForbidden(place.field.text, check.undefined_alleles)) {
       first_undefined = place;
@@ -119,7 +127,7 @@ std::optional<Problem> CheckFileWide(const FileWideCheck& check, const LociList&
   const std::size_t expected =
       ((counts.tokens - counts.separators) * loci.Count()) / (loci.Count() + 1);
   if (even_fields != expected) {
-    return OddDigits(check, loci, layout, first_odd, counts);
+    return OddDigits(check, loci, layout, first_odd ? first_odd : first_no_genotype, counts);
   }
   if (first_undefined) {
     return ProblemAt(

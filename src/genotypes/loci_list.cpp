@@ -34,8 +34,9 @@ std::optional<Problem> LociList::Use(const std::vector<std::string>& names) {
     if (found == names_.end()) {
       Problem problem;
       problem.sentence = "There is no locus of that name!";
-      problem.found = fmt::format("{} is none of the {} names of the names-of-loci file: {}",
-                                  Quoted(name), names_.size(), fmt::join(names_, " "));
+      problem.found =
+          fmt::format("{} is none of the {} names of the names-of-loci file: {}", Quoted(name),
+                      names_.size(), Escaped(fmt::format("{}", fmt::join(names_, " "))));
       return problem;
     }
     in_use[static_cast<std::size_t>(found - names_.begin())] = true;

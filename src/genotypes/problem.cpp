@@ -11,6 +11,8 @@ namespace {
 
 constexpr std::size_t kQuotedBytes = 40;
 
+}  // namespace
+
 std::string Escaped(std::string_view text) {
   std::string shown;
   for (const char character : text) {
@@ -23,8 +25,6 @@ std::string Escaped(std::string_view text) {
   }
   return shown;
 }
-
-}  // namespace
 
 std::string Quoted(std::string_view text) {
   if (text.size() <= kQuotedBytes) {

@@ -37,6 +37,9 @@ std::string DetailLine(const Problem& problem);
 /// terminal would obey are escaped.
 std::string Quoted(std::string_view text);
 
+/// `text` with the bytes that a terminal would obey escaped.
+std::string Escaped(std::string_view text);
+
 /// Ends a run from outside: a report that cannot be written, a folder that cannot be made.
 class RunFailure : public std::runtime_error {
  public:

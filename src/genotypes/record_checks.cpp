@@ -44,7 +44,7 @@ Problem ProblemOf(const TokenFile& file, std::uint32_t line, std::uint32_t recor
 }
 
 std::string FieldCountText(Line line, RecordLayout layout) {
-  std::string text = fmt::format("{} fields after the name, {} loci are named", line.size() - 1,
+  std::string text = fmt::format("fields after the name: {}, loci named: {}", line.size() - 1,
                                  layout.number_of_loci);
   if (line.front().text.starts_with('*') && layout.separators == Separators::kNone) {
     text += "; separators are read in parents files only";

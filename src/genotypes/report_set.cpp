@@ -16,14 +16,18 @@ namespace {
 
 constexpr std::size_t kBlockBytes = std::size_t{1} << 18U;
 
+void RefuseFolder(const std::string& path) {
+  if (std::filesystem::is_directory(path)) {
+    throw RunFailure(
+        fmt::format("Cannot replace \"{}\": a folder of that name is in the way", path));
+  }
+}
+
 }  // namespace
 
 ReportFile::ReportFile(std::string path)
     : path_(std::move(path)), unfinished_path_(fmt::format("{}.{}.part", path_, ::getpid())) {
-  if (std::filesystem::is_directory(path_)) {
-    throw RunFailure(
-        fmt::format("Cannot write \"{}\": a folder of that name is in the way", path_));
-  }
+  RefuseFolder(path_);
   errno = 0;
   stream_.open(unfinished_path_, std::ios::binary | std::ios::trunc);
   if (!stream_.is_open()) {
@@ -87,6 +91,16 @@ ReportSet::~ReportSet() {
 ReportFile& ReportSet::Add(std::string_view file) {
   reports_.push_back(std::make_unique<ReportFile>(folder_.Path(file)));
   return *reports_.back();
+}
+
+void ReportSet::AddElsewhere(const std::string& path, std::string_view text) {
+  reports_.push_back(std::make_unique<ReportFile>(path));
+  reports_.back()->Append(text);
+}
+
+void ReportSet::Remove(std::string_view file) {
+  obsolete_.push_back(folder_.Path(file));
+  RefuseFolder(obsolete_.back());
 }
 
 void ReportSet::Commit() {

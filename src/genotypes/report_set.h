@@ -67,8 +67,12 @@ class ReportSet {
   /// Writes a whole report at once.
   void Add(std::string_view file, std::string_view text) { Add(file).Append(text); }
 
-  /// Has a file that an earlier run may have left behind removed at Commit().
-  void Remove(std::string_view file) { obsolete_.push_back(folder_.Path(file)); }
+  /// Has a file that an earlier run may have left behind removed at Commit(). Throws RunFailure at
+  /// once when a folder of that name is in the way.
+  void Remove(std::string_view file);
+
+  /// Writes a whole file outside the project folder, under the same rules.
+  void AddElsewhere(const std::string& path, std::string_view text);
 
   void Commit();
 

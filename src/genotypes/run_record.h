@@ -16,6 +16,10 @@
 
 namespace kaldo {
 
+/// Stands before the bytes, in hexadecimal digits, of a text that is not UTF-8, as names of old
+/// folders sometimes are.
+inline constexpr std::string_view kHexadecimalMark = "hex:";
+
 /// A setting as it stands in a run record.
 using RecordValue = std::variant<bool, std::int64_t, double, std::string, std::vector<std::string>,
                                  std::vector<std::int64_t>, std::vector<double>>;
@@ -51,6 +55,50 @@ struct RunRecord {
     }
     return std::nullopt;
   }
+};
+
+/// Takes settings out of a record one by one and remembers the first that is missing or of the
+/// wrong kind: a record that was edited by hand must not run with half of what it says.
+class RecordedSettings {
+ public:
+  explicit RecordedSettings(const RunRecord& record) : record_(record) {}
+
+  /// The setting, or nothing when the record does not have it.
+  template <typename Value>
+  std::optional<Value> Optional(std::string_view name) {
+    for (const auto& [key, value] : record_.settings) {
+      if (key != name) {
+        continue;
+      }
+      if (const auto* found = std::get_if<Value>(&value)) {
+        return *found;
+      }
+      Note(name, "is of the wrong kind");
+    }
+    return std::nullopt;
+  }
+
+  /// The setting, which the record must have.
+  template <typename Value>
+  Value Needed(std::string_view name) {
+    auto value = Optional<Value>(name);
+    if (!value) {
+      Note(name, "is missing");
+    }
+    return value.value_or(Value{});
+  }
+
+  std::int32_t WholeNumber(std::string_view name);
+  std::optional<std::vector<std::int32_t>> WholeNumbers(std::string_view name);
+
+  void Note(std::string_view name, std::string_view fault);
+
+  /// The first fault met so far; `path` names the record in it.
+  std::optional<Problem> Fault(const std::string& path) const;
+
+ private:
+  const RunRecord& record_;
+  std::string fault_;
 };
 
 /// The record as TOML text, every key in its place.

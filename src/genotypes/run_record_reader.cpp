@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <charconv>
+#include <limits>
+
 #include <fmt/format.h>
 #include <toml++/toml.h>
 
@@ -17,6 +20,19 @@ Problem NotARecord(const std::string& path, std::string found, std::uint32_t lin
   return problem;
 }
 
+std::string Decoded(std::string text) {
+  if (!text.starts_with(kHexadecimalMark)) {
+    return text;
+  }
+  std::string bytes;
+  for (std::size_t at = kHexadecimalMark.size(); at + 1 < text.size(); at += 2) {
+    unsigned int byte = 0;
+    std::from_chars(text.data() + at, text.data() + at + 2, byte, 16);
+    bytes += static_cast<char>(byte);
+  }
+  return bytes;
+}
+
 template <typename Value>
 std::optional<std::vector<Value>> ArrayOf(const toml::array& array) {
   std::vector<Value> values;
@@ -25,14 +41,18 @@ std::optional<std::vector<Value>> ArrayOf(const toml::array& array) {
     if (!value) {
       return std::nullopt;
     }
-    values.push_back(*value);
+    if constexpr (std::is_same_v<Value, std::string>) {
+      values.push_back(Decoded(*value));
+    } else {
+      values.push_back(*value);
+    }
   }
   return values;
 }
 
 std::optional<RecordValue> ValueOf(const toml::node& node) {
   if (const auto text = node.value_exact<std::string>()) {
-    return *text;
+    return Decoded(*text);
   }
   if (const auto flag = node.value_exact<bool>()) {
     return *flag;
@@ -58,7 +78,7 @@ std::optional<RecordValue> ValueOf(const toml::node& node) {
 }
 
 std::string TextOf(const toml::table& table, std::string_view key) {
-  return table[key].value_exact<std::string>().value_or("");
+  return Decoded(table[key].value_exact<std::string>().value_or(""));
 }
 
 void ReadInputs(const toml::table& table, RunRecord& record) {
@@ -77,6 +97,51 @@ void ReadInputs(const toml::table& table, RunRecord& record) {
 }
 
 }  // namespace
+
+std::int32_t RecordedSettings::WholeNumber(std::string_view name) {
+  const auto value = Needed<std::int64_t>(name);
+  if (value < std::numeric_limits<std::int32_t>::min() ||
+      value > std::numeric_limits<std::int32_t>::max()) {
+    Note(name, "is out of range");
+    return 0;
+  }
+  return static_cast<std::int32_t>(value);
+}
+
+std::optional<std::vector<std::int32_t>> RecordedSettings::WholeNumbers(std::string_view name) {
+  const auto values = Optional<std::vector<std::int64_t>>(name);
+  if (!values) {
+    return std::nullopt;
+  }
+  std::vector<std::int32_t> numbers;
+  numbers.reserve(values->size());
+  for (const std::int64_t value : *values) {
+    if (value < std::numeric_limits<std::int32_t>::min() ||
+        value > std::numeric_limits<std::int32_t>::max()) {
+      Note(name, "is out of range");
+      return std::nullopt;
+    }
+    numbers.push_back(static_cast<std::int32_t>(value));
+  }
+  return numbers;
+}
+
+void RecordedSettings::Note(std::string_view name, std::string_view fault) {
+  if (fault_.empty()) {
+    fault_ = fmt::format("the setting \"{}\" {}", name, fault);
+  }
+}
+
+std::optional<Problem> RecordedSettings::Fault(const std::string& path) const {
+  if (fault_.empty()) {
+    return std::nullopt;
+  }
+  Problem problem;
+  problem.sentence = "This run record cannot be used!";
+  problem.file = path;
+  problem.found = fault_;
+  return problem;
+}
 
 tl::expected<RunRecord, Problem> ReadRunRecord(const std::string& path) {
   const auto file = TokenFile::Read(path);

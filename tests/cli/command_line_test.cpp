@@ -1,0 +1,410 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whole commands, run inside the test.
+#include "cli/command_line.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <regex>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "genotypes/version.h"
+#include "tests/support/temp_folder.h"
+
+namespace kaldo {
+namespace {
+
+using test::ReadFile;
+using test::TempFolder;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+using Arguments = std::vector<std::string>;
+
+constexpr std::string_view kNoZero =
+    "Set of indices has to run from 1 to the total number of loci. No zero! Only integers!\n";
+constexpr std::string_view kNotFarther =
+    "Set of indices has to run from 1 to the total number of loci. Not farther!\n";
+constexpr std::string_view kWrongSum =
+    "Set of indices has to run from 1 to the total number of loci.\n";
+
+/// What a command did.
+struct Outcome {
+  ExitCode code;
+  std::string out;
+  std::string err;
+};
+
+Outcome RunCommand(const Arguments& arguments) {
+  std::ostringstream out;
+  std::ostringstream err;
+  const ExitCode code = RunCommandLine(arguments, {out, err});
+  return {code, out.str(), err.str()};
+}
+
+void ExpectRefusal(const Arguments& arguments, std::string_view start_of_message) {
+  const Outcome outcome = RunCommand(arguments);
+  EXPECT_EQ(outcome.code, ExitCode::kBadInput) << testing::PrintToString(arguments);
+  EXPECT_THAT(outcome.out, IsEmpty());
+  EXPECT_THAT(outcome.err, StartsWith(std::string(start_of_message)));
+}
+
+Arguments operator+(Arguments arguments, const Arguments& more) {
+  arguments.insert(arguments.end(), more.begin(), more.end());
+  return arguments;
+}
+
+/// A small study of four loci in a folder of its own.
+class CommandLineTest : public testing::Test {
+ protected:
+  CommandLineTest() {
+    folder_.Write("loci.txt", "A B C D\n");
+    folder_.Write("parents.txt",
+                  "P1 100102 200204 150150 120124\n"
+                  "P2 104104 208208 152154 128128\n"
+                  "P3 100106 200202 150152 120120\n");
+    folder_.Write("females.txt", "F1 104104 208208 152154 128128\n");
+    folder_.Write("offspring.txt",
+                  "O1 100104 204208 150152 124128\n"
+                  "O2 000000 200208 150154 120128\n");
+  }
+
+  Arguments Loci() const { return {"--loci", folder_.Path("loci.txt")}; }
+  Arguments Parents() const { return {"--parents", folder_.Path("parents.txt")}; }
+  Arguments Offspring() const { return {"--offspring", folder_.Path("offspring.txt")}; }
+  Arguments Files() const { return Loci() + Parents() + Offspring(); }
+  Arguments Check(const Arguments& more) const { return Arguments{"check"} + Files() + more; }
+  Arguments Allocate(const Arguments& more) const {
+    return Arguments{"allocate", "--project", folder_.Path("project")} + Files() + more;
+  }
+
+  std::string Report(const std::string& name) const {
+    return ReadFile(folder_.Path("project/" + name));
+  }
+
+  /// All files of the project but the run record, which tells the time; then they are gone.
+  std::vector<std::pair<std::string, std::string>> TakeReports() const {
+    std::vector<std::pair<std::string, std::string>> reports;
+    for (const std::string& name : folder_.FilesIn("project")) {
+      if (name != "Run record.toml") {
+        reports.emplace_back(name, Report(name));
+        std::filesystem::remove(folder_.Path("project/" + name));
+      }
+    }
+    return reports;
+  }
+
+  std::string RecordPath() const { return folder_.Path("project/Run record.toml"); }
+
+  /// Runs an allocation and edits its run record as a user might.
+  void EditRecord(const std::string& pattern, const std::string& replacement) const {
+    ASSERT_EQ(RunCommand(Allocate({})).code, ExitCode::kDone);
+    folder_.Write("project/Run record.toml",
+                  std::regex_replace(ReadFile(RecordPath()), std::regex(pattern), replacement));
+  }
+
+  TempFolder folder_;  // NOLINT(misc-non-private-member-variables-in-classes)
+};
+
+TEST_F(CommandLineTest, HelpAndVersionAreAnswersNotFaults) {
+  for (const std::string command : {"", "allocate", "check", "rerun"}) {
+    const Arguments head = command.empty() ? Arguments{} : Arguments{command};
+    const Outcome help = RunCommand(head + Arguments{"--help"});
+    EXPECT_EQ(help.code, ExitCode::kDone) << command;
+    EXPECT_THAT(help.out, HasSubstr("Usage: kaldo" + (command.empty() ? "" : ' ' + command)));
+    EXPECT_THAT(help.err, IsEmpty());
+    const Outcome version = RunCommand(head + Arguments{"--version"});
+    EXPECT_EQ(version.code, ExitCode::kDone) << command;
+    EXPECT_THAT(version.out, StartsWith("kaldo " + std::string(Version()) + " ("));
+    EXPECT_THAT(version.err, IsEmpty());
+  }
+  EXPECT_EQ(RunCommand({"allocate", "--loci", "missing.txt", "--help"}).code, ExitCode::kDone);
+  const std::string options = RunCommand({"allocate", "-h"}).out;
+  for (const std::string option :
+       {"--project", "--loci", "--offspring", "--parents", "--males", "--females", "--tolerance",
+        "--error", "--use", "--sequence", "--threads"}) {
+    EXPECT_THAT(options, HasSubstr(option));
+  }
+}
+
+TEST_F(CommandLineTest, RefusesACommandLineThatIsNone) {
+  const Outcome nothing = RunCommand({});
+  EXPECT_EQ(nothing.code, ExitCode::kBadInput);
+  EXPECT_THAT(nothing.out, IsEmpty());
+  EXPECT_THAT(nothing.err, HasSubstr("Usage: kaldo"));
+
+  ExpectRefusal({"simulate-nothing"}, "The following argument was not expected: simulate-nothing");
+  ExpectRefusal(Check({"--tolerence", "2"}), "The following arguments were not expected:");
+  ExpectRefusal(Check({"--tol", "2"}), "The following arguments were not expected:");
+  ExpectRefusal(Check({"--tolerance"}), "--tolerance");
+  ExpectRefusal(Check({"extra"}), "The following argument was not expected: extra");
+  ExpectRefusal(Check(Loci()), "--loci");
+  ExpectRefusal({"rerun"}, "record is required");
+}
+
+TEST_F(CommandLineTest, AllocatesBothExamples) {
+  const std::string examples = std::string(KALDO_ROOT) + "/examples/";
+  for (const std::string flow : {"non-sexed", "sexed"}) {
+    const std::string data = examples + flow + '/';
+    Arguments arguments = {"allocate",        "--project",   folder_.Path(flow),    "--loci",
+                           data + "loci.txt", "--offspring", data + "offspring.txt"};
+    arguments = arguments + (flow == "sexed" ? Arguments{"--males", data + "males.txt", "--females",
+                                                         data + "females.txt"}
+                                             : Arguments{"--parents", data + "parents.txt"});
+    const Outcome outcome = RunCommand(arguments);
+    EXPECT_EQ(outcome.code, ExitCode::kDone);
+    EXPECT_THAT(outcome.out, StartsWith("KALDO " + std::string(Version()) + ", " + flow));
+    EXPECT_THAT(outcome.out, EndsWith("\nCalculations completed!\n"));
+    EXPECT_THAT(outcome.err, IsEmpty()) << "no progress bar where there is no terminal";
+    EXPECT_EQ(folder_.FilesIn(flow),
+              (Arguments{"Allocation results.xls", "Max like pairs.txt", "Run record.toml",
+                         "Stepping error file.xls", "Transmision matrices.xls"}));
+  }
+}
+
+TEST_F(CommandLineTest, ReadsTheToleranceAsDecimal) {
+  const std::string label = "\nMaximal offset tolerance :               ";
+  for (const auto& [typed, read] :
+       {std::pair("010", "10"), {"0", "0"}, {"2147483647", "2147483647"}}) {
+    ASSERT_EQ(RunCommand(Allocate({"--tolerance", typed})).code, ExitCode::kDone);
+    EXPECT_THAT(Report("Allocation results.xls"), HasSubstr(label + read + '\n'));
+  }
+  ASSERT_EQ(RunCommand(Allocate({})).code, ExitCode::kDone);
+  EXPECT_THAT(Report("Allocation results.xls"), HasSubstr(label + "1\n"));
+  for (const std::string typed : {"1.5", "1,5", "one", "", "0x10", "2147483648", "1 "}) {
+    ExpectRefusal(Allocate({"--tolerance", typed}), "A whole number is wanted!\n--tolerance: ");
+  }
+  ExpectRefusal(Check({"--tolerance", "-1"}), "Enter a positive number\n");
+  ExpectRefusal(Check({"--tolerance=-1"}), "Enter a positive number\n");
+}
+
+TEST_F(CommandLineTest, ReadsTheErrorModel) {
+  // 0.0625 + 0.0625 + 0.875 is exactly 1, and 0.875 is too little for the focal allele.
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"none", ""},
+      {"uniform=0.1", ""},
+      {"uniform=0", ""},
+      {"uniform=-0.5", ""},
+      {"uniform=0.1000001", "Espilon should be between 0 and 0.1\n"},
+      {"uniform=nan", "Espilon should be between 0 and 0.1\n"},
+      {"uniform=-inf", "Espilon should be between 0 and 0.1\n"},
+      {"nonuniform", ""},
+      {"nonuniform=0.002,0.008,0.980,0.008,0.002", ""},
+      {"nonuniform=0,0,1,0,0", ""},
+      {"nonuniform=0,0.0625,0.875,0.0625,0", "Error sum should not exceed 0.1!\n"},
+      {"nonuniform=-0.25,0,1.25,0,0", "Error sum should not exceed 0.1!\n"},
+      {"nonuniform=0,0,0.9,0,0", "Sum of probability must be 1 ! \n"},
+      {"nonuniform=nan,0,1,0,0", "Sum of probability must be 1 ! \n"},
+      {"nonuniform=inf,0,1,0,0", "Sum of probability must be 1 ! \n"},
+      {"nonuniform=0,0,1,0", "Choose a model of error\n"},
+      {"nonuniform=", "Choose a model of error\n"},
+      {"uniform", "Choose a model of error\n"},
+      {"uniform=0,1", "Choose a model of error\n"},  // a decimal comma
+      {"none=0", "Choose a model of error\n"},
+      {"Uniform=0.1", "Choose a model of error\n"},
+      {"", "Choose a model of error\n"},
+      {"uniform=ten", "A probability is not understood!\n"},
+  };
+  for (const auto& [model, sentence] : cases) {
+    if (sentence.empty()) {
+      EXPECT_EQ(RunCommand(Check({"--error", model})).code, ExitCode::kDone) << model;
+    } else {
+      SCOPED_TRACE(model);
+      ExpectRefusal(Check({"--error", model}), sentence);
+    }
+  }
+}
+
+TEST_F(CommandLineTest, TestsTheSequenceByItsSum) {
+  for (const std::string good : {"4,3,2,1", "1,1,4,4", "-1,4,4,3", " 1, 2 ,3,04"}) {
+    EXPECT_EQ(RunCommand(Check({"--sequence", good})).code, ExitCode::kDone) << good;
+    EXPECT_EQ(RunCommand(Check({"--sequence=" + good})).code, ExitCode::kDone) << good;
+  }
+  const std::vector<std::pair<std::string, std::string_view>> cases = {
+      {"0,2,3,5", kNoZero},    {"1,2,3,5", kNotFarther}, {"1,2,3,3", kWrongSum},
+      {"-5,4,4,3", kWrongSum}, {"1,2,3,4.0", kNoZero},   {"1,2,three,4", kNoZero},
+      {"1,2,3", kWrongSum},    {"2,4,4", kWrongSum},     {"1,2,3,3,1", kWrongSum},
+      {"-1", kWrongSum},
+  };
+  for (const auto& [indices, sentence] : cases) {
+    SCOPED_TRACE(indices);
+    ExpectRefusal(Check({"--sequence", indices}), sentence);
+  }
+}
+
+TEST_F(CommandLineTest, ABareSequenceIsFileOrder) {
+  ASSERT_EQ(RunCommand(Allocate({"--sequence", "1,2,3,4"})).code, ExitCode::kDone);
+  const auto typed = TakeReports();
+  EXPECT_EQ(typed.size(), 6U);
+  ASSERT_EQ(RunCommand(Allocate({"--tolerance", "1", "--sequence"})).code, ExitCode::kDone);
+  EXPECT_EQ(TakeReports(), typed);
+  ASSERT_EQ(RunCommand(Allocate({"--sequence", "--tolerance", "1"})).code, ExitCode::kDone);
+  EXPECT_THAT(Report("Sequence results.xls"), HasSubstr("\nCombin #\t"));
+  // A later run without a sequence leaves no report of the earlier one behind.
+  ASSERT_EQ(RunCommand(Allocate({})).code, ExitCode::kDone);
+  EXPECT_EQ(TakeReports().size(), 4U);
+}
+
+TEST_F(CommandLineTest, UsesTheNamedLoci) {
+  EXPECT_THAT(RunCommand(Check({"--use", " D ,A"})).err, HasSubstr("2 of 4 loci in use"));
+  EXPECT_THAT(RunCommand(Check({})).err, HasSubstr("(1 missing loci), 4 of 4 loci in use"));
+  ExpectRefusal(Check({"--use", "A,E"}),
+                "There is no locus of that name!\n\"E\" is none of the 4 names");
+  ExpectRefusal(Check({"--use", "A,"}), "There is no locus of that name!\n\"\" is none");
+  ExpectRefusal(Check({"--use", ""}), "Choose at least one locus!\n");
+}
+
+TEST_F(CommandLineTest, TellsEachMissingName) {
+  const Arguments males = {"--males", folder_.Path("parents.txt")};
+  const Arguments females = {"--females", folder_.Path("females.txt")};
+  const Arguments check = {"check"};
+  ExpectRefusal(check, "Parent file name is missing!\n");
+  ExpectRefusal(check + Parents(), "Offspring file name is missing!\n");
+  ExpectRefusal(check + Parents() + Offspring(), "Names of loci file name is missing!\n");
+  ExpectRefusal(check + Loci() + Offspring(), "Parent file name is missing!\n");
+  ExpectRefusal(check + females, "Male parent file name is missing!\n");
+  ExpectRefusal(check + males, "Female parent file name is missing!\n");
+  ExpectRefusal(check + males + females, "Offspring file name is missing!\n");
+  ExpectRefusal(check + males + females + Offspring(), "Names of loci file name is missing!\n");
+  EXPECT_EQ(RunCommand(check + males + females + Offspring() + Loci()).out, "ok\n");
+
+  // An empty name is a missing one; a file that cannot be opened is told after all names.
+  ExpectRefusal(check + Arguments{"--parents", "", "--offspring", "missing.txt"},
+                "Parent file name is missing!\n");
+  ExpectRefusal(check + Arguments{"--parents", "missing.txt"}, "Offspring file name is missing!\n");
+  ExpectRefusal(check + Arguments{"--parents", "missing.txt"} + Offspring() + Loci(),
+                "Cannot open file \"missing.txt\"!\nmissing.txt: No such file or directory\n");
+  // ... and the tolerance after the files, before their contents.
+  ExpectRefusal(
+      check + Arguments{"--parents", "missing.txt", "--tolerance", "-1"} + Offspring() + Loci(),
+      "Cannot open file");
+  folder_.Write("parents.txt", "P1 10010\n");
+  ExpectRefusal(Check({"--tolerance", "-1"}), "Enter a positive number\n");
+  ExpectRefusal(Check({"--error", "uniform=1"}), "Some parental loci are represented with an odd");
+
+  ExpectRefusal(Arguments{"allocate"} + Files(), "Please enter name of project!\n");
+  ExpectRefusal(Check(females),
+                "Choose one file of parents, or one of males and one of females!\n");
+}
+
+TEST_F(CommandLineTest, CheckWritesNothing) {
+  const auto before = folder_.FilesIn(".");
+  const Outcome outcome = RunCommand(Check({"--project", folder_.Path("project"), "--sequence"}));
+  EXPECT_EQ(outcome.code, ExitCode::kDone);
+  EXPECT_EQ(outcome.out, "ok\n");
+  EXPECT_EQ(outcome.err,
+            "3 parents, 2 offspring (1 missing loci), 4 of 4 loci in use, 6 digits per field\n");
+  EXPECT_EQ(folder_.FilesIn("."), before);
+}
+
+TEST_F(CommandLineTest, BadInputLeavesTheEarlierResults) {
+  ASSERT_EQ(RunCommand(Allocate({})).code, ExitCode::kDone);
+  const std::string record = ReadFile(RecordPath());
+  folder_.Write("offspring.txt",
+                "O1 100104 204208 150152 124128\nO2 100104 000208 150152 124128\n");
+  ExpectRefusal(Allocate({"--tolerance", "0"}),
+                "Offspring loci should contain totally defined alleles(no string of 0s) or totally "
+                "undefined alleles (two strings of 0s)!\n" +
+                    folder_.Path("offspring.txt") +
+                    ", line 2, record 2 (O2), locus B: \"000208\" holds an undefined allele\n");
+  EXPECT_EQ(ReadFile(RecordPath()), record);
+  EXPECT_EQ(TakeReports().size(), 4U);
+}
+
+TEST_F(CommandLineTest, TellsAResultsFolderThatCannotBeMade) {
+  const Outcome outcome =
+      RunCommand(Arguments{"allocate", "--project", folder_.Path("loci.txt/project")} + Files());
+  EXPECT_EQ(outcome.code, ExitCode::kFailed);
+  EXPECT_THAT(outcome.out, IsEmpty());
+  EXPECT_THAT(outcome.err, StartsWith("Cannot make the folder \""));
+}
+
+TEST_F(CommandLineTest, TellsLociOutOfStep) {
+  folder_.Write("females.txt", "F1 104107 208208 152154 128128\n");
+  const Outcome outcome =
+      RunCommand(Arguments{"allocate", "--project", folder_.Path("project"), "--males",
+                           folder_.Path("parents.txt"), "--females", folder_.Path("females.txt")} +
+                 Loci() + Offspring());
+  EXPECT_EQ(outcome.code, ExitCode::kDone);
+  EXPECT_THAT(outcome.out, EndsWith("\nSome allelic distances not in step with the smallest "
+                                    "difference. Please read the stepping error file !\n"));
+  EXPECT_THAT(Report("Stepping error file.xls"),
+              EndsWith("\nLocus A :\n\tAlleles : 100 102 104 106 107 \n\tAllelic distances : 2  2  "
+                       "2  1  \n\n"));
+  EXPECT_THAT(ReadFile(RecordPath()), HasSubstr("warnings = [\"Some allelic distances"));
+}
+
+TEST_F(CommandLineTest, RerunReproducesTheReports) {
+  const std::vector<Arguments> choices = {
+      {"--tolerance", "0", "--error", "uniform=0.03", "--use", "A,C,D"},
+      {"--error", "none"},
+      {"--sequence"},
+      {"--sequence", "-1,4,4,3", "--error", "nonuniform=0,0.03125,0.9375,0.03125,0"},
+  };
+  for (const Arguments& choice : choices) {
+    const Outcome first = RunCommand(Allocate(choice));
+    ASSERT_EQ(first.code, ExitCode::kDone);
+    const auto reports = TakeReports();
+    const Outcome again = RunCommand({"rerun", RecordPath(), "--threads", "2"});
+    EXPECT_EQ(again.code, ExitCode::kDone);
+    EXPECT_EQ(again.out, first.out);
+    EXPECT_THAT(again.err, IsEmpty());
+    EXPECT_EQ(TakeReports(), reports) << testing::PrintToString(choice);
+  }
+}
+
+TEST_F(CommandLineTest, RerunWarnsOfWhatHasChanged) {
+  EditRecord("version = \".*\"", "version = \"0.9.0\"");
+  folder_.Write("offspring.txt", "O1 100104 204208 150152 124128\n");
+  const Outcome outcome = RunCommand({"rerun", RecordPath()});
+  EXPECT_EQ(outcome.code, ExitCode::kDone);
+  EXPECT_THAT(outcome.err, StartsWith("Warning: the record was made by KALDO 0.9.0, "));
+  EXPECT_THAT(outcome.err, HasSubstr("\nWarning: offspring (\"" + folder_.Path("offspring.txt") +
+                                     "\") has changed since the recorded run: "));
+  EXPECT_THAT(outcome.err, Not(HasSubstr("parents.txt")));
+  EXPECT_THAT(outcome.out, HasSubstr("1 offspring")) << "the run uses the files as they are";
+}
+
+TEST_F(CommandLineTest, RerunRefusesWhatItCannotRepeat) {
+  ExpectRefusal({"rerun", folder_.Path("parents.txt")}, "This is not a run record!\n");
+  ExpectRefusal({"rerun", folder_.Path("missing.toml")}, "Cannot open file \"");
+  struct Edit {
+    std::string pattern;
+    std::string replacement;
+    std::string message;
+  };
+  const std::vector<Edit> edits = {
+      {"flow = \".*\"", "flow = \"a dance\"", "This run record cannot be used!\n"},
+      {"tolerance = 1\n", "", "This run record cannot be used!\n"},
+      {"tolerance = 1", "tolerance = 1.5", "This run record cannot be used!\n"},
+      {"tolerance = 1", "tolerance = -1", "Enter a positive number\n"},
+      {"error = .*", "error = \"some\"", "This run record cannot be used!\n"},
+      {"0.98,", "0.98, 0.01,", "This run record cannot be used!\n"},
+      {"\nproject = .*", "", "This run record cannot be used!\n"},
+  };
+  for (const Edit& edit : edits) {
+    SCOPED_TRACE(edit.replacement);
+    EditRecord(edit.pattern, edit.replacement);
+    const Outcome outcome = RunCommand({"rerun", RecordPath()});
+    EXPECT_EQ(outcome.code, ExitCode::kBadInput);
+    EXPECT_THAT(outcome.err, HasSubstr(edit.message));
+  }
+}
+
+// A setting that is there but not understood must not silently become another run.
+TEST_F(CommandLineTest, RerunRefusesASettingOfTheWrongKind) {
+  for (const std::string setting : {"use = \"A\"", "sequence = [1.0, 2.0, 3.0, 4.0]",
+                                    "sequence = \"4,3,2,1\"", "sequence = [4294967297, 2, 3, 4]"}) {
+    EditRecord("tolerance = 1", "tolerance = 1\n" + setting);
+    EXPECT_EQ(RunCommand({"rerun", RecordPath()}).code, ExitCode::kBadInput) << setting;
+  }
+  EditRecord("tolerance = 1", "tolerance = 4294967297");
+  EXPECT_EQ(RunCommand({"rerun", RecordPath()}).code, ExitCode::kBadInput);
+}
+
+}  // namespace
+}  // namespace kaldo
