@@ -19,7 +19,9 @@ constexpr std::uint32_t kOffspring = 16;
 struct Study {
   explicit Study(std::uint32_t parents, const ErrorModel& model) : table(kLoci) {
     std::mt19937 random(20260301);
-    const auto draw = [&random](std::uint32_t count) { return random() % count; };
+    const auto draw = [&random](std::uint32_t count) {
+      return static_cast<std::uint32_t>(random() % count);
+    };
     for (std::uint32_t i = 0; i < parents + kOffspring; ++i) {
       const Slot slot = table.AddIndividual("");
       const std::uint32_t mother = draw(parents);
