@@ -20,13 +20,16 @@ AllocationReports::AllocationReports(const AllocationSettings& settings)
 void AllocationReports::WriteOffspring(const AllocationSettings& settings,
                                        const AllocationInput& input, const AllocationResult& result,
                                        RunObserver& observer) {
+  const MatricesReport matrices{settings.flow, settings.tolerance, input.digits_per_field,
+                                input.table, result.loci};
   observer.OnPart("Writing the reports", result.outcomes.size());
   for (std::size_t offspring = 0; offspring < result.outcomes.size(); ++offspring) {
     if (observer.StopRequested()) {
       throw RunStopped();
     }
     pairs_.Append(MaxLikeBlock(input, result, offspring));
-    matrices_.Append(MatricesBlock(settings, input, result, offspring));
+    const Slot slot{input.offspring.begin + static_cast<std::uint32_t>(offspring)};
+    matrices_.Append(MatricesBlock(matrices, slot, result.outcomes[offspring]));
     results_.Append(ResultLine(settings.flow, input, result, offspring));
     observer.OnSteps(1);
   }

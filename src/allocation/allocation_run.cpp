@@ -78,10 +78,7 @@ AllocationResult Allocate(const AllocationSettings& settings, const AllocationIn
 }
 
 std::string_view ClosingSentence(const AllocationResult& result) {
-  return result.stepping.any_out_of_step
-             ? "Some allelic distances not in step with the smallest difference. Please read the "
-               "stepping error file !"
-             : "Calculations completed!";
+  return result.stepping.any_out_of_step ? kSteppingSentence : "Calculations completed!";
 }
 
 tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& settings,

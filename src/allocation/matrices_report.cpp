@@ -31,11 +31,10 @@ std::string LociLines(std::span<const LocusComparison> comparisons, std::size_t 
   return lines;
 }
 
-std::string LociLinesWithoutPair(const AllocationInput& input, const LociOfRun& loci,
-                                 Slot offspring) {
+std::string LociLinesWithoutPair(const MatricesReport& report, Slot offspring) {
   std::string lines;
-  for (const LocusIndex locus : loci.loci) {
-    lines += GenotypeText(input.table.Genotype(locus, offspring), input.digits_per_field / 2) +
+  for (const LocusIndex locus : report.loci.loci) {
+    lines += GenotypeText(report.table.Genotype(locus, offspring), report.digits_per_field / 2) +
              "\t   *   \t\t   *   \n\n\n";
   }
   return lines;
@@ -66,24 +65,23 @@ std::string OffsetsLine(std::string_view label, std::span<const UnitDistances> o
 
 }  // namespace
 
-std::string MatricesBlock(const AllocationSettings& settings, const AllocationInput& input,
-                          const AllocationResult& result, std::size_t offspring) {
-  const AllocationOutcome& outcome = result.outcomes[offspring];
-  const Slot slot{input.offspring.begin + static_cast<std::uint32_t>(offspring)};
-  std::string block = Heading(settings.flow);
+std::string MatricesBlock(const MatricesReport& report, Slot offspring,
+                          const AllocationOutcome& outcome) {
+  std::string block = Heading(report.flow);
   PairOffsets offsets;
   if (outcome.HasPair()) {
-    const auto comparisons = CompareWithPair(input.table, slot, outcome.pairs.front(), result.loci);
-    block += LociLines(comparisons, input.digits_per_field / 2);
+    const auto comparisons =
+        CompareWithPair(report.table, offspring, outcome.pairs.front(), report.loci);
+    block += LociLines(comparisons, report.digits_per_field / 2);
     offsets = OffsetsOf(comparisons);
   } else {
-    block += LociLinesWithoutPair(input, result.loci, slot);
-    offsets.par1.resize(result.loci.loci.size());
-    offsets.par2.resize(result.loci.loci.size());
+    block += LociLinesWithoutPair(report, offspring);
+    offsets.par1.resize(report.loci.loci.size());
+    offsets.par2.resize(report.loci.loci.size());
   }
   block += OffsetsLine("Offsets Parent_1 :", offsets.par1);
   block += OffsetsLine("Offsets Parent_2 :", offsets.par2);
-  block += fmt::format("Offset maximum toléré : {}\n", settings.tolerance.Value());
+  block += fmt::format("Offset maximum toléré : {}\n", report.tolerance.Value());
   block += fmt::format("offset_par1_depasse = {}\n", outcome.par1_uncollected ? "Oui" : "Non");
   block += fmt::format("offset_par2_depasse = {}\n", outcome.par2_uncollected ? "Oui" : "Non");
   return block + '\n';

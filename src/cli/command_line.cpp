@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/command_line.h"
 
+#include <filesystem>
 #include <new>
 #include <ostream>
 
@@ -12,8 +13,13 @@
 #include "cli/allocation_options.h"
 #include "cli/option_text.h"
 #include "cli/short_result.h"
+#include "cli/simulation_options.h"
+#include "cli/simulation_result_text.h"
 #include "cli/terminal_progress.h"
 #include "genotypes/version.h"
+#include "simulation/non_sexed_simulation.h"
+#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/simulation_record.h"
 
 namespace kaldo {
 
@@ -25,6 +31,9 @@ constexpr std::string_view kExamples =
     "                 --offspring young.txt\n"
     "  kaldo allocate --project ponds --loci loci.txt --males males.txt --females females.txt \\\n"
     "                 --offspring young.txt --tolerance 2 --sequence\n"
+    "  kaldo simulate --project trial --loci loci.txt --collected-parents parents.txt \\\n"
+    "                 --uncollected-sample parents.txt --uncollected 20 \\\n"
+    "                 --iterations 100 --offspring-per-iteration 200 --seed 1\n"
     "  kaldo rerun \"lake/Run record.toml\"\n"
     "\n"
     "Exit codes: 0 done, 1 failed while running, 2 bad input or usage, 130 stopped by Ctrl-C.";
@@ -37,23 +46,46 @@ ExitCode Tell(const Problem& problem, const CommandLineStreams& streams) {
   return ExitCode::kBadInput;
 }
 
-tl::expected<AllocationRun, Problem> RunWithProgress(const AllocationSettings& settings,
-                                                     const CommandLineStreams& streams) {
-  TerminalProgress progress(streams.err, streams.err_is_terminal);
-  return RunAllocation(settings, progress);
+ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineStreams& streams) {
+  const auto run = [&] {
+    TerminalProgress progress(streams.err, streams.err_is_terminal);
+    return RunAllocation(settings, progress);
+  }();
+  if (!run) {
+    return Tell(run.error(), streams);
+  }
+  streams.out << ShortResult(settings, *run);
+  return ExitCode::kDone;
 }
 
 ExitCode RunAllocate(const AllocationOptions& options, const CommandLineStreams& streams) {
   const auto settings = SettingsFrom(options);
-  if (!settings) {
-    return Tell(settings.error(), streams);
+  return settings ? AllocateAndTell(*settings, streams) : Tell(settings.error(), streams);
+}
+
+const SimulationFlow& FlowOf(const SimulationSettings& settings) {
+  return settings.flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation();
+}
+
+ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineStreams& streams) {
+  constexpr std::int32_t kManyIterations = 1000;
+  if (settings.flow == Flow::kSexed && settings.iterations > kManyIterations) {
+    streams.err << "1000 iterations maximum!\n";
   }
-  const auto run = RunWithProgress(*settings, streams);
+  const auto run = [&] {
+    TerminalProgress progress(streams.err, streams.err_is_terminal);
+    return RunSimulation(settings, FlowOf(settings), progress);
+  }();
   if (!run) {
     return Tell(run.error(), streams);
   }
-  streams.out << ShortResult(*settings, *run);
+  streams.out << ShortResult(settings, FlowOf(settings), *run);
   return ExitCode::kDone;
+}
+
+ExitCode RunSimulate(const SimulationOptions& options, const CommandLineStreams& streams) {
+  const auto settings = SettingsFrom(options);
+  return settings ? SimulateAndTell(*settings, streams) : Tell(settings.error(), streams);
 }
 
 ExitCode RunCheck(const AllocationOptions& options, const CommandLineStreams& streams) {
@@ -70,24 +102,10 @@ ExitCode RunCheck(const AllocationOptions& options, const CommandLineStreams& st
   return ExitCode::kDone;
 }
 
-Problem UnknownFlow(const RunRecord& record, const std::string& path) {
-  Problem problem;
-  problem.sentence = "This run record cannot be used!";
-  problem.file = path;
-  problem.found = fmt::format("the flow {} is not known", Quoted(record.flow));
-  return problem;
-}
-
-ExitCode RunRerun(const std::string& path, const std::optional<std::string>& threads,
-                  const CommandLineStreams& streams) {
-  const auto record = ReadRunRecord(path);
-  if (!record) {
-    return Tell(record.error(), streams);
-  }
-  if (record->flow != kNonSexedAllocationFlow && record->flow != kSexedAllocationFlow) {
-    return Tell(UnknownFlow(*record, path), streams);
-  }
-  auto settings = SettingsOf(*record, path);
+/// Runs again with the settings of a record; `settings` are those of its flow.
+template <typename Settings, typename RunAndTell>
+ExitCode Repeat(tl::expected<Settings, Problem> settings, const std::optional<std::string>& threads,
+                const CommandLineStreams& streams, RunAndTell run_and_tell) {
   if (!settings) {
     return Tell(settings.error(), streams);
   }
@@ -98,23 +116,45 @@ ExitCode RunRerun(const std::string& path, const std::optional<std::string>& thr
     }
     settings->threads = *number;
   }
-  if (record->version != Version()) {
+  return run_and_tell(*settings, streams);
+}
+
+/// What may make a repeated run differ, or its files be missing.
+void TellChanges(const RunRecord& record, const CommandLineStreams& streams) {
+  if (record.version != Version()) {
     streams.err << fmt::format("Warning: the record was made by KALDO {}, this is KALDO {}.\n",
-                               record->version, Version());
+                               record.version, Version());
   }
-  for (const std::string& changed : ChangedInputs(*record)) {
+  for (const std::string& changed : ChangedInputs(record)) {
     streams.err << "Warning: " << changed << '\n';
   }
-  const auto run = RunWithProgress(*settings, streams);
-  if (!run) {
-    if (!record->folder.empty()) {
-      streams.err << fmt::format("Paths count from the folder of the recorded run: {}\n",
-                                 record->folder);
-    }
-    return Tell(run.error(), streams);
+  std::error_code ignored;
+  if (std::filesystem::current_path(ignored).string() != record.folder) {
+    streams.err << fmt::format("Note: the recorded run was started in the folder {}\n",
+                               Quoted(record.folder));
   }
-  streams.out << ShortResult(*settings, *run);
-  return ExitCode::kDone;
+}
+
+ExitCode RunRerun(const std::string& path, const std::optional<std::string>& threads,
+                  const CommandLineStreams& streams) {
+  const auto record = ReadRunRecord(path);
+  if (!record) {
+    return Tell(record.error(), streams);
+  }
+  const std::string& flow = record->flow;
+  if (flow == kNonSexedAllocationFlow || flow == kSexedAllocationFlow) {
+    TellChanges(*record, streams);
+    return Repeat(SettingsOf(*record, path), threads, streams, AllocateAndTell);
+  }
+  if (flow == kNonSexedSimulationFlow || flow == kSexedSimulationFlow) {
+    TellChanges(*record, streams);
+    return Repeat(SimulationSettingsOf(*record, path), threads, streams, SimulateAndTell);
+  }
+  Problem problem;
+  problem.sentence = "This run record cannot be used!";
+  problem.file = path;
+  problem.found = fmt::format("the flow {} is not known", Quoted(flow));
+  return Tell(problem, streams);
 }
 
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
@@ -135,6 +175,10 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
   for (CLI::App* const command : {allocate, check}) {
     AddAllocationOptions(*command, options);
   }
+  SimulationOptions simulation_options;
+  CLI::App* const simulate =
+      app.add_subcommand("simulate", "Estimate how far allocations with these loci can be trusted");
+  AddSimulationOptions(*simulate, simulation_options);
   std::string record;
   std::optional<std::string> rerun_threads;
   CLI::App* const rerun = app.add_subcommand("rerun", "Repeat a run from its run record");
@@ -142,7 +186,7 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
       ->type_name("FILE")
       ->required();
   rerun->add_option("--threads", rerun_threads, "Threads; default: all cores")->type_name("N");
-  for (CLI::App* const command : {allocate, check, rerun}) {
+  for (CLI::App* const command : {allocate, simulate, check, rerun}) {
     command->set_version_flag("--version", VersionLine());
     command->footer(std::string(kExamples));
   }
@@ -156,6 +200,9 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
   }
   if (allocate->parsed()) {
     return RunAllocate(options, streams);
+  }
+  if (simulate->parsed()) {
+    return RunSimulate(simulation_options, streams);
   }
   if (check->parsed()) {
     return RunCheck(options, streams);

@@ -54,6 +54,15 @@ tl::expected<std::int32_t, Problem> ParseWholeOption(std::string_view option,
   return *value;
 }
 
+tl::expected<double, Problem> ParseRealOption(std::string_view option, std::string_view text) {
+  const auto value = ParseDouble(text);
+  if (!value) {
+    return Fault("A number is wanted!",
+                 fmt::format("{}: {} is not a number such as 10.5", option, Quoted(text)));
+  }
+  return *value;
+}
+
 tl::expected<ErrorModel, Problem> ParseErrorModel(std::string_view text) {
   const std::size_t equals = text.find('=');
   const std::string_view kind = text.substr(0, equals);
@@ -114,6 +123,16 @@ tl::expected<std::vector<std::int32_t>, Problem> ParseSequence(std::string_view 
     indices.push_back(*index);
   }
   return indices;
+}
+
+tl::expected<std::uint32_t, Problem> ParseSeed(std::string_view text) {
+  const auto seed = ParseSeedNumber(text);
+  if (!seed) {
+    return Fault(
+        "That seed is not possible!",
+        fmt::format("--seed: {} is not a whole number from 0 to 4294967295", Quoted(text)));
+  }
+  return *seed;
 }
 
 tl::expected<unsigned, Problem> ParseThreads(std::string_view text) {

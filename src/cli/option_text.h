@@ -20,6 +20,9 @@ namespace kaldo {
 tl::expected<std::int32_t, Problem> ParseWholeOption(std::string_view option,
                                                      std::string_view text);
 
+/// A number with a decimal point.
+tl::expected<double, Problem> ParseRealOption(std::string_view option, std::string_view text);
+
 /// "none", "uniform=EPS", "nonuniform" or "nonuniform=M2,M1,FOCAL,P1,P2".
 tl::expected<ErrorModel, Problem> ParseErrorModel(std::string_view text);
 
@@ -28,6 +31,9 @@ std::vector<std::string> ParseNames(std::string_view text);
 
 /// Whole numbers between commas, the positions of a cumulative sequence.
 tl::expected<std::vector<std::int32_t>, Problem> ParseSequence(std::string_view text);
+
+/// The seed of the random numbers: 0 to 4294967295.
+tl::expected<std::uint32_t, Problem> ParseSeed(std::string_view text);
 
 /// The number of threads: 1 or more.
 tl::expected<unsigned, Problem> ParseThreads(std::string_view text);

@@ -59,9 +59,15 @@ TerminalProgress::~TerminalProgress() {
 void TerminalProgress::OnPart(std::string_view name, std::uint64_t steps) {
   const std::lock_guard lock(mutex_);
   part_ = name;
+  note_.clear();
   steps_ = steps;
   part_started_ = Clock::now();
   done_ = 0;
+}
+
+void TerminalProgress::OnNote(std::string_view note) {
+  const std::lock_guard lock(mutex_);
+  note_ = note;
 }
 
 bool TerminalProgress::StopRequested() const { return StopSignalled(); }
@@ -72,7 +78,7 @@ void TerminalProgress::DrawUntilEnd() {
   while (!end_.wait_for(lock, kPause, [this] { return ended_; })) {
     if (!part_.empty() && Clock::now() - started_ >= kSilentTime) {
       stream_ << kEraseLine << ProgressLine(part_, done_, steps_, Clock::now() - part_started_)
-              << std::flush;
+              << (note_.empty() ? "" : ", ") << note_ << std::flush;
       drawn = true;
     }
   }

@@ -25,6 +25,7 @@ class TerminalProgress : public RunObserver {
   ~TerminalProgress() override;
 
   void OnPart(std::string_view name, std::uint64_t steps) override;
+  void OnNote(std::string_view note) override;
   void OnSteps(std::uint64_t steps) override { done_ += steps; }
   bool StopRequested() const override;
 
@@ -39,6 +40,7 @@ class TerminalProgress : public RunObserver {
 
   std::mutex mutex_;  // guards what follows
   std::string part_;
+  std::string note_;
   std::uint64_t steps_ = 0;
   Clock::time_point part_started_ = Clock::now();
   bool ended_ = false;

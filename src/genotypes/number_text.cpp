@@ -31,6 +31,10 @@ std::optional<std::int32_t> ParseInteger(std::string_view text) {
   return ParseWhole<std::int32_t>(text);
 }
 
+std::optional<std::uint32_t> ParseSeedNumber(std::string_view text) {
+  return ParseWhole<std::uint32_t>(text);
+}
+
 std::optional<double> ParseDouble(std::string_view text) { return ParseWhole<double>(text); }
 
 }  // namespace kaldo

@@ -17,6 +17,13 @@ inline constexpr std::string_view kSequenceResultsFile = "/Sequence results.xls"
 inline constexpr std::string_view kSteppingErrorFile = "/Stepping error file.xls";
 inline constexpr std::string_view kRunRecordFile = "/Run record.toml";
 
+// Those of the simulation runs that both flows share.
+inline constexpr std::string_view kSummaryFile = "/Summary.xls";
+inline constexpr std::string_view kPseudoOffspringFile = "/pseudo-offspring.txt";
+
+/// The names of the loci of the last simulation, in the working folder.
+inline constexpr std::string_view kSavedLociFile = "SAUVLOCUSTULM.txt";
+
 /// The folder into which a run writes, named by the project name as the user typed it, relative to
 /// the working folder. It may hold path separators.
 class ProjectFolder {

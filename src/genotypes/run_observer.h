@@ -21,6 +21,9 @@ class RunObserver {
   /// A part of the run begins, for instance "Allocating", made of `steps` equal steps.
   virtual void OnPart(std::string_view /*name*/, std::uint64_t /*steps*/) {}
 
+  /// Where in the part the run is, in words: "subset 3 of 10".
+  virtual void OnNote(std::string_view /*note*/) {}
+
   /// So many further steps of the part are done.
   virtual void OnSteps(std::uint64_t /*steps*/) {}
 

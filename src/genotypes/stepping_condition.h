@@ -14,6 +14,11 @@ namespace kaldo {
 /// without any size, or with a single one, is in step.
 bool IsInStep(std::span<const AlleleSize> sorted_sizes);
 
+/// What a run says when its stepping report lists a locus.
+inline constexpr std::string_view kSteppingSentence =
+    "Some allelic distances not in step with the smallest difference. Please read the stepping "
+    "error file !";
+
 /// The text of "/Stepping error file.xls", and whether it lists any locus.
 struct SteppingReport {
   std::string text;

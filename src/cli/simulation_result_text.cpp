@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/simulation_result_text.h"
+
+#include <fmt/format.h>
+
+#include "genotypes/project_folder.h"
+#include "genotypes/version.h"
+#include "simulation/subset_title.h"
+
+namespace kaldo {
+
+namespace {
+
+std::string ParametersText(const SimulationSettings& settings, const SimulationFlow& flow,
+                           const SimulationRun& run) {
+  const auto& [input, result] = run;
+  return fmt::format(
+      "KALDO {}\n{}\n"
+      "  {} candidate parents, {} true parents in all, {} pseudo-offspring x {} iterations\n"
+      "  {} of {} loci in use, error model {}, maximum offset tolerance {}\n"
+      "  seed {}\n\n",
+      Version(), flow.TypeLine(settings.procedure), input.Candidates(flow.Design()).Size(),
+      input.NumberOfParents(), input.OffspringPerIteration(), settings.iterations,
+      input.loci.LociInUse().size(), input.loci.Count(), ShortDescription(settings.error_model),
+      settings.tolerance.Value(), result.seed);
+}
+
+std::string CorrectRow(std::string_view label, std::int32_t offspring, const Spread& spread) {
+  return fmt::format("  {:<12}{:>10}{:>12.4f}{:>12.4f}\n", label, offspring, spread.mean,
+                     spread.deviation);
+}
+
+/// Per class and globally, from the last subset of loci.
+std::string CorrectRows(const SimulationFlow& flow, const SimulationRun& run) {
+  const SimulationDesign& design = flow.Design();
+  const auto& [input, result] = run;
+  std::string text =
+      fmt::format("  {:<12}{:>10}{:>12}{:>12}\n", "true parents", "offspring", "correct", "sd");
+  for (std::size_t k = 0; k < design.classes.size(); ++k) {
+    const OriginClass& origin = design.classes[k];
+    if (input.class_sizes[k] == 0) {
+      text += fmt::format("  {:<12}{:>10}{:>12}{:>12}\n", origin.texts.label, 0, "NA", "NA");
+      continue;
+    }
+    text += CorrectRow(
+        origin.texts.label, input.class_sizes[k],
+        SpreadOver(result.iterations, design.row_spread, [&](const IterationCounts& counts) {
+          return CorrectFrequency(origin, counts.at(k));
+        }));
+  }
+  text += CorrectRow(
+      "GLOBAL", static_cast<std::int32_t>(input.OffspringPerIteration()),
+      SpreadOver(result.iterations, design.row_spread, [&](const IterationCounts& counts) {
+        return GlobalCorrectFrequency(design, input, counts);
+      }));
+  return text + fmt::format("\n  estimated probability that any allocation is correct: {:.4f}\n",
+                            result.LastSubset().figures[design.any_correct_figure]);
+}
+
+/// The subsets that a strategy ran through; of very many only the last.
+std::string SubsetRows(const SimulationSettings& settings, const SimulationFlow& flow,
+                       const SimulationRun& run) {
+  constexpr std::size_t kMostRows = 50;
+  const auto& [input, result] = run;
+  if (settings.strategy == LociStrategy::kChoice) {
+    return {};
+  }
+  std::string text =
+      fmt::format("Subsets of loci run: {}; any allocation correct:\n", result.subsets.size());
+  const std::size_t first =
+      result.subsets.size() > kMostRows ? result.subsets.size() - kMostRows : 0;
+  if (first > 0) {
+    text += "  ...\n";
+  }
+  for (std::size_t j = first; j < result.subsets.size(); ++j) {
+    text +=
+        fmt::format("  {:.4f}  {}\n", result.subsets[j].figures[flow.Design().any_correct_figure],
+                    NamesOf(input.loci, result.subsets[j].loci));
+  }
+  if (result.criterion_reached) {
+    text += fmt::format("The criterion {} has been reached with {} loci.\n", settings.criterion,
+                        result.LastSubset().loci.size());
+  } else if (settings.strategy == LociStrategy::kMinimal) {
+    text += fmt::format("No subset reached the criterion {}.\n", settings.criterion);
+  }
+  return text + "\nWith the last of them:\n";
+}
+
+}  // namespace
+
+std::string ShortResult(const SimulationSettings& settings, const SimulationFlow& flow,
+                        const SimulationRun& run) {
+  std::string text = ParametersText(settings, flow, run) + SubsetRows(settings, flow, run) +
+                     CorrectRows(flow, run);
+  text += fmt::format("\nFiles in \"{}\", first of all {}\n\n", settings.project,
+                      kSummaryFile.substr(1));
+  if (run.result.stepping.any_out_of_step) {
+    text.append(kSteppingSentence).append("\n");
+  }
+  return text.append(flow.Design().closing_sentence).append("\n");
+}
+
+}  // namespace kaldo

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include <tl/expected.hpp>
+
+#include "genotypes/loci_list.h"
+#include "simulation/simulation_settings.h"
+
+namespace kaldo {
+
+/// The loci of one run through all iterations, in the order in which they entered: file order, or
+/// that of the cumulative sequence.
+using LocusSubset = std::vector<LocusIndex>;
+
+/// The most subsets of one run.
+inline constexpr std::uint64_t kMostSubsets = std::uint64_t{1} << 20U;
+
+/// The subsets of loci that a strategy runs through, in order. They are made one by one: a million
+/// subsets take eight megabytes.
+class LocusSubsets {
+ public:
+  LocusSubsets() = default;
+
+  /// All subsets of `loci` with at least `start_with` of them, by growing size and inside a size in
+  /// lexicographic order of positions; the first k of `order_of_entry` for the cumulative strategy;
+  /// or `loci` once. More than kMostSubsets, or none, is a Problem.
+  static tl::expected<LocusSubsets, Problem> Of(const SimulationSettings& settings,
+                                                const LociList& loci);
+
+  std::size_t Count() const;
+  LocusSubset At(std::size_t subset) const;
+
+  /// All loci that take part, in order of entry.
+  const std::vector<LocusIndex>& Loci() const { return loci_; }
+
+ private:
+  std::vector<LocusIndex> loci_;
+  std::size_t first_prefix_ = 0;        ///< loci in the first subset when prefixes are taken
+  std::vector<std::uint64_t> choices_;  ///< else one bit per place in loci_
+};
+
+}  // namespace kaldo

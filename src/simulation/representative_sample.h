@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <span>
+#include <vector>
+
+#include "genotypes/allele_catalogue.h"
+
+namespace kaldo {
+
+/// Running sums of the allele frequencies of a sample at one locus, in single precision; behind the
+/// last allele they repeat the total, about 1.
+using CumulativeFrequencies = std::array<float, kMaxAlleles>;
+
+/// Sums count / (2 x individuals) over the places of a catalogue. The sum runs in double precision
+/// and each entry is rounded to single precision.
+CumulativeFrequencies ComputeCumulativeFrequencies(const AlleleCatalogue& catalogue,
+                                                   std::size_t individuals);
+
+/// Individuals whose allele frequencies stand for a part of the population that nobody sampled.
+/// Alleles are drawn from it independently, as under Hardy-Weinberg proportions without linkage.
+class RepresentativeSample {
+ public:
+  RepresentativeSample() = default;
+
+  /// Takes the catalogue of each locus, in the order of the names-of-loci file (empty at loci not
+  /// in use). The catalogues must not be sorted: sizes would part from their counts.
+  RepresentativeSample(std::vector<AlleleCatalogue> unsorted_catalogues, std::size_t individuals);
+
+  /// The size of the first allele whose running sum reaches `u`, at the latest the last one. At a
+  /// locus without any allele it is undefined.
+  AlleleSize Draw(LocusIndex locus, double u) const {
+    const auto sizes = catalogues_[locus.Value()].Sizes();
+    const CumulativeFrequencies& cumulative = cumulative_[locus.Value()];
+    if (sizes.empty()) {
+      return kUndefinedAllele;
+    }
+    std::size_t place = 0;
+    while (place + 1 < sizes.size() && u > static_cast<double>(cumulative[place])) {
+      ++place;
+    }
+    return sizes[place];
+  }
+
+  std::span<const AlleleSize> Sizes(LocusIndex locus) const {
+    return catalogues_[locus.Value()].Sizes();
+  }
+
+ private:
+  std::vector<AlleleCatalogue> catalogues_;
+  std::vector<CumulativeFrequencies> cumulative_;
+};
+
+}  // namespace kaldo

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "allocation/allocation_outcome.h"
+#include "simulation/iteration_counts.h"
+#include "simulation/origin_class.h"
+
+namespace kaldo {
+
+/// The sides of `accepted` as the flow codes them.
+SideCode CodeOfSides(Flow flow, bool first_side, bool second_side);
+
+/// Which sides of `pair`, as far as they are accepted, are true parents. Sexed: the male must be
+/// the true father, the female the true mother. Non-sexed: either true parent will do for either
+/// side.
+SideCode CodeOfTrueParents(Flow flow, ParentPair pair, ParentPair truth, bool first_accepted,
+                           bool second_accepted);
+
+/// Counts one pseudo-offspring of a class whose true parents are known.
+void Score(Flow flow, const OriginClass& origin, const AllocationOutcome& outcome, ParentPair truth,
+           ClassCounts& counts);
+
+}  // namespace kaldo

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "simulation/simulated_iteration.h"
+
+#include <algorithm>
+
+#include "genotypes/unit_distance.h"
+#include "simulation/iteration_states.h"
+#include "simulation/scoring.h"
+#include "simulation/simulated_parents.h"
+
+namespace kaldo {
+
+namespace {
+
+/// The non-sexed flow lets errors act in the production only and allocates without any.
+ErrorModel AllocationModel(const SimulationSettings& settings) {
+  ErrorModel model = settings.error_model;
+  if (settings.flow == Flow::kNonSexed) {
+    model.kind = ErrorKind::kNoError;
+  }
+  return model;
+}
+
+CandidateGroup CandidatesOf(const SimulationInput& input, const SimulationDesign& design) {
+  if (design.flow == Flow::kSexed) {
+    return {input.groups[0].slots, input.groups[1].slots};
+  }
+  return {input.groups[0].slots, input.groups[0].slots};
+}
+
+}  // namespace
+
+SimulatedIteration::SimulatedIteration(const SimulationSettings& settings,
+                                       const SimulationInput& input, const SimulationDesign& design)
+    : settings_(settings),
+      input_(input),
+      design_(design),
+      draw_(input.digits_per_field / 2),
+      allocation_model_(AllocationModel(settings)),
+      offspring_{input.NumberOfParents(), input.NumberOfParents() + input.OffspringPerIteration()},
+      candidates_{CandidatesOf(input, design)},
+      in_use_(input.loci.Count()),
+      table_(input.loci.Count()),
+      catalogues_(input.loci.Count()),
+      production_matrices_(input.loci.Count()),
+      allocation_matrices_(input.loci.Count()),
+      scores_(0, 0),
+      truth_(offspring_.Size()),
+      outcomes_(offspring_.Size()) {
+  for (std::uint32_t slot = 0; slot < offspring_.end; ++slot) {
+    table_.AddIndividual("unnamed");
+  }
+}
+
+void SimulatedIteration::UseLoci(const LocusSubset& loci) {
+  loci_.loci = loci;
+  std::sort(loci_.loci.begin(), loci_.loci.end());
+  loci_.unit_distances.assign(loci.size(), BasePairs{});
+  std::fill(in_use_.begin(), in_use_.end(), std::uint8_t{0});
+  for (const LocusIndex locus : loci) {
+    in_use_[locus.Value()] = 1;
+  }
+  scores_ = TransmissionScores(loci.size(), input_.Candidates(design_).Size());
+  for (std::uint32_t locus = 0; locus < in_use_.size(); ++locus) {
+    const auto collected = input_.collected.Locus(LocusIndex{locus});
+    for (std::uint32_t slot = 0; slot < collected.size(); ++slot) {
+      table_.Genotype(LocusIndex{locus}, Slot{slot}) =
+          in_use_[locus] != 0 ? collected[slot] : LocusGenotype{};
+    }
+  }
+}
+
+void SimulatedIteration::DrawAllParents(RandomNumbers& random) {
+  for (const ParentalGroup& group : input_.groups) {
+    if (group.sample) {
+      DrawParents(table_, group.slots, *group.sample, in_use_, draw_, random);
+    }
+  }
+}
+
+void SimulatedIteration::CatalogueParents() {
+  for (std::size_t k = 0; k < loci_.loci.size(); ++k) {
+    const LocusIndex locus = loci_.loci[k];
+    const auto parents = table_.Locus(locus).first(input_.NumberOfParents());
+    AlleleCatalogue& catalogue = catalogues_[locus.Value()];
+    // The files together hold at most 100 sizes, so that no parent can bring one too many.
+    catalogue = AlleleCatalogue::Build(parents).value();
+    catalogue.SortSizes();
+    catalogue.ReIndex(parents);
+    loci_.unit_distances[k] = UnitDistance(catalogue.Sizes());
+    BuildMatrix(settings_.error_model, catalogue.Sizes(), production_matrices_[locus.Value()]);
+    BuildMatrix(allocation_model_, catalogue.Sizes(), allocation_matrices_[locus.Value()]);
+  }
+}
+
+void SimulatedIteration::Produce(RandomNumbers& random) {
+  std::uint32_t next = 0;
+  for (std::size_t k = 0; k < design_.classes.size(); ++k) {
+    const TrueParentRanges ranges = RangesOf(design_.classes[k], input_);
+    for (std::int32_t i = 0; i < input_.class_sizes[k]; ++i, ++next) {
+      truth_[next] = DrawTrueParents(ranges, random);
+      ProducePseudoOffspring(table_, Slot{offspring_.begin + next}, truth_[next], in_use_,
+                             production_matrices_, catalogues_, draw_, random);
+    }
+  }
+}
+
+AllocationOutcome SimulatedIteration::AllocateOne(Slot offspring, const RunObserver& observer) {
+  ComputeTransmissionScores(table_, offspring, loci_.loci, allocation_matrices_, scores_);
+  AllocationOutcome outcome = SearchPairs(scores_, {settings_.flow, candidates_, {}}, observer);
+  DecideSides(table_, offspring, loci_, settings_.tolerance, outcome);
+  return outcome;
+}
+
+IterationCounts SimulatedIteration::Run(std::uint32_t state, const RunObserver& observer) {
+  RandomNumbers random(state);
+  DrawAllParents(random);
+  CatalogueParents();
+  Produce(random);
+  IterationCounts counts{};
+  std::uint32_t next = 0;
+  for (std::size_t k = 0; k < design_.classes.size(); ++k) {
+    for (std::int32_t i = 0; i < input_.class_sizes[k]; ++i, ++next) {
+      outcomes_[next] = AllocateOne(Slot{offspring_.begin + next}, observer);
+      Score(settings_.flow, design_.classes[k], outcomes_[next], truth_[next], counts.at(k));
+    }
+  }
+  return counts;
+}
+
+AlleleCatalogues SimulatedIteration::CataloguesOfAll() const {
+  AlleleCatalogues catalogues(input_.loci.Count());
+  for (const LocusIndex locus : loci_.loci) {
+    catalogues[locus.Value()] = AlleleCatalogue::Build(table_.Locus(locus)).value();
+    catalogues[locus.Value()].SortSizes();
+  }
+  return catalogues;
+}
+
+}  // namespace kaldo

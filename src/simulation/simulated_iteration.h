@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "allocation/allocation_decision.h"
+#include "allocation/pair_search.h"
+#include "genotypes/catalogued_loci.h"
+#include "genotypes/run_observer.h"
+#include "simulation/iteration_counts.h"
+#include "simulation/random_numbers.h"
+#include "simulation/simulation_input.h"
+
+namespace kaldo {
+
+/// One iteration of a simulation, start to end: parents, pseudo-offspring, allocation, scores. The
+/// object keeps its tables between iterations, so that none of them allocates memory; each thread
+/// has one of its own.
+class SimulatedIteration {
+ public:
+  SimulatedIteration(const SimulationSettings& settings, const SimulationInput& input,
+                     const SimulationDesign& design);
+
+  /// Chooses the loci of the iterations that follow.
+  void UseLoci(const LocusSubset& loci);
+
+  /// Runs the iteration that starts at `state` of the random numbers, and counts.
+  IterationCounts Run(std::uint32_t state, const RunObserver& observer);
+
+  // What the last Run() made: the parent table with the pseudo-offspring behind it, per
+  // pseudo-offspring its true parents and its allocation, and the catalogues of the parents.
+  const GenotypeTable& Table() const { return table_; }
+  SlotRange Offspring() const { return offspring_; }
+  std::span<const ParentPair> TrueParents() const { return truth_; }
+  std::span<const AllocationOutcome> Outcomes() const { return outcomes_; }
+  const LociOfRun& Loci() const { return loci_; }
+  const AlleleCatalogues& Catalogues() const { return catalogues_; }
+
+  /// The catalogues over parents and pseudo-offspring, for the listing of alleles.
+  AlleleCatalogues CataloguesOfAll() const;
+
+ private:
+  void DrawAllParents(RandomNumbers& random);
+  void CatalogueParents();
+  void Produce(RandomNumbers& random);
+  AllocationOutcome AllocateOne(Slot offspring, const RunObserver& observer);
+
+  const SimulationSettings& settings_;
+  const SimulationInput& input_;
+  const SimulationDesign& design_;
+  UnitDraw draw_;
+  ErrorModel allocation_model_;
+  SlotRange offspring_;
+  std::vector<CandidateGroup> candidates_;
+
+  std::vector<std::uint8_t> in_use_;
+  LociOfRun loci_;
+
+  GenotypeTable table_;
+  AlleleCatalogues catalogues_;
+  std::vector<TransmissionMatrix> production_matrices_;
+  std::vector<TransmissionMatrix> allocation_matrices_;
+  TransmissionScores scores_;
+  std::vector<ParentPair> truth_;
+  std::vector<AllocationOutcome> outcomes_;
+};
+
+}  // namespace kaldo

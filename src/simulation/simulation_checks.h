@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+
+#include "allocation/error_model.h"
+#include "genotypes/problem.h"
+#include "simulation/simulation_settings.h"
+
+namespace kaldo {
+
+/// The checks of the transmission error screen of the simulations: Uniform as in an allocation; Non
+/// Uniform focal first, then the sum, added from plus2 to focal.
+std::optional<Problem> ValidateForSimulation(const ErrorModel& model);
+
+/// The numbers of the screens: tolerance, iterations, criterion, loci to start with, then numbers
+/// of parents and of pseudo-offspring, which must leave something to simulate.
+std::optional<Problem> CheckSimulationNumbers(const SimulationSettings& settings);
+
+}  // namespace kaldo

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "simulation/simulation_files.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "genotypes/capacities.h"
+#include "genotypes/file_wide_checks.h"
+#include "genotypes/record_checks.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::string_view kOddSentence =
+    "Some parental loci are represented with an odd number of digits!";
+constexpr std::string_view kUndefinedSentence =
+    "Parental loci should not contain undefined alleles i.e. represented by a string of 0s!";
+constexpr std::string_view kHalfSentence =
+    "Loci should contain totally defined alleles(no string of 0s) or totally undefined alleles "
+    "(two "
+    "strings of 0s)!";
+constexpr std::string_view kMaleHalfSentence =
+    "Male loci should contain totally defined alleles(no string of 0s) or totally undefined "
+    "alleles "
+    "(two strings of 0s)!";
+// Spelt as users know it.
+constexpr std::string_view kFemaleHalfSentence =
+    "Femele loci should contain totally defined alleles(no string of 0s) or totally undefined "
+    "alleles (two strings of 0s)!";
+
+/// What is known of a group's file before it is opened.
+struct GroupPath {
+  const std::string* path = nullptr;
+  std::string_view missing_sentence;
+  std::string role;
+  bool holds_parents = false;
+  std::string_view half_sentence;
+};
+
+std::string RoleOf(Flow flow, const GroupDesign& group, bool holds_parents) {
+  const std::string_view who = flow == Flow::kNonSexed ? "parents"
+                               : group.set == 0        ? "males"
+                                                       : "females";
+  if (holds_parents) {
+    return fmt::format("collected {}", who);
+  }
+  return fmt::format("sample of {} {}", group.collected ? "pseudo-collected" : "uncollected", who);
+}
+
+GroupPath PathOf(const SimulationSettings& settings, const GroupDesign& group) {
+  const ParentalSet& set = settings.sets.at(group.set);
+  GroupPath path;
+  path.holds_parents = group.collected && settings.procedure == Procedure::kParental;
+  path.path = !group.collected     ? &set.uncollected_sample
+              : path.holds_parents ? &set.collected_file
+                                   : &set.pseudo_collected_sample;
+  path.missing_sentence =
+      path.holds_parents ? "Parent file name is missing!" : "File name is missing!";
+  path.role = RoleOf(settings.flow, group, path.holds_parents);
+  path.half_sentence = settings.flow == Flow::kNonSexed ? kHalfSentence
+                       : group.set == 0                 ? kMaleHalfSentence
+                                                        : kFemaleHalfSentence;
+  return path;
+}
+
+Problem Missing(std::string_view sentence) {
+  Problem problem;
+  problem.sentence = sentence;
+  return problem;
+}
+
+/// One allele of two is told first in the sexed flow, also for collected parents; then, for
+/// collected parents, any undefined allele.
+std::optional<Problem> CheckGroup(const GroupFile& group, const LociList& loci, bool tells_halves) {
+  FileWideCheck check{&group.tokens, Separators::kNone, UndefinedAlleles::kWholeLoci, kOddSentence,
+                      group.half_sentence};
+  if (!group.holds_parents || tells_halves) {
+    if (auto problem = CheckFileWide(check, loci)) {
+      return problem;
+    }
+  }
+  if (!group.holds_parents) {
+    return std::nullopt;
+  }
+  check.undefined_alleles = UndefinedAlleles::kNone;
+  check.undefined_sentence = kUndefinedSentence;
+  return CheckFileWide(check, loci);
+}
+
+std::optional<Problem> CheckNoSeparators(const GroupFile& group) {
+  const auto tokens = group.tokens.Tokens();
+  const auto separator = std::find_if(
+      tokens.begin(), tokens.end(), [](const Token& token) { return token.text.starts_with('*'); });
+  if (separator == tokens.end()) {
+    return std::nullopt;
+  }
+  Problem problem;
+  problem.sentence = "Simulation files have no separators!";
+  problem.file = group.tokens.Path();
+  problem.line = separator->line;
+  problem.found = "simulated parents form one group; leave the \"*\" out";
+  return problem;
+}
+
+}  // namespace
+
+tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
+                                                           const SimulationDesign& design) {
+  if (settings.loci_file.empty()) {
+    return tl::unexpected(Missing("Names of loci file name is missing!"));
+  }
+  std::vector<GroupPath> paths;
+  for (const GroupDesign& group : design.groups) {
+    paths.push_back(PathOf(settings, group));
+    if (paths.back().path->empty()) {
+      return tl::unexpected(Missing(paths.back().missing_sentence));
+    }
+  }
+  SimulationFiles files;
+  auto loci = TokenFile::Read(settings.loci_file);
+  if (!loci) {
+    return tl::unexpected(std::move(loci.error()));
+  }
+  files.loci = std::move(*loci);
+  for (GroupPath& path : paths) {
+    auto tokens = TokenFile::Read(*path.path);
+    if (!tokens) {
+      return tl::unexpected(std::move(tokens.error()));
+    }
+    files.groups.push_back(
+        {std::move(*tokens), std::move(path.role), path.holds_parents, path.half_sentence});
+  }
+  return files;
+}
+
+std::optional<Problem> CheckSimulationFiles(const SimulationFiles& files, const LociList& loci) {
+  const bool sexed = files.groups.size() > 2;
+  for (const GroupFile& group : files.groups) {
+    if (auto problem = CheckGroup(group, loci, sexed)) {
+      return problem;
+    }
+  }
+  return std::nullopt;
+}
+
+std::optional<Problem> CheckSimulationRecords(const SimulationFiles& files, const LociList& loci,
+                                              std::size_t digits_per_field) {
+  const RecordLayout layout{loci.Count(), Separators::kNone};
+  for (const GroupFile& group : files.groups) {
+    if (auto problem = CheckNoSeparators(group)) {
+      return problem;
+    }
+    const std::size_t individuals = CountIndividuals(group.tokens, layout);
+    if (individuals == 0 || individuals > kMaxIndividuals) {
+      Problem problem;
+      problem.sentence = individuals == 0
+                             ? fmt::format("The file of {} holds no individual!", group.role)
+                             : fmt::format("More than {} individuals!", kMaxIndividuals);
+      problem.file = group.tokens.Path();
+      problem.found = fmt::format("{} records", individuals);
+      return problem;
+    }
+    if (auto problem = CheckRecords(group.tokens, layout, loci, digits_per_field)) {
+      return problem;
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include <tl/expected.hpp>
+
+#include "genotypes/loci_list.h"
+#include "simulation/simulation_flow.h"
+
+namespace kaldo {
+
+/// The file behind a parental group, with the sentences that belong to it.
+struct GroupFile {
+  TokenFile tokens;
+  std::string role;                ///< as in messages and run records
+  bool holds_parents = false;      ///< collected parents, not a sample to draw from
+  std::string_view half_sentence;  ///< told for a locus with one allele of two
+};
+
+/// The open files of a simulation.
+struct SimulationFiles {
+  TokenFile loci;
+  std::vector<GroupFile> groups;  ///< as in the design of the flow
+};
+
+/// Opens the files: first every name must be given, then every file must open.
+tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
+                                                           const SimulationDesign& design);
+
+/// The tests of the file screens, group after group; each screen tells its own fault at once.
+std::optional<Problem> CheckSimulationFiles(const SimulationFiles& files, const LociList& loci);
+
+/// The stricter tests of every record: those of an allocation, and no separators.
+std::optional<Problem> CheckSimulationRecords(const SimulationFiles& files, const LociList& loci,
+                                              std::size_t digits_per_field);
+
+}  // namespace kaldo

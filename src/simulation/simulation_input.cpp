@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "simulation/simulation_input.h"
+
+#include <cmath>
+#include <numeric>
+#include <set>
+
+#include <fmt/format.h>
+
+#include "allocation/cumulative_sequence.h"
+#include "genotypes/genotype_reader.h"
+#include "genotypes/record_checks.h"
+#include "simulation/simulation_checks.h"
+#include "simulation/simulation_files.h"
+
+namespace kaldo {
+
+namespace {
+
+/// Offspring of two collected parents need two of them, whatever was typed.
+constexpr std::uint32_t kFewestPseudoCollected = 2;
+
+Problem Fault(std::string sentence, std::string found) {
+  Problem problem;
+  problem.sentence = std::move(sentence);
+  problem.found = std::move(found);
+  return problem;
+}
+
+std::optional<Problem> ApplyChoices(const SimulationSettings& settings, SimulationInput& input) {
+  if (auto problem = ValidateForSimulation(settings.error_model)) {
+    return problem;
+  }
+  if (settings.loci_in_use) {
+    if (auto problem = input.loci.Use(*settings.loci_in_use)) {
+      return problem;
+    }
+  }
+  if (!settings.sequence.empty()) {
+    if (auto problem = CheckSequence(settings.sequence, input.loci.Count())) {
+      return problem;
+    }
+  }
+  auto subsets = LocusSubsets::Of(settings, input.loci);
+  if (!subsets) {
+    return std::move(subsets.error());
+  }
+  input.subsets = std::move(*subsets);
+  return std::nullopt;
+}
+
+/// The simulated parents of a group: a fraction of a parent is one more.
+std::uint32_t SimulatedParents(const SimulationSettings& settings, const GroupDesign& group) {
+  const ParentalSet& set = settings.sets.at(group.set);
+  if (!group.collected) {
+    return static_cast<std::uint32_t>(std::ceil(set.uncollected));
+  }
+  const auto wanted = static_cast<std::uint32_t>(set.pseudo_collected);
+  return settings.flow == Flow::kNonSexed ? std::max(wanted, kFewestPseudoCollected) : wanted;
+}
+
+tl::expected<RepresentativeSample, Problem> LoadSample(const GroupFile& file,
+                                                       const LociList& loci) {
+  GenotypeTable table(loci.Count());
+  AppendIndividuals(file.tokens, {loci.Count(), Separators::kNone}, loci, table);
+  std::vector<AlleleCatalogue> catalogues(loci.Count());
+  for (const LocusIndex locus : loci.LociInUse()) {
+    auto catalogue = AlleleCatalogue::Build(table.Locus(locus));
+    if (!catalogue || catalogue->Sizes().empty()) {
+      Problem problem =
+          catalogue ? Fault("A sample has no defined allele at a locus!",
+                            "nothing can be drawn from it; leave the locus out")
+                    : Fault(fmt::format("More than {} alleles at a locus!", kMaxAlleles), "");
+      problem.file = file.tokens.Path();
+      problem.locus = loci.Name(locus);
+      return tl::unexpected(std::move(problem));
+    }
+    catalogues[locus.Value()] = *catalogue;
+  }
+  return RepresentativeSample(std::move(catalogues), table.NumberOfIndividuals());
+}
+
+/// Loads the groups in the order of the parent table.
+std::optional<Problem> LoadGroups(const SimulationSettings& settings,
+                                  const SimulationDesign& design, const SimulationFiles& files,
+                                  SimulationInput& input) {
+  input.collected = GenotypeTable(input.loci.Count());
+  std::uint32_t begin = 0;
+  for (std::size_t k = 0; k < design.groups.size(); ++k) {
+    const GroupFile& file = files.groups[k];
+    ParentalGroup group;
+    if (file.holds_parents) {
+      group.slots = AppendIndividuals(file.tokens, {input.loci.Count(), Separators::kNone},
+                                      input.loci, input.collected);
+      begin = group.slots.end;
+    } else {
+      auto sample = LoadSample(file, input.loci);
+      if (!sample) {
+        return std::move(sample.error());
+      }
+      group.sample = std::move(*sample);
+      group.slots = {begin, begin + SimulatedParents(settings, design.groups[k])};
+      begin = group.slots.end;
+    }
+    if (design.groups[k].collected) {
+      const ParentalSet& set = settings.sets.at(design.groups[k].set);
+      input.collected_numbers.push_back(file.holds_parents
+                                            ? static_cast<double>(group.slots.Size())
+                                            : static_cast<double>(set.pseudo_collected));
+    }
+    input.groups.push_back(std::move(group));
+    input.files.push_back({file.role, file.tokens.Path(), file.tokens.Digest()});
+  }
+  input.files.push_back({"names of loci", files.loci.Path(), files.loci.Digest()});
+  return std::nullopt;
+}
+
+/// The parents of an iteration share one catalogue, which must hold what any of them may carry.
+std::optional<Problem> CheckAlleles(const SimulationInput& input) {
+  for (const LocusIndex locus : input.loci.LociInUse()) {
+    std::set<AlleleSize> sizes;
+    for (const LocusGenotype& genotype : input.collected.Locus(locus)) {
+      sizes.insert({genotype.allele1, genotype.allele2});
+    }
+    for (const ParentalGroup& group : input.groups) {
+      if (group.sample) {
+        sizes.insert(group.sample->Sizes(locus).begin(), group.sample->Sizes(locus).end());
+      }
+    }
+    if (sizes.size() > kMaxAlleles) {
+      Problem problem = Fault(fmt::format("More than {} alleles at a locus!", kMaxAlleles),
+                              fmt::format("the files together have {} sizes there", sizes.size()));
+      problem.locus = input.loci.Name(locus);
+      return problem;
+    }
+  }
+  return std::nullopt;
+}
+
+/// A class with pseudo-offspring needs a true parent in each of its groups, and two if both come
+/// from one group.
+std::optional<Problem> CheckGroupSizes(const SimulationDesign& design,
+                                       const SimulationInput& input) {
+  if (input.NumberOfParents() > kMaxIndividuals) {
+    return Fault(fmt::format("More than {} individuals!", kMaxIndividuals),
+                 fmt::format("{} parents in an iteration", input.NumberOfParents()));
+  }
+  for (std::size_t k = 0; k < design.classes.size(); ++k) {
+    const OriginClass& origin = design.classes[k];
+    const std::size_t first = input.groups[origin.first_group].slots.Size();
+    const std::size_t second = input.groups[origin.second_group].slots.Size();
+    const std::size_t needed = origin.SameGroup() ? 2 : 1;
+    if (input.class_sizes[k] > 0 && (first < needed || second < needed)) {
+      return Fault(
+          "There are too few parents for the pseudo-offspring!",
+          fmt::format("{} pseudo-offspring of origin {} need {} true parents, of which {} "
+                      "and {} are there",
+                      input.class_sizes[k], origin.texts.label,
+                      origin.SameGroup() ? "two different" : "one and one", first, second));
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+SlotRange SimulationInput::Candidates(const SimulationDesign& design) const {
+  std::uint32_t end = 0;
+  for (std::size_t k = 0; k < groups.size(); ++k) {
+    end = design.groups[k].collected ? groups[k].slots.end : end;
+  }
+  return {0, end};
+}
+
+std::uint32_t SimulationInput::OffspringPerIteration() const {
+  return static_cast<std::uint32_t>(
+      std::accumulate(class_sizes.begin(), class_sizes.end(), std::int32_t{0}));
+}
+
+tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
+                                                           const SimulationFlow& flow) {
+  const SimulationDesign& design = flow.Design();
+  auto files = OpenSimulationFiles(settings, design);
+  if (!files) {
+    return tl::unexpected(std::move(files.error()));
+  }
+  if (auto problem = CheckSimulationNumbers(settings)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  SimulationInput input;
+  input.loci = LociList(files->loci);
+  if (auto problem = CheckSimulationFiles(*files, input.loci)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  if (auto problem = CheckLoci(files->loci)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  input.digits_per_field =
+      DigitsPerField(files->groups.front().tokens, {input.loci.Count(), Separators::kNone});
+  if (auto problem = CheckSimulationRecords(*files, input.loci, input.digits_per_field)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  if (auto problem = ApplyChoices(settings, input)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  if (auto problem = LoadGroups(settings, design, *files, input)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  if (auto problem = CheckAlleles(input)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  input.weights = flow.Weights(settings, input.collected_numbers);
+  input.class_sizes = flow.ClassSizes(settings, input.collected_numbers);
+  if (auto problem = CheckGroupSizes(design, input)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  return input;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include <tl/expected.hpp>
+
+#include "genotypes/genotype_table.h"
+#include "genotypes/loci_list.h"
+#include "genotypes/run_record.h"
+#include "simulation/locus_subsets.h"
+#include "simulation/representative_sample.h"
+#include "simulation/simulation_flow.h"
+
+namespace kaldo {
+
+/// One parental group of a run: parents from a file, or parents drawn anew at every iteration.
+struct ParentalGroup {
+  SlotRange slots;                             ///< in the parent table of an iteration
+  std::optional<RepresentativeSample> sample;  ///< nothing for collected parents
+};
+
+/// The checked and loaded files of a simulation, and what follows from them for every iteration.
+struct SimulationInput {
+  LociList loci;
+  std::size_t digits_per_field = 0;
+
+  std::vector<ParentalGroup> groups;  ///< as in the design of the flow
+  GenotypeTable collected;            ///< PARENTAL: the parents of the collected groups, in slots
+
+  std::vector<double> collected_numbers;  ///< per set: parents collected, or to be drawn, as typed
+  std::vector<double> weights;            ///< per class: its share in the population
+  std::vector<std::int32_t> class_sizes;  ///< per class: its pseudo-offspring in an iteration
+  LocusSubsets subsets;
+
+  std::vector<RecordedInput> files;
+
+  std::uint32_t NumberOfParents() const { return groups.back().slots.end; }
+
+  /// The candidates of the allocation: the collected groups, which come first.
+  SlotRange Candidates(const SimulationDesign& design) const;
+
+  std::uint32_t OffspringPerIteration() const;
+};
+
+/// Tests the settings and the files of a simulation in the order of its screens, then each record
+/// for itself and the group sizes, and loads them. Nothing is written.
+tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
+                                                           const SimulationFlow& flow);
+
+}  // namespace kaldo

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <tl/expected.hpp>
+
+#include "genotypes/run_record.h"
+#include "simulation/simulation_run.h"
+
+namespace kaldo {
+
+/// The names of the simulation flows in run records.
+inline constexpr std::string_view kNonSexedSimulationFlow = "simulation, non-sexed";
+inline constexpr std::string_view kSexedSimulationFlow = "simulation, sexed";
+
+/// The record of a finished simulation, with the seed that was used.
+RunRecord RecordOf(const SimulationSettings& settings, const SimulationInput& input,
+                   const SimulationResult& result);
+
+/// The settings of a recorded simulation of either flow, the seed among them. A setting that is
+/// missing or of the wrong kind is a Problem; `path` names the record in it.
+tl::expected<SimulationSettings, Problem> SimulationSettingsOf(const RunRecord& record,
+                                                               const std::string& path);
+
+}  // namespace kaldo

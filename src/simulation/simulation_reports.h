@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "genotypes/report_set.h"
+#include "simulation/simulated_iteration.h"
+#include "simulation/simulation_run.h"
+
+namespace kaldo {
+
+/// All files of a simulation run. The project folder is tried when this object is made; the files
+/// are put in place together at the end of Write().
+class SimulationReports {
+ public:
+  /// Throws RunFailure when the project folder cannot be written to.
+  SimulationReports(const SimulationSettings& settings, const SimulationFlow& flow);
+
+  /// Writes every report, the kept individuals of the last iteration, the saved loci and the run
+  /// record. Throws RunFailure or RunStopped.
+  void Write(const SimulationSettings& settings, const SimulationInput& input,
+             const SimulationResult& result, RunObserver& observer);
+
+ private:
+  void WriteTables(const SimulationSettings& settings, const SimulationInput& input,
+                   const SimulationResult& result);
+  void WriteIndividuals(const SimulationSettings& settings, const SimulationInput& input,
+                        const SimulationResult& result, const SimulatedIteration& last);
+  void WriteMatrices(const SimulationSettings& settings, const SimulationInput& input,
+                     const SimulationResult& result, RunObserver& observer);
+  /// Writes a file, or has one of an earlier run removed when there is nothing to write.
+  void AddOrRemove(std::string_view file, std::string_view text);
+
+  const SimulationFlow& flow_;
+  ReportSet reports_;
+  ReportFile& summary_;
+};
+
+}  // namespace kaldo

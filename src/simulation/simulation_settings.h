@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "allocation/error_model.h"
+#include "allocation/flow.h"
+#include "allocation/offset_tolerance.h"
+
+namespace kaldo {
+
+/// Where the candidates of a simulation come from.
+enum class Procedure {
+  kParental,     ///< after the field work: the genotypes of the parents collected
+  kPreParental,  ///< before it: pseudo-collected parents drawn from a sample at every iteration
+};
+
+/// Which loci a simulation runs with.
+enum class LociStrategy {
+  kChoice,      ///< the loci in use, once
+  kAll,         ///< every subset of them, from the smallest size wanted on
+  kMinimal,     ///< the same subsets, until one is as good as the criterion
+  kCumulative,  ///< the first 1, 2, ... of a sequence
+};
+
+/// One set of parents: all of them in the non-sexed flow, the males or the females in the sexed
+/// one.
+struct ParentalSet {
+  std::string collected_file;           ///< PARENTAL: genotypes of the collected parents
+  std::string pseudo_collected_sample;  ///< PRE-PARENTAL: the sample to draw from
+  std::int32_t pseudo_collected = 0;    ///< PRE-PARENTAL: parents to draw
+  std::string uncollected_sample;       ///< the sample to draw the uncollected parents from
+  double uncollected = 0;               ///< parents to draw; 10.5 are eleven
+
+  // Sexed flow: estimated numbers in the population, which only set the proportions of the classes.
+  double estimated_collected = 0;
+  double estimated_uncollected = 0;
+};
+
+/// Which of the generated files stay on disk.
+struct KeptFiles {
+  bool parents = false;
+  bool offspring = false;
+  bool matrices = false;
+
+  friend bool operator==(const KeptFiles&, const KeptFiles&) = default;
+};
+
+/// Everything a user chooses for a simulation.
+struct SimulationSettings {
+  Flow flow = Flow::kNonSexed;
+  Procedure procedure = Procedure::kParental;
+
+  std::string project;
+  std::string loci_file;
+
+  /// The parental sets: one in the non-sexed flow, males and females in the sexed one.
+  std::array<ParentalSet, 2> sets;
+
+  std::int32_t iterations = 1;
+  std::int32_t offspring_per_iteration = 1;
+  OffsetTolerance tolerance{1};
+  ErrorModel error_model;
+
+  std::optional<std::vector<std::string>> loci_in_use;  ///< by name; all when nothing is said
+
+  LociStrategy strategy = LociStrategy::kChoice;
+  double criterion = 0.95;             ///< kMinimal: the probability that any allocation is correct
+  std::int32_t start_with = 1;         ///< smallest number of loci of the subset strategies
+  std::vector<std::int32_t> sequence;  ///< kCumulative: position of each locus; empty: file order
+
+  bool print_iterations = false;
+  bool print_subset_statistics = false;
+  std::optional<KeptFiles> keep;  ///< nothing said: see KeptFilesOf
+
+  std::optional<std::uint32_t> seed;  ///< nothing said: the calendar time in seconds
+  unsigned threads = 0;               ///< 0: as many as cores; results never depend on it
+
+  std::span<const ParentalSet> Sets() const {
+    return std::span(sets).first(flow == Flow::kSexed ? 2 : 1);
+  }
+};
+
+/// What is kept: as told; else parents and pseudo-offspring in the non-sexed flow, nothing in the
+/// sexed one.
+KeptFiles KeptFilesOf(const SimulationSettings& settings);
+
+}  // namespace kaldo
