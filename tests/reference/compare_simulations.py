@@ -23,7 +23,7 @@ from simulation_hand_worked import check_hand_worked
 from simulation_reference import FILES, SAVED_LOCI, parse_simulation, simulate, write_simulation
 from simulation_sets import make_simulation_set
 
-DEFAULT_SETS = 80
+DEFAULT_SETS = 96
 
 
 def compare_files(folder, run, completed):
