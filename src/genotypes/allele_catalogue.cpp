@@ -3,27 +3,23 @@
 
 #include <algorithm>
 #include <cassert>
-#include <vector>
 
 namespace kaldo {
 
 namespace {
 
-/// The place of each size seen so far, by size; sizes have at most four digits, so a plain table
-/// is small.
+/// The place of each size seen so far, by size. Simulations come here at every iteration and locus:
+/// the table stays on the stack.
 class PlaceOfSize {
  public:
   static constexpr std::uint8_t kUnlisted = kMaxAlleles;
 
-  std::uint8_t& operator[](AlleleSize size) {
-    if (size.Value() >= places_.size()) {
-      places_.resize(size.Value() + 1, kUnlisted);
-    }
-    return places_[size.Value()];
-  }
+  PlaceOfSize() { places_.fill(kUnlisted); }
+
+  std::uint8_t& operator[](AlleleSize size) { return places_.at(size.Value()); }
 
  private:
-  std::vector<std::uint8_t> places_;
+  std::array<std::uint8_t, kLargestAlleleSize + 1> places_{};
 };
 
 }  // namespace

@@ -26,6 +26,9 @@ inline constexpr std::size_t kMaxLocusNameLength = 14;
 /// Digits of one allele in a genotype field.
 inline constexpr std::size_t kMaxAlleleDigits = 4;
 
+/// The largest size that such an allele can have, in base pairs.
+inline constexpr std::size_t kLargestAlleleSize = 9'999;
+
 /// Bytes of an input file; a larger one is no genotype file of this size class.
 inline constexpr std::size_t kMaxInputBytes = std::size_t{256} * 1024 * 1024;
 
