@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/allocation_options.h"
 
-#include <CLI/CLI.hpp>
-
 #include "cli/option_text.h"
+#include "cli/text_option.h"
 
 namespace kaldo {
 
@@ -11,58 +10,37 @@ namespace {
 
 void AddFileOptions(CLI::App& command, AllocationOptions& options) {
   const std::string group = "Files";
-  command.add_option("--project", options.project, "Folder for the results; made when missing")
-      ->type_name("DIR")
-      ->group(group);
-  command.add_option("--loci", options.loci, "Names of the loci, in the order of the genotypes")
-      ->type_name("FILE")
-      ->group(group);
-  command.add_option("--offspring", options.offspring, "Genotypes of the offspring")
-      ->type_name("FILE")
-      ->group(group);
-  command.add_option("--parents", options.parents, "Non-sexed: genotypes of the collected parents")
-      ->type_name("FILE")
-      ->group(group);
-  command.add_option("--males", options.males, "Sexed: genotypes of the collected males")
-      ->type_name("FILE")
-      ->group(group);
-  command.add_option("--females", options.females, "Sexed: genotypes of the collected females")
-      ->type_name("FILE")
-      ->group(group);
+  AddTextOption(command, group, "--project", options.project, "DIR",
+                "Folder for the results; made when missing");
+  AddTextOption(command, group, "--loci", options.loci, "FILE",
+                "Names of the loci, in the order of the genotypes");
+  AddTextOption(command, group, "--offspring", options.offspring, "FILE",
+                "Genotypes of the offspring");
+  AddTextOption(command, group, "--parents", options.parents, "FILE",
+                "Non-sexed: genotypes of the collected parents");
+  AddTextOption(command, group, "--males", options.males, "FILE",
+                "Sexed: genotypes of the collected males");
+  AddTextOption(command, group, "--females", options.females, "FILE",
+                "Sexed: genotypes of the collected females");
 }
 
 void AddMethodOptions(CLI::App& command, AllocationOptions& options) {
   const std::string group = "Method";
-  command
-      .add_option("--tolerance", options.tolerance,
-                  "Maximal offset tolerance, in whole unit distances (repeats), 0 or more")
-      ->type_name("N")
-      ->capture_default_str()
-      ->group(group);
-  command
-      .add_option("--error", options.error,
-                  "Transmission error: none | uniform=EPS | nonuniform | "
-                  "nonuniform=M2,M1,FOCAL,P1,P2 (plain nonuniform: "
-                  "0.002,0.008,0.980,0.008,0.002)")
-      ->type_name("MODEL")
-      ->capture_default_str()
-      ->group(group);
-  command.add_option("--use", options.use, "Loci in use, by name, between commas; default: all")
-      ->type_name("NAME,...")
-      ->group(group);
-  command
-      .add_option(
-          "--sequence", options.sequence,
-          "Repeat for a cumulative sequence of loci: alone in file order, else the position "
-          "of each locus of the names file, between commas")
-      ->type_name("[I1,I2,...]")
-      ->expected(0, 1)
-      ->group(group);
-  command
-      .add_option("--threads", options.threads,
-                  "Threads; default: all cores. The results never depend on it")
-      ->type_name("N")
-      ->group("Machine");
+  AddTextOption(command, group, "--tolerance", options.tolerance, "N",
+                "Maximal offset tolerance, in whole unit distances (repeats), 0 or more")
+      ->capture_default_str();
+  AddTextOption(command, group, "--error", options.error, "MODEL",
+                "Transmission error: none | uniform=EPS | nonuniform | "
+                "nonuniform=M2,M1,FOCAL,P1,P2 (plain nonuniform: 0.002,0.008,0.980,0.008,0.002)")
+      ->capture_default_str();
+  AddTextOption(command, group, "--use", options.use, "NAME,...",
+                "Loci in use, by name, between commas; default: all");
+  AddTextOption(command, group, "--sequence", options.sequence, "[I1,I2,...]",
+                "Repeat for a cumulative sequence of loci: alone in file order, else the position "
+                "of each locus of the names file, between commas")
+      ->expected(0, 1);
+  AddTextOption(command, "Machine", "--threads", options.threads, "N",
+                "Threads; default: all cores. The results never depend on it");
 }
 
 std::optional<Problem> CheckParentOptions(const AllocationOptions& options) {

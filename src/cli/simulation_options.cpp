@@ -5,78 +5,76 @@
 #include <fmt/format.h>
 
 #include "cli/option_text.h"
+#include "cli/text_option.h"
 
 namespace kaldo {
 
 namespace {
 
-/// Adds an option that takes one text.
-template <typename Text>
-CLI::Option* Add(CLI::App& command, const std::string& group, const std::string& name, Text& text,
-                 const std::string& type, const std::string& help) {
-  return command.add_option(name, text, help)->type_name(type)->group(group);
-}
-
 void AddNonSexedParents(CLI::App& command, ParentalSetOptions& set) {
   const std::string group = "Parents, non-sexed";
-  Add(command, group, "--collected-parents", set.collected, "FILE",
-      "After the field work: genotypes of the collected parents");
-  Add(command, group, "--pseudo-collected-sample", set.pseudo_collected_sample, "FILE",
-      "Before it: sample to draw pseudo-collected parents from");
-  Add(command, group, "--pseudo-collected", set.pseudo_collected, "N",
-      "Number of pseudo-collected parents");
-  Add(command, group, "--uncollected-sample", set.uncollected_sample, "FILE",
-      "Sample to draw uncollected parents from");
-  Add(command, group, "--uncollected", set.uncollected, "U",
-      "Estimated number of uncollected parents");
+  AddTextOption(command, group, "--collected-parents", set.collected, "FILE",
+                "After the field work: genotypes of the collected parents");
+  AddTextOption(command, group, "--pseudo-collected-sample", set.pseudo_collected_sample, "FILE",
+                "Before it: sample to draw pseudo-collected parents from");
+  AddTextOption(command, group, "--pseudo-collected", set.pseudo_collected, "N",
+                "Number of pseudo-collected parents");
+  AddTextOption(command, group, "--uncollected-sample", set.uncollected_sample, "FILE",
+                "Sample to draw uncollected parents from");
+  AddTextOption(command, group, "--uncollected", set.uncollected, "U",
+                "Estimated number of uncollected parents");
 }
 
 void AddSexedParents(CLI::App& command, const std::string& sex, ParentalSetOptions& set) {
   const std::string group = "Parents, sexed";
-  Add(command, group, "--collected-" + sex + "s", set.collected, "FILE",
-      "After the field work: genotypes of the collected " + sex + "s");
-  Add(command, group, "--pseudo-collected-" + sex + "-sample", set.pseudo_collected_sample, "FILE",
-      "Before it: sample to draw pseudo-collected " + sex + "s from");
-  Add(command, group, "--pseudo-collected-" + sex + "s", set.pseudo_collected, "N",
-      "Number of pseudo-collected " + sex + "s");
-  Add(command, group, "--uncollected-" + sex + "-sample", set.uncollected_sample, "FILE",
-      "Sample to draw uncollected " + sex + "s from");
-  Add(command, group, "--uncollected-" + sex + "s", set.uncollected, "N",
-      "Number of uncollected " + sex + "s drawn at each iteration");
-  Add(command, group, "--estimated-collected-" + sex + "s", set.estimated_collected, "X",
-      "Estimated number of collected " + sex + "s in the population");
-  Add(command, group, "--estimated-uncollected-" + sex + "s", set.estimated_uncollected, "X",
-      "Estimated number of uncollected " + sex + "s in the population");
+  AddTextOption(command, group, "--collected-" + sex + "s", set.collected, "FILE",
+                "After the field work: genotypes of the collected " + sex + "s");
+  AddTextOption(command, group, "--pseudo-collected-" + sex + "-sample",
+                set.pseudo_collected_sample, "FILE",
+                "Before it: sample to draw pseudo-collected " + sex + "s from");
+  AddTextOption(command, group, "--pseudo-collected-" + sex + "s", set.pseudo_collected, "N",
+                "Number of pseudo-collected " + sex + "s");
+  AddTextOption(command, group, "--uncollected-" + sex + "-sample", set.uncollected_sample, "FILE",
+                "Sample to draw uncollected " + sex + "s from");
+  AddTextOption(command, group, "--uncollected-" + sex + "s", set.uncollected, "N",
+                "Number of uncollected " + sex + "s drawn at each iteration");
+  AddTextOption(command, group, "--estimated-collected-" + sex + "s", set.estimated_collected, "X",
+                "Estimated number of collected " + sex + "s in the population");
+  AddTextOption(command, group, "--estimated-uncollected-" + sex + "s", set.estimated_uncollected,
+                "X", "Estimated number of uncollected " + sex + "s in the population");
 }
 
 void AddMethod(CLI::App& command, SimulationOptions& options) {
   const std::string group = "Method";
-  Add(command, group, "--iterations", options.iterations, "N",
-      "Number of iterations; non-sexed below 1000");
-  Add(command, group, "--offspring-per-iteration", options.offspring_per_iteration, "N",
-      "Pseudo-offspring made at each iteration");
-  Add(command, group, "--tolerance", options.tolerance, "N",
-      "Maximal offset tolerance, in whole unit distances (repeats)")
+  AddTextOption(command, group, "--iterations", options.iterations, "N",
+                "Number of iterations; non-sexed below 1000");
+  AddTextOption(command, group, "--offspring-per-iteration", options.offspring_per_iteration, "N",
+                "Pseudo-offspring made at each iteration");
+  AddTextOption(command, group, "--tolerance", options.tolerance, "N",
+                "Maximal offset tolerance, in whole unit distances (repeats)")
       ->capture_default_str();
-  Add(command, group, "--error", options.error, "MODEL",
+  AddTextOption(
+      command, group, "--error", options.error, "MODEL",
       "Transmission error: none | uniform=EPS | nonuniform | nonuniform=M2,M1,FOCAL,P1,P2")
       ->capture_default_str();
-  Add(command, group, "--use", options.use, "NAME,...",
-      "Loci in use, by name, between commas; default: all");
-  Add(command, group, "--seed", options.seed, "S",
-      "Seed of the random numbers, 0 to 4294967295; default: the clock. Always told");
+  AddTextOption(command, group, "--use", options.use, "NAME,...",
+                "Loci in use, by name, between commas; default: all");
+  AddTextOption(command, group, "--seed", options.seed, "S",
+                "Seed of the random numbers, 0 to 4294967295; default: the clock. Always told");
   const std::string loci = "Subsets of loci";
-  Add(command, loci, "--strategy", options.strategy, "NAME",
+  AddTextOption(
+      command, loci, "--strategy", options.strategy, "NAME",
       "choice: the loci in use | all: every subset | minimal: subsets until one reaches the "
       "criterion | cumulative: a sequence")
       ->capture_default_str();
-  Add(command, loci, "--criterion", options.criterion, "X",
-      "Probability that any allocation is correct, 0 to 1")
+  AddTextOption(command, loci, "--criterion", options.criterion, "X",
+                "Probability that any allocation is correct, 0 to 1")
       ->capture_default_str();
-  Add(command, loci, "--start-with", options.start_with, "K", "Loci of the smallest subset")
+  AddTextOption(command, loci, "--start-with", options.start_with, "K",
+                "Loci of the smallest subset")
       ->capture_default_str();
-  Add(command, loci, "--sequence", options.sequence, "I1,I2,...",
-      "Position of each locus of the names file in the sequence; default: file order")
+  AddTextOption(command, loci, "--sequence", options.sequence, "I1,I2,...",
+                "Position of each locus of the names file in the sequence; default: file order")
       ->expected(0, 1);
 }
 
@@ -90,11 +88,11 @@ void AddOutput(CLI::App& command, SimulationOptions& options) {
       .add_flag("--print-subset-statistics", options.print_subset_statistics,
                 "Write the statistics of every subset into the summary")
       ->group(group);
-  Add(command, group, "--keep", options.keep, "KINDS",
-      "Generated files to keep: parents,offspring,matrices | all | none; default: "
-      "parents,offspring, and none when sexed");
-  Add(command, "Machine", "--threads", options.threads, "N",
-      "Threads; default: all cores. The results never depend on it");
+  AddTextOption(command, group, "--keep", options.keep, "KINDS",
+                "Generated files to keep: parents,offspring,matrices | all | none; default: "
+                "parents,offspring, and none when sexed");
+  AddTextOption(command, "Machine", "--threads", options.threads, "N",
+                "Threads; default: all cores. The results never depend on it");
 }
 
 tl::unexpected<Problem> Usage(std::string sentence, std::string found) {
@@ -110,36 +108,36 @@ bool AnyGiven(const ParentalSetOptions& set) {
          set.estimated_uncollected;
 }
 
-/// Reads numbers out of option texts and remembers the first that is missing or no number.
-class NumberTexts {
+/// Reads values out of option texts and remembers the first that is missing or not understood.
+class OptionReader {
  public:
-  std::int32_t Whole(std::string_view what, const std::optional<std::string>& text) {
-    return Read<std::int32_t>(what, text, ParseWholeOption);
+  template <typename Target, typename Value>
+  void Take(Target& target, const tl::expected<Value, Problem>& value) {
+    if (value) {
+      target = *value;
+    } else if (!fault_) {
+      fault_ = value.error();
+    }
   }
-  double Real(std::string_view what, const std::optional<std::string>& text) {
-    return Read<double>(what, text, ParseRealOption);
+
+  std::int32_t Whole(const std::string& option, const std::optional<std::string>& text) {
+    std::int32_t number = 0;
+    Take(number, text ? ParseWholeOption(option, *text) : MissingNumber<std::int32_t>(option));
+    return number;
   }
+
+  double Real(const std::string& option, const std::optional<std::string>& text) {
+    double number = 0;
+    Take(number, text ? ParseRealOption(option, *text) : MissingNumber<double>(option));
+    return number;
+  }
+
   const std::optional<Problem>& Fault() const { return fault_; }
 
  private:
-  template <typename Number, typename Parse>
-  Number Read(std::string_view what, const std::optional<std::string>& text, Parse parse) {
-    if (!text) {
-      Note(Usage("A number is missing!", fmt::format("{} is needed", what)).value());
-      return {};
-    }
-    const auto number = parse(what, *text);
-    if (!number) {
-      Note(number.error());
-      return {};
-    }
-    return *number;
-  }
-
-  void Note(const Problem& problem) {
-    if (!fault_) {
-      fault_ = problem;
-    }
+  template <typename Number>
+  static tl::expected<Number, Problem> MissingNumber(const std::string& option) {
+    return Usage("A number is missing!", fmt::format("{} is needed", option));
   }
 
   std::optional<Problem> fault_;
@@ -151,23 +149,23 @@ std::string OptionName(Flow flow, std::string_view stem, std::string_view sex) {
 }
 
 ParentalSet SetFrom(const SimulationSettings& settings, const ParentalSetOptions& options,
-                    std::string_view sex, NumberTexts& numbers) {
+                    std::string_view sex, OptionReader& reader) {
   ParentalSet set;
   const auto name = [&](std::string_view stem) { return OptionName(settings.flow, stem, sex); };
   set.collected_file = options.collected.value_or("");
   set.pseudo_collected_sample = options.pseudo_collected_sample.value_or("");
   set.uncollected_sample = options.uncollected_sample.value_or("");
   if (settings.procedure == Procedure::kPreParental) {
-    set.pseudo_collected = numbers.Whole(name("pseudo-collected"), options.pseudo_collected);
+    set.pseudo_collected = reader.Whole(name("pseudo-collected"), options.pseudo_collected);
   }
   if (settings.flow == Flow::kNonSexed) {
-    set.uncollected = numbers.Real(name("uncollected"), options.uncollected);
+    set.uncollected = reader.Real(name("uncollected"), options.uncollected);
     return set;
   }
-  set.uncollected = numbers.Whole(name("uncollected"), options.uncollected);
-  set.estimated_collected = numbers.Real(name("estimated-collected"), options.estimated_collected);
+  set.uncollected = reader.Whole(name("uncollected"), options.uncollected);
+  set.estimated_collected = reader.Real(name("estimated-collected"), options.estimated_collected);
   set.estimated_uncollected =
-      numbers.Real(name("estimated-uncollected"), options.estimated_uncollected);
+      reader.Real(name("estimated-uncollected"), options.estimated_uncollected);
   return set;
 }
 
@@ -239,44 +237,32 @@ std::optional<Problem> CheckParents(const SimulationOptions& options) {
   return std::nullopt;
 }
 
-std::optional<Problem> ReadChoices(const SimulationOptions& options, SimulationSettings& settings) {
-  const auto error_model = ParseErrorModel(options.error);
-  const auto strategy = StrategyFrom(options.strategy);
-  const auto sequence = ParseSequence(options.sequence.value_or(""));
-  const auto kept = KeptFrom(options.keep.value_or("none"));
-  const auto threads = ParseThreads(options.threads.value_or("1"));
-  const auto seed = ParseSeed(options.seed.value_or("0"));
-  if (!error_model) return error_model.error();
-  if (!strategy) return strategy.error();
-  if (!sequence) return sequence.error();
-  if (!kept) return kept.error();
-  if (!threads) return threads.error();
-  if (!seed) return seed.error();
-  settings.error_model = *error_model;
-  settings.strategy = *strategy;
-  settings.sequence = *sequence;
+void ReadChoices(const SimulationOptions& options, SimulationSettings& settings,
+                 OptionReader& reader) {
+  reader.Take(settings.error_model, ParseErrorModel(options.error));
+  reader.Take(settings.strategy, StrategyFrom(options.strategy));
+  reader.Take(settings.sequence, ParseSequence(options.sequence.value_or("")));
   if (options.keep) {
-    settings.keep = *kept;
+    reader.Take(settings.keep, KeptFrom(*options.keep));
   }
   if (options.threads) {
-    settings.threads = *threads;
+    reader.Take(settings.threads, ParseThreads(*options.threads));
   }
   if (options.seed) {
-    settings.seed = *seed;
+    reader.Take(settings.seed, ParseSeed(*options.seed));
   }
   if (options.use) {
     settings.loci_in_use = ParseNames(*options.use);
   }
-  return std::nullopt;
 }
 
 }  // namespace
 
 void AddSimulationOptions(CLI::App& command, SimulationOptions& options) {
-  Add(command, "Files", "--project", options.project, "DIR",
-      "Folder for the results; made when missing");
-  Add(command, "Files", "--loci", options.loci, "FILE",
-      "Names of the loci, in the order of the genotypes");
+  AddTextOption(command, "Files", "--project", options.project, "DIR",
+                "Folder for the results; made when missing");
+  AddTextOption(command, "Files", "--loci", options.loci, "FILE",
+                "Names of the loci, in the order of the genotypes");
   command.add_flag("--sexed", options.sexed, "Males and females are known")
       ->group("Parents, sexed");
   AddNonSexedParents(command, options.parents);
@@ -299,22 +285,20 @@ tl::expected<SimulationSettings, Problem> SettingsFrom(const SimulationOptions& 
       any_pseudo_collected && !any_collected ? Procedure::kPreParental : Procedure::kParental;
   settings.project = options.project;
   settings.loci_file = options.loci;
-  NumberTexts numbers;
-  settings.sets[0] = SetFrom(settings, first, "male", numbers);
+  OptionReader reader;
+  settings.sets[0] = SetFrom(settings, first, "male", reader);
   if (options.sexed) {
-    settings.sets[1] = SetFrom(settings, options.females, "female", numbers);
+    settings.sets[1] = SetFrom(settings, options.females, "female", reader);
   }
-  settings.iterations = numbers.Whole("--iterations", options.iterations);
+  settings.iterations = reader.Whole("--iterations", options.iterations);
   settings.offspring_per_iteration =
-      numbers.Whole("--offspring-per-iteration", options.offspring_per_iteration);
-  settings.tolerance = OffsetTolerance{numbers.Whole("--tolerance", options.tolerance)};
-  settings.criterion = numbers.Real("--criterion", options.criterion);
-  settings.start_with = numbers.Whole("--start-with", options.start_with);
-  if (numbers.Fault()) {
-    return tl::unexpected(*numbers.Fault());
-  }
-  if (auto problem = ReadChoices(options, settings)) {
-    return tl::unexpected(std::move(*problem));
+      reader.Whole("--offspring-per-iteration", options.offspring_per_iteration);
+  settings.tolerance = OffsetTolerance{reader.Whole("--tolerance", options.tolerance)};
+  settings.criterion = reader.Real("--criterion", options.criterion);
+  settings.start_with = reader.Whole("--start-with", options.start_with);
+  ReadChoices(options, settings, reader);
+  if (reader.Fault()) {
+    return tl::unexpected(*reader.Fault());
   }
   settings.print_iterations = options.print_iterations;
   settings.print_subset_statistics = options.print_subset_statistics;

@@ -13,7 +13,8 @@ namespace {
 
 std::string ParametersText(const SimulationSettings& settings, const SimulationFlow& flow,
                            const SimulationRun& run) {
-  const auto& [input, result] = run;
+  const SimulationInput& input = run.input;
+  const SimulationResult& result = run.result;
   return fmt::format(
       "KALDO {}\n{}\n"
       "  {} candidate parents, {} true parents in all, {} pseudo-offspring x {} iterations\n"
@@ -33,7 +34,8 @@ std::string CorrectRow(std::string_view label, std::int32_t offspring, const Spr
 /// Per class and globally, from the last subset of loci.
 std::string CorrectRows(const SimulationFlow& flow, const SimulationRun& run) {
   const SimulationDesign& design = flow.Design();
-  const auto& [input, result] = run;
+  const SimulationInput& input = run.input;
+  const SimulationResult& result = run.result;
   std::string text =
       fmt::format("  {:<12}{:>10}{:>12}{:>12}\n", "true parents", "offspring", "correct", "sd");
   for (std::size_t k = 0; k < design.classes.size(); ++k) {
@@ -61,7 +63,8 @@ std::string CorrectRows(const SimulationFlow& flow, const SimulationRun& run) {
 std::string SubsetRows(const SimulationSettings& settings, const SimulationFlow& flow,
                        const SimulationRun& run) {
   constexpr std::size_t kMostRows = 50;
-  const auto& [input, result] = run;
+  const SimulationInput& input = run.input;
+  const SimulationResult& result = run.result;
   if (settings.strategy == LociStrategy::kChoice) {
     return {};
   }

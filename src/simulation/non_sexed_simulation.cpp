@@ -307,8 +307,8 @@ std::string Simulation::SequenceSections(
 }  // namespace
 
 const SimulationFlow& NonSexedSimulation() {
-  static const Simulation kFlow;
-  return kFlow;
+  static const Simulation flow;
+  return flow;
 }
 
 }  // namespace kaldo

@@ -241,8 +241,8 @@ std::string Simulation::SequenceSections(
 }  // namespace
 
 const SimulationFlow& SexedSimulation() {
-  static const Simulation kFlow;
-  return kFlow;
+  static const Simulation flow;
+  return flow;
 }
 
 }  // namespace kaldo
