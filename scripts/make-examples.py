@@ -16,6 +16,8 @@ How a set comes about:
    parent at each locus.
 4. Some offspring alleles are misread by one or two unit distances, and some loci stay undefined.
 5. Part of the adults is left out of the parents files: these are the uncollected parents.
+6. For the sexed set, a catch of the year before is drawn from the same frequencies. It is the sample
+   that simulations draw their parents from; none of its fish is a parent of the offspring.
 """
 
 import pathlib
@@ -38,6 +40,7 @@ POND_LOCI = LAKE_LOCI[:4] + LAKE_LOCI[5:]
 
 LAKE_SEED = 20
 POND_SEED = 11
+POND_SAMPLE_SEED = 5
 
 MISREAD_RATE = 0.015  # per offspring allele
 TWO_UNITS_SHARE = 0.2  # of the misread alleles
@@ -249,6 +252,11 @@ def make_sexed(folder):
     write_groups(folder / "females.txt", females)
     write_lines(folder / "offspring.txt", [record(child) for child in offspring])
     write_truth(folder / "truth.txt", offspring)
+
+    dice = Dice(POND_SAMPLE_SEED)
+    for sex in ["Male", "Female"]:
+        sample = make_adults(f"Early{sex[0]}", 30, 1, loci, dice)
+        write_groups(folder / f"sample-{sex.lower()}s.txt", [sample])
 
 
 def main():
