@@ -279,8 +279,10 @@ tl::expected<SimulationSettings, Problem> SettingsFrom(const SimulationOptions& 
   SimulationSettings settings;
   settings.flow = options.sexed ? Flow::kSexed : Flow::kNonSexed;
   const ParentalSetOptions& first = options.sexed ? options.males : options.parents;
-  const bool any_collected = first.collected || (options.sexed && options.females.collected);
-  const bool any_pseudo_collected = first.pseudo_collected_sample || first.pseudo_collected;
+  const bool any_collected = first.collected || options.females.collected;
+  const bool any_pseudo_collected = first.pseudo_collected_sample || first.pseudo_collected ||
+                                    options.females.pseudo_collected_sample ||
+                                    options.females.pseudo_collected;
   settings.procedure =
       any_pseudo_collected && !any_collected ? Procedure::kPreParental : Procedure::kParental;
   settings.project = options.project;

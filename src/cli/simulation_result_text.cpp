@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/simulation_result_text.h"
 
+#include <cmath>
+
 #include <fmt/format.h>
 
 #include "genotypes/project_folder.h"
@@ -26,9 +28,14 @@ std::string ParametersText(const SimulationSettings& settings, const SimulationF
       settings.tolerance.Value(), result.seed);
 }
 
+/// Four decimals; "nan" for a deviation that rounding made none, whatever its sign bit.
+std::string Decimals(double value) {
+  return std::isnan(value) ? "nan" : fmt::format("{:.4f}", value);
+}
+
 std::string CorrectRow(std::string_view label, std::int32_t offspring, const Spread& spread) {
-  return fmt::format("  {:<12}{:>10}{:>12.4f}{:>12.4f}\n", label, offspring, spread.mean,
-                     spread.deviation);
+  return fmt::format("  {:<12}{:>10}{:>12}{:>12}\n", label, offspring, Decimals(spread.mean),
+                     Decimals(spread.deviation));
 }
 
 /// Per class and globally, from the last subset of loci.

@@ -153,9 +153,11 @@ tl::expected<SimulationSettings, Problem> SimulationSettingsOf(const RunRecord& 
   settings.flow = record.flow == kSexedSimulationFlow ? Flow::kSexed : Flow::kNonSexed;
   settings.project = recorded.Needed<std::string>("project");
   settings.loci_file = recorded.Needed<std::string>("loci");
-  settings.procedure = recorded.Needed<std::string>("procedure") == "preparental"
-                           ? Procedure::kPreParental
-                           : Procedure::kParental;
+  const auto procedure = recorded.Needed<std::string>("procedure");
+  settings.procedure = procedure == "preparental" ? Procedure::kPreParental : Procedure::kParental;
+  if (procedure != "preparental" && procedure != "parental") {
+    recorded.Note("procedure", "is none of parental, preparental");
+  }
   for (std::size_t set = 0; set < settings.Sets().size(); ++set) {
     settings.sets.at(set) = RecordedSet(settings, set, recorded);
   }

@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// `kaldo simulate` and the repetition of its runs, run inside the test.
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <regex>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "cli/command_line.h"
+#include "genotypes/version.h"
+#include "tests/support/temp_folder.h"
+
+namespace kaldo {
+namespace {
+
+using test::ReadFile;
+using test::TempFolder;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+using Arguments = std::vector<std::string>;
+using Files = std::vector<std::pair<std::string, std::string>>;
+
+struct Outcome {
+  ExitCode code;
+  std::string out;
+  std::string err;
+};
+
+Outcome RunCommand(const Arguments& arguments) {
+  std::ostringstream out;
+  std::ostringstream err;
+  const ExitCode code = RunCommandLine(arguments, {out, err});
+  return {code, out.str(), err.str()};
+}
+
+Arguments operator+(Arguments arguments, const Arguments& more) {
+  arguments.insert(arguments.end(), more.begin(), more.end());
+  return arguments;
+}
+
+/// A small study in a folder of its own, which is the working folder: the saved loci go there.
+class SimulateCommand : public testing::Test {
+ public:
+  SimulateCommand(const SimulateCommand&) = delete;
+  SimulateCommand& operator=(const SimulateCommand&) = delete;
+  SimulateCommand(SimulateCommand&&) = delete;
+  SimulateCommand& operator=(SimulateCommand&&) = delete;
+
+ protected:
+  SimulateCommand() : earlier_(std::filesystem::current_path()) {
+    std::filesystem::current_path(folder_.Path(""));
+    folder_.Write("loci", "A B C\n");
+    folder_.Write("fish",
+                  "P1 100102 200204 150150\n"
+                  "P2 104104 208208 152154\n"
+                  "P3 100106 200202 150152\n");
+  }
+  ~SimulateCommand() override { std::filesystem::current_path(earlier_); }
+
+  static Arguments Common() {
+    return {"simulate", "--project",    "p", "--loci",
+            "loci",     "--iterations", "3", "--offspring-per-iteration",
+            "12"};
+  }
+  static Arguments NonSexed() {
+    return Common() + Arguments{"--collected-parents", "fish", "--uncollected-sample", "fish",
+                                "--uncollected",       "2.5"};
+  }
+  static Arguments Sexed(const std::string& collected = "2") {
+    Arguments arguments = Common() + Arguments{"--sexed"};
+    for (const std::string sex : {"male", "female"}) {
+      arguments = arguments + Arguments{"--pseudo-collected-" + sex + "-sample",
+                                        "fish",
+                                        "--pseudo-collected-" + sex + "s",
+                                        collected,
+                                        "--uncollected-" + sex + "-sample",
+                                        "fish",
+                                        "--uncollected-" + sex + "s",
+                                        "2",
+                                        "--estimated-collected-" + sex + "s",
+                                        "2",
+                                        "--estimated-uncollected-" + sex + "s",
+                                        "1"};
+    }
+    return arguments;
+  }
+  /// The same command with another value of one option.
+  static Arguments With(Arguments arguments, const std::string& option, const std::string& value) {
+    *(std::find(arguments.begin(), arguments.end(), option) + 1) = value;
+    return arguments;
+  }
+
+  /// All files of the project but the run record, which tells the time; then they are gone.
+  Files TakeReports() const {
+    Files reports;
+    for (const std::string& name : folder_.FilesIn("p")) {
+      if (name != "Run record.toml") {
+        reports.emplace_back(name, ReadFile("p/" + name));
+        std::filesystem::remove("p/" + name);
+      }
+    }
+    return reports;
+  }
+
+  TempFolder folder_;  // NOLINT(misc-non-private-member-variables-in-classes)
+
+ private:
+  std::filesystem::path earlier_;
+};
+
+void ExpectRefusal(const Arguments& arguments, const std::string& start_of_message) {
+  const Outcome outcome = RunCommand(arguments);
+  EXPECT_EQ(outcome.code, ExitCode::kBadInput) << testing::PrintToString(arguments);
+  EXPECT_THAT(outcome.out, IsEmpty());
+  EXPECT_THAT(outcome.err, StartsWith(start_of_message));
+  EXPECT_FALSE(std::filesystem::exists("p"));
+  EXPECT_FALSE(std::filesystem::exists("SAUVLOCUSTULM.txt"));
+}
+
+TEST_F(SimulateCommand, HelpNamesEveryOption) {
+  const Outcome help = RunCommand({"simulate", "--help"});
+  EXPECT_EQ(help.code, ExitCode::kDone);
+  EXPECT_THAT(help.out, HasSubstr("Usage: kaldo simulate"));
+  EXPECT_THAT(help.err, IsEmpty());
+  for (const std::string option : {"--project",
+                                   "--loci",
+                                   "--iterations",
+                                   "--offspring-per-iteration",
+                                   "--tolerance",
+                                   "--error",
+                                   "--use",
+                                   "--seed",
+                                   "--threads",
+                                   "--strategy",
+                                   "--criterion",
+                                   "--start-with",
+                                   "--sequence",
+                                   "--print-iterations",
+                                   "--print-subset-statistics",
+                                   "--keep",
+                                   "--collected-parents",
+                                   "--pseudo-collected-sample",
+                                   "--pseudo-collected",
+                                   "--uncollected-sample",
+                                   "--uncollected",
+                                   "--sexed"}) {
+    EXPECT_THAT(help.out, HasSubstr("  " + option + ' ')) << option;
+  }
+  for (const std::string sex : {"male", "female"}) {
+    for (const std::string& option :
+         {"--collected-" + sex + "s", "--pseudo-collected-" + sex + "-sample",
+          "--pseudo-collected-" + sex + "s", "--uncollected-" + sex + "-sample",
+          "--uncollected-" + sex + "s", "--estimated-collected-" + sex + "s",
+          "--estimated-uncollected-" + sex + "s"}) {
+      EXPECT_THAT(help.out, HasSubstr("  " + option + ' ')) << option;
+    }
+  }
+}
+
+TEST_F(SimulateCommand, RefusalsWriteNothing) {
+  ExpectRefusal({"simulate"}, "A number is missing!\n--uncollected is needed\n");
+  ExpectRefusal(With(NonSexed(), "--project", ""), "Please enter name of project!\n");
+  ExpectRefusal(NonSexed() + Arguments{"--strategy", "all", "--start-with", "4"},
+                "Fewer loci are in use than the number of loci to start with!\n3 loci in use");
+  folder_.Write("fish", "P1 100102 200204 150150\nP2 104104 000208 152154\n");
+  ExpectRefusal(With(NonSexed(), "--collected-parents", "fish"),
+                "Parental loci should not contain undefined alleles i.e. represented by a string "
+                "of 0s!\nfish, line 2, record 2 (P2), locus B: \"000208\" holds");
+}
+
+TEST_F(SimulateCommand, TellsTheResultTheSeedAndThatItIsDone) {
+  const Outcome outcome = RunCommand(NonSexed() + Arguments{"--seed", "4294967295"});
+  EXPECT_EQ(outcome.code, ExitCode::kDone);
+  EXPECT_THAT(outcome.err, IsEmpty());
+  EXPECT_THAT(outcome.out, StartsWith("KALDO " + std::string(Version()) +
+                                      "\nType of simulations : non-sexed parental\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("\n  seed 4294967295\n"));
+  // 3 of 5.5 parents are collected: 12 x (6/11)^2 = 3.57 and so on.
+  for (const std::string row : {"C X C :              3 ", "C X U :              5 ",
+                                "U X U :              2 ", "GLOBAL              10 "}) {
+    EXPECT_THAT(outcome.out, HasSubstr("\n  " + row));
+  }
+  EXPECT_THAT(outcome.out, EndsWith("\ncalculations completed!\n"));
+  EXPECT_THAT(ReadFile("p/Service file.xls"),
+              StartsWith("Seed of the random numbers :\t4294967295\n\nLIST OF ALLELES"));
+  EXPECT_EQ(ReadFile("SAUVLOCUSTULM.txt"), "A B C ");
+
+  const Outcome sexed =
+      RunCommand(Sexed() + Arguments{"--strategy", "minimal", "--criterion", "0"});
+  EXPECT_EQ(sexed.code, ExitCode::kDone);
+  EXPECT_THAT(sexed.out, HasSubstr("\nType of simulations : sexed preparental\n"));
+  EXPECT_THAT(sexed.out, HasSubstr("\nSubsets of loci run: 1; any allocation correct:\n"));
+  EXPECT_THAT(sexed.out, HasSubstr("\nThe criterion 0 has been reached with 1 loci.\n"));
+  EXPECT_THAT(sexed.out, EndsWith("xls\n\nCalculations completed!\n"));
+
+  folder_.Write("fish", "P1 100102 200204 150150\nP2 104107 208208 152154\n");
+  const std::string stepping =
+      "xls\n\nSome allelic distances not in step with the smallest difference. Please read the "
+      "stepping error file !\n";
+  EXPECT_THAT(RunCommand(NonSexed()).out, EndsWith(stepping + "calculations completed!\n"));
+  EXPECT_THAT(RunCommand(Sexed()).out, EndsWith(stepping + "Calculations completed!\n"));
+}
+
+// Everybody is 100100 and one pair is there: of two pseudo-offspring of both and three of the male
+// alone, 7 of 10 sides are right in every iteration. Rounding then leaves no deviation at all.
+TEST_F(SimulateCommand, WritesADeviationThatIsNotANumberAsNan) {
+  folder_.Write("loci", "A\n");
+  folder_.Write("fish", "P1 100100\n");
+  Arguments arguments = With(Sexed("1"), "--estimated-uncollected-males", "0");
+  arguments = With(arguments, "--estimated-collected-females", "2");
+  arguments = With(arguments, "--estimated-uncollected-females", "3");
+  arguments = With(arguments, "--offspring-per-iteration", "5");
+  const Outcome outcome = RunCommand(With(arguments, "--iterations", "7"));
+  ASSERT_EQ(outcome.code, ExitCode::kDone);
+  EXPECT_THAT(ReadFile("p/Summary.xls"), HasSubstr("\t       NA\t       NA\tnan\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("GLOBAL               5      0.7000         nan\n"));
+}
+
+TEST_F(SimulateCommand, MoreThanAThousandSexedIterationsAreRemarkedOnAndRun) {
+  const Arguments few = With(Sexed(), "--offspring-per-iteration", "4");
+  EXPECT_THAT(RunCommand(With(few, "--iterations", "1000")).err, IsEmpty());
+  const Outcome outcome = RunCommand(With(few, "--iterations", "1001"));
+  EXPECT_EQ(outcome.code, ExitCode::kDone);
+  EXPECT_EQ(outcome.err, "1000 iterations maximum!\n");
+  EXPECT_THAT(outcome.out, EndsWith("Calculations completed!\n"));
+  EXPECT_THAT(ReadFile("p/Iterations-global results.xls"), HasSubstr("\n1001\t"));
+}
+
+TEST_F(SimulateCommand, RerunReproducesTheFiles) {
+  const std::vector<Arguments> choices = {
+      NonSexed() + Arguments{"--seed", "3", "--keep", "all", "--print-iterations"},
+      NonSexed() + Arguments{"--strategy", "cumulative", "--sequence", "3,1,2"},
+      Sexed() + Arguments{"--seed", "0", "--error", "uniform=0.03", "--use", "A,C"},
+      Sexed() + Arguments{"--keep", "parents,matrices", "--strategy", "all", "--start-with", "2",
+                          "--print-subset-statistics", "--tolerance", "0"},
+  };
+  for (const Arguments& choice : choices) {
+    const Outcome first = RunCommand(choice);  // twice with a seed, twice with the clock
+    ASSERT_EQ(first.code, ExitCode::kDone) << first.err;
+    const Files reports = TakeReports();
+    std::smatch seed;
+    ASSERT_TRUE(std::regex_search(first.out, seed, std::regex("\n  seed ([0-9]+)\n")));
+    // A record of last year: the seed must not come from the clock again.
+    std::string record = ReadFile("p/Run record.toml");
+    if (seed[1].str().size() > 1) {
+      record = std::regex_replace(record, std::regex(seed[1].str()), "1735689600");
+      folder_.Write("p/Run record.toml", record);
+      const Outcome other = RunCommand({"rerun", "p/Run record.toml"});
+      EXPECT_THAT(other.out, HasSubstr("\n  seed 1735689600\n"));
+      EXPECT_NE(TakeReports(), reports);
+      record = std::regex_replace(record, std::regex("1735689600"), seed[1].str());
+      folder_.Write("p/Run record.toml", record);
+    }
+    const Outcome again = RunCommand({"rerun", "p/Run record.toml", "--threads", "2"});
+    EXPECT_EQ(again.code, ExitCode::kDone);
+    EXPECT_EQ(again.out, first.out);
+    EXPECT_THAT(again.err, IsEmpty());
+    EXPECT_EQ(TakeReports(), reports) << testing::PrintToString(choice);
+  }
+}
+
+TEST_F(SimulateCommand, RerunRefusesWhatItCannotRepeat) {
+  const std::vector<std::pair<std::string, std::string>> edits = {
+      {"iterations = 3\n", ""},
+      {"strategy = \"choice\"", "strategy = \"best\""},
+      {"keep = .*", "keep = [\"pets\"]"},
+      {"uncollected = 2.5", "uncollected = \"2.5\""},
+      {"\ncollected = .*", ""},
+      {"procedure = \"parental\"", "procedure = \"preparental\""},
+      {"procedure = \"parental\"", "procedure = \"paternal\""},
+      {"criterion = .*", ""},
+  };
+  for (const auto& [pattern, replacement] : edits) {
+    ASSERT_EQ(RunCommand(NonSexed()).code, ExitCode::kDone);
+    const std::string record = ReadFile("p/Run record.toml");
+    const std::string edited = std::regex_replace(record, std::regex(pattern), replacement);
+    ASSERT_NE(edited, record) << pattern;
+    folder_.Write("p/Run record.toml", edited);
+    const Outcome outcome = RunCommand({"rerun", "p/Run record.toml"});
+    EXPECT_EQ(outcome.code, ExitCode::kBadInput) << pattern << " -> " << replacement;
+    EXPECT_THAT(outcome.err, HasSubstr("This run record cannot be used!\n"));
+  }
+}
+
+}  // namespace
+}  // namespace kaldo

@@ -1,0 +1,370 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whole simulations from files to files.
+#include "simulation/simulation_run.h"
+
+#include <atomic>
+#include <filesystem>
+
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+#include "genotypes/project_folder.h"
+#include "simulation/non_sexed_simulation.h"
+#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/simulation_record.h"
+#include "tests/support/temp_folder.h"
+
+namespace kaldo {
+namespace {
+
+using test::ReadFile;
+using test::TempFolder;
+
+using Files = std::vector<std::pair<std::string, std::string>>;
+
+/// Makes a folder the working folder while it lives: the saved loci go there, and the reports show
+/// paths as typed.
+class WorkingFolder {
+ public:
+  explicit WorkingFolder(const std::string& path) : earlier_(std::filesystem::current_path()) {
+    std::filesystem::current_path(path);
+  }
+  WorkingFolder(const WorkingFolder&) = delete;
+  WorkingFolder& operator=(const WorkingFolder&) = delete;
+  WorkingFolder(WorkingFolder&&) = delete;
+  WorkingFolder& operator=(WorkingFolder&&) = delete;
+  ~WorkingFolder() { std::filesystem::current_path(earlier_); }
+
+ private:
+  std::filesystem::path earlier_;
+};
+
+auto RunFiles(const SimulationSettings& settings, RunObserver& observer) {
+  return RunSimulation(
+      settings, settings.flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation(), observer);
+}
+
+SimulationSettings CaseSettings() {
+  SimulationSettings settings;
+  settings.project = "project";
+  settings.loci_file = "loci.txt";
+  settings.iterations = 2;
+  settings.offspring_per_iteration = 16;
+  settings.print_iterations = true;
+  settings.print_subset_statistics = true;
+  settings.keep = KeptFiles{true, false, false};
+  settings.seed = 7;
+  return settings;
+}
+
+/// Runs in a copy of tests/cases/NAME and compares every file with the one worked out by hand.
+void ExpectCase(const std::string& name, const SimulationSettings& settings,
+                std::string_view saved_loci) {
+  const TempFolder folder;
+  std::filesystem::copy(std::string(KALDO_ROOT) + "/tests/cases/" + name, folder.Path(""),
+                        std::filesystem::copy_options::recursive);
+  const WorkingFolder here(folder.Path(""));
+  RunObserver observer;
+  const auto run = RunFiles(settings, observer);
+  ASSERT_TRUE(run) << run.error().sentence << ' ' << DetailLine(run.error());
+
+  auto expected = folder.FilesIn("expected");
+  for (const std::string& file : expected) {
+    EXPECT_EQ(ReadFile("project/" + file), ReadFile("expected/" + file)) << file;
+  }
+  expected.emplace_back("Run record.toml");
+  std::sort(expected.begin(), expected.end());
+  EXPECT_EQ(folder.FilesIn("project"), expected);
+  EXPECT_EQ(ReadFile("SAUVLOCUSTULM.txt"), saved_loci);
+}
+
+// No draw matters here. At "Alike" everybody is 100100; at "Telling" both collected parents are
+// 150150 and every uncollected one 154154 (the gap of S2 counts on 154). Errors are off. A quarter
+// of the parents is collected: of 16 pseudo-offspring 1, 6 and 9 come from two, one and no
+// collected parent, and these classes weigh 1/16, 6/16 and 9/16.
+//
+// "Alike" alone: the only pair of collected parents fits everybody and is always allocated. Right
+// sides: both, one, none: 1/16 + 6/16 x 1/2 = 0.25 correct.
+// With "Telling": whoever has a 154 has no pair, which is wrong for the one collected true parent
+// of the second class: 1/16 + 6/16 x 1/2 + 9/16 = 0.8125. Of 30/32 sides without a parent 24/32 are
+// right: 0.8. Of the 48 alleles of 2 + 6 parents and 16 pseudo-offspring 4 + 2 + 6 are 150.
+TEST(SimulationRun, WritesTheReportsOfANonSexedSequenceWorkedOutByHand) {
+  SimulationSettings settings = CaseSettings();
+  settings.sets[0].collected_file = "parents.txt";
+  settings.sets[0].uncollected_sample = "sample.txt";
+  settings.sets[0].uncollected = 6;
+  settings.error_model.kind = ErrorKind::kNoError;
+  settings.strategy = LociStrategy::kCumulative;
+  settings.sequence = {2, 1};
+  ExpectCase("simulation-non-sexed", settings, "Telling Alike ");
+}
+
+// Again no draw matters. One collected male, 150150 at "Telling", and one female, 161161; two
+// uncollected males, 152152, and females, 161161 like the collected one. An allele may be read one
+// unit distance (2 bp) longer, with probability 0.0005: less than a draw can tell from 0, so that
+// all are read right, but more than nothing, so that the only pair has a likelihood for everybody.
+// pm = 3/4 and pf = 1/2 make 6, 6, 2 and 2 pseudo-offspring, weighing 3/8, 3/8, 1/8 and 1/8.
+//
+// "Alike" alone: all sides are allocated: 3/8 + 3/8 x 1/2 + 1/8 x 1/2 = 0.625 correct, below the
+// criterion. "Telling" alone: a 152 speaks against the male (offset 1, tolerance 0), nothing
+// against the female. Right are all of class 1, half of class 2 (the mother is not the female), all
+// of class 3, half of class 4: 0.75, just the criterion; both loci together do not run any more.
+// The pair itself is right on both sides, on his, on hers, on none. Distances of 2 and 9 bp are out
+// of step. Of 44 alleles 14, 22 and 8 are 150, 161 and 152, listed so below the sorted sizes.
+TEST(SimulationRun, WritesTheReportsOfASexedSearchWorkedOutByHand) {
+  SimulationSettings settings = CaseSettings();
+  settings.flow = Flow::kSexed;
+  settings.procedure = Procedure::kPreParental;
+  settings.sets = {ParentalSet{"", "males.txt", 1, "other males.txt", 2, 3, 1},
+                   ParentalSet{"", "females.txt", 1, "females.txt", 2, 4, 4}};
+  settings.tolerance = OffsetTolerance{0};
+  settings.error_model = {ErrorKind::kNonUniform, 0, 0, 0, 0.9995, 0.0005, 0};
+  settings.strategy = LociStrategy::kMinimal;
+  settings.criterion = 0.75;
+  ExpectCase("simulation-sexed", settings, "Alike Telling ");
+}
+
+/// Simulations with the example data as collected parents and as samples, in a folder of their own.
+class ExampleSimulation : public testing::Test {
+ protected:
+  SimulationSettings Settings(Flow flow, Procedure procedure = Procedure::kPreParental) const {
+    SimulationSettings settings;
+    settings.flow = flow;
+    settings.procedure = procedure;
+    settings.project = "project";
+    const std::string data = std::string(KALDO_ROOT) + "/examples/non-sexed/";
+    settings.loci_file = data + "loci.txt";
+    for (ParentalSet& set : settings.sets) {
+      set = {data + "parents.txt", data + "offspring.txt", 9, data + "offspring.txt", 6, 3, 2};
+    }
+    settings.iterations = 5;
+    settings.offspring_per_iteration = 20;
+    settings.seed = 4294967295;
+    return settings;
+  }
+
+  void RunWell(const SimulationSettings& settings) const {
+    RunObserver observer;
+    const auto run = RunFiles(settings, observer);
+    ASSERT_TRUE(run) << run.error().sentence << ' ' << DetailLine(run.error());
+  }
+
+  /// Every file but the run record, which tells the time; those of the working folder too.
+  Files Results() const {
+    Files files;
+    for (const std::string folder : {".", "project"}) {
+      for (const std::string& name : folder_.FilesIn(folder)) {
+        const std::string path = folder_.Path(folder + '/' + name);
+        if (name != "Run record.toml" && std::filesystem::is_regular_file(path)) {
+          files.emplace_back(name, ReadFile(path));
+        }
+      }
+    }
+    return files;
+  }
+
+  bool Has(std::string_view file) const {
+    return std::filesystem::exists(folder_.Path("project") + std::string(file));
+  }
+
+  TempFolder folder_;                     // NOLINT(misc-non-private-member-variables-in-classes)
+  WorkingFolder here_{folder_.Path("")};  // NOLINT(misc-non-private-member-variables-in-classes)
+};
+
+TEST_F(ExampleSimulation, GivesTheSameFilesForAnyNumberOfThreadsAndOthersForAnotherSeed) {
+  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
+    SimulationSettings settings = Settings(flow);
+    settings.keep = KeptFiles{true, true, true};
+    settings.print_iterations = true;
+    settings.strategy = LociStrategy::kCumulative;
+    settings.start_with = 7;
+    Files of_one_thread;
+    for (const unsigned threads : {1U, 2U, 7U, 1U}) {
+      settings.threads = threads;
+      RunWell(settings);
+      if (of_one_thread.empty()) {
+        of_one_thread = Results();
+      }
+      EXPECT_EQ(Results(), of_one_thread) << threads;
+    }
+    settings.seed = 1;
+    RunWell(settings);
+    const Files of_another_seed = Results();
+    ASSERT_EQ(of_another_seed.size(), of_one_thread.size());
+    for (std::size_t i = 0; i < of_one_thread.size(); ++i) {
+      const auto& [name, text] = of_one_thread[i];
+      const bool tells_genotypes = name.ends_with(".txt") || name.ends_with("matrices.xls");
+      if (name == "SAUVLOCUSTULM.txt") {
+        EXPECT_EQ(text, of_another_seed[i].second);
+      } else if (tells_genotypes || name == "Service file.xls") {
+        EXPECT_NE(text, of_another_seed[i].second) << name;
+      }
+    }
+    std::filesystem::remove_all("project");
+  }
+}
+
+TEST_F(ExampleSimulation, RemovesFilesThatTheOptionsLeaveWithoutContent) {
+  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
+    const bool sexed = flow == Flow::kSexed;
+    const SimulationDesign& design = (sexed ? SexedSimulation() : NonSexedSimulation()).Design();
+    SimulationSettings settings = Settings(flow);
+    settings.keep = KeptFiles{true, true, true};
+    settings.print_iterations = true;
+    settings.strategy = LociStrategy::kCumulative;
+    settings.start_with = 9;
+    RunWell(settings);
+    std::vector<std::string_view> optional = {design.detailed_file, design.matrices_file,
+                                              kPseudoOffspringFile, kSequenceResultsFile};
+    for (const GroupDesign& group : design.groups) {
+      optional.push_back(group.file);
+    }
+    for (const std::string_view file : optional) {
+      EXPECT_TRUE(Has(file)) << file;
+    }
+    settings.keep = KeptFiles{};
+    settings.print_iterations = false;
+    settings.strategy = LociStrategy::kChoice;
+    RunWell(settings);
+    for (const std::string_view file : optional) {
+      EXPECT_FALSE(Has(file)) << file;
+    }
+    EXPECT_EQ(folder_.FilesIn("project").size(), sexed ? 8U : 7U)
+        << "the summary, a table per class and the global one, service file and run record";
+    settings.keep.reset();
+    RunWell(settings);
+    EXPECT_EQ(Has(kPseudoOffspringFile), !sexed) << "kept unless told otherwise";
+    std::filesystem::remove_all("project");
+  }
+
+  // Nobody uncollected, and nobody made: a file without individuals is no file.
+  SimulationSettings settings = Settings(Flow::kNonSexed);
+  settings.keep = KeptFiles{true, true, true};
+  RunWell(settings);
+  EXPECT_TRUE(Has("/uncollected parents.txt"));
+  settings.sets[0].uncollected = 0;
+  RunWell(settings);
+  EXPECT_FALSE(Has("/uncollected parents.txt"));
+  EXPECT_TRUE(Has("/pseudo-collected parents.txt"));
+  settings.sets[0].uncollected = 6;
+  settings.offspring_per_iteration = 1;
+  RunWell(settings);
+  EXPECT_TRUE(Has("/uncollected parents.txt"));
+  EXPECT_FALSE(Has(kPseudoOffspringFile));
+  EXPECT_FALSE(Has("/Iterations - transmission matrices.xls"));
+}
+
+/// Asks to stop after so many steps of one part of a run.
+class StoppingObserver : public RunObserver {
+ public:
+  StoppingObserver(std::string_view part, std::uint64_t steps) : part_(part), steps_(steps) {}
+
+  void OnPart(std::string_view name, std::uint64_t /*steps*/) override { in_part_ = name == part_; }
+  void OnSteps(std::uint64_t steps) override { done_ += in_part_ ? steps : 0; }
+  bool StopRequested() const override { return in_part_ && done_ >= steps_; }
+
+ private:
+  std::string_view part_;
+  std::uint64_t steps_;
+  std::atomic<bool> in_part_{false};
+  std::atomic<std::uint64_t> done_{0};
+};
+
+TEST_F(ExampleSimulation, AStoppedRunLeavesEarlierResultsAsTheyWere) {
+  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
+    RunWell(Settings(flow));
+    const Files earlier = Results();
+    SimulationSettings settings = Settings(flow);
+    settings.seed = 5;
+    settings.iterations = 40;
+    settings.keep = KeptFiles{true, true, true};
+    settings.loci_in_use = {"Mir03Di"};
+    for (const std::string_view part : {"Simulating", "Writing the transmission matrices"}) {
+      for (const std::uint64_t steps : {0U, 10U}) {
+        StoppingObserver stopping(part, steps);
+        EXPECT_THROW((void)RunFiles(settings, stopping), RunStopped) << part << ' ' << steps;
+        EXPECT_EQ(Results(), earlier) << part;
+      }
+    }
+    settings.project = "new";
+    StoppingObserver stopping("Simulating", 0);
+    EXPECT_THROW((void)RunFiles(settings, stopping), RunStopped);
+    EXPECT_FALSE(std::filesystem::exists("new"));
+  }
+  SimulationSettings settings = Settings(Flow::kSexed);
+  settings.project.clear();
+  settings.loci_file.clear();
+  RunObserver observer;
+  EXPECT_EQ(RunFiles(settings, observer).error().sentence, "Please enter name of project!");
+}
+
+// What is printed or kept must not take a single number out of the stream.
+TEST_F(ExampleSimulation, PrintingAndKeepingChangeNoFigure) {
+  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
+    SimulationSettings settings = Settings(flow, Procedure::kParental);
+    RunWell(settings);
+    const std::string summary = ReadFile("project/Summary.xls");
+    settings.print_iterations = true;
+    settings.keep = KeptFiles{true, true, true};
+    RunWell(settings);
+    EXPECT_EQ(ReadFile("project/Summary.xls"), summary);
+    EXPECT_FALSE(Has("/pseudo-collected parents.txt")) << "collected parents are not drawn";
+    EXPECT_FALSE(Has("/pseudo-collected males.txt"));
+  }
+}
+
+TEST_F(ExampleSimulation, TheRecordOfARunIsItsSettings) {
+  const std::vector<ErrorModel> models = {{ErrorKind::kNoError},
+                                          {ErrorKind::kUniform, 0.05},
+                                          {},
+                                          {ErrorKind::kNonUniform, 0, 0, 0, 1, 0, 0}};
+  int number = 0;
+  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
+    for (const Procedure procedure : {Procedure::kParental, Procedure::kPreParental}) {
+      for (const LociStrategy strategy : {LociStrategy::kChoice, LociStrategy::kAll,
+                                          LociStrategy::kMinimal, LociStrategy::kCumulative}) {
+        SimulationSettings settings = Settings(flow, procedure);
+        settings.iterations = 1 + number % 2;
+        settings.sets[0].uncollected = flow == Flow::kSexed ? 7 : 6.25;
+        settings.sets[1].estimated_collected = 1.0 / 3.0;
+        settings.tolerance = OffsetTolerance{number % 4};
+        settings.error_model = models.at(static_cast<std::size_t>(number) % models.size());
+        settings.strategy = strategy;
+        settings.criterion = number % 2 == 0 ? 1 : 0.125;
+        settings.start_with = 8;
+        settings.print_iterations = number % 2 == 1;
+        settings.print_subset_statistics = number % 3 == 1;
+        settings.keep = KeptFiles{number % 5 == 1, number % 3 == 2, number % 7 == 3};
+        if (strategy == LociStrategy::kCumulative) {
+          settings.sequence = {9, 8, 7, 6, 5, 4, 3, 2, 1};
+        }
+        std::filesystem::remove_all("project");
+        RunWell(settings);
+        const auto record = ReadRunRecord("project/Run record.toml");
+        ASSERT_TRUE(record);
+        EXPECT_EQ(record->flow,
+                  flow == Flow::kSexed ? kSexedSimulationFlow : kNonSexedSimulationFlow);
+        EXPECT_TRUE(ChangedInputs(*record).empty());
+        const auto read = SimulationSettingsOf(*record, "a record");
+        ASSERT_TRUE(read) << DetailLine(read.error());
+        EXPECT_EQ(read->flow, flow);
+        EXPECT_EQ(read->procedure, procedure);
+        EXPECT_EQ(read->error_model, settings.error_model);
+        EXPECT_EQ(read->strategy, strategy);
+        EXPECT_EQ(read->criterion, settings.criterion);
+        EXPECT_EQ(read->sequence, settings.sequence);
+        EXPECT_EQ(read->keep, settings.keep);
+        EXPECT_EQ(read->seed, settings.seed);
+        // The rest shows in the files of the same run.
+        const Files files = Results();
+        std::filesystem::remove_all("project");
+        RunWell(*read);
+        EXPECT_EQ(Results(), files) << "run " << number;
+        ++number;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kaldo
