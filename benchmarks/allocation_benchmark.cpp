@@ -5,7 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "allocation/pair_search.h"
+#include "allocation/pair_searcher.h"
 #include "genotypes/catalogued_loci.h"
 
 namespace kaldo {
@@ -66,7 +66,7 @@ void SearchOneOffspring(benchmark::State& state, ErrorKind kind) {
     ComputeTransmissionScores(study.table, Slot{parents + offspring % kOffspring}, study.loci,
                               study.matrices, scores);
     benchmark::DoNotOptimize(
-        SearchPairs(scores, {Flow::kNonSexed, study.groups, study.table.Names()}, observer));
+        ScanPairs(scores, {Flow::kNonSexed, study.groups, study.table.Names()}, observer));
     ++offspring;
   }
   const double pairs = 0.5 * parents * (parents - 1.0);

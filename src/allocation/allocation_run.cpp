@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "allocation/allocation_reports.h"
-#include "allocation/pair_search.h"
+#include "allocation/pair_searcher.h"
 #include "genotypes/parallel_for.h"
 #include "genotypes/unit_distance.h"
 
@@ -39,11 +39,11 @@ std::vector<AllocationOutcome> AllocateOffspring(const AllocationSettings& setti
   const Candidates candidates{settings.flow, input.groups, input.table.Names()};
   std::vector<AllocationOutcome> outcomes(input.NumberOfOffspring());
   ParallelFor(outcomes.size(), threads, [&] {
-    return [&, scores = TransmissionScores(loci.loci.size(), input.Parents().Size())](
-               std::size_t i) mutable {
+    PairSearcher searcher;
+    searcher.Prepare(input.table, input.Parents().Size(), loci.loci, matrices, candidates);
+    return [&, searcher = std::move(searcher)](std::size_t i) mutable {
       const Slot offspring{input.offspring.begin + static_cast<std::uint32_t>(i)};
-      ComputeTransmissionScores(input.table, offspring, loci.loci, matrices, scores);
-      outcomes[i] = SearchPairs(scores, candidates, observer);
+      outcomes[i] = searcher.Search(offspring, observer);
       DecideSides(input.table, offspring, loci, settings.tolerance, outcomes[i]);
       observer.OnSteps(1);
     };

@@ -44,7 +44,6 @@ SimulatedIteration::SimulatedIteration(const SimulationSettings& settings,
       catalogues_(input.loci.Count()),
       production_matrices_(input.loci.Count()),
       allocation_matrices_(input.loci.Count()),
-      scores_(0, 0),
       truth_(offspring_.Size()),
       outcomes_(offspring_.Size()) {
   for (std::uint32_t slot = 0; slot < offspring_.end; ++slot) {
@@ -60,7 +59,6 @@ void SimulatedIteration::UseLoci(const LocusSubset& loci) {
   for (const LocusIndex locus : loci) {
     in_use_[locus.Value()] = 1;
   }
-  scores_ = TransmissionScores(loci.size(), input_.Candidates(design_).Size());
   for (std::uint32_t locus = 0; locus < in_use_.size(); ++locus) {
     const auto collected = input_.collected.Locus(LocusIndex{locus});
     for (std::uint32_t slot = 0; slot < collected.size(); ++slot) {
@@ -105,23 +103,20 @@ void SimulatedIteration::Produce(RandomNumbers& random) {
   }
 }
 
-AllocationOutcome SimulatedIteration::AllocateOne(Slot offspring, const RunObserver& observer) {
-  ComputeTransmissionScores(table_, offspring, loci_.loci, allocation_matrices_, scores_);
-  AllocationOutcome outcome = SearchPairs(scores_, {settings_.flow, candidates_, {}}, observer);
-  DecideSides(table_, offspring, loci_, settings_.tolerance, outcome);
-  return outcome;
-}
-
 IterationCounts SimulatedIteration::Run(std::uint32_t state, const RunObserver& observer) {
   RandomNumbers random(state);
   DrawAllParents(random);
   CatalogueParents();
   Produce(random);
+  searcher_.Prepare(table_, input_.Candidates(design_).Size(), loci_.loci, allocation_matrices_,
+                    {settings_.flow, candidates_, {}});
   IterationCounts counts{};
   std::uint32_t next = 0;
   for (std::size_t k = 0; k < design_.classes.size(); ++k) {
     for (std::int32_t i = 0; i < input_.class_sizes[k]; ++i, ++next) {
-      outcomes_[next] = AllocateOne(Slot{offspring_.begin + next}, observer);
+      const Slot offspring{offspring_.begin + next};
+      outcomes_[next] = searcher_.Search(offspring, observer);
+      DecideSides(table_, offspring, loci_, settings_.tolerance, outcomes_[next]);
       Score(settings_.flow, design_.classes[k], outcomes_[next], truth_[next], counts.at(k));
     }
   }

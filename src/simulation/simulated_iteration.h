@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "allocation/allocation_decision.h"
-#include "allocation/pair_search.h"
+#include "allocation/pair_searcher.h"
 #include "genotypes/catalogued_loci.h"
 #include "genotypes/run_observer.h"
 #include "simulation/iteration_counts.h"
@@ -44,7 +44,6 @@ class SimulatedIteration {
   void DrawAllParents(RandomNumbers& random);
   void CatalogueParents();
   void Produce(RandomNumbers& random);
-  AllocationOutcome AllocateOne(Slot offspring, const RunObserver& observer);
 
   const SimulationSettings& settings_;
   const SimulationInput& input_;
@@ -61,7 +60,7 @@ class SimulatedIteration {
   AlleleCatalogues catalogues_;
   std::vector<TransmissionMatrix> production_matrices_;
   std::vector<TransmissionMatrix> allocation_matrices_;
-  TransmissionScores scores_;
+  PairSearcher searcher_;
   std::vector<ParentPair> truth_;
   std::vector<AllocationOutcome> outcomes_;
 };

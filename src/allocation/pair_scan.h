@@ -26,8 +26,12 @@ struct Candidates {
 /// 1986, Theor. Popul. Biol. 29:87-106), a constant factor that ranks pairs alike. At least one
 /// locus is needed. Fills the search part of the outcome; throws RunStopped when the observer asks.
 ///
+/// This is the plain scan that defines the result. Runs use PairSearcher, which finds the same.
 /// Cost: pairs x loci multiplications; `scores` is read row by row.
-AllocationOutcome SearchPairs(const TransmissionScores& scores, const Candidates& candidates,
-                              const RunObserver& observer);
+AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& candidates,
+                            const RunObserver& observer);
+
+/// The search part of an outcome.
+AllocationOutcome OutcomeOf(const KeptPairs& kept);
 
 }  // namespace kaldo

@@ -1,97 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The search against an obvious version of itself, and the rule of the kept pairs step by step.
-#include "allocation/pair_search.h"
+// The plain scan against an obvious version of itself, and the rule of the kept pairs step by step.
+#include "allocation/pair_scan.h"
 
 #include <map>
-#include <random>
 #include <set>
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include "genotypes/catalogued_loci.h"
-#include "genotypes/problem.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/random_study.h"
 
 namespace kaldo {
 namespace {
 
-/// A random small study: few alleles make ties, clones of names make duplicates.
-struct Study {
-  Flow flow = Flow::kNonSexed;
-  GenotypeTable table;
-  std::uint32_t males = 0;
-  std::uint32_t parents = 0;
-  std::vector<LocusIndex> loci;
-  AlleleCatalogues catalogues;
-  std::vector<TransmissionMatrix> matrices;
-  std::vector<CandidateGroup> groups;
-};
-
 /// What the random studies met, so that the comparison is known to have seen it.
 using Coverage = std::map<std::string, int>;
 
-class StudyMaker {
- public:
-  explicit StudyMaker(unsigned seed) : random_(seed) {}
-
-  Study Make() {
-    Study study;
-    study.flow = Draw(0, 1) == 1 ? Flow::kSexed : Flow::kNonSexed;
-    const std::uint32_t loci = Draw(1, 4);
-    const std::uint32_t alleles = Draw(1, 4);
-    study.table = GenotypeTable(loci);
-    study.parents = Draw(1, 24);
-    study.males = study.flow == Flow::kSexed ? Draw(0, study.parents) : study.parents;
-    AddIndividuals(study, study.parents, alleles, false);
-    AddIndividuals(study, Draw(1, 4), alleles, true);
-    for (std::uint32_t locus = 0; locus < loci; ++locus) {
-      study.loci.emplace_back(locus);
-      auto catalogue = AlleleCatalogue::Build(study.table.Locus(LocusIndex{locus})).value();
-      catalogue.SortSizes();
-      catalogue.ReIndex(study.table.Locus(LocusIndex{locus}));
-      study.matrices.push_back(BuildMatrix(model_, catalogue.Sizes()));
-      study.catalogues.push_back(catalogue);
-    }
-    study.groups =
-        FormGroups(study.flow, study.table, {0, study.males}, {study.males, study.parents});
-    return study;
-  }
-
-  void Use(const ErrorModel& model) { model_ = model; }
-  std::uint32_t Draw(std::uint32_t low, std::uint32_t high) {
-    return std::uniform_int_distribution<std::uint32_t>(low, high)(random_);
-  }
-
- private:
-  void AddIndividuals(Study& study, std::uint32_t count, std::uint32_t alleles, bool may_miss) {
-    const bool clones = Draw(0, 3) == 0;
-    for (std::uint32_t i = 0; i < count; ++i) {
-      const std::uint32_t number = clones ? Draw(0, 2) : i;
-      const Slot slot = study.table.AddIndividual(fmt::format("Sampled0{:02}_r{}", number, i % 10));
-      for (std::uint32_t locus = 0; locus < study.table.NumberOfLoci(); ++locus) {
-        LocusGenotype& genotype = study.table.Genotype(LocusIndex{locus}, slot);
-        if (may_miss && Draw(0, 5) == 0) {
-          continue;
-        }
-        genotype.allele1 = AlleleSize{100 + 2 * Draw(1, alleles)};
-        genotype.allele2 = AlleleSize{100 + 2 * Draw(1, alleles)};
-      }
-    }
-  }
-
-  std::mt19937 random_;
-  ErrorModel model_;
-};
-
 /// A chance to be read as `to`, straight from the sizes.
-double Score(const Study& study, std::size_t locus, const LocusGenotype& parent, AlleleSize to) {
+double Score(const test::RandomStudy& study, std::size_t locus, const LocusGenotype& parent,
+             AlleleSize to) {
   const auto place = [&](AlleleSize size) { return study.catalogues[locus].LookUp(size)->Value(); };
   const TransmissionMatrix& matrix = study.matrices[locus];
   return matrix(place(parent.allele1), place(to)) + matrix(place(parent.allele2), place(to));
 }
 
-double Likelihood(const Study& study, Slot offspring, ParentPair pair) {
+double Likelihood(const test::RandomStudy& study, Slot offspring, ParentPair pair) {
   double product = 0;
   for (std::size_t k = 0; k < study.loci.size(); ++k) {
     const LocusGenotype& child = study.table.Genotype(study.loci[k], offspring);
@@ -107,7 +40,7 @@ double Likelihood(const Study& study, Slot offspring, ParentPair pair) {
   return product;
 }
 
-std::string Key(const Study& study, Slot slot) {
+std::string Key(const test::RandomStudy& study, Slot slot) {
   return std::string(study.table.Name(slot).Text().substr(0, 10));
 }
 
@@ -118,7 +51,7 @@ struct Found {
 };
 
 /// The search written down as it is told, without any thought of speed.
-Found SlowSearch(const Study& study, Slot offspring, Coverage& coverage) {
+Found SlowSearch(const test::RandomStudy& study, Slot offspring, Coverage& coverage) {
   Found found;
   const bool sexed = study.flow == Flow::kSexed;
   for (std::uint32_t i = 0; i < study.males; ++i) {
@@ -158,7 +91,7 @@ Found SlowSearch(const Study& study, Slot offspring, Coverage& coverage) {
   return found;
 }
 
-TEST(PairSearch, FindsWhatTheObviousSearchFinds) {
+TEST(PairScan, FindsWhatTheObviousSearchFinds) {
   ErrorModel no_error;
   no_error.kind = ErrorKind::kNoError;
   ErrorModel uniform;
@@ -168,17 +101,17 @@ TEST(PairSearch, FindsWhatTheObviousSearchFinds) {
   negative.epsilon = -0.3;
   const std::vector<ErrorModel> models = {ErrorModel{}, no_error, uniform, negative};
 
-  StudyMaker maker(20260301);
+  test::RandomStudyMaker maker(20260301);
   Coverage coverage;
   const RunObserver observer;
   for (int round = 0; round < 4000; ++round) {
-    maker.Use(models[static_cast<std::size_t>(round) % models.size()]);
-    const Study study = maker.Make();
+    const test::RandomStudy study =
+        maker.Make(models[static_cast<std::size_t>(round) % models.size()], {});
     TransmissionScores scores(study.loci.size(), study.parents);
     const Candidates candidates{study.flow, study.groups, study.table.Names()};
     for (auto slot = study.parents; slot < study.table.NumberOfIndividuals(); ++slot) {
       ComputeTransmissionScores(study.table, Slot{slot}, study.loci, study.matrices, scores);
-      const AllocationOutcome outcome = SearchPairs(scores, candidates, observer);
+      const AllocationOutcome outcome = ScanPairs(scores, candidates, observer);
       const Found found = SlowSearch(study, Slot{slot}, coverage);
       ASSERT_EQ(std::vector<ParentPair>(outcome.Pairs().begin(), outcome.Pairs().end()),
                 found.pairs)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/pair_search.h"
+#include "allocation/pair_scan.h"
 
 #include <algorithm>
 #include <array>
@@ -15,19 +15,7 @@ namespace {
 // compiler computes several at a time without changing any of them.
 constexpr std::size_t kPartnersAtOnce = 128;
 
-// After every so many loci a stretch whose likelihoods are all 0 by then is left: 0 times anything
-// stays 0, and most pairs fail at the first loci.
-constexpr std::size_t kLociBetweenLooks = 3;
-
 using Likelihoods = std::array<double, kPartnersAtOnce>;
-
-bool AnyIsNotZero(std::span<const double> likelihoods) {
-  int any = 0;
-  for (const double likelihood : likelihoods) {
-    any |= static_cast<int>(likelihood != 0);
-  }
-  return any != 0;
-}
 
 /// The likelihoods of `first_parent` with the partners begin, begin + 1, ... Every product runs in
 /// locus order on its own.
@@ -48,29 +36,12 @@ void MultiplyLoci(const TransmissionScores& scores, std::size_t first_parent, st
     for (std::size_t i = 0; i < count; ++i) {
       likelihoods[i] *= r1 * j2[i] + j1 * r2[i];
     }
-    if (k % kLociBetweenLooks == 0 && !AnyIsNotZero(likelihoods)) {
-      return;
-    }
   }
-}
-
-/// True where the first parent can have given neither allele at some locus: all its likelihoods are
-/// 0, whoever the partner is.
-bool IsImpossible(const TransmissionScores& scores, std::size_t first_parent) {
-  for (std::size_t k = 0; k < scores.Loci(); ++k) {
-    if (scores.R(k)[first_parent] == 0 && scores.J(k)[first_parent] == 0) {
-      return true;
-    }
-  }
-  return false;
 }
 
 /// Shows the pairs of one first parent until its row is over or left.
 void ScanRow(const TransmissionScores& scores, std::uint32_t first_parent, SlotRange partners,
              KeptPairs& kept) {
-  if (IsImpossible(scores, first_parent)) {
-    return;
-  }
   Likelihoods likelihoods;
   for (std::size_t begin = partners.begin; begin < partners.end; begin += kPartnersAtOnce) {
     const std::size_t count = std::min(kPartnersAtOnce, partners.end - begin);
@@ -89,8 +60,8 @@ void ScanRow(const TransmissionScores& scores, std::uint32_t first_parent, SlotR
 
 }  // namespace
 
-AllocationOutcome SearchPairs(const TransmissionScores& scores, const Candidates& candidates,
-                              const RunObserver& observer) {
+AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& candidates,
+                            const RunObserver& observer) {
   assert(scores.Loci() > 0 && "a likelihood needs a locus");
   KeptPairs kept(candidates.flow, candidates.names);
   for (const CandidateGroup& group : candidates.groups) {
@@ -101,6 +72,10 @@ AllocationOutcome SearchPairs(const TransmissionScores& scores, const Candidates
       ScanRow(scores, parent, PartnersOf(candidates.flow, group, parent), kept);
     }
   }
+  return OutcomeOf(kept);
+}
+
+AllocationOutcome OutcomeOf(const KeptPairs& kept) {
   AllocationOutcome outcome;
   std::copy(kept.Pairs().begin(), kept.Pairs().end(), outcome.pairs.begin());
   outcome.pair_entries = 2 * static_cast<int>(kept.Pairs().size());

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The production search against the plain scan, bit for bit, over a hundred thousand searches.
+#include "allocation/pair_searcher.h"
+
+#include <cmath>
+#include <hwy/targets.h>
+#include <map>
+
+#include <gtest/gtest.h>
+
+#include "allocation/cost_kernels.h"
+#include "tests/support/random_study.h"
+
+namespace kaldo {
+namespace {
+
+using test::RandomStudy;
+using test::RandomStudyMaker;
+using test::StudyShape;
+
+ErrorModel NoError() {
+  ErrorModel model;
+  model.kind = ErrorKind::kNoError;
+  return model;
+}
+
+ErrorModel Uniform(double epsilon) {
+  ErrorModel model;
+  model.kind = ErrorKind::kUniform;
+  model.epsilon = epsilon;
+  return model;
+}
+
+ErrorModel NonUniform(double outer, double inner) {
+  ErrorModel model;
+  model.minus2 = model.plus2 = outer;
+  model.minus1 = model.plus1 = inner;
+  model.focal = 1 - 2 * outer - 2 * inner;
+  return model;
+}
+
+/// What the searches met, so that the comparison is known to have seen it.
+using Coverage = std::map<std::string, int>;
+
+void CoverSearch(const AllocationOutcome& outcome, Coverage& coverage) {
+  const auto pairs = outcome.Pairs().size();
+  ++coverage[pairs == 0 ? "no pair" : pairs == 1 ? "one pair" : "tie"];
+  coverage["mark"] += outcome.more_than_five ? 1 : 0;
+  coverage["better pair after the mark"] += outcome.more_than_five && pairs < 5 ? 1 : 0;
+  coverage["near the smallest number"] += pairs > 0 && outcome.best_likelihood < 0x1p-900 ? 1 : 0;
+}
+
+void CompareSearches(const RandomStudy& study, PairSearcher& searcher, Coverage& coverage) {
+  const RunObserver observer;
+  const Candidates candidates{study.flow, study.groups, study.table.Names()};
+  TransmissionScores scores(study.loci.size(), study.parents);
+  searcher.Prepare(study.table, study.parents, study.loci, study.matrices, candidates);
+  for (auto i = study.parents; i < study.table.NumberOfIndividuals(); ++i) {
+    const Slot offspring{i};
+    ComputeTransmissionScores(study.table, offspring, study.loci, study.matrices, scores);
+    const AllocationOutcome scan = ScanPairs(scores, candidates, observer);
+    const AllocationOutcome search = searcher.Search(offspring, observer);
+    ASSERT_EQ(search.pair_entries, scan.pair_entries);
+    ASSERT_TRUE(std::equal(search.Pairs().begin(), search.Pairs().end(), scan.Pairs().begin()));
+    ASSERT_EQ(search.more_than_five, scan.more_than_five);
+    ASSERT_EQ(search.best_likelihood, scan.best_likelihood);
+    CoverSearch(scan, coverage);
+    bool all_missing = true;
+    for (const LocusIndex locus : study.loci) {
+      all_missing = all_missing && study.table.Genotype(locus, offspring).IsMissing();
+    }
+    coverage["all loci missing"] += all_missing ? 1 : 0;
+  }
+  coverage["several groups"] += study.groups.size() > 1 ? 1 : 0;
+  coverage[study.flow == Flow::kSexed ? "sexed" : "non-sexed"] += 1;
+}
+
+/// Runs studies of one shape over all models, with one searcher that is prepared again and again.
+void CompareShape(const StudyShape& shape, int studies, unsigned seed, Coverage& coverage) {
+  // With 1e-81, 1e-108 and 1e-162 a few mismatches lead to the smallest numbers there are.
+  const std::vector<ErrorModel> models = {
+      NoError(),      Uniform(0.02),   Uniform(0.1),        Uniform(1e-12),
+      Uniform(1e-81), Uniform(1e-108), Uniform(1e-162),     Uniform(-0.3),
+      Uniform(-5),    ErrorModel{},    NonUniform(0.02, 0), NonUniform(0, 1e-60)};
+  RandomStudyMaker maker(seed);
+  PairSearcher searcher;
+  for (int round = 0; round < studies; ++round) {
+    SCOPED_TRACE(round);
+    const auto model = static_cast<std::size_t>(round) % models.size();
+    CompareSearches(maker.Make(models[model], shape), searcher, coverage);
+    if (testing::Test::HasFatalFailure()) {
+      return;
+    }
+  }
+}
+
+void ExpectMet(Coverage& coverage, const std::vector<std::string>& what, int often) {
+  for (const std::string& one : what) {
+    EXPECT_GE(coverage[one], often) << one;
+  }
+}
+
+TEST(PairSearcher, FindsWhatTheScanFindsInSmallStudies) {
+  Coverage coverage;
+  CompareShape({12, 3, 3, 8, true, false}, 30'000, 1, coverage);
+  CompareShape({24, 6, 6, 8, true, true}, 15'000, 2, coverage);
+  ExpectMet(coverage,
+            {"no pair", "one pair", "tie", "mark", "better pair after the mark", "all loci missing",
+             "several groups", "sexed", "non-sexed"},
+            100);
+}
+
+TEST(PairSearcher, FindsWhatTheScanFindsAmongManyParents) {
+  Coverage coverage;
+  CompareShape({500, 24, 12, 6, true, true}, 450, 3, coverage);
+  CompareShape({300, 8, 12, 12, true, true}, 450, 4, coverage);
+  CompareShape({200, 50, 40, 4, true, true}, 180, 5, coverage);
+  ExpectMet(coverage, {"one pair", "tie", "mark", "several groups", "near the smallest number"},
+            10);
+}
+
+/// The narrowest vectors that this machine knows give the same, so that a laptop agrees with a
+/// cluster.
+TEST(PairSearcher, FindsTheSameWithEveryKindOfVector) {
+  for (const auto target : hwy::SupportedAndGeneratedTargets()) {
+    hwy::SetSupportedTargetsForTest(target);
+    Coverage coverage;
+    CompareShape({150, 12, 12, 6, true, true}, 90, 6, coverage);
+    EXPECT_GT(coverage["one pair"], 0) << hwy::TargetName(target);
+  }
+  hwy::SetSupportedTargetsForTest(0);
+}
+
+TEST(CostKernels, AgreeWithPlainLoops) {
+  RandomStudyMaker random(7);
+  constexpr std::size_t kBlocks = 5;
+  std::vector<std::uint8_t> added(kBlocks * kBlock);
+  std::vector<std::uint16_t> sums(added.size());
+  std::vector<std::uint16_t> expected(added.size());
+  for (std::size_t i = 0; i < added.size(); ++i) {
+    added[i] = static_cast<std::uint8_t>(random.Draw(0, 255));
+    sums[i] = static_cast<std::uint16_t>(random.Draw(0, 60'000));
+    expected[i] = static_cast<std::uint16_t>(sums[i] + added[i]);
+  }
+  AddCosts(added.data(), sums.data(), sums.size());
+  EXPECT_EQ(sums, expected);
+
+  std::vector<std::uint16_t> minima(kBlocks);
+  BlockMinima(sums.data(), minima.data(), kBlocks);
+  for (std::size_t block = 0; block < kBlocks; ++block) {
+    const auto* const begin = sums.data() + block * kBlock;
+    EXPECT_EQ(minima[block], *std::min_element(begin, begin + kBlock));
+    for (const std::uint16_t limit : {std::uint16_t{0}, minima[block], begin[17],
+                                      std::uint16_t{40'000}, std::uint16_t{0xffff}}) {
+      std::uint64_t mask = 0;
+      for (std::size_t i = 0; i < kBlock; ++i) {
+        mask |= std::uint64_t{begin[i] <= limit ? 1U : 0U} << i;
+      }
+      EXPECT_EQ(MaskAtMost(begin, limit), mask);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kaldo
