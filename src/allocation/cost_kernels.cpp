@@ -17,37 +17,50 @@ namespace hn = hwy::HWY_NAMESPACE;
 using Sums = hn::ScalableTag<std::uint16_t>;
 using Words = hn::ScalableTag<std::uint64_t>;
 
-void AddCostsImpl(const std::uint8_t* costs, std::uint16_t* sums, std::size_t count) {
-  const Sums sum_tag;
-  const hn::Rebind<std::uint8_t, Sums> cost_tag;
-  const std::size_t lanes = hn::Lanes(sum_tag);
-  for (std::size_t i = 0; i < count; i += lanes) {
-    const auto added = hn::PromoteTo(sum_tag, hn::LoadU(cost_tag, costs + i));
-    hn::StoreU(hn::Add(hn::LoadU(sum_tag, sums + i), added), sum_tag, sums + i);
-  }
-}
-
-void AndBitsImpl(const std::uint64_t* bits, std::uint64_t* all, std::size_t words) {
+void AndAllImpl(const std::uint64_t* const* rows, std::size_t count, std::uint64_t* all,
+                std::size_t words) {
   const Words tag;
   const std::size_t lanes = hn::Lanes(tag);
   std::size_t i = 0;
   for (; i + lanes <= words; i += lanes) {
-    hn::StoreU(hn::And(hn::LoadU(tag, all + i), hn::LoadU(tag, bits + i)), tag, all + i);
+    auto common = hn::LoadU(tag, rows[0] + i);
+    // Where nobody is left, further rows change nothing.
+    for (std::size_t row = 1; row < count && !hn::AllTrue(tag, hn::Eq(common, hn::Zero(tag)));
+         ++row) {
+      common = hn::And(common, hn::LoadU(tag, rows[row] + i));
+    }
+    hn::StoreU(common, tag, all + i);
   }
   for (; i < words; ++i) {
-    all[i] &= bits[i];
+    std::uint64_t common = rows[0][i];
+    for (std::size_t row = 1; row < count; ++row) {
+      common &= rows[row][i];
+    }
+    all[i] = common;
   }
 }
 
-void BlockMinimaImpl(const std::uint16_t* costs, std::uint16_t* minima, std::size_t blocks) {
+void SumCostsImpl(const std::uint8_t* const* rows, std::size_t count, const std::uint64_t* possible,
+                  std::size_t blocks, std::uint16_t impossible, std::uint16_t* sums,
+                  std::uint16_t* minima) {
   const Sums tag;
+  const hn::Rebind<std::uint8_t, Sums> cost_tag;
   const std::size_t lanes = hn::Lanes(tag);
   HWY_ALIGN std::uint16_t smallest[kBlock];
   for (std::size_t block = 0; block < blocks; ++block) {
-    const std::uint16_t* const begin = costs + block * kBlock;
-    auto minimum = hn::LoadU(tag, begin);
-    for (std::size_t i = lanes; i < kBlock; i += lanes) {
-      minimum = hn::Min(minimum, hn::LoadU(tag, begin + i));
+    auto minimum = hn::Set(tag, impossible);
+    for (std::size_t i = 0; i < kBlock; i += lanes) {
+      const std::size_t at = block * kBlock + i;
+      auto sum = hn::Zero(tag);
+      for (std::size_t row = 0; row < count; ++row) {
+        sum = hn::Add(sum, hn::PromoteTo(tag, hn::LoadU(cost_tag, rows[row] + at)));
+      }
+      const std::uint64_t bits = possible[block] >> i;
+      std::uint8_t bytes[8];
+      __builtin_memcpy(bytes, &bits, sizeof(bits));
+      sum = hn::IfThenElse(hn::LoadMaskBits(tag, bytes), sum, hn::Set(tag, impossible));
+      hn::StoreU(sum, tag, sums + at);
+      minimum = hn::Min(minimum, sum);
     }
     hn::StoreU(minimum, tag, smallest);
     std::uint16_t least = smallest[0];
@@ -80,21 +93,18 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace kaldo {
 
-HWY_EXPORT(AddCostsImpl);
-HWY_EXPORT(AndBitsImpl);
-HWY_EXPORT(BlockMinimaImpl);
+HWY_EXPORT(AndAllImpl);
+HWY_EXPORT(SumCostsImpl);
 HWY_EXPORT(MaskAtMostImpl);
 
-void AddCosts(const std::uint8_t* costs, std::uint16_t* sums, std::size_t count) {
-  HWY_DYNAMIC_DISPATCH(AddCostsImpl)(costs, sums, count);
+void AndAll(std::span<const std::uint64_t* const> rows, std::span<std::uint64_t> all) {
+  HWY_DYNAMIC_DISPATCH(AndAllImpl)(rows.data(), rows.size(), all.data(), all.size());
 }
 
-void AndBits(const std::uint64_t* bits, std::uint64_t* all, std::size_t words) {
-  HWY_DYNAMIC_DISPATCH(AndBitsImpl)(bits, all, words);
-}
-
-void BlockMinima(const std::uint16_t* costs, std::uint16_t* minima, std::size_t blocks) {
-  HWY_DYNAMIC_DISPATCH(BlockMinimaImpl)(costs, minima, blocks);
+void SumCosts(std::span<const std::uint8_t* const> rows, std::span<const std::uint64_t> possible,
+              std::uint16_t impossible, std::uint16_t* sums, std::uint16_t* minima) {
+  HWY_DYNAMIC_DISPATCH(SumCostsImpl)
+  (rows.data(), rows.size(), possible.data(), possible.size(), impossible, sums, minima);
 }
 
 std::uint64_t MaskAtMost(const std::uint16_t* costs, std::uint16_t limit) {

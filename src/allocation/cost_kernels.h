@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace kaldo {
 
@@ -12,14 +13,13 @@ inline constexpr std::size_t kBlock = 64;
 // The inner loops of the pair search. They work on integers and masks only, so that every processor
 // gives the same result; the widest vectors that the machine has are chosen when the program runs.
 
-/// sums[i] += costs[i] for the first `count` parents; `count` is a multiple of kBlock.
-void AddCosts(const std::uint8_t* costs, std::uint16_t* sums, std::size_t count);
+/// all = the words that every one of the bit rows has in common, at least one row.
+void AndAll(std::span<const std::uint64_t* const> rows, std::span<std::uint64_t> all);
 
-/// all[w] &= bits[w] for so many words.
-void AndBits(const std::uint64_t* bits, std::uint64_t* all, std::size_t words);
-
-/// The smallest of each block of costs.
-void BlockMinima(const std::uint16_t* costs, std::uint16_t* minima, std::size_t blocks);
+/// Adds up the costs of every parent over the rows, and finds the smallest sum of each block. A
+/// parent whose bit in `possible` (a word per block) is not set gets `impossible`.
+void SumCosts(std::span<const std::uint8_t* const> rows, std::span<const std::uint64_t> possible,
+              std::uint16_t impossible, std::uint16_t* sums, std::uint16_t* minima);
 
 /// Bit i is set where costs[i] is at most `limit`, for one block.
 std::uint64_t MaskAtMost(const std::uint16_t* costs, std::uint16_t limit);

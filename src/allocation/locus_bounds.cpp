@@ -28,44 +28,56 @@ void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& 
                         AlleleIndex r, AlleleIndex j, double side_ratio) {
   const std::size_t classes = parents.Count();
   scores.resize(classes);
-  one_sided.resize(classes);
   double largest = 0;
   for (std::size_t number = 0; number < classes; ++number) {
     const LocusGenotype& genotype = parents.Genotype(number);
     const std::size_t p1 = genotype.index1.Value();
     const std::size_t p2 = genotype.index2.Value();
     // The same sums as in the plain scan, so that products tie where they tie there.
-    scores[number] = {matrix(p1, r.Value()) + matrix(p2, r.Value()),
-                      matrix(p1, j.Value()) + matrix(p2, j.Value())};
-    largest = std::max(largest, std::hypot(scores[number].r, scores[number].j));
+    const double to_r = matrix(p1, r.Value()) + matrix(p2, r.Value());
+    const double to_j = matrix(p1, j.Value()) + matrix(p2, j.Value());
+    scores[number] = {to_r, to_j, to_j <= side_ratio * to_r ? 1U : 0U,
+                      to_r <= side_ratio * to_j ? 1U : 0U};
+    largest = std::max(largest, std::hypot(to_r, to_j));
   }
   log_largest = largest > 0 ? std::log(largest) : 0;
 
-  std::array<std::uint8_t, kMostClasses> cost_of_class;
-  std::array<std::uint8_t, kMostClasses> possible_class;
+  costs.clear();
+  cost_of_class.resize(classes);
   all_possible = true;
   for (std::size_t number = 0; number < classes; ++number) {
-    const auto [to_r, to_j] = scores[number];
-    const double length = std::hypot(to_r, to_j);
-    possible_class[number] = length > 0 ? 1 : 0;
+    const double length = std::hypot(scores[number].r, scores[number].j);
     all_possible = all_possible && length > 0;
     cost_of_class[number] = length > 0 ? CostOf(length, log_largest) : 0;
-    one_sided[number] = static_cast<std::uint8_t>((to_j <= side_ratio * to_r ? 1 : 0) +
-                                                  (to_r <= side_ratio * to_j ? 2 : 0));
   }
+  if (!all_possible) {
+    FindPossibleParents(parents);
+  }
+}
 
+void LocusBounds::FindPossibleParents(const ParentClasses& parents) {
+  std::array<std::uint8_t, kMostClasses> possible_class;
+  for (std::size_t number = 0; number < scores.size(); ++number) {
+    possible_class.at(number) = scores[number].r > 0 || scores[number].j > 0 ? 1 : 0;
+  }
   const auto of_parents = parents.OfParents();
-  const std::size_t padded = (of_parents.size() + kBlock - 1) / kBlock * kBlock;
-  costs.assign(padded, 0);
+  possible.resize((of_parents.size() + kBlock - 1) / kBlock);
+  for (std::size_t block = 0; block < possible.size(); ++block) {
+    const std::size_t begin = block * kBlock;
+    const std::size_t count = std::min(kBlock, of_parents.size() - begin);
+    std::uint64_t word = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+      word |= std::uint64_t{possible_class[of_parents[begin + i]]} << i;
+    }
+    possible[block] = word;
+  }
+}
+
+void LocusBounds::AddCostsOfParents(const ParentClasses& parents) {
+  const auto of_parents = parents.OfParents();
+  costs.assign((of_parents.size() + kBlock - 1) / kBlock * kBlock, 0);
   for (std::size_t slot = 0; slot < of_parents.size(); ++slot) {
     costs[slot] = cost_of_class[of_parents[slot]];
-  }
-  if (all_possible) {
-    return;
-  }
-  possible.assign(padded / kBlock, 0);
-  for (std::size_t slot = 0; slot < of_parents.size(); ++slot) {
-    possible[slot / kBlock] |= std::uint64_t{possible_class[of_parents[slot]]} << slot % kBlock;
   }
 }
 

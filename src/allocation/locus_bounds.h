@@ -20,25 +20,34 @@ inline constexpr double kCostsPerNat = 16;
 /// locus over its own |v|, and the costs of two parents together bound the logarithm of their
 /// factor. Costs are rounded down: a bound never promises too little.
 struct LocusBounds {
-  /// P_R and P_J, by class of parents.
+  /// P_R and P_J of a class of parents, and whether it can hardly have given J, or R.
   struct Scores {
     double r = 0;
     double j = 0;
+    std::uint32_t hardly_j = 0;
+    std::uint32_t hardly_r = 0;
   };
-  std::vector<Scores> scores;
+  std::vector<Scores> scores;  ///< by class
 
-  /// By class: bit 0, the parent can hardly have given J; bit 1, it can hardly have given R.
-  std::vector<std::uint8_t> one_sided;
-
-  std::vector<std::uint8_t> costs;      ///< by slot, up to a multiple of kBlock
+  std::vector<std::uint8_t> cost_of_class;
   std::vector<std::uint64_t> possible;  ///< bit by slot: the parent can have given something
   bool all_possible = true;
   double log_largest = 0;  ///< logarithm of the largest |v|
 
-  /// Works them out. A class is one-sided where its smaller score is at most `side_ratio` times its
-  /// larger one.
+  /// Costs by slot, up to a multiple of kBlock; empty until AddCostsOfParents().
+  std::vector<std::uint8_t> costs;
+
+  /// Works out all but the costs of the single parents. A class can hardly have given an allele
+  /// where its score for it is at most `side_ratio` times the other one. The two alleles may be
+  /// exchanged: the factor of a pair stays the same to the last bit.
   void Build(const ParentClasses& parents, const TransmissionMatrix& matrix, AlleleIndex r,
              AlleleIndex j, double side_ratio);
+
+  /// Spreads the costs of the classes over the parents, when they are first wanted.
+  void AddCostsOfParents(const ParentClasses& parents);
+
+ private:
+  void FindPossibleParents(const ParentClasses& parents);
 };
 
 }  // namespace kaldo

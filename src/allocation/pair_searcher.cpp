@@ -128,17 +128,22 @@ void PairSearcher::Prepare(const GenotypeTable& table, std::size_t parents,
   group_minima_.resize((blocks + kBlocksAtOnce - 1) / kBlocksAtOnce);
   partner_minima_.resize(blocks + 1);
   parent_scores_.resize(parents);
+  score_pool_.resize(2 * parents * loci.size());
+  all_parents_.assign(blocks, ~std::uint64_t{0});
+  if (parents % kBlock != 0) {
+    all_parents_.back() = (std::uint64_t{1} << parents % kBlock) - 1;
+  }
 }
 
-const LocusBounds& PairSearcher::BoundsOf(std::size_t k, const LocusGenotype& offspring) {
+LocusBounds& PairSearcher::BoundsOf(std::size_t k, const LocusGenotype& offspring) {
   Locus& locus = loci_[k];
   const TransmissionMatrix& matrix = matrices_[locus.index.Value()];
-  std::int32_t& place =
-      locus.bounds_of[offspring.index1.Value() * matrix.Alleles() + offspring.index2.Value()];
+  // Both orders of the offspring's alleles share their bounds.
+  const auto [smaller, larger] = std::minmax(offspring.index1, offspring.index2);
+  std::int32_t& place = locus.bounds_of[smaller.Value() * matrix.Alleles() + larger.Value()];
   if (place == kNoBounds) {
     place = static_cast<std::int32_t>(bounds_in_use_);
-    bounds_[bounds_in_use_].Build(locus.classes, matrix, offspring.index1, offspring.index2,
-                                  side_ratio_);
+    bounds_[bounds_in_use_].Build(locus.classes, matrix, smaller, larger, side_ratio_);
     ++bounds_in_use_;
   }
   return bounds_[static_cast<std::size_t>(place)];
@@ -155,6 +160,7 @@ void PairSearcher::CollectBounds(Slot offspring) {
   bounds_.resize(std::max(bounds_.size(), bounds_in_use_ + loci_.size()));
   current_.clear();
   current_loci_.clear();
+  current_scores_.clear();
   log_largest_ = 0;
   for (std::size_t k = 0; k < loci_.size(); ++k) {
     const LocusGenotype& genotype = table_->Genotype(loci_[k].index, offspring);
@@ -162,25 +168,22 @@ void PairSearcher::CollectBounds(Slot offspring) {
     if (!genotype.IsMissing()) {
       current_.push_back(&BoundsOf(k, genotype));
       current_loci_.push_back(k);
+      current_scores_.push_back(current_.back()->scores.data());
       log_largest_ += current_.back()->log_largest;
     }
   }
 }
 
 void PairSearcher::FindPossibleParents() {
-  std::fill(possible_.begin(), possible_.end(), ~std::uint64_t{0});
-  if (parents_ % kBlock != 0) {
-    possible_.back() = (std::uint64_t{1} << parents_ % kBlock) - 1;
-  }
-  bool all_possible = true;
+  possible_rows_.assign(1, all_parents_.data());
   for (const LocusBounds* bounds : current_) {
     if (!bounds->all_possible) {
-      AndBits(bounds->possible.data(), possible_.data(), possible_.size());
-      all_possible = false;
+      possible_rows_.push_back(bounds->possible.data());
     }
   }
+  AndAll(possible_rows_, possible_);
   few_.clear();
-  has_few_ = !all_possible;
+  has_few_ = possible_rows_.size() > 1;
   for (std::size_t block = 0; has_few_ && block < possible_.size(); ++block) {
     for (std::uint64_t rest = possible_[block]; has_few_ && rest != 0; rest &= rest - 1) {
       few_.push_back(SlotOf(block, rest));
@@ -191,28 +194,27 @@ void PairSearcher::FindPossibleParents() {
 
 void PairSearcher::AddUpCostsOfFew() {
   for (const std::uint32_t parent : few_) {
+    const std::uint16_t* const classes = classes_by_parent_.data() + parent * loci_.size();
     std::uint16_t cost = 0;
-    for (const LocusBounds* bounds : current_) {
-      cost = static_cast<std::uint16_t>(cost + bounds->costs[parent]);
+    for (std::size_t i = 0; i < current_.size(); ++i) {
+      const std::uint8_t added = current_[i]->cost_of_class[classes[current_loci_[i]]];
+      cost = static_cast<std::uint16_t>(cost + added);
     }
     costs_[parent] = cost;
   }
 }
 
 void PairSearcher::AddUpCosts() {
-  std::fill(costs_.begin(), costs_.end(), std::uint16_t{0});
-  for (const LocusBounds* bounds : current_) {
-    AddCosts(bounds->costs.data(), costs_.data(), costs_.size());
-  }
-  for (std::size_t block = 0; block < possible_.size(); ++block) {
-    for (std::uint64_t rest = ~possible_[block]; rest != 0; rest &= rest - 1) {
-      costs_[SlotOf(block, rest)] = kImpossible;
+  cost_rows_.clear();
+  if (bounds_hold_) {
+    for (std::size_t i = 0; i < current_.size(); ++i) {
+      if (current_[i]->costs.empty()) {
+        current_[i]->AddCostsOfParents(loci_[current_loci_[i]].classes);
+      }
+      cost_rows_.push_back(current_[i]->costs.data());
     }
   }
-  if (!bounds_hold_) {
-    std::fill(costs_.begin(), costs_.end(), std::uint16_t{0});
-  }
-  BlockMinima(costs_.data(), block_minima_.data(), block_minima_.size());
+  SumCosts(cost_rows_, possible_, kImpossible, costs_.data(), block_minima_.data());
   for (std::size_t many = 0; many < group_minima_.size(); ++many) {
     const std::size_t begin = many * kBlocksAtOnce;
     const std::size_t end = std::min(begin + kBlocksAtOnce, block_minima_.size());
@@ -227,28 +229,25 @@ const PairSearcher::ParentScores& PairSearcher::ScoresOf(std::uint32_t parent) {
   if (scores.epoch == epoch_) {
     return scores;
   }
-  scores = {0, 0, epoch_, static_cast<std::uint32_t>(score_pool_.size())};
+  scores = {0, 0, epoch_};
   const std::uint16_t* const classes = classes_by_parent_.data() + parent * loci_.size();
-  score_pool_.resize(score_pool_.size() + 2 * current_.size());
-  double* const pool = score_pool_.data() + scores.place;
+  double* const pool = score_pool_.data() + 2 * parent * loci_.size();
   for (std::size_t i = 0; i < current_.size(); ++i) {
-    const std::size_t number = classes[current_loci_[i]];
-    const LocusBounds::Scores& of_class = current_[i]->scores[number];
+    const LocusBounds::Scores& of_class = current_scores_[i][classes[current_loci_[i]]];
     pool[2 * i] = of_class.r;
     pool[2 * i + 1] = of_class.j;
-    const std::uint64_t sides = current_[i]->one_sided[number];
-    scores.hardly_j |= (sides & 1U) << i;
-    scores.hardly_r |= (sides >> 1U) << i;
+    scores.hardly_j |= std::uint64_t{of_class.hardly_j} << i;
+    scores.hardly_r |= std::uint64_t{of_class.hardly_r} << i;
   }
   return scores;
 }
 
-double PairSearcher::Likelihood(const ParentScores& one, const ParentScores& two) const {
+double PairSearcher::Likelihood(std::uint32_t one, std::uint32_t two) const {
   if (current_.empty()) {
     return 1;
   }
-  const double* const scores1 = score_pool_.data() + one.place;
-  const double* const scores2 = score_pool_.data() + two.place;
+  const double* const scores1 = score_pool_.data() + 2 * one * loci_.size();
+  const double* const scores2 = score_pool_.data() + 2 * two * loci_.size();
   double product = scores1[0] * scores2[1] + scores1[1] * scores2[0];
   for (std::size_t i = 1; i < current_.size(); ++i) {
     product *= scores1[2 * i] * scores2[2 * i + 1] + scores1[2 * i + 1] * scores2[2 * i];
@@ -277,7 +276,7 @@ AfterPair PairSearcher::TryPair(std::uint32_t first_parent, std::uint32_t partne
   if (cost + conflicts * one_sided_cost_ > limit_) {
     return AfterPair::kGoOn;
   }
-  const double likelihood = Likelihood(one, two);
+  const double likelihood = Likelihood(first_parent, partner);
   if (!kept.Matters(likelihood)) {
     return AfterPair::kGoOn;
   }
@@ -374,7 +373,6 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
     throw RunStopped();
   }
   ++epoch_;
-  score_pool_.clear();
   CollectBounds(offspring);
   FindPossibleParents();
   KeptPairs kept(candidates_.flow, candidates_.names);

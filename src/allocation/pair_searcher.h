@@ -48,7 +48,7 @@ class PairSearcher {
     std::uint32_t place = 0;  ///< where they start in score_pool_
   };
 
-  const LocusBounds& BoundsOf(std::size_t k, const LocusGenotype& offspring);
+  LocusBounds& BoundsOf(std::size_t k, const LocusGenotype& offspring);
   void CollectBounds(Slot offspring);
   void FindPossibleParents();
   void AddUpCosts();
@@ -58,7 +58,7 @@ class PairSearcher {
   void ScanFew(const CandidateGroup& group, KeptPairs& kept);
   AfterPair TryPair(std::uint32_t first_parent, std::uint32_t partner, KeptPairs& kept);
   const ParentScores& ScoresOf(std::uint32_t parent);
-  double Likelihood(const ParentScores& one, const ParentScores& two) const;
+  double Likelihood(std::uint32_t one, std::uint32_t two) const;
   void Tighten(double best);
   void FillPartnerMinima(const CandidateGroup& group);
 
@@ -77,9 +77,13 @@ class PairSearcher {
   std::size_t most_bounds_ = 0;
 
   // Of the current offspring:
-  std::vector<const LocusBounds*> current_;  ///< at its loci that are not missing
+  std::vector<LocusBounds*> current_;  ///< at its loci that are not missing
   std::vector<std::size_t> current_loci_;
+  std::vector<const LocusBounds::Scores*> current_scores_;  ///< theirs
   double log_largest_ = 0;
+  std::vector<std::uint64_t> all_parents_;
+  std::vector<const std::uint64_t*> possible_rows_;
+  std::vector<const std::uint8_t*> cost_rows_;
   std::vector<std::uint64_t> possible_;  ///< bit by slot
   std::vector<std::uint32_t> few_;       ///< the possible parents, when they are few
   bool has_few_ = false;
@@ -90,7 +94,7 @@ class PairSearcher {
   std::int32_t limit_ = 0;                     ///< costs of a pair above it: it cannot matter
   std::uint32_t epoch_ = 0;
   std::vector<ParentScores> parent_scores_;
-  std::vector<double> score_pool_;
+  std::vector<double> score_pool_;  ///< P_R and P_J by slot and locus
 };
 
 }  // namespace kaldo

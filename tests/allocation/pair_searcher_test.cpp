@@ -133,20 +133,43 @@ TEST(PairSearcher, FindsTheSameWithEveryKindOfVector) {
 
 TEST(CostKernels, AgreeWithPlainLoops) {
   RandomStudyMaker random(7);
-  constexpr std::size_t kBlocks = 5;
-  std::vector<std::uint8_t> added(kBlocks * kBlock);
-  std::vector<std::uint16_t> sums(added.size());
-  std::vector<std::uint16_t> expected(added.size());
-  for (std::size_t i = 0; i < added.size(); ++i) {
-    added[i] = static_cast<std::uint8_t>(random.Draw(0, 255));
-    sums[i] = static_cast<std::uint16_t>(random.Draw(0, 60'000));
-    expected[i] = static_cast<std::uint16_t>(sums[i] + added[i]);
+  constexpr std::size_t kBlocks = 13;
+  constexpr std::size_t kRows = 6;
+  std::vector<std::vector<std::uint8_t>> costs(kRows);
+  std::vector<std::vector<std::uint64_t>> bits(kRows);
+  std::vector<const std::uint8_t*> cost_rows;
+  std::vector<const std::uint64_t*> bit_rows;
+  for (std::size_t row = 0; row < kRows; ++row) {
+    for (std::size_t i = 0; i < kBlocks * kBlock; ++i) {
+      costs[row].push_back(static_cast<std::uint8_t>(random.Draw(0, 255)));
+    }
+    for (std::size_t block = 0; block < kBlocks; ++block) {
+      const std::uint64_t word = std::uint64_t{random.Draw(0, 0xffffffff)} << 32U;
+      bits[row].push_back(block % 3 == 0 ? 0 : word | random.Draw(0, 0xffffffff));
+    }
+    cost_rows.push_back(costs[row].data());
+    bit_rows.push_back(bits[row].data());
   }
-  AddCosts(added.data(), sums.data(), sums.size());
-  EXPECT_EQ(sums, expected);
-
+  std::vector<std::uint64_t> all(kBlocks);
+  AndAll(bit_rows, all);
+  std::vector<std::uint16_t> sums(kBlocks * kBlock);
   std::vector<std::uint16_t> minima(kBlocks);
-  BlockMinima(sums.data(), minima.data(), kBlocks);
+  SumCosts(cost_rows, bits[0], 0xffff, sums.data(), minima.data());
+  for (std::size_t block = 0; block < kBlocks; ++block) {
+    std::uint64_t common = ~std::uint64_t{0};
+    for (const auto& row : bits) {
+      common &= row[block];
+    }
+    EXPECT_EQ(all[block], common);
+    for (std::size_t i = block * kBlock; i < (block + 1) * kBlock; ++i) {
+      int sum = 0;
+      for (const auto& row : costs) {
+        sum += row[i];
+      }
+      const bool possible = (bits[0][block] >> i % kBlock & 1U) != 0;
+      EXPECT_EQ(sums[i], possible ? sum : 0xffff);
+    }
+  }
   for (std::size_t block = 0; block < kBlocks; ++block) {
     const auto* const begin = sums.data() + block * kBlock;
     EXPECT_EQ(minima[block], *std::min_element(begin, begin + kBlock));

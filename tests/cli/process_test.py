@@ -21,7 +21,6 @@ sys.dont_write_bytecode = True   # leave the source folder as it is
 KALDO = None             # the program, an absolute path
 GENEROUS = 120           # seconds: against a hang only, nothing waits so long when all is well
 RUN_RECORD = "Run record.toml"
-LONG_RUN = ("--sequence", "--threads", "1")   # a minute or more with write_long_study()
 
 
 def write_study(folder, parents, offspring, loci, seed):
@@ -42,6 +41,18 @@ def write_study(folder, parents, offspring, loci, seed):
 def arguments(project, *more):
     return [KALDO, "allocate", "--project", project, "--loci", "loci.txt", "--parents",
             "parents.txt", "--offspring", "offspring.txt", *more]
+
+
+def long_run(project, threads="1"):
+    """A simulation of a minute or more: the search is quick, but 40 million allocations are not."""
+    command = [KALDO, "simulate", "--sexed", "--project", project, "--loci", "loci.txt",
+               "--collected-males", "parents.txt", "--collected-females", "offspring.txt",
+               "--iterations", "1000", "--offspring-per-iteration", "40000",
+               "--seed", "1", "--threads", threads]
+    for sex in ("male", "female"):
+        command += [f"--uncollected-{sex}-sample", "parents.txt", f"--uncollected-{sex}s", "20",
+                    f"--estimated-collected-{sex}s", "1", f"--estimated-uncollected-{sex}s", "1"]
+    return command
 
 
 def contents(folder):
@@ -79,7 +90,7 @@ class Processes(unittest.TestCase):
         return process
 
     def write_long_study(self):
-        write_study(self.folder, parents=3000, offspring=3000, loci=15, seed=1)
+        write_study(self.folder, parents=40, offspring=40, loci=15, seed=1)
 
 
 class ExitCodes(Processes):
@@ -152,12 +163,12 @@ class StoppedRuns(Processes):
         self.write_long_study()
         project = self.folder / "project"
         project.mkdir()
-        earlier = {"Allocation results.xls": b"of an earlier run\n",
+        earlier = {"Summary.xls": b"of an earlier run\n",
                    "Sequence results.xls": b"of an earlier run\n",
                    RUN_RECORD: b"# of an earlier run\n"}
         for name, data in earlier.items():
             (project / name).write_bytes(data)
-        process = self.start(arguments("project", "--sequence", "--threads", "2"),
+        process = self.start(long_run("project", threads="2"),
                              stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         wait_until(lambda: list(project.glob("*.part")) or process.poll() is not None,
                    "reports being written")
@@ -203,9 +214,9 @@ class Terminals(Processes):
 
     def test_a_long_run_shows_its_progress(self):
         self.write_long_study()
-        process, controller = self.start_on_terminal(arguments("project", *LONG_RUN))
+        process, controller = self.start_on_terminal(long_run("project"))
         seen = self.read_until(controller, b" left")
-        self.assertRegex(seen, rb"\r\x1b\[KAllocating \[[#.]{24}\] +\d+ %  \d+ of 45000")
+        self.assertRegex(seen, rb"\r\x1b\[KSimulating \[[#.]{24}\] +\d+ %  \d+ of 1000")
         process.send_signal(signal.SIGINT)
         seen += self.read_until(controller, None)
         self.assertEqual(process.wait(GENEROUS), 130)
@@ -222,11 +233,11 @@ class Terminals(Processes):
         self.write_long_study()
         messages = self.folder / "messages"
         with open(messages, "wb") as stream:
-            silent = self.start(arguments("silent", *LONG_RUN), stdout=subprocess.DEVNULL,
+            silent = self.start(long_run("silent"), stdout=subprocess.DEVNULL,
                                 stderr=stream)
         wait_until(lambda: list((self.folder / "silent").glob("*.part")), "reports being written")
         # A run that began later, on a terminal, is the clock: it has drawn its bar three times.
-        shown, controller = self.start_on_terminal(arguments("shown", *LONG_RUN))
+        shown, controller = self.start_on_terminal(long_run("shown"))
         for _ in range(3):
             self.read_until(controller, b" left")
         shown.kill()
