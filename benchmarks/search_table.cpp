@@ -4,11 +4,12 @@
 // errors. A quarter of the offspring has both true parents among the N collected ones, half one, a
 // quarter none. Both searches must agree on every offspring that both have searched.
 //
-// build/release/benchmarks/kaldo_search_table [LARGEST_N]
+// build/release/benchmarks/kaldo_search_table [LARGEST_N [MODEL]]
+#include <array>
 #include <chrono>
 #include <cstdlib>
 #include <random>
-#include <string>
+#include <string_view>
 
 #include <fmt/format.h>
 
@@ -107,9 +108,9 @@ bool SameSearch(const AllocationOutcome& a, const AllocationOutcome& b) {
          a.more_than_five == b.more_than_five && a.best_likelihood == b.best_likelihood;
 }
 
-void Row(std::uint32_t parents, const std::string& name, const ErrorModel& model) {
+void Row(std::uint32_t parents, std::string_view name, const ErrorModel& model) {
   const std::uint32_t scanned = parents >= 50'000 ? 1 : parents >= 5'000 ? 8 : 100;
-  const std::uint32_t searched = parents >= 50'000 ? 4'000 : 20'000;
+  const std::uint32_t searched = parents > 1'000 ? 20'000 : 100'000;
   const Study study(parents, searched);
   const auto matrices = study.Matrices(model);
   const RunObserver observer;
@@ -142,10 +143,11 @@ void Row(std::uint32_t parents, const std::string& name, const ErrorModel& model
              scan / search);
 }
 
-void Table(std::int32_t largest) {
+void Table(std::int32_t largest, std::string_view wanted) {
   ErrorModel uniform;
   uniform.kind = ErrorKind::kUniform;
   uniform.epsilon = 0.02;
+  const ErrorModel non_uniform;
   ErrorModel none;
   none.kind = ErrorKind::kNoError;
   fmt::print(
@@ -158,9 +160,13 @@ void Table(std::int32_t largest) {
     if (parents > static_cast<std::uint32_t>(largest)) {
       break;
     }
-    Row(parents, "Uniform", uniform);
-    Row(parents, "Non Uniform", ErrorModel{});
-    Row(parents, "No Error", none);
+    const std::array<std::pair<std::string_view, const ErrorModel*>, 3> models = {
+        {{"Uniform", &uniform}, {"Non Uniform", &non_uniform}, {"No Error", &none}}};
+    for (const auto& [name, model] : models) {
+      if (wanted.empty() || wanted == name) {
+        Row(parents, name, *model);
+      }
+    }
   }
 }
 
@@ -168,5 +174,6 @@ void Table(std::int32_t largest) {
 }  // namespace kaldo
 
 int main(int argc, char** argv) {
-  kaldo::Table(argc > 1 ? kaldo::ParseInteger(argv[1]).value_or(0) : 50'000);
+  kaldo::Table(argc > 1 ? kaldo::ParseInteger(argv[1]).value_or(0) : 50'000,
+               argc > 2 ? argv[2] : "");
 }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 #include "allocation/cost_kernels.h"
 #include "genotypes/capacities.h"
@@ -17,8 +18,24 @@ constexpr std::size_t kMostClasses = kMaxAlleles * (kMaxAlleles + 1) / 2;
 // Logarithms are off by less than this many costs.
 constexpr double kRoundingMargin = 1e-6;
 
-std::uint8_t CostOf(double length, double log_largest) {
-  const double cost = kCostsPerNat * (log_largest - std::log(length)) - kRoundingMargin;
+// Squares of larger numbers keep all their digits.
+constexpr double kSafeToSquare = 0x1p-400;
+
+/// The logarithm of |(r, j)|; minus infinity for (0, 0).
+double LogLength(double r, double j) {
+  const double larger = std::max(std::abs(r), std::abs(j));
+  if (larger > kSafeToSquare) {
+    return 0.5 * std::log(r * r + j * j);
+  }
+  if (larger == 0) {
+    return -std::numeric_limits<double>::infinity();
+  }
+  const double ratio = std::min(std::abs(r), std::abs(j)) / larger;
+  return std::log(larger) + 0.5 * std::log1p(ratio * ratio);
+}
+
+std::uint8_t CostOf(double log_length, double log_largest) {
+  const double cost = kCostsPerNat * (log_largest - log_length) - kRoundingMargin;
   return static_cast<std::uint8_t>(std::clamp(std::floor(cost), 0.0, kLargestCost));
 }
 
@@ -28,7 +45,8 @@ void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& 
                         AlleleIndex r, AlleleIndex j, double side_ratio) {
   const std::size_t classes = parents.Count();
   scores.resize(classes);
-  double largest = 0;
+  std::array<double, kMostClasses> log_lengths;
+  log_largest = -std::numeric_limits<double>::infinity();
   for (std::size_t number = 0; number < classes; ++number) {
     const LocusGenotype& genotype = parents.Genotype(number);
     const std::size_t p1 = genotype.index1.Value();
@@ -38,17 +56,19 @@ void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& 
     const double to_j = matrix(p1, j.Value()) + matrix(p2, j.Value());
     scores[number] = {to_r, to_j, to_j <= side_ratio * to_r ? 1U : 0U,
                       to_r <= side_ratio * to_j ? 1U : 0U};
-    largest = std::max(largest, std::hypot(to_r, to_j));
+    log_lengths.at(number) = LogLength(to_r, to_j);
+    log_largest = std::max(log_largest, log_lengths.at(number));
   }
-  log_largest = largest > 0 ? std::log(largest) : 0;
-
+  if (std::isinf(log_largest)) {
+    log_largest = 0;  // nobody can have given anything
+  }
   costs.clear();
   cost_of_class.resize(classes);
   all_possible = true;
   for (std::size_t number = 0; number < classes; ++number) {
-    const double length = std::hypot(scores[number].r, scores[number].j);
-    all_possible = all_possible && length > 0;
-    cost_of_class[number] = length > 0 ? CostOf(length, log_largest) : 0;
+    const bool is_possible = !std::isinf(log_lengths.at(number));
+    all_possible = all_possible && is_possible;
+    cost_of_class[number] = is_possible ? CostOf(log_lengths.at(number), log_largest) : 0;
   }
   if (!all_possible) {
     FindPossibleParents(parents);
@@ -58,7 +78,7 @@ void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& 
 void LocusBounds::FindPossibleParents(const ParentClasses& parents) {
   std::array<std::uint8_t, kMostClasses> possible_class;
   for (std::size_t number = 0; number < scores.size(); ++number) {
-    possible_class.at(number) = scores[number].r > 0 || scores[number].j > 0 ? 1 : 0;
+    possible_class.at(number) = scores[number].r != 0 || scores[number].j != 0 ? 1 : 0;
   }
   const auto of_parents = parents.OfParents();
   possible.resize((of_parents.size() + kBlock - 1) / kBlock);

@@ -21,6 +21,8 @@ constexpr std::int32_t kNoLimit = 0x7fff;
 
 // So few parents that can have given something everywhere are tried one by one.
 constexpr std::size_t kFew = 32;
+// The costs of more than so many parents a block are added up for the whole blocks.
+constexpr std::size_t kFewPerBlock = 2;
 
 // Limits are this much too wide, in costs, against rounding in logarithms and products.
 constexpr double kLimitMargin = 1e-6;
@@ -378,7 +380,11 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
   KeptPairs kept(candidates_.flow, candidates_.names);
   Tighten(0);
   if (has_few_) {
-    AddUpCostsOfFew();
+    if (few_.size() > kFewPerBlock * possible_.size()) {
+      AddUpCosts();
+    } else {
+      AddUpCostsOfFew();
+    }
     for (const CandidateGroup& group : candidates_.groups) {
       ScanFew(group, kept);
     }
