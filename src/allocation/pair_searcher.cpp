@@ -19,6 +19,9 @@ constexpr std::int32_t kNoBounds = -1;
 constexpr std::uint16_t kImpossible = 0xffff;
 constexpr std::int32_t kNoLimit = 0x7fff;
 
+// Among so few parents the plain scan is quicker than any preparation for it.
+constexpr std::size_t kFewToScan = 30;
+
 // So few parents that can have given something everywhere are tried one by one.
 constexpr std::size_t kFew = 32;
 // The costs of more than so many parents a block are added up for the whole blocks.
@@ -93,6 +96,11 @@ void PairSearcher::Prepare(const GenotypeTable& table, std::size_t parents,
   matrices_ = matrices;
   candidates_ = candidates;
   parents_ = static_cast<std::uint32_t>(parents);
+  if (parents <= kFewToScan) {
+    loci_to_scan_.assign(loci.begin(), loci.end());
+    scan_scores_ = TransmissionScores(loci.size(), parents);
+    return;
+  }
   const auto ratio = SideRatio(matrices, loci);
   bounds_hold_ = ratio.has_value();
   side_ratio_ = std::min(ratio.value_or(0), kLargestSideRatio);
@@ -374,11 +382,18 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
   if (observer.StopRequested()) {
     throw RunStopped();
   }
+  if (parents_ <= kFewToScan) {
+    ComputeTransmissionScores(*table_, offspring, loci_to_scan_, matrices_, scan_scores_);
+    return ScanPairs(scan_scores_, candidates_, observer);
+  }
   ++epoch_;
   CollectBounds(offspring);
   FindPossibleParents();
   KeptPairs kept(candidates_.flow, candidates_.names);
   Tighten(0);
+  if (has_few_ && few_.size() < 2) {
+    return OutcomeOf(kept);
+  }
   if (has_few_) {
     if (few_.size() > kFewPerBlock * possible_.size()) {
       AddUpCosts();

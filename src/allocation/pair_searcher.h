@@ -76,6 +76,10 @@ class PairSearcher {
   std::size_t bounds_in_use_ = 0;
   std::size_t most_bounds_ = 0;
 
+  // For the plain scan among few parents:
+  std::vector<LocusIndex> loci_to_scan_;
+  TransmissionScores scan_scores_{0, 0};
+
   // Of the current offspring:
   std::vector<LocusBounds*> current_;  ///< at its loci that are not missing
   std::vector<std::size_t> current_loci_;

@@ -102,8 +102,8 @@ void ExpectMet(Coverage& coverage, const std::vector<std::string>& what, int oft
 
 TEST(PairSearcher, FindsWhatTheScanFindsInSmallStudies) {
   Coverage coverage;
-  CompareShape({12, 3, 3, 8, true, false}, 30'000, 1, coverage);
-  CompareShape({24, 6, 6, 8, true, true}, 15'000, 2, coverage);
+  CompareShape({70, 3, 3, 8, true, false}, 30'000, 1, coverage);
+  CompareShape({90, 6, 6, 8, true, true}, 15'000, 2, coverage);
   ExpectMet(coverage,
             {"no pair", "one pair", "tie", "mark", "better pair after the mark", "all loci missing",
              "several groups", "sexed", "non-sexed"},
