@@ -241,7 +241,7 @@ const PairSearcher::ParentScores& PairSearcher::ScoresOf(std::uint32_t parent) {
   }
   scores = {0, 0, epoch_};
   const std::uint16_t* const classes = classes_by_parent_.data() + parent * loci_.size();
-  double* const pool = score_pool_.data() + 2 * parent * loci_.size();
+  double* const pool = score_pool_.data() + loci_.size() * 2 * parent;
   for (std::size_t i = 0; i < current_.size(); ++i) {
     const LocusBounds::Scores& of_class = current_scores_[i][classes[current_loci_[i]]];
     pool[2 * i] = of_class.r;
@@ -256,8 +256,8 @@ double PairSearcher::Likelihood(std::uint32_t one, std::uint32_t two) const {
   if (current_.empty()) {
     return 1;
   }
-  const double* const scores1 = score_pool_.data() + 2 * one * loci_.size();
-  const double* const scores2 = score_pool_.data() + 2 * two * loci_.size();
+  const double* const scores1 = score_pool_.data() + loci_.size() * 2 * one;
+  const double* const scores2 = score_pool_.data() + loci_.size() * 2 * two;
   double product = scores1[0] * scores2[1] + scores1[1] * scores2[0];
   for (std::size_t i = 1; i < current_.size(); ++i) {
     product *= scores1[2 * i] * scores2[2 * i + 1] + scores1[2 * i + 1] * scores2[2 * i];

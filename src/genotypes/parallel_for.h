@@ -39,9 +39,9 @@ void ParallelFor(std::size_t count, unsigned threads, MakeWork make_work) {
     }
   };
   {
-    std::vector<std::jthread> helpers;
+    std::vector<std::jthread> workers;
     for (unsigned thread = 1; thread < threads && thread < count; ++thread) {
-      helpers.emplace_back(run);
+      workers.emplace_back(run);
     }
     run();
   }
