@@ -295,6 +295,15 @@ def shape_counted(draft):
             draft.offspring.append((draft.name(), genotypes))
 
 
+def shape_many(draft):
+    """More parents than a run scans one by one: it has to find the same with its bounds."""
+    draft.make_loci(6)
+    draft.add_parents(40, 50)
+    for _ in range(draft.rng.randint(1, 3)):
+        draft.add_child(draft.draw())
+
+
 SHAPES = [shape_bred, shape_copied, shape_tied, shape_permuted, shape_better_later, shape_clones,
           shape_bred, shape_plain, shape_measured, shape_incompatible, shape_few_alleles,
-          shape_lonely, shape_uneven, shape_counted, shape_namesakes, shape_measured]
+          shape_lonely, shape_uneven, shape_counted, shape_namesakes, shape_measured,
+          shape_many]
