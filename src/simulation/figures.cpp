@@ -57,7 +57,7 @@ void AppendRatios(const SimulationDesign& design, std::vector<double>& row) {
     assigned += row[column];
   }
   for (std::size_t column = 0; column < design.ratio_columns.size(); ++column) {
-    row.push_back(assigned == 0 ? 0.0 : row[column] / assigned);
+    row.push_back(Ratio(row[column], assigned));
   }
 }
 
@@ -74,6 +74,10 @@ void AddSpreads(const SimulationDesign& design, IterationTable& table) {
 }
 
 }  // namespace
+
+double Ratio(double numerator, double denominator) {
+  return denominator == 0 ? 0.0 : numerator / denominator;
+}
 
 double Weighed(std::span<const double> weights, std::span<const double> of_classes) {
   double sum = weights[0] * of_classes[0];

@@ -12,6 +12,9 @@ namespace kaldo {
 /// The iterations of one subset of loci.
 using Iterations = std::span<const IterationCounts>;
 
+/// A share of what was allocated in some way; 0 where nothing was.
+double Ratio(double numerator, double denominator);
+
 /// w1 f1 + w2 f2 + ..., added in the order of the classes.
 double Weighed(std::span<const double> weights, std::span<const double> of_classes);
 

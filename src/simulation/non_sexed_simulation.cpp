@@ -105,10 +105,6 @@ SimulationDesign MakeDesign() {
   return design;
 }
 
-double Ratio(double numerator, double denominator) {
-  return denominator == 0 ? 0.0 : numerator / denominator;
-}
-
 /// Counts of sides over all rows of a class.
 struct SideSums {
   std::int32_t collected = 0;

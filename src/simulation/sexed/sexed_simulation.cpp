@@ -20,10 +20,6 @@ double CollectedShare(const ParentalSet& set) {
   return set.estimated_collected / (set.estimated_collected + set.estimated_uncollected);
 }
 
-double Ratio(double numerator, double denominator) {
-  return denominator == 0 ? 0.0 : numerator / denominator;
-}
-
 /// Counts of sides over all rows of a class.
 struct SexedSums {
   std::array<std::int32_t, 4> by_sides{};  ///< offspring by allocated sides
