@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+#include <QString>
+
+#include "genotypes/problem.h"
+
+class QWidget;
+
+namespace kaldo {
+
+/// Shows one sentence with "OK" and waits for it.
+void ShowSentence(QWidget* parent, std::string_view sentence);
+
+/// Shows the sentence of a problem; where to look (file, line, record, what was found) stands below
+/// it as details, which can be selected and copied.
+void ShowProblem(QWidget* parent, const Problem& problem);
+
+/// Tells that something could not be done, for instance that a file cannot be written.
+void ShowFailure(QWidget* parent, const QString& text);
+
+/// Asks a question with "Yes" and "No"; "No" is the answer to Esc.
+bool AskYesNo(QWidget* parent, const QString& question);
+
+}  // namespace kaldo

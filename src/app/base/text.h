@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <QString>
+
+namespace kaldo {
+
+/// A text of the core, UTF-8, as windows show it. Bytes that are no UTF-8 show as a question mark.
+QString Text(std::string_view text);
+
+/// What a user typed, as the core takes it.
+std::string Bytes(const QString& text);
+
+/// A file name of the system as windows show it, and back to its bytes.
+QString PathText(const std::string& path);
+std::string PathBytes(const QString& path);
+
+}  // namespace kaldo
