@@ -37,6 +37,8 @@ struct AllocationSettings {
   std::optional<std::vector<std::int32_t>> sequence;
 
   unsigned threads = 0;  ///< 0: as many as the machine has cores. Results never depend on it.
+
+  friend bool operator==(const AllocationSettings&, const AllocationSettings&) = default;
 };
 
 }  // namespace kaldo

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "genotypes/file_wide_checks.h"
 
-#include <algorithm>
-
 #include <fmt/format.h>
 
 #include "genotypes/record_checks.h"
@@ -23,20 +21,6 @@ struct FieldPlace {
 
 bool IsEven(std::string_view field) {
   return field.size() % 2 == 0 && field.size() <= kLongestEvenField;
-}
-
-/// Which halves of a genotype field are zeros only.
-struct ZeroHalves {
-  bool first = false;
-  bool second = false;
-};
-
-ZeroHalves ZeroHalvesOf(std::string_view field) {
-  const std::size_t half = field.size() / 2;
-  const auto zeros = [half](std::string_view part) {
-    return static_cast<std::size_t>(std::count(part.begin(), part.end(), '0')) == half;
-  };
-  return {zeros(field.substr(0, half)), zeros(field.substr(half))};
 }
 
 bool IsForbidden(std::string_view field, UndefinedAlleles allowed) {

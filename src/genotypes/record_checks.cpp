@@ -103,6 +103,14 @@ bool IsAllDigits(std::string_view text) {
                      [](char character) { return character >= '0' && character <= '9'; });
 }
 
+ZeroHalves ZeroHalvesOf(std::string_view field) {
+  const std::size_t half = field.size() / 2;
+  const auto zeros = [half](std::string_view part) {
+    return static_cast<std::size_t>(std::count(part.begin(), part.end(), '0')) == half;
+  };
+  return {zeros(field.substr(0, half)), zeros(field.substr(half))};
+}
+
 std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout) {
   const auto lines = LinesOf(file.Tokens());
   const auto regular = std::count_if(lines.begin(), lines.end(),

@@ -11,6 +11,14 @@ namespace kaldo {
 
 bool IsAllDigits(std::string_view text);
 
+/// Which alleles of a genotype field are undefined, that is, which halves are zeros only.
+struct ZeroHalves {
+  bool first = false;
+  bool second = false;
+};
+
+ZeroHalves ZeroHalvesOf(std::string_view field);
+
 /// Looks for a line with too few or too many fields in a file that otherwise has one record a line.
 /// The Problem found has no sentence yet. Nothing is found in files laid out in another way.
 std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout);

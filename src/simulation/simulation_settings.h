@@ -40,6 +40,8 @@ struct ParentalSet {
   // Sexed flow: estimated numbers in the population, which only set the proportions of the classes.
   double estimated_collected = 0;
   double estimated_uncollected = 0;
+
+  friend bool operator==(const ParentalSet&, const ParentalSet&) = default;
 };
 
 /// Which of the generated files stay on disk.
@@ -84,6 +86,8 @@ struct SimulationSettings {
   std::span<const ParentalSet> Sets() const {
     return std::span(sets).first(flow == Flow::kSexed ? 2 : 1);
   }
+
+  friend bool operator==(const SimulationSettings&, const SimulationSettings&) = default;
 };
 
 /// What is kept: as told; else parents and pseudo-offspring in the non-sexed flow, nothing in the

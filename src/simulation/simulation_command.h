@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "simulation/simulation_settings.h"
+
+namespace kaldo {
+
+/// The command line of a simulation, `kaldo simulate --project ...`: typed into a shell in the same
+/// working folder it repeats the run. Without a seed the clock sets it, here as there: put in the
+/// seed that the run told to get the same pseudo-offspring. What is as it is by default is left
+/// out, and so is the number of threads, which changes nothing.
+std::string CommandOf(const SimulationSettings& settings);
+
+}  // namespace kaldo

@@ -1,0 +1,78 @@
+#!/usr/bin/env python3
+"""Installs the build into a folder of its own and works with what is there.
+
+    install_test.py CMAKE BUILD_FOLDER KALDO [unittest options]
+
+What a user gets must work without the sources: the program, its examples, and documents whose links
+lead to other installed documents.
+"""
+
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+CMAKE = None
+BUILD = None
+KALDO = None                            # the program of the build
+NOT_INSTALLED = {"CONTRIBUTING.md", "LICENSE"}   # for developers; the system has the licence
+
+
+def reports(program, examples, folder):
+    """An allocation of the example as its README has it: standard output and all reports."""
+    folder.mkdir()
+    (folder / "examples").symlink_to(examples)
+    data = "examples/non-sexed/"
+    run = subprocess.run([program, "allocate", "--project", "lake", "--loci", data + "loci.txt",
+                          "--parents", data + "parents.txt", "--offspring", data + "offspring.txt"],
+                         cwd=folder, check=True, capture_output=True)
+    files = {path.name: path.read_bytes() for path in (folder / "lake").iterdir()
+             if path.suffix != ".toml"}
+    return run.stdout, files
+
+
+class Installed(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = tempfile.TemporaryDirectory()
+        cls.root = Path(cls.folder.name).resolve()
+        cls.prefix = cls.root / "prefix"
+        subprocess.run([CMAKE, "--install", BUILD, "--prefix", cls.prefix], check=True,
+                       capture_output=True)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.folder.cleanup()
+
+    def test_program_and_examples_give_the_results_of_the_build(self):
+        source = Path(__file__).resolve().parents[2]
+        installed = reports(self.prefix / "bin/kaldo", self.prefix / "share/kaldo/examples",
+                            self.root / "installed")
+        self.assertGreater(len(installed[1]), 2)
+        self.assertEqual(installed, reports(KALDO, source / "examples", self.root / "built"))
+
+    def test_links_between_documents_lead_somewhere(self):
+        documents = [path for path in self.prefix.rglob("*.md")]
+        self.assertGreater(len(documents), 3)
+        followed = 0
+        for document in documents:
+            # examples/README.md is read where the documents link to it
+            if document.is_relative_to(self.prefix / "share/kaldo"):
+                document = self.prefix / "share/doc/kaldo" / document.relative_to(
+                    self.prefix / "share/kaldo")
+            for target in re.findall(r"\]\(([^)#:]+)(?:#[^)]*)?\)", document.read_text()):
+                if target in NOT_INSTALLED:
+                    continue
+                place = document.parent
+                for part in Path(target).parts:   # as a reader of links does, not the system
+                    place = place.parent if part == ".." else place / part
+                self.assertTrue(place.exists(), f"{document}: {target}")
+                followed += 1
+        self.assertGreater(followed, 5)
+
+
+if __name__ == "__main__":
+    CMAKE, BUILD, KALDO = sys.argv[1:4]
+    unittest.main(argv=sys.argv[:1] + sys.argv[4:])

@@ -1,0 +1,99 @@
+#!/usr/bin/env python3
+"""Holds the manual page against what the program says of itself.
+
+    man_page_test.py KALDO PAGE [unittest options]
+
+A user of the manual page must find every option of every command, with the kind of its value and its
+default, and none that is not there.
+"""
+
+import re
+import subprocess
+import sys
+import unittest
+from pathlib import Path
+
+KALDO = None
+PAGE = None
+COMMANDS = {"allocate": "OPTIONS OF KALDO ALLOCATE AND KALDO CHECK",
+            "check": "OPTIONS OF KALDO ALLOCATE AND KALDO CHECK",
+            "simulate": "OPTIONS OF KALDO SIMULATE",
+            "rerun": "OPTIONS OF KALDO RERUN"}
+OF_ALL = "OPTIONS OF ALL COMMANDS"
+OPTION = re.compile(r"(--[a-z-]+)(?:\s(\S+))?")
+
+
+def run(*arguments):
+    return subprocess.run([KALDO, *arguments], check=True, capture_output=True, text=True).stdout
+
+
+def plain(line):
+    """A line of the page without its macro and fonts."""
+    line = re.sub(r"^\.(B|BR|I|IR) ", "", line)
+    return re.sub(r"\\f[BIR]", "", line).replace('"', "").replace("\\-", "-").replace("\\e", "\\")
+
+
+def sections():
+    """The tagged paragraphs of every section of the page: pairs of tag and text."""
+    found = {}
+    lines = PAGE.read_text(encoding="utf-8").splitlines()
+    paragraphs = []
+    for number, line in enumerate(lines):
+        if line.startswith(".SH "):
+            paragraphs = found.setdefault(line[4:], [])
+        elif line == ".TP":
+            paragraphs.append([plain(lines[number + 1]), ""])
+        elif paragraphs and lines[number - 1] != ".TP":
+            paragraphs[-1][1] += plain(line) + "\n"
+    return found
+
+
+def options_of_page(section):
+    """Per option the kind of its value and its paragraph."""
+    options = {}
+    for tag, text in sections()[section]:
+        for each in tag.split(", "):
+            if match := OPTION.match(each.strip()):
+                options[match[1]] = (match[2], text)
+    return options
+
+
+def options_of_help(command):
+    """Per option the kind of its value and its default."""
+    options = {}
+    for line in run(command, "--help").splitlines():
+        if match := re.match(r"  (?:-h,)?(--[a-z-]+)(?: ([A-Z[]\S*))?(?:\s|$)", line):
+            kind, _, default = (match[2] or "").partition("=")
+            options[match[1]] = (kind or None, default)
+    return options
+
+
+class ManPage(unittest.TestCase):
+    def test_has_every_option_with_its_default_and_no_other(self):
+        of_all = options_of_page(OF_ALL)
+        for command, section in COMMANDS.items():
+            page = options_of_page(section)
+            told = options_of_help(command)
+            self.assertGreater(len(told), 2, command)
+            self.assertEqual({option: kind for option, (kind, _) in (page | of_all).items()},
+                             {option: kind for option, (kind, _) in told.items()}, command)
+            for option, (_, default) in told.items():
+                if default:
+                    self.assertRegex(page[option][1], rf"\b{re.escape(default)}\b", option)
+
+    def test_names_every_command(self):
+        commands = re.findall(r"^  (\w+) {4,}", run("--help").partition("Subcommands:")[2], re.M)
+        self.assertEqual(set(commands), set(COMMANDS))
+        self.assertEqual([tag for tag, _ in sections()["COMMANDS"]],
+                         [f"kaldo {command}" for command in commands])
+
+    def test_tells_the_version_and_the_exit_codes(self):
+        version = run("--version").split()[1]
+        self.assertIn(f'"KALDO {version}"', PAGE.read_text(encoding="utf-8").splitlines()[1])
+        codes = re.findall(r"\d+", run("--help").partition("Exit codes:")[2])
+        self.assertEqual([tag for tag, _ in sections()["EXIT STATUS"]], codes)
+
+
+if __name__ == "__main__":
+    KALDO, PAGE = sys.argv[1], Path(sys.argv[2])
+    unittest.main(argv=sys.argv[:1] + sys.argv[3:])
