@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/allele_frequencies.h"
+
+#include <map>
+
+#include "app/base/text.h"
+
+namespace kaldo {
+
+AlleleFrequencies CountAlleles(const GenotypeTable& table, LocusIndex locus) {
+  std::map<AlleleSize, std::size_t> counts;
+  for (const LocusGenotype& genotype : table.Locus(locus)) {
+    for (const AlleleSize allele : {genotype.allele1, genotype.allele2}) {
+      if (allele != kUndefinedAllele) {
+        ++counts[allele];
+      }
+    }
+  }
+  AlleleFrequencies frequencies;
+  for (const auto& [size, copies] : counts) {
+    frequencies.alleles.push_back({size, copies});
+    frequencies.copies += copies;
+  }
+  return frequencies;
+}
+
+BarChart FrequencyChart(const AlleleFrequencies& frequencies, const QString& locus) {
+  BarChart chart;
+  chart.texts = {Text("Allele frequencies at %1").arg(locus), Text("allele size (bp)"),
+                 Text("frequency"), false};
+  chart.series.name = Text("frequency");
+  for (std::size_t k = 0; k < frequencies.alleles.size(); ++k) {
+    const std::uint32_t size = frequencies.alleles[k].size.Value();
+    chart.positions.push_back(size);
+    chart.categories.push_back(QString::number(size));
+    chart.series.values.push_back({frequencies.Frequency(k), {}});
+  }
+  return chart;
+}
+
+DataTable FrequencyTable(const AlleleFrequencies& frequencies) {
+  DataTable table{{Text("size (bp)"), Text("copies"), Text("frequency")}, {}};
+  for (std::size_t k = 0; k < frequencies.alleles.size(); ++k) {
+    const AlleleCount& allele = frequencies.alleles[k];
+    table.rows.push_back({QString::number(allele.size.Value()), QString::number(allele.copies),
+                          ShortNumber(frequencies.Frequency(k))});
+  }
+  return table;
+}
+
+}  // namespace kaldo

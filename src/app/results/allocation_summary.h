@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "allocation/allocation_run.h"
+#include "app/results/chart_data.h"
+#include "app/results/summary_page.h"
+
+namespace kaldo {
+
+/// What was run, what to mind, and the files in `folder`.
+Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
+                  const QString& folder);
+
+/// The share of offspring in each class, and the same with numbers and the shares of the single
+/// allocations.
+BarChart ProportionsChart(Flow flow, const AllocationCounters& counters);
+DataTable ProportionsTable(Flow flow, const AllocationCounters& counters);
+
+/// The shares after each locus of a cumulative sequence.
+LineChart SequenceChart(Flow flow, const AllocationInput& input, const AllocationResult& result);
+
+}  // namespace kaldo

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+#include "app/results/chart_data.h"
+
+class QBoxLayout;
+
+namespace kaldo {
+
+class ChartView;
+class DataTableModel;
+class ResultTable;
+
+/// A chart with its numbers as a table, and buttons to save the one and copy the other.
+///
+/// Object names, with `name` as given: "<name>_chart", "<name>_table", "<name>_save",
+/// "<name>_copy".
+class ChartPanel : public QWidget {
+ public:
+  /// The table stands beside (Qt::Horizontal) or below the chart. `folder` is where files are
+  /// suggested to go.
+  ChartPanel(const QString& name, Qt::Orientation orientation, QString folder, QWidget* parent);
+
+  /// The table shows the numbers of the chart.
+  void Show(const Chart& chart);
+
+  /// The table tells more than the chart.
+  void Show(const Chart& chart, const DataTable& table);
+
+ private:
+  QWidget* TableSide();
+  void AddButtons(QBoxLayout& layout);
+  void AskAndSave();
+
+  QString name_;
+  QString folder_;
+  ChartView* chart_;
+  DataTableModel* model_;
+  ResultTable* table_;
+};
+
+}  // namespace kaldo

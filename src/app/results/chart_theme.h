@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <vector>
+
+class QPalette;
+
+namespace kaldo {
+
+/// The colours of a chart. Series follow a set that people with any colour vision tell apart; they
+/// differ in their markers as well.
+struct ChartTheme {
+  QColor background;
+  QColor text;
+  QColor grid;
+  std::vector<QColor> series;
+};
+
+/// For files, which end on paper: dark on white.
+ChartTheme LightTheme();
+
+/// For the screen, light or dark like its windows.
+ChartTheme ThemeOf(const QPalette& palette);
+
+/// What a locus says about a parent, as the background of a table cell and the text on it.
+struct CellColours {
+  QColor background;
+  QColor text;
+};
+
+struct FitColours {
+  CellColours exact;
+  CellColours tolerated;
+  CellColours excluded;
+};
+
+FitColours FitColoursOf(const QPalette& palette);
+
+}  // namespace kaldo

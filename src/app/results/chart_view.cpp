@@ -1,0 +1,404 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/chart_view.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <qcustomplot.h>
+#include <span>
+#include <utility>
+
+#include "app/base/messages.h"
+#include "app/base/text.h"
+#include "app/results/chart_files.h"
+#include "app/results/save_file.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr double kShareAxisBegin = -0.03;  ///< of lines, for whole marks at 0
+constexpr double kShareAxisEnd = 1.05;     ///< and at 1
+constexpr double kRoomForNumbers = 1.12;   ///< above the highest bar
+constexpr double kBarWidth = 0.7;          ///< of the distance between two bars
+constexpr std::size_t kMostNumberedBars = 12;
+constexpr std::size_t kMostLevelLabels = 6;
+constexpr double kMarkerSize = 8;
+
+/// Puts one chart onto a plot.
+class ChartPainter {
+ public:
+  ChartPainter(QCustomPlot& plot, const ChartTheme& theme, const QFont& font)
+      : plot_(plot), theme_(theme), font_(font) {
+    plot_.clearPlottables();
+    plot_.clearItems();
+    plot_.plotLayout()->clear();
+    plot_.plotLayout()->addElement(1, 0, new QCPAxisRect(&plot_));
+    QLocale numbers = QLocale::c();
+    numbers.setNumberOptions(QLocale::OmitGroupSeparator);
+    plot_.setLocale(numbers);
+    plot_.setBackground(QBrush(theme.background));
+  }
+
+  void Paint(const Chart& chart) {
+    PaintTexts(TextsOf(chart));
+    std::visit([this](const auto& any) { PaintData(any); }, chart);
+    if (TextsOf(chart).shares) {
+      const bool bars = std::holds_alternative<BarChart>(chart);
+      Values()->setRange(bars ? 0 : kShareAxisBegin, kShareAxisEnd);
+    }
+  }
+
+ private:
+  QCPAxis* Places() { return plot_.axisRect()->axis(QCPAxis::atBottom); }
+  QCPAxis* Values() { return plot_.axisRect()->axis(QCPAxis::atLeft); }
+
+  const QColor& Colour(std::size_t series) const {
+    return theme_.series[series % theme_.series.size()];
+  }
+
+  void PaintTexts(const ChartTexts& texts) {
+    QFont bold = font_;
+    bold.setBold(true);
+    auto* title = new QCPTextElement(&plot_, texts.title, bold);
+    title->setTextColor(theme_.text);
+    plot_.plotLayout()->addElement(0, 0, title);
+    for (QCPAxis* axis : {Places(), Values()}) {
+      axis->setLayer(Text("axes"));
+      axis->grid()->setLayer(Text("grid"));
+      axis->setBasePen(QPen(theme_.text));
+      axis->setTickPen(QPen(theme_.text));
+      axis->setSubTickPen(QPen(theme_.text));
+      axis->setLabelColor(theme_.text);
+      axis->setTickLabelColor(theme_.text);
+      axis->setLabelFont(font_);
+      axis->setTickLabelFont(font_);
+      axis->grid()->setPen(QPen(theme_.grid));
+      axis->grid()->setZeroLinePen(QPen(theme_.grid));
+    }
+    Places()->setLabel(texts.x_title);
+    Places()->grid()->setVisible(false);
+    Values()->setLabel(texts.y_title);
+  }
+
+  /// Texts below places; many of them stand aslant.
+  void LabelPlaces(std::span<const double> places, std::span<const QString> labels) {
+    const QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
+    for (std::size_t k = 0; k < places.size(); ++k) {
+      ticker->addTick(places[k], labels[k]);
+    }
+    Places()->setTicker(ticker);
+    Places()->setSubTicks(false);
+    Places()->setTickLength(0, 4);
+    if (places.size() > kMostLevelLabels) {
+      Places()->setTickLabelRotation(-60);
+    }
+  }
+
+  /// Ticks at whole numbers only: there is no half locus and no half iteration.
+  void CountPlaces() {
+    const QSharedPointer<QCPAxisTickerFixed> ticker(new QCPAxisTickerFixed);
+    ticker->setTickStep(1);
+    ticker->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
+    Places()->setTicker(ticker);
+    Places()->setSubTicks(false);
+    Places()->setNumberFormat(Text("f"));
+    Places()->setNumberPrecision(0);
+  }
+
+  void FitPlaces(std::span<const double> places, double margin) {
+    if (!places.empty()) {
+      Places()->setRange(places.front() - margin, places.back() + margin);
+    }
+  }
+
+  void AddErrorBars(QCPAbstractPlottable* of, const QVector<double>& deviations) {
+    auto* bars = new QCPErrorBars(Places(), Values());
+    bars->removeFromLegend();
+    bars->setDataPlottable(of);
+    bars->setData(deviations);
+    bars->setPen(QPen(theme_.text));
+    bars->setSymbolGap(0);
+  }
+
+  void PaintNumber(double place, double value, const QString& text) {
+    auto* item = new QCPItemText(&plot_);
+    item->position->setAxes(Places(), Values());
+    item->position->setCoords(place, value);
+    item->setPositionAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    item->setText(text);
+    item->setFont(font_);
+    item->setColor(theme_.text);
+    item->setPadding(QMargins(0, 0, 0, 3));
+  }
+
+  void PaintData(const BarChart& chart);
+  void PaintData(const LineChart& chart);
+  void PaintData(const SpreadChart& chart);
+  void PaintLine(const LineChart& chart, std::size_t number);
+  void PaintLevel(double value, Qt::PenStyle style, const QString& text);
+  void PlaceLegend();
+
+  QCustomPlot& plot_;
+  const ChartTheme& theme_;
+  QFont font_;
+};
+
+/// Where the bars stand: at their own places, or one beside the other.
+std::vector<double> PlacesOf(const BarChart& chart) {
+  if (!chart.positions.empty()) {
+    return chart.positions;
+  }
+  std::vector<double> places(chart.categories.size());
+  for (std::size_t k = 0; k < places.size(); ++k) {
+    places[k] = static_cast<double>(k);
+  }
+  return places;
+}
+
+double SmallestStep(std::span<const double> places) {
+  double step = 0;
+  for (std::size_t k = 1; k < places.size(); ++k) {
+    const double here = places[k] - places[k - 1];
+    step = step == 0 ? here : std::min(step, here);
+  }
+  return step == 0 ? 1 : step;
+}
+
+/// Twice a deviation is drawn; one that is not a number (or not known) is not.
+double DrawnDeviation(const ChartValue& value) {
+  return value.value ? value.deviation.value_or(qQNaN()) : qQNaN();
+}
+
+void ChartPainter::PaintData(const BarChart& chart) {
+  const std::vector<double> places = PlacesOf(chart);
+  const double step = SmallestStep(places);
+  auto* bars = new QCPBars(Places(), Values());
+  bars->setWidth(step * kBarWidth);
+  bars->setPen(QPen(Colour(0)));
+  bars->setBrush(QBrush(Colour(0)));
+  QVector<double> heights;
+  QVector<double> deviations;
+  double highest = 0;
+  for (const ChartValue& value : chart.series.values) {
+    heights += value.value.value_or(0);
+    deviations += DrawnDeviation(value);
+    const double top = std::isnan(deviations.back()) ? 0 : deviations.back();
+    highest = std::max(highest, heights.back() + top);
+  }
+  bars->setData(QVector<double>(places.begin(), places.end()), heights, true);
+  AddErrorBars(bars, deviations);
+  Values()->setRange(0, highest > 0 ? highest * kRoomForNumbers : 1);
+  FitPlaces(places, step);
+  if (chart.positions.empty()) {
+    LabelPlaces(places, chart.categories);
+    FitPlaces(places, kBarWidth);
+  } else {
+    CountPlaces();
+  }
+  for (std::size_t k = 0; places.size() <= kMostNumberedBars && k < places.size(); ++k) {
+    const auto place = static_cast<qsizetype>(k);
+    const double top = std::isnan(deviations[place]) ? 0 : deviations[place];
+    const ChartValue& value = chart.series.values[k];
+    PaintNumber(places[k], heights[place] + top,
+                value.value ? QString::number(*value.value, 'f', 3) : ShortNumber(std::nullopt));
+  }
+}
+
+void ChartPainter::PaintLine(const LineChart& chart, std::size_t number) {
+  using Marker = QCPScatterStyle;
+  static constexpr std::array<Marker::ScatterShape, 6> kMarkers = {
+      Marker::ssDisc,    Marker::ssSquare,           Marker::ssTriangle,
+      Marker::ssDiamond, Marker::ssTriangleInverted, Marker::ssCross};
+  static constexpr std::array<Qt::PenStyle, 4> kLines = {Qt::SolidLine, Qt::DashLine,
+                                                         Qt::DashDotLine, Qt::DotLine};
+  const ChartSeries& series = chart.series[number];
+  auto* line = plot_.addGraph(Places(), Values());
+  line->setName(series.name);
+  line->setPen(QPen(Colour(number), 2, kLines.at(number % kLines.size())));
+  line->setScatterStyle(QCPScatterStyle(kMarkers.at(number % kMarkers.size()),
+                                        QPen(Colour(number), 2), QBrush(theme_.background),
+                                        kMarkerSize));
+  QVector<double> values;
+  QVector<double> deviations;
+  for (const ChartValue& value : series.values) {
+    values += value.value.value_or(qQNaN());
+    deviations += DrawnDeviation(value);
+  }
+  line->setData(QVector<double>(chart.positions.begin(), chart.positions.end()), values, true);
+  AddErrorBars(line, deviations);
+}
+
+void ChartPainter::PlaceLegend() {
+  plot_.legend = new QCPLegend;
+  plot_.plotLayout()->addElement(2, 0, plot_.legend);
+  plot_.legend->setLayer(Text("legend"));
+  plot_.legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
+  plot_.legend->setWrap(3);
+  plot_.legend->setFont(font_);
+  plot_.legend->setTextColor(theme_.text);
+  plot_.legend->setBrush(Qt::NoBrush);
+  plot_.legend->setBorderPen(Qt::NoPen);
+  plot_.plotLayout()->setRowStretchFactor(2, 0.001);
+}
+
+void ChartPainter::PaintData(const LineChart& chart) {
+  if (chart.series.size() > 1) {
+    PlaceLegend();
+  }
+  for (std::size_t number = 0; number < chart.series.size(); ++number) {
+    PaintLine(chart, number);
+  }
+  Values()->rescale();
+  FitPlaces(chart.positions, kBarWidth);
+  if (chart.labels.empty()) {
+    CountPlaces();
+  } else {
+    LabelPlaces(chart.positions, chart.labels);
+  }
+}
+
+/// A level line with its text at the right end.
+void ChartPainter::PaintLevel(double value, Qt::PenStyle style, const QString& text) {
+  auto* line = new QCPItemStraightLine(&plot_);
+  for (QCPItemPosition* point : {line->point1, line->point2}) {
+    point->setAxes(Places(), Values());
+  }
+  line->point1->setCoords(0, value);
+  line->point2->setCoords(1, value);
+  line->setPen(QPen(Colour(1), 2, style));
+  auto* label = new QCPItemText(&plot_);
+  label->position->setTypeX(QCPItemPosition::ptAxisRectRatio);
+  label->position->setAxes(Places(), Values());
+  label->position->setCoords(1, value);
+  label->setPositionAlignment(Qt::AlignRight | Qt::AlignBottom);
+  label->setText(text);
+  label->setFont(font_);
+  label->setColor(theme_.text);
+  QColor veil = theme_.background;
+  veil.setAlpha(200);
+  label->setBrush(veil);
+}
+
+void ChartPainter::PaintData(const SpreadChart& chart) {
+  CountPlaces();
+  const auto count = static_cast<double>(chart.values.size());
+  Places()->setRange(0, count + 1);
+  if (chart.values.empty()) {
+    PaintNumber(0.5, 0.5, ShortNumber(std::nullopt));
+    return;
+  }
+  auto* points = plot_.addGraph(Places(), Values());
+  points->setLineStyle(QCPGraph::lsNone);
+  points->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, Colour(0), Colour(0),
+                                          count > 200 ? kMarkerSize / 2 : kMarkerSize));
+  QVector<double> iterations;
+  for (std::size_t k = 1; k <= chart.values.size(); ++k) {
+    iterations += static_cast<double>(k);
+  }
+  points->setData(iterations, QVector<double>(chart.values.begin(), chart.values.end()), true);
+  const auto [low, high] = std::minmax_element(chart.values.begin(), chart.values.end());
+  const double deviation = std::isnan(chart.deviation) ? 0 : chart.deviation;
+  const double lowest = std::min(*low, chart.mean - deviation);
+  const double highest = std::max(*high, chart.mean + deviation);
+  const double margin = std::max((highest - lowest) / 4, 0.01);
+  Values()->setRange(lowest - margin, highest + margin);
+  PaintLevel(chart.mean, Qt::SolidLine, Text("mean"));
+  if (deviation > 0) {
+    PaintLevel(chart.mean + deviation, Qt::DashLine, Text("mean + sd"));
+    PaintLevel(chart.mean - deviation, Qt::DashLine, Text("mean - sd"));
+  }
+}
+
+/// Sizes in pixels: on paper a point is another part of a pixel than on the screen.
+QFont ChartFont() {
+  QFont font;
+  font.setPixelSize(13);
+  return font;
+}
+
+}  // namespace
+
+QSize ChartSize(const Chart& chart) {
+  constexpr qsizetype kWidth = 720;
+  constexpr int kHeight = 450;
+  constexpr qsizetype kPerPlace = 22;
+  const auto* bars = std::get_if<BarChart>(&chart);
+  const auto* lines = std::get_if<LineChart>(&chart);
+  const std::size_t places = bars != nullptr    ? bars->categories.size()
+                             : lines != nullptr ? lines->labels.size()
+                                                : 0;
+  return {static_cast<int>(std::max(kWidth, kPerPlace * static_cast<qsizetype>(places))), kHeight};
+}
+
+void PaintChart(const Chart& chart, const ChartTheme& theme, double scale, QPaintDevice& device) {
+  QCustomPlot plot;
+  ChartPainter(plot, theme, ChartFont()).Paint(chart);
+  const QSize size = ChartSize(chart);
+  QCPPainter painter(&device);
+  // Nothing may go through a cached picture, or texts would end up as dots.
+  painter.setMode(QCPPainter::pmVectorized);
+  painter.setMode(QCPPainter::pmNoCaching);
+  painter.scale(scale, scale);
+  painter.fillRect(QRect(QPoint(0, 0), size), theme.background);
+  plot.toPainter(&painter, size.width(), size.height());
+}
+
+ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(this)) {
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(plot_);
+  plot_->setFocusPolicy(Qt::NoFocus);
+}
+
+void ChartView::SetChart(const Chart& chart) {
+  chart_ = chart;
+  setAccessibleName(TextsOf(chart).title);
+  setAccessibleDescription(Text("Chart; its numbers stand in the table beside it."));
+  Draw();
+}
+
+void ChartView::Draw() {
+  ChartPainter(*plot_, ThemeOf(palette()), font()).Paint(chart_);
+  plot_->replot(QCustomPlot::rpQueuedReplot);
+}
+
+bool ChartView::SaveChart(const QString& path) {
+  const QString ending = QFileInfo(path).suffix().toLower();
+  if (ending == QLatin1String("svg")) {
+    return SaveFile(window(), path, ChartSvg(chart_));
+  }
+  if (ending == QLatin1String("pdf")) {
+    return SaveFile(window(), path, ChartPdf(chart_));
+  }
+  if (ending == QLatin1String("png")) {
+    return SaveFile(window(), path, ChartPng(chart_));
+  }
+  if (ending == QLatin1String("csv")) {
+    return SaveFile(window(), path, CsvText(TableOf(chart_)));
+  }
+  ShowFailure(window(), Text("A chart is saved as .svg, .pdf or .png, its numbers as .csv. \"%1\" "
+                             "has none of these endings.")
+                            .arg(path));
+  return false;
+}
+
+QSize ChartView::minimumSizeHint() const {
+  return {fontMetrics().averageCharWidth() * 40, fontMetrics().lineSpacing() * 14};
+}
+
+QSize ChartView::sizeHint() const {
+  return {fontMetrics().averageCharWidth() * 80, fontMetrics().lineSpacing() * 24};
+}
+
+void ChartView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+    Draw();
+  }
+}
+
+}  // namespace kaldo

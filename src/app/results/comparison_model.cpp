@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/comparison_model.h"
+
+#include <fmt/format.h>
+
+#include "app/base/text.h"
+
+namespace kaldo {
+
+namespace {
+
+using Column = ComparisonColumn;
+
+QString GenotypeText(const LocusGenotype& genotype) {
+  const auto allele = [](AlleleSize size) {
+    return size == kUndefinedAllele ? std::string("?") : std::to_string(size.Value());
+  };
+  return genotype.IsMissing() ? Text("not typed")
+                              : Text(allele(genotype.allele1) + '/' + allele(genotype.allele2));
+}
+
+/// A condition in words; R and J are the first and the second allele of the offspring.
+std::string_view ConditionTip(LocusCondition condition) {
+  switch (condition) {
+    case LocusCondition::kNone:
+      return "Neither parent carries an allele of the offspring, or its locus is missing.";
+    case LocusCondition::kComplete:
+      return "One parent carries one allele of the offspring and the other parent the other.";
+    case LocusCondition::kOneToEach:
+      return "Both parents carry the same allele of the offspring, nobody the other one. Offsets "
+             "are 0 all the same; the likelihood speaks against the pair.";
+    case LocusCondition::kRrOnlyPar1:
+    case LocusCondition::kRInPar1:
+    case LocusCondition::kJInPar1:
+    case LocusCondition::kBothInPar1:
+      return "Only parent 1 carries an allele of the offspring; parent 2 is measured.";
+    case LocusCondition::kRrOnlyPar2:
+    case LocusCondition::kRInPar2:
+    case LocusCondition::kJInPar2:
+    case LocusCondition::kBothInPar2:
+      return "Only parent 2 carries an allele of the offspring; parent 1 is measured.";
+    case LocusCondition::kError:
+      break;
+  }
+  return {};
+}
+
+bool IsFirst(Column column) {
+  return column == Column::kParent1 || column == Column::kDistance1 || column == Column::kOffset1;
+}
+
+bool IsNumeric(Column column) { return column == Column::kUnit || column >= Column::kDistance1; }
+
+QString DistanceText(const LocusComparison& locus, BasePairs distance) {
+  if (locus.offspring.IsMissing()) {
+    return Text("*");
+  }
+  return locus.condition == LocusCondition::kOneToEach ? Text("#")
+                                                       : QString::number(distance.Value());
+}
+
+QString OffsetText(LocusFit fit, UnitDistances offset) {
+  return fit == LocusFit::kUnsaid ? SignOf(fit)
+                                  : SignOf(fit) + Text(" ") + QString::number(offset.Value());
+}
+
+}  // namespace
+
+LocusFit FitOf(const LocusComparison& locus, UnitDistances offset, OffsetTolerance tolerance) {
+  if (locus.offspring.IsMissing()) {
+    return LocusFit::kUnsaid;
+  }
+  if (locus.condition == LocusCondition::kOneToEach) {
+    return LocusFit::kUnmeasured;
+  }
+  if (offset.Value() == 0) {
+    return LocusFit::kExact;
+  }
+  return offset > tolerance ? LocusFit::kExcluded : LocusFit::kTolerated;
+}
+
+QString SignOf(LocusFit fit) {
+  switch (fit) {
+    case LocusFit::kUnsaid:
+      return Text("*");
+    case LocusFit::kExact:
+      return Text("\u2713");
+    case LocusFit::kUnmeasured:
+      return Text("#");
+    case LocusFit::kTolerated:
+      return Text("\u2248");
+    case LocusFit::kExcluded:
+      break;
+  }
+  return Text("\u2717");
+}
+
+ComparisonModel::ComparisonModel(SharedAllocation allocation, QObject* parent)
+    : QAbstractTableModel(parent), allocation_(std::move(allocation)) {}
+
+void ComparisonModel::ShowPair(std::size_t offspring, std::size_t pair) {
+  beginResetModel();
+  const auto pairs = allocation_->run.result.outcomes[offspring].Pairs();
+  offspring_ = Slot{Input().offspring.begin + static_cast<std::uint32_t>(offspring)};
+  pair_.reset();
+  comparisons_.clear();
+  if (pair < pairs.size()) {
+    pair_ = pairs[pair];
+    comparisons_ = CompareWithPair(Input().table, *offspring_, *pair_, Loci());
+  }
+  endResetModel();
+}
+
+void ComparisonModel::Clear() {
+  beginResetModel();
+  offspring_.reset();
+  pair_.reset();
+  comparisons_.clear();
+  endResetModel();
+}
+
+void ComparisonModel::SetColours(const FitColours& colours) {
+  colours_ = colours;
+  if (rowCount() > 0) {
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
+                       {Qt::BackgroundRole, Qt::ForegroundRole});
+  }
+}
+
+QString ComparisonModel::VerdictOn(Slot parent, UnitDistances LocusComparison::*offset) const {
+  std::vector<UnitDistances> offsets;
+  QStringList excluding;
+  const OffsetTolerance tolerance = allocation_->settings.tolerance;
+  for (std::size_t k = 0; k < comparisons_.size(); ++k) {
+    offsets.push_back(comparisons_[k].*offset);
+    if (offsets.back() > tolerance) {
+      excluding += Text(Input().loci.Name(Loci().loci[k]));
+    }
+  }
+  const ToleranceVerdict verdict = CheckTolerance(offsets, tolerance);
+  const QString name = Text(Input().table.Name(parent).Text());
+  if (verdict.uncollected) {
+    return Text("%1: UC, offset above the tolerance of %2 at %3.")
+        .arg(name, QString::number(tolerance.Value()), excluding.join(Text(", ")));
+  }
+  return verdict.errors == 0
+             ? Text("%1: accepted without errors.").arg(name)
+             : Text("%1: accepted, errors assumed: %2.").arg(name, QString::number(verdict.errors));
+}
+
+QString ComparisonModel::Verdict() const {
+  if (!offspring_) {
+    return Text("Choose an offspring in the table above.");
+  }
+  if (!pair_) {
+    return Text(
+               "No pair of collected parents can have produced %1 under the error model: both "
+               "parents count as UC.")
+        .arg(Text(Input().table.Name(*offspring_).Text()));
+  }
+  return VerdictOn(pair_->parent1, &LocusComparison::offset_par1) + Text("  ") +
+         VerdictOn(pair_->parent2, &LocusComparison::offset_par2);
+}
+
+int ComparisonModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() || !offspring_ ? 0 : static_cast<int>(Loci().loci.size());
+}
+
+int ComparisonModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(Column::kCount);
+}
+
+QString ComparisonModel::CellText(Column column, std::size_t row) const {
+  const LocusIndex locus = Loci().loci[row];
+  switch (column) {
+    case Column::kLocus:
+      return Text(Input().loci.Name(locus));
+    case Column::kUnit:
+      return QString::number(Loci().unit_distances[row].Value());
+    case Column::kOffspring:
+      return GenotypeText(Input().table.Genotype(locus, *offspring_));
+    default:
+      break;
+  }
+  if (!pair_) {
+    return {};
+  }
+  const LocusComparison& comparison = comparisons_[row];
+  const bool first = IsFirst(column);
+  switch (column) {
+    case Column::kParent1:
+    case Column::kParent2:
+      return GenotypeText(first ? comparison.par1 : comparison.par2);
+    case Column::kCondition:
+      return Text(Label(comparison.condition));
+    case Column::kDistance1:
+    case Column::kDistance2:
+      return DistanceText(comparison, first ? comparison.distance_par1 : comparison.distance_par2);
+    default:
+      return OffsetText(*FitAt(column, row),
+                        first ? comparison.offset_par1 : comparison.offset_par2);
+  }
+}
+
+std::optional<LocusFit> ComparisonModel::FitAt(Column column, std::size_t row) const {
+  const bool is_measured = column == Column::kParent1 || column == Column::kParent2 ||
+                           column == Column::kOffset1 || column == Column::kOffset2;
+  if (!pair_ || !is_measured) {
+    return std::nullopt;
+  }
+  const LocusComparison& locus = comparisons_[row];
+  return FitOf(locus, IsFirst(column) ? locus.offset_par1 : locus.offset_par2,
+               allocation_->settings.tolerance);
+}
+
+QVariant ComparisonModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) {
+    return {};
+  }
+  const auto column = static_cast<Column>(index.column());
+  const auto row = static_cast<std::size_t>(index.row());
+  if (role == Qt::DisplayRole) {
+    return CellText(column, row);
+  }
+  if (role == Qt::TextAlignmentRole && IsNumeric(column)) {
+    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  if (role == Qt::ToolTipRole && column == Column::kCondition && pair_) {
+    return Text(ConditionTip(comparisons_[row].condition));
+  }
+  const std::optional<LocusFit> fit = FitAt(column, row);
+  if (!fit || *fit == LocusFit::kUnsaid) {
+    return {};
+  }
+  const CellColours& cell = *fit == LocusFit::kExact      ? colours_.exact
+                            : *fit == LocusFit::kExcluded ? colours_.excluded
+                                                          : colours_.tolerated;
+  if (role == Qt::BackgroundRole) {
+    return cell.background;
+  }
+  return role == Qt::ForegroundRole ? QVariant(cell.text) : QVariant();
+}
+
+QString ComparisonModel::Head(Column column) const {
+  const bool sexed = allocation_->settings.flow == Flow::kSexed;
+  const QString who = IsFirst(column) ? Text(sexed ? "male" : "1") : Text(sexed ? "female" : "2");
+  const auto named = [this](std::optional<Slot> slot, const QString& otherwise) {
+    return slot ? Text(Input().table.Name(*slot).Text()) : otherwise;
+  };
+  switch (column) {
+    case Column::kLocus:
+      return Text("Locus");
+    case Column::kUnit:
+      return Text("Unit (bp)");
+    case Column::kOffspring:
+      return named(offspring_, Text("Offspring"));
+    case Column::kParent1:
+      return named(pair_ ? std::optional(pair_->parent1) : std::nullopt,
+                   Text(sexed ? "Male" : "Parent 1"));
+    case Column::kParent2:
+      return named(pair_ ? std::optional(pair_->parent2) : std::nullopt,
+                   Text(sexed ? "Female" : "Parent 2"));
+    case Column::kCondition:
+      return Text("Condition");
+    case Column::kDistance1:
+    case Column::kDistance2:
+      return Text("Distance %1 (bp)").arg(who);
+    default:
+      return Text("Offset %1 (units)").arg(who);
+  }
+}
+
+QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) {
+    return {};
+  }
+  const auto column = static_cast<Column>(section);
+  if (role == Qt::DisplayRole) {
+    return Head(column);
+  }
+  if (role == Qt::TextAlignmentRole && IsNumeric(column)) {
+    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  return {};
+}
+
+}  // namespace kaldo

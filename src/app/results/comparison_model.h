@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractTableModel>
+#include <optional>
+
+#include "app/results/chart_theme.h"
+#include "app/results/finished_runs.h"
+
+namespace kaldo {
+
+enum class ComparisonColumn {
+  kLocus,
+  kUnit,  ///< the unit distance of the locus
+  kOffspring,
+  kParent1,
+  kParent2,
+  kCondition,
+  kDistance1,
+  kDistance2,
+  kOffset1,
+  kOffset2,
+  kCount,
+};
+
+/// How well one parent explains an offspring at one locus.
+enum class LocusFit {
+  kUnsaid,      ///< the locus is missing in the offspring
+  kExact,       ///< what it should have transmitted is there
+  kUnmeasured,  ///< both parents carry the same allele; the other one comes from nowhere
+  kTolerated,   ///< an offset, not above the tolerance: a presumed error
+  kExcluded,    ///< an offset above the tolerance: the parent is UC
+};
+
+LocusFit FitOf(const LocusComparison& locus, UnitDistances offset, OffsetTolerance tolerance);
+
+/// Two signs before every offset, for whoever does not see the colours: "✓ 0", "≈ 1", "✗ 3".
+QString SignOf(LocusFit fit);
+
+/// An offspring beside one pair of parents, locus by locus: the loci of the run in file order.
+/// Without a pair only the offspring's genotype is there.
+class ComparisonModel : public QAbstractTableModel {
+ public:
+  ComparisonModel(SharedAllocation allocation, QObject* parent);
+
+  /// `pair` counts from 0 among the equally likely pairs of the offspring.
+  void ShowPair(std::size_t offspring, std::size_t pair);
+  void Clear();
+
+  void SetColours(const FitColours& colours);
+
+  /// What the offsets say about both parents, in sentences.
+  QString Verdict() const;
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+  QVariant headerData(int section, Qt::Orientation orientation,
+                      int role = Qt::DisplayRole) const override;
+
+ private:
+  QString CellText(ComparisonColumn column, std::size_t row) const;
+  std::optional<LocusFit> FitAt(ComparisonColumn column, std::size_t row) const;
+  QString Head(ComparisonColumn column) const;
+  QString VerdictOn(Slot parent, UnitDistances LocusComparison::*offset) const;
+  const AllocationInput& Input() const { return allocation_->run.input; }
+  const LociOfRun& Loci() const { return allocation_->run.result.loci; }
+
+  SharedAllocation allocation_;
+  FitColours colours_;
+  std::optional<Slot> offspring_;
+  std::optional<ParentPair> pair_;
+  std::vector<LocusComparison> comparisons_;
+};
+
+}  // namespace kaldo

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/data_table.h"
+
+#include <QAbstractItemModel>
+#include <cmath>
+
+#include <fmt/format.h>
+
+#include "app/base/text.h"
+#include "genotypes/number_text.h"
+
+namespace kaldo {
+
+namespace {
+
+void AppendCsvRow(const QStringList& cells, QByteArray& csv) {
+  for (qsizetype column = 0; column < cells.size(); ++column) {
+    QByteArray cell = cells[column].toUtf8();
+    if (cell.contains('"') || cell.contains(',') || cell.contains('\n') || cell.contains('\r')) {
+      cell = '"' + cell.replace('"', "\"\"") + '"';
+    }
+    csv += column == 0 ? cell : ',' + cell;
+  }
+  csv += "\r\n";
+}
+
+}  // namespace
+
+QString ShortNumber(std::optional<double> value) {
+  return value ? Text(FormatDouble(*value)) : Text("NA");
+}
+
+QString FullNumber(std::optional<double> value) {
+  if (!value) {
+    return Text("NA");
+  }
+  return std::isnan(*value) ? Text("nan") : Text(fmt::format("{}", *value));
+}
+
+QByteArray CsvText(const DataTable& table) {
+  QByteArray csv;
+  AppendCsvRow(table.heads, csv);
+  for (const QStringList& row : table.rows) {
+    AppendCsvRow(row, csv);
+  }
+  return csv;
+}
+
+QByteArray CsvText(const QAbstractItemModel& model) {
+  const int columns = model.columnCount();
+  QByteArray csv;
+  QStringList cells;
+  for (int column = 0; column < columns; ++column) {
+    cells += model.headerData(column, Qt::Horizontal).toString();
+  }
+  AppendCsvRow(cells, csv);
+  for (int row = 0; row < model.rowCount(); ++row) {
+    cells.clear();
+    for (int column = 0; column < columns; ++column) {
+      cells += model.index(row, column).data().toString();
+    }
+    AppendCsvRow(cells, csv);
+  }
+  return csv;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/result_table.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <algorithm>
+
+#include "app/base/text.h"
+#include "app/results/save_file.h"
+#include "genotypes/number_text.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr int kMeasuredRows = 60;
+constexpr int kWidestColumn = 44;  ///< in characters
+
+bool IsNumber(const QString& text) {
+  return ParseDouble(Bytes(text)).has_value() || text == QLatin1String("NA");
+}
+
+}  // namespace
+
+void DataTableModel::SetTable(DataTable table) {
+  beginResetModel();
+  table_ = std::move(table);
+  endResetModel();
+}
+
+int DataTableModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(table_.rows.size());
+}
+
+int DataTableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(table_.heads.size());
+}
+
+QVariant DataTableModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) {
+    return {};
+  }
+  const QString& text = table_.rows[static_cast<std::size_t>(index.row())].at(index.column());
+  if (role == Qt::DisplayRole) {
+    return text;
+  }
+  if (role == Qt::TextAlignmentRole && IsNumber(text)) {
+    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  return {};
+}
+
+QVariant DataTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation == Qt::Horizontal && role == Qt::DisplayRole) {
+    return table_.heads.value(section);
+  }
+  if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole && !table_.rows.empty() &&
+      IsNumber(table_.rows.front().value(section))) {
+    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  return {};
+}
+
+ResultTable::ResultTable(const QString& name, QWidget* parent) : QTableView(parent) {
+  setAccessibleName(name);
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(ExtendedSelection);
+  setEditTriggers(NoEditTriggers);
+  setAlternatingRowColors(true);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setVerticalScrollMode(ScrollPerItem);
+  setHorizontalScrollMode(ScrollPerPixel);
+  verticalHeader()->setVisible(false);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  const int row_height = fontMetrics().lineSpacing() * 4 / 3;
+  verticalHeader()->setMinimumSectionSize(row_height);
+  verticalHeader()->setDefaultSectionSize(row_height);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void ResultTable::setModel(QAbstractItemModel* model) {
+  QTableView::setModel(model);
+  FitColumns();
+}
+
+void ResultTable::FitColumns() {
+  if (model() == nullptr) {
+    return;
+  }
+  const int margin = 3 * fontMetrics().averageCharWidth();
+  const int widest = kWidestColumn * fontMetrics().averageCharWidth();
+  const int rows = std::min(model()->rowCount(), kMeasuredRows);
+  for (int column = 0; column < model()->columnCount(); ++column) {
+    int width = horizontalHeader()->sectionSizeHint(column);
+    for (int row = 0; row < rows; ++row) {
+      const QString text = model()->index(row, column).data().toString();
+      width = std::max(width, fontMetrics().horizontalAdvance(text) + margin);
+    }
+    setColumnWidth(column, std::min(width, widest));
+  }
+}
+
+void ResultTable::AppendRows(int first, int last, QString& text) const {
+  for (int row = first; row <= last; ++row) {
+    for (int column = 0; column < model()->columnCount(); ++column) {
+      text += column == 0 ? QString() : QString(QLatin1Char('\t'));
+      text += model()->index(row, column).data().toString();
+    }
+    text += QLatin1Char('\n');
+  }
+}
+
+QString ResultTable::RowsText() const {
+  QStringList heads;
+  for (int column = 0; column < model()->columnCount(); ++column) {
+    heads += model()->headerData(column, Qt::Horizontal).toString();
+  }
+  QString text = heads.join(QLatin1Char('\t')) + QLatin1Char('\n');
+  // By ranges: a list of all selected cells of a large table would take minutes.
+  QItemSelection ranges = selectionModel()->selection();
+  std::sort(ranges.begin(), ranges.end(),
+            [](const auto& a, const auto& b) { return a.top() < b.top(); });
+  if (ranges.isEmpty()) {
+    AppendRows(0, model()->rowCount() - 1, text);
+  }
+  for (const QItemSelectionRange& range : std::as_const(ranges)) {
+    AppendRows(range.top(), range.bottom(), text);
+  }
+  return text;
+}
+
+void ResultTable::CopyRows() const { QApplication::clipboard()->setText(RowsText()); }
+
+void ResultTable::ExportRows(const QString& suggested) {
+  const QString path = AskWhereToSave(window(), Text("Export table"), suggested,
+                                      {Text("Comma-separated values (*.csv)")});
+  if (!path.isEmpty()) {
+    SaveCsv(path);
+  }
+}
+
+bool ResultTable::SaveCsv(const QString& path) {
+  return SaveFile(window(), path, CsvText(*model()));
+}
+
+void ResultTable::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) {
+    CopyRows();
+    event->accept();
+    return;
+  }
+  QTableView::keyPressEvent(event);
+}
+
+}  // namespace kaldo

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QTableView>
+
+#include "app/results/data_table.h"
+
+namespace kaldo {
+
+/// A small table of texts as a model; whatever is a number stands at the right.
+class DataTableModel : public QAbstractTableModel {
+ public:
+  using QAbstractTableModel::QAbstractTableModel;
+
+  void SetTable(DataTable table);
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+  QVariant headerData(int section, Qt::Orientation orientation,
+                      int role = Qt::DisplayRole) const override;
+
+ private:
+  DataTable table_;
+};
+
+/// A table of results: whole rows are selected, all rows have one height (so that a million of them
+/// cost nothing), and Ctrl+C copies the selected rows under their heads for a spreadsheet.
+class ResultTable : public QTableView {
+ public:
+  /// `name` is read out to who cannot see the table.
+  ResultTable(const QString& name, QWidget* parent);
+
+  void setModel(QAbstractItemModel* model) override;
+
+  /// The selected rows, or all where none is selected, as tab-separated text with their heads.
+  QString RowsText() const;
+
+  void CopyRows() const;
+
+  /// Asks for a file and writes all rows as they are shown to it.
+  void ExportRows(const QString& suggested);
+
+  /// The same to a known file; false, and the reason shown, when it cannot be written.
+  bool SaveCsv(const QString& path);
+
+  /// Makes every column as wide as its head and its first rows ask for.
+  void FitColumns();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void AppendRows(int first, int last, QString& text) const;
+};
+
+}  // namespace kaldo

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/results_window.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QUrl>
+
+#include "app/base/messages.h"
+#include "app/base/text.h"
+#include "genotypes/version.h"
+
+namespace kaldo {
+
+ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget* parent)
+    : QWidget(parent, Qt::Window),
+      folder_(std::move(folder)),
+      tabs_(new QTabWidget),
+      copy_command_(new QPushButton(Text("&Copy as command"))) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWindowTitle(Text("%1 - %2 - results").arg(Text(kProductTitle), PathText(project)));
+  tabs_->setObjectName(Text("tabs"));
+  tabs_->setDocumentMode(true);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(tabs_);
+  layout->addWidget(ButtonRow());
+  new QShortcut(QKeySequence(Qt::Key_Escape), this, [this] { close(); });
+  const QSize wanted(fontMetrics().averageCharWidth() * 170, fontMetrics().lineSpacing() * 44);
+  resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+QWidget* ResultsWindow::ButtonRow() {
+  auto* open = new QPushButton(Text("Open &folder"));
+  open->setObjectName(Text("open_folder"));
+  open->setToolTip(Text("Show the reports of this run: %1").arg(folder_));
+  copy_command_->setObjectName(Text("copy_command"));
+  copy_command_->setToolTip(
+      Text("Copy the command line that repeats this run, for a script or a colleague."));
+  copy_command_->setEnabled(false);
+  auto* close_button = new QPushButton(Text("C&lose"));
+  close_button->setObjectName(Text("close"));
+  close_button->setToolTip(Text("Close this window. The reports stay in their folder."));
+
+  auto* row = new QWidget;
+  auto* layout = new QHBoxLayout(row);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(open);
+  layout->addWidget(copy_command_);
+  layout->addStretch();
+  layout->addWidget(close_button);
+  connect(open, &QPushButton::clicked, this, [this] {
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(folder_))) {
+      ShowFailure(this, Text("The folder \"%1\" cannot be opened.").arg(folder_));
+    }
+  });
+  connect(copy_command_, &QPushButton::clicked, this,
+          [this] { QApplication::clipboard()->setText(command_); });
+  connect(close_button, &QPushButton::clicked, this, [this] { close(); });
+  return row;
+}
+
+void ResultsWindow::SetCommand(const QString& command) {
+  command_ = command;
+  copy_command_->setEnabled(!command.isEmpty());
+}
+
+void ResultsWindow::AddTab(QWidget* page, const QString& title, const QString& tip) {
+  tabs_->setTabToolTip(tabs_->addTab(page, title), tip);
+}
+
+}  // namespace kaldo

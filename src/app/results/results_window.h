@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+#include <string>
+
+class QPushButton;
+class QTabWidget;
+
+namespace kaldo {
+
+/// What the result windows of all runs share: a title with the name of the project, tabs, and
+/// buttons to open the folder with the reports and to copy the command that repeats the run. Esc
+/// closes it.
+///
+/// Object names: "tabs", "open_folder", "copy_command", "close".
+class ResultsWindow : public QWidget {
+ public:
+  /// `folder` is the full path of the project folder.
+  ResultsWindow(const std::string& project, QString folder, QWidget* parent);
+
+  /// The command line that repeats this run; without it there is nothing to copy.
+  void SetCommand(const QString& command);
+
+ protected:
+  const QString& Folder() const { return folder_; }
+
+  /// `title` carries its mnemonic; `tip` says in a sentence what the tab shows.
+  void AddTab(QWidget* page, const QString& title, const QString& tip);
+
+ private:
+  QWidget* ButtonRow();
+
+  QString folder_;
+  QString command_;
+  QTabWidget* tabs_;
+  QPushButton* copy_command_;
+};
+
+}  // namespace kaldo

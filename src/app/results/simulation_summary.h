@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/results/chart_data.h"
+#include "app/results/summary_page.h"
+#include "simulation/simulation_run.h"
+
+namespace kaldo {
+
+/// The flow that a simulation ran with.
+const SimulationFlow& FlowOf(const SimulationSettings& settings);
+
+/// The correct decisions of one class of origin in every iteration of the last subset of loci.
+struct Correctness {
+  QString name;                ///< "C X U", "GLOBAL"
+  QString text;                ///< what the class is
+  std::int32_t offspring = 0;  ///< of the class, in an iteration
+  std::vector<double> values;  ///< one per iteration; none where the class has no pseudo-offspring
+  std::optional<Spread> spread;
+};
+
+/// All classes in their order, and GLOBAL behind them.
+std::vector<Correctness> CorrectnessOf(const SimulationFlow& flow, const SimulationRun& run);
+
+/// The estimated probability that any allocation is correct, with one of the subsets of loci.
+double AnyCorrect(const SimulationFlow& flow, const SubsetFigures& subset);
+
+/// What was simulated, what came out, and the files in `folder`.
+Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
+                  const QString& folder);
+
+BarChart CorrectnessChart(const SimulationSettings& settings,
+                          const std::vector<Correctness>& classes);
+DataTable CorrectnessTable(const std::vector<Correctness>& classes);
+
+/// The probability of a correct allocation after each locus of a cumulative sequence.
+LineChart SequenceChart(const SimulationFlow& flow, const SimulationRun& run);
+
+}  // namespace kaldo

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/subset_model.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "app/base/text.h"
+#include "app/results/data_table.h"
+#include "app/results/simulation_summary.h"
+#include "simulation/subset_title.h"
+
+namespace kaldo {
+
+namespace {
+
+using Column = SubsetColumn;
+
+/// For each word that was typed, which loci have it in their names.
+std::vector<std::vector<bool>> LociOfWords(const LociList& loci, const QString& words) {
+  std::vector<std::vector<bool>> of_words;
+  for (const QString& word : words.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    std::vector<bool>& here = of_words.emplace_back();
+    for (const std::string& name : loci.Names()) {
+      here.push_back(Text(name).contains(word, Qt::CaseInsensitive));
+    }
+  }
+  return of_words;
+}
+
+bool HasAll(const LocusSubset& subset, const std::vector<std::vector<bool>>& of_words) {
+  return std::all_of(of_words.begin(), of_words.end(), [&subset](const std::vector<bool>& word) {
+    return std::any_of(subset.begin(), subset.end(),
+                       [&word](LocusIndex locus) { return word[locus.Value()]; });
+  });
+}
+
+}  // namespace
+
+std::map<std::size_t, std::size_t> BestSubsets(const SimulationFlow& flow,
+                                               std::span<const SubsetFigures> subsets) {
+  std::map<std::size_t, std::size_t> best;
+  for (std::size_t place = 0; place < subsets.size(); ++place) {
+    const auto [entry, is_first] = best.try_emplace(subsets[place].loci.size(), place);
+    if (!is_first && AnyCorrect(flow, subsets[place]) > AnyCorrect(flow, subsets[entry->second])) {
+      entry->second = place;
+    }
+  }
+  return best;
+}
+
+SubsetModel::SubsetModel(SharedSimulation simulation, QObject* parent)
+    : QAbstractTableModel(parent),
+      simulation_(std::move(simulation)),
+      best_(BestSubsets(FlowOf(simulation_->settings), Subsets())) {
+  Arrange();
+}
+
+double SubsetModel::AnyCorrectOf(std::size_t subset) const {
+  return AnyCorrect(FlowOf(simulation_->settings), Subsets()[subset]);
+}
+
+bool SubsetModel::IsBest(std::size_t subset) const {
+  const auto found = best_.find(Subsets()[subset].loci.size());
+  return found != best_.end() && found->second == subset;
+}
+
+void SubsetModel::Choose(const SubsetChoice& choice) {
+  choice_ = choice;
+  Arrange();
+}
+
+void SubsetModel::sort(int column, Qt::SortOrder order) {
+  sorted_by_ = static_cast<Column>(column);
+  order_ = order;
+  Arrange();
+}
+
+/// Picks the subsets to show and puts them into order; equals stay in the order of the run.
+void SubsetModel::Arrange() {
+  beginResetModel();
+  shown_.clear();
+  const auto of_words = LociOfWords(simulation_->run.input.loci, choice_.loci);
+  for (std::size_t subset = 0; subset < Subsets().size(); ++subset) {
+    const LocusSubset& loci = Subsets()[subset].loci;
+    const bool fits = (!choice_.size || loci.size() == *choice_.size) &&
+                      (!choice_.only_best || IsBest(subset)) && HasAll(loci, of_words);
+    if (fits) {
+      shown_.push_back(static_cast<std::uint32_t>(subset));
+    }
+  }
+  const auto sort_by = [this](auto key_of) {
+    std::stable_sort(shown_.begin(), shown_.end(), [&](std::uint32_t a, std::uint32_t b) {
+      return order_ == Qt::AscendingOrder ? key_of(a) < key_of(b) : key_of(b) < key_of(a);
+    });
+  };
+  switch (sorted_by_) {
+    case Column::kLoci:
+      sort_by([this](std::size_t subset) { return Subsets()[subset].loci.size(); });
+      break;
+    case Column::kAnyCorrect:
+      sort_by([this](std::size_t subset) { return AnyCorrectOf(subset); });
+      break;
+    case Column::kBest:
+      sort_by([this](std::size_t subset) { return !IsBest(subset); });
+      break;
+    case Column::kNames:
+      sort_by([this](std::size_t subset) -> const LocusSubset& { return Subsets()[subset].loci; });
+      break;
+    default:
+      sort_by([](std::size_t subset) { return subset; });
+      break;
+  }
+  endResetModel();
+}
+
+int SubsetModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(shown_.size());
+}
+
+int SubsetModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(Column::kCount);
+}
+
+QString SubsetModel::CellText(Column column, std::size_t subset) const {
+  const LocusSubset& loci = Subsets()[subset].loci;
+  switch (column) {
+    case Column::kPlace:
+      return QString::number(subset + 1);
+    case Column::kLoci:
+      return QString::number(loci.size());
+    case Column::kAnyCorrect:
+      return ShortNumber(AnyCorrectOf(subset));
+    case Column::kBest:
+      return IsBest(subset) ? Text("\u2605 best of %1").arg(loci.size()) : QString();
+    default:
+      return Text(NamesOf(simulation_->run.input.loci, loci));
+  }
+}
+
+QVariant SubsetModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid()) {
+    return {};
+  }
+  const auto column = static_cast<Column>(index.column());
+  if (role == Qt::DisplayRole) {
+    return CellText(column, shown_[static_cast<std::size_t>(index.row())]);
+  }
+  if (role == Qt::TextAlignmentRole && column <= Column::kAnyCorrect) {
+    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  return {};
+}
+
+QVariant SubsetModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  static constexpr std::array<std::string_view, 5> kHeads = {"No.", "Loci", "Any correct", "Best",
+                                                             "Names"};
+  static constexpr std::array<std::string_view, 5> kTips = {
+      "Place in the order of the run.", "Number of loci.",
+      "Estimated probability that any allocation is correct.",
+      "Which subset of its size makes allocations most often correct; the first of equals.",
+      "The loci of the subset."};
+  if (orientation != Qt::Horizontal) {
+    return {};
+  }
+  const auto place = static_cast<std::size_t>(section);
+  if (role == Qt::DisplayRole) {
+    return Text(kHeads.at(place));
+  }
+  if (role == Qt::ToolTipRole) {
+    return Text(kTips.at(place));
+  }
+  if (role == Qt::TextAlignmentRole && static_cast<Column>(section) <= Column::kAnyCorrect) {
+    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  return {};
+}
+
+}  // namespace kaldo

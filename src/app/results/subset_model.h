@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractTableModel>
+#include <map>
+#include <optional>
+#include <span>
+
+#include "app/results/finished_runs.h"
+
+namespace kaldo {
+
+enum class SubsetColumn { kPlace, kLoci, kAnyCorrect, kBest, kNames, kCount };
+
+/// The subset of each size with which an allocation is most often correct, the first of equals:
+/// number of loci -> place among the subsets.
+std::map<std::size_t, std::size_t> BestSubsets(const SimulationFlow& flow,
+                                               std::span<const SubsetFigures> subsets);
+
+/// Which subsets are shown.
+struct SubsetChoice {
+  QString loci;                     ///< parts of names of loci that all must be in it
+  std::optional<std::size_t> size;  ///< number of loci
+  bool only_best = false;
+};
+
+/// The subsets of loci that a simulation ran through. It sorts and narrows itself, straight from
+/// the results: there may be a million of them.
+class SubsetModel : public QAbstractTableModel {
+ public:
+  SubsetModel(SharedSimulation simulation, QObject* parent);
+
+  void Choose(const SubsetChoice& choice);
+  const std::map<std::size_t, std::size_t>& Best() const { return best_; }
+  std::size_t AllSubsets() const { return Subsets().size(); }
+
+  void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+  QVariant headerData(int section, Qt::Orientation orientation,
+                      int role = Qt::DisplayRole) const override;
+
+ private:
+  const std::vector<SubsetFigures>& Subsets() const { return simulation_->run.result.subsets; }
+  double AnyCorrectOf(std::size_t subset) const;
+  bool IsBest(std::size_t subset) const;
+  void Arrange();
+  QString CellText(SubsetColumn column, std::size_t subset) const;
+
+  SharedSimulation simulation_;
+  std::map<std::size_t, std::size_t> best_;
+  SubsetChoice choice_;
+  SubsetColumn sorted_by_ = SubsetColumn::kPlace;
+  Qt::SortOrder order_ = Qt::AscendingOrder;
+  std::vector<std::uint32_t> shown_;  ///< places among the subsets, in the order shown
+};
+
+}  // namespace kaldo
