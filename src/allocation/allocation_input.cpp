@@ -14,16 +14,6 @@ namespace kaldo {
 
 namespace {
 
-std::optional<Problem> CheckToleranceChoice(const AllocationSettings& settings) {
-  if (settings.tolerance.Value() >= 0) {
-    return std::nullopt;
-  }
-  Problem problem;
-  problem.sentence = "Enter a positive number";
-  problem.found = fmt::format("the maximal offset tolerance is {}", settings.tolerance.Value());
-  return problem;
-}
-
 /// The positions of the loci in the cumulative sequence, or nothing without one.
 std::optional<std::vector<std::int32_t>> SequenceOf(const AllocationSettings& settings,
                                                     std::size_t number_of_loci) {
@@ -124,7 +114,7 @@ tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSetti
   if (!files) {
     return tl::unexpected(std::move(files.error()));
   }
-  if (auto problem = CheckToleranceChoice(settings)) {
+  if (auto problem = ValidateTolerance(settings.tolerance)) {
     return tl::unexpected(std::move(*problem));
   }
   AllocationInput input;

@@ -1,7 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "allocation/offset_tolerance.h"
 
+#include <fmt/format.h>
+
 namespace kaldo {
+
+std::optional<Problem> ValidateTolerance(OffsetTolerance tolerance) {
+  if (tolerance.Value() >= 0) {
+    return std::nullopt;
+  }
+  Problem problem;
+  problem.sentence = "Enter a positive number";
+  problem.found = fmt::format("the maximal offset tolerance is {}", tolerance.Value());
+  return problem;
+}
 
 ToleranceVerdict CheckTolerance(std::span<const UnitDistances> offsets, OffsetTolerance tolerance) {
   ToleranceVerdict verdict;

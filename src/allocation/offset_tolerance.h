@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <span>
 
+#include "genotypes/problem.h"
 #include "genotypes/units.h"
 
 namespace kaldo {
@@ -10,6 +12,9 @@ namespace kaldo {
 /// The "Maximal offset tolerance": the largest offset, in whole unit distances, that is taken for a
 /// typing error rather than for a sign that the parent is not among the collected ones.
 using OffsetTolerance = UnitDistances;
+
+/// A tolerance is never negative.
+std::optional<Problem> ValidateTolerance(OffsetTolerance tolerance);
 
 /// What the offsets of one parent over the loci in use say about it.
 struct ToleranceVerdict {

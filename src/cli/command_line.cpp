@@ -19,6 +19,7 @@
 #include "genotypes/version.h"
 #include "simulation/non_sexed_simulation.h"
 #include "simulation/sexed/sexed_simulation.h"
+#include "simulation/simulation_checks.h"
 #include "simulation/simulation_record.h"
 
 namespace kaldo {
@@ -68,9 +69,8 @@ const SimulationFlow& FlowOf(const SimulationSettings& settings) {
 }
 
 ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineStreams& streams) {
-  constexpr std::int32_t kManyIterations = 1000;
-  if (settings.flow == Flow::kSexed && settings.iterations > kManyIterations) {
-    streams.err << "1000 iterations maximum!\n";
+  if (WarnsOfManyIterations(settings.flow, settings.iterations)) {
+    streams.err << kManyIterations << '\n';
   }
   const auto run = [&] {
     TerminalProgress progress(streams.err, streams.err_is_terminal);

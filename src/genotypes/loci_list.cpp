@@ -43,7 +43,7 @@ std::optional<Problem> LociList::Use(const std::vector<std::string>& names) {
   }
   if (names.empty()) {
     Problem problem;
-    problem.sentence = "Choose at least one locus!";
+    problem.sentence = kNoLocusInUse;
     return problem;
   }
   in_use_ = std::move(in_use);

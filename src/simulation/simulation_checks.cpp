@@ -13,6 +13,7 @@ namespace kaldo {
 namespace {
 
 constexpr std::int32_t kTooManyNonSexedIterations = 1000;
+constexpr std::int32_t kManySexedIterations = 1000;
 
 std::optional<Problem> Fault(std::string sentence, std::string found) {
   Problem problem;
@@ -66,14 +67,27 @@ std::optional<Problem> ValidateForSimulation(const ErrorModel& model) {
   return std::nullopt;
 }
 
-std::optional<Problem> CheckSimulationNumbers(const SimulationSettings& settings) {
-  if (settings.tolerance.Value() < 0) {
-    return Fault("Enter a positive number",
-                 fmt::format("the maximal offset tolerance is {}", settings.tolerance.Value()));
-  }
-  if (settings.flow == Flow::kNonSexed && settings.iterations >= kTooManyNonSexedIterations) {
+std::optional<Problem> CheckIterations(Flow flow, std::int32_t iterations) {
+  if (flow == Flow::kNonSexed && iterations >= kTooManyNonSexedIterations) {
     return Fault("Number of iterations must be inferior to 1000",
-                 fmt::format("it is {}", settings.iterations));
+                 fmt::format("it is {}", iterations));
+  }
+  if (iterations < 1) {
+    return Fault("The number of iterations must be above 0!", fmt::format("it is {}", iterations));
+  }
+  return std::nullopt;
+}
+
+bool WarnsOfManyIterations(Flow flow, std::int32_t iterations) {
+  return flow == Flow::kSexed && iterations > kManySexedIterations;
+}
+
+std::optional<Problem> CheckSimulationNumbers(const SimulationSettings& settings) {
+  if (auto problem = ValidateTolerance(settings.tolerance)) {
+    return problem;
+  }
+  if (auto problem = CheckIterations(settings.flow, settings.iterations)) {
+    return problem;
   }
   if (!(settings.criterion >= 0 && settings.criterion <= 1)) {
     return Fault("Enter number between 0 and 1",
@@ -82,10 +96,6 @@ std::optional<Problem> CheckSimulationNumbers(const SimulationSettings& settings
   if (settings.start_with < 1) {
     return Fault("The minimum number of loci to start with is 1",
                  fmt::format("it is {}", settings.start_with));
-  }
-  if (settings.iterations < 1) {
-    return Fault("The number of iterations must be above 0!",
-                 fmt::format("it is {}", settings.iterations));
   }
   const auto most = static_cast<std::int32_t>(kMaxIndividuals);
   if (settings.offspring_per_iteration < 1 || settings.offspring_per_iteration > most) {

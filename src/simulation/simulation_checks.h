@@ -13,6 +13,13 @@ namespace kaldo {
 /// Uniform focal first, then the sum, added from plus2 to focal.
 std::optional<Problem> ValidateForSimulation(const ErrorModel& model);
 
+/// A non-sexed simulation has fewer than 1,000 iterations, and any one at least one.
+std::optional<Problem> CheckIterations(Flow flow, std::int32_t iterations);
+
+/// Shown before a sexed simulation of more than 1,000 iterations, which runs all the same.
+inline constexpr std::string_view kManyIterations = "1000 iterations maximum!";
+bool WarnsOfManyIterations(Flow flow, std::int32_t iterations);
+
 /// The numbers of the screens: tolerance, iterations, criterion, loci to start with, then numbers
 /// of parents and of pseudo-offspring, which must leave something to simulate.
 std::optional<Problem> CheckSimulationNumbers(const SimulationSettings& settings);

@@ -13,6 +13,7 @@ namespace kaldo {
 
 namespace {
 
+constexpr std::string_view kNoLociFile = "Names of loci file name is missing!";
 constexpr std::string_view kOddSentence =
     "Some parental loci are represented with an odd number of digits!";
 constexpr std::string_view kUndefinedSentence =
@@ -106,10 +107,17 @@ std::optional<Problem> CheckNoSeparators(const GroupFile& group) {
 
 }  // namespace
 
+tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& settings) {
+  if (settings.loci_file.empty()) {
+    return tl::unexpected(Missing(kNoLociFile));
+  }
+  return TokenFile::Read(settings.loci_file);
+}
+
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
                                                            const SimulationDesign& design) {
   if (settings.loci_file.empty()) {
-    return tl::unexpected(Missing("Names of loci file name is missing!"));
+    return tl::unexpected(Missing(kNoLociFile));
   }
   std::vector<GroupPath> paths;
   for (const GroupDesign& group : design.groups) {
@@ -119,7 +127,7 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
     }
   }
   SimulationFiles files;
-  auto loci = TokenFile::Read(settings.loci_file);
+  auto loci = OpenSimulationLoci(settings);
   if (!loci) {
     return tl::unexpected(std::move(loci.error()));
   }

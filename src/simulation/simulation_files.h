@@ -25,6 +25,9 @@ struct SimulationFiles {
   std::vector<GroupFile> groups;  ///< as in the design of the flow
 };
 
+/// Opens the names-of-loci file alone, which must be given.
+tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& settings);
+
 /// Opens the files: first every name must be given, then every file must open.
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
                                                            const SimulationDesign& design);

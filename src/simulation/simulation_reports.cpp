@@ -6,6 +6,7 @@
 #include "allocation/matrices_report.h"
 #include "genotypes/allele_listing.h"
 #include "genotypes/parallel_for.h"
+#include "simulation/saved_loci.h"
 #include "simulation/simulated_individuals.h"
 #include "simulation/simulation_record.h"
 #include "simulation/simulation_report_texts.h"
@@ -15,14 +16,6 @@ namespace kaldo {
 namespace {
 
 /// The names of the loci on one line, each followed by a blank.
-std::string SavedLoci(const LociList& loci) {
-  std::string text;
-  for (const std::string& name : loci.Names()) {
-    text += name + ' ';
-  }
-  return text;
-}
-
 std::string MatricesOf(const SimulationSettings& settings, const SimulationInput& input,
                        const SimulatedIteration& iteration) {
   const MatricesReport report{settings.flow, settings.tolerance, input.digits_per_field,
@@ -128,7 +121,7 @@ void SimulationReports::Write(const SimulationSettings& settings, const Simulati
   WriteTables(settings, input, result);
   WriteIndividuals(settings, input, result, last);
   WriteMatrices(settings, input, result, observer);
-  reports_.AddElsewhere(std::string(kSavedLociFile), SavedLoci(input.loci));
+  reports_.AddElsewhere(std::string(kSavedLociFile), SavedLociText(input.loci));
   reports_.Add(kRunRecordFile, FormatRunRecord(RecordOf(settings, input, result)));
   reports_.Commit();
 }
