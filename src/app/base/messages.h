@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string_view>
-
 #include <QString>
+#include <string_view>
 
 #include "genotypes/problem.h"
 

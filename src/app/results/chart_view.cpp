@@ -20,10 +20,9 @@ namespace kaldo {
 
 namespace {
 
-constexpr double kShareAxisBegin = -0.03;  ///< of lines, for whole marks at 0
-constexpr double kShareAxisEnd = 1.05;     ///< and at 1
-constexpr double kRoomForNumbers = 1.12;   ///< above the highest bar
-constexpr double kBarWidth = 0.7;          ///< of the distance between two bars
+constexpr double kShareAxisEnd = 1.05;    ///< a little above 1, for marks at 1
+constexpr double kRoomForNumbers = 1.12;  ///< above the highest bar
+constexpr double kBarWidth = 0.7;         ///< of the distance between two bars
 constexpr std::size_t kMostNumberedBars = 12;
 constexpr std::size_t kMostLevelLabels = 6;
 constexpr double kMarkerSize = 8;
@@ -47,8 +46,7 @@ class ChartPainter {
     PaintTexts(TextsOf(chart));
     std::visit([this](const auto& any) { PaintData(any); }, chart);
     if (TextsOf(chart).shares) {
-      const bool bars = std::holds_alternative<BarChart>(chart);
-      Values()->setRange(bars ? 0 : kShareAxisBegin, kShareAxisEnd);
+      Values()->setRange(0, kShareAxisEnd);
     }
   }
 

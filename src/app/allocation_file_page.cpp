@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/allocation_file_page.h"
+
+#include <QFormLayout>
+
+#include "app/base/file_field.h"
+#include "genotypes/file_summary.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr FieldText kParents{
+    "Collected &parents file", "ParentsFile",
+    "Genotypes of all collected candidate parents: a name and one field per locus. Lines with * "
+    "divide them into groups; only parents of one group are tried as a pair."};
+constexpr FieldText kMales{
+    "Collected &males file", "MalesFile",
+    "Genotypes of the collected males: a name and one field per locus. Lines with * divide them "
+    "into groups; males of a group are tried with the females of the group of the same number."};
+constexpr FieldText kFemales{"Collected &females file", "FemalesFile",
+                             "Genotypes of the collected females, in as many groups as the males."};
+constexpr FieldText kOffspring{
+    "&Offspring file", "OffspringFile",
+    "Genotypes of the offspring to allocate. A locus that could not be typed is a field of zeros."};
+constexpr FieldText kLoci{
+    "Names of &loci file", "LociFile",
+    "The names of the loci, in the order in which their fields follow each individual's name."};
+const ScreenEntry& EntryOf(Flow flow) {
+  return flow == Flow::kSexed ? kSexedAllocationScreen : kNonSexedAllocationScreen;
+}
+
+std::string_view CaptionOf(Flow flow) {
+  return flow == Flow::kSexed ? kSexedAllocationCaption : kNonSexedAllocationCaption;
+}
+
+}  // namespace
+
+AllocationFilePage::AllocationFilePage(Flow flow) : FlowPage(EntryOf(flow), CaptionOf(flow)) {
+  auto* const form = new QFormLayout(this);
+  form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  if (flow == Flow::kSexed) {
+    AddFile(*form, &AllocationSettings::males_file, true, kMales);
+    AddFile(*form, &AllocationSettings::females_file, true, kFemales);
+  } else {
+    AddFile(*form, &AllocationSettings::parents_file, true, kParents);
+  }
+  AddFile(*form, &AllocationSettings::offspring_file, false, kOffspring);
+  loci_ = AddFileField(*form, kLoci);
+  loci_->SetDescriber(DescribeLociFile);
+  loci_->SetOnChange([this] { RefreshFiles(); });
+  tolerance_.emplace(*form);
+}
+
+void AllocationFilePage::AddFile(QFormLayout& form, std::string AllocationSettings::*path,
+                                 bool holds_parents, const FieldText& text) {
+  FileField* const field = AddFileField(form, text);
+  field->SetDescriber([this, holds_parents](const std::string& file) {
+    return DescribeGenotypeFile(file, loci_->Path(),
+                                holds_parents ? Separators::kAllowed : Separators::kNone);
+  });
+  rows_.push_back({path, field});
+}
+
+void AllocationFilePage::RefreshFiles() {
+  for (const Row& row : rows_) {
+    row.field->Refresh();
+  }
+}
+
+void AllocationFilePage::Set(const AllocationSettings& settings) {
+  loci_->SetPath(settings.loci_file);
+  for (const Row& row : rows_) {
+    row.field->SetPath(settings.*row.path);
+  }
+  tolerance_->Set(settings.tolerance);
+}
+
+void AllocationFilePage::FillIn(AllocationSettings& settings) const {
+  settings.loci_file = loci_->Path();
+  for (const Row& row : rows_) {
+    settings.*row.path = row.field->Path();
+  }
+  settings.tolerance = tolerance_->Value();
+}
+
+}  // namespace kaldo

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/allocation_flow_window.h"
+
+#include "allocation/allocation_command.h"
+#include "allocation/allocation_files.h"
+#include "allocation/allocation_run.h"
+#include "app/allocation_file_page.h"
+#include "app/base/messages.h"
+#include "app/base/text.h"
+#include "app/error_page.h"
+#include "app/loci_page.h"
+#include "app/results/allocation_window.h"
+#include "app/run_dialog.h"
+#include "app/sequence_page.h"
+
+namespace kaldo {
+
+namespace {
+
+std::string_view CaptionOf(Flow flow) {
+  return flow == Flow::kSexed ? kSexedAllocationCaption : kNonSexedAllocationCaption;
+}
+
+const ScreenEntry& LociScreenOf(Flow flow) {
+  return flow == Flow::kSexed ? kSexedAllocationLociScreen : kLociScreen;
+}
+
+}  // namespace
+
+AllocationFlowWindow::AllocationFlowWindow(Flow flow, QWidget* parent)
+    : FlowWindow(parent),
+      flow_(flow),
+      files_(Own(new AllocationFilePage(flow))),
+      error_(Own(new ErrorPage(CaptionOf(flow)))),
+      loci_(Own(new LociPage(LociScreenOf(flow), CaptionOf(flow))), Own(new SequencePage)) {}
+
+void AllocationFlowWindow::Set(const AllocationSettings& settings) {
+  files_->Set(settings);
+  error_->Box().Set(settings.error_model);
+  loci_.Set(settings.loci_file, settings.loci_in_use, settings.sequence);
+}
+
+FlowPage& AllocationFlowWindow::FirstPage() { return *files_; }
+
+bool AllocationFlowWindow::MayStartRun(const FlowPage& page) const {
+  return &page == &loci_.Choice() || &page == &loci_.Sequence();
+}
+
+void AllocationFlowWindow::Confirm(const FlowPage& page) {
+  if (&page == files_) {
+    ConfirmFiles();
+  } else if (&page == error_) {
+    ConfirmError();
+  } else if (&page == &loci_.Choice()) {
+    ConfirmLoci();
+  } else {
+    ConfirmSequence();
+  }
+}
+
+AllocationSettings AllocationFlowWindow::FileSettings() const {
+  AllocationSettings settings;
+  settings.flow = flow_;
+  settings.project = Project();
+  files_->FillIn(settings);
+  return settings;
+}
+
+void AllocationFlowWindow::ConfirmFiles() {
+  const AllocationSettings settings = FileSettings();
+  const auto files = OpenAllocationFiles(settings);
+  if (!files) {
+    return Refuse(files.error());
+  }
+  if (const auto fault = files_->ToleranceFault()) {
+    return Refuse(*fault);
+  }
+  const LociList loci(files->loci.tokens);
+  if (const auto fault = CheckAllocationFiles(*files, loci)) {
+    if (!fault->silent_in_windows) {
+      Refuse(*fault);
+    }
+    return reject();  // files at fault end the flow; what was typed stays for the next time
+  }
+  if (const auto input = LoadAllocationInput(settings); !input) {
+    return Refuse(input.error());
+  }
+  if (MakeProjectFolder()) {
+    loci_.Refill(loci.Names());
+    ShowPage(*error_);
+  }
+}
+
+void AllocationFlowWindow::ConfirmError() {
+  const auto model = error_->Box().Model();
+  if (!model) {
+    return Refuse(model.error());
+  }
+  if (const auto fault = ValidateForAllocation(*model)) {
+    return Refuse(*fault);
+  }
+  ShowPage(loci_.Choice());
+}
+
+void AllocationFlowWindow::ConfirmLoci() {
+  if (const auto fault = loci_.ChoiceFault()) {
+    return Refuse(*fault);
+  }
+  if (loci_.Choice().SequenceWanted()) {
+    return ShowPage(loci_.Sequence());
+  }
+  Run();
+}
+
+void AllocationFlowWindow::ConfirmSequence() {
+  if (const auto fault = loci_.SequenceFault()) {
+    return Refuse(*fault);
+  }
+  Run();
+}
+
+std::optional<AllocationSettings> AllocationFlowWindow::AllSettings() {
+  AllocationSettings settings = FileSettings();
+  const auto model = error_->Box().Model();
+  if (!model) {
+    Refuse(model.error());
+    return std::nullopt;
+  }
+  settings.error_model = *model;
+  settings.loci_in_use = loci_.Choice().InUse();
+  if (loci_.Choice().SequenceWanted()) {
+    settings.sequence = loci_.Sequence().Indices();
+  }
+  return settings;
+}
+
+std::string AllocationFlowWindow::Command() {
+  const auto settings = AllSettings();
+  return settings ? CommandOf(*settings) : std::string();
+}
+
+void AllocationFlowWindow::Run() {
+  const auto settings = AllSettings();
+  if (!settings) {
+    return;
+  }
+  tl::expected<AllocationRun, Problem> run = tl::unexpected(Problem{});
+  if (!RunWithProgress(this, windowTitle(),
+                       [&](RunObserver& observer) { run = RunAllocation(*settings, observer); })) {
+    return;
+  }
+  if (!run) {
+    return Refuse(run.error());
+  }
+  const std::string_view closing = ClosingSentence(run->result);
+  auto* const results = new AllocationWindow(*settings, std::move(*run), ResultsFolder());
+  results->SetCommand(Text(CommandOf(*settings)));
+  accept();
+  results->show();
+  ShowSentence(results, closing);
+  results->raise();
+  results->activateWindow();
+}
+
+}  // namespace kaldo

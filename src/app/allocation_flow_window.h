@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+
+#include "allocation/allocation_settings.h"
+#include "app/flow_window.h"
+#include "app/loci_screens.h"
+
+namespace kaldo {
+
+class AllocationFilePage;
+class ErrorPage;
+
+/// The screens of an allocation, sexed or not: files, transmission error, choice of loci, where
+/// wanted the cumulative sequence, run.
+class AllocationFlowWindow : public FlowWindow {
+ public:
+  AllocationFlowWindow(Flow flow, QWidget* parent);
+
+  /// Fills all screens.
+  void Set(const AllocationSettings& settings);
+
+ protected:
+  FlowPage& FirstPage() override;
+  void Confirm(const FlowPage& page) override;
+  void Leave() override { loci_.Leave(); }
+  void Prepare(const FlowPage& /*page*/) override {}
+  std::string Command() override;
+  bool MayStartRun(const FlowPage& page) const override;
+
+ private:
+  /// What the file screen says; all else is left as it is without a choice.
+  AllocationSettings FileSettings() const;
+
+  /// What all screens say. A field that cannot be read is told, and nothing comes back.
+  std::optional<AllocationSettings> AllSettings();
+
+  void ConfirmFiles();
+  void ConfirmError();
+  void ConfirmLoci();
+  void ConfirmSequence();
+  void Run();
+
+  Flow flow_;
+  AllocationFilePage* files_;
+  ErrorPage* error_;
+  LociScreens loci_;
+};
+
+}  // namespace kaldo

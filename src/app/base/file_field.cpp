@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/base/file_field.h"
+
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/base/text.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr int kTypingPause = 400;  // milliseconds
+
+/// The one local file that is being dragged, or nothing.
+QString DraggedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  return urls.size() == 1 && urls.front().isLocalFile() ? urls.front().toLocalFile() : QString();
+}
+
+}  // namespace
+
+FileField::FileField(const FieldText& text, QWidget* parent)
+    : QWidget(parent), path_(new QLineEdit(this)), hint_(NewHint(this)) {
+  Describe(*path_, text);
+  title_ = path_->accessibleName();
+  path_->setPlaceholderText(Text("type, browse or drop a file here"));
+  path_->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+  path_->setAcceptDrops(false);  // a dropped file replaces the text, it is not inserted into it
+  hint_->setMinimumHeight(fontMetrics().height());  // the screen does not jump when a file is named
+  hint_->setObjectName(path_->objectName() + Text("Hint"));
+
+  auto* const browse = new QPushButton(Text("Browse..."), this);
+  browse->setObjectName(path_->objectName() + Text("Browse"));
+  browse->setAccessibleName(Text("Browse for: ") + title_);
+  browse->setAutoDefault(false);
+
+  auto* const row = new QHBoxLayout;
+  row->addWidget(path_);
+  row->addWidget(browse);
+  auto* const column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(column->spacing() / 2);
+  column->addLayout(row);
+  column->addWidget(hint_);
+
+  setAcceptDrops(true);
+  setFocusProxy(path_);
+  typing_.setSingleShot(true);
+  typing_.setInterval(kTypingPause);
+  connect(path_, &QLineEdit::textChanged, &typing_, qOverload<>(&QTimer::start));
+  connect(&typing_, &QTimer::timeout, this, [this] {
+    Refresh();
+    if (on_change_) {
+      on_change_();
+    }
+  });
+  connect(browse, &QPushButton::clicked, this, [this] { Browse(); });
+}
+
+std::string FileField::Path() const { return PathBytes(path_->text()); }
+
+void FileField::SetPath(const std::string& path) {
+  path_->setText(PathText(path));
+  typing_.stop();
+  Refresh();
+  if (on_change_) {
+    on_change_();
+  }
+}
+
+void FileField::Refresh() {
+  const std::string path = Path();
+  hint_->setText(path.empty() || !describer_ ? QString() : Text(describer_(path)));
+}
+
+void FileField::Browse() {
+  const QString picked = QFileDialog::getOpenFileName(
+      this, title_, path_->text(), Text("Text files (.txt) (*.txt);;All files (*)"));
+  if (!picked.isEmpty()) {
+    SetPath(PathBytes(picked));
+  }
+}
+
+void FileField::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) {
+    event->acceptProposedAction();
+  }
+}
+
+void FileField::dropEvent(QDropEvent* event) {
+  const QString file = DraggedFile(*event->mimeData());
+  if (file.isEmpty()) {
+    hint_->setText(Text("One file at a time can be dropped here."));
+    return;
+  }
+  event->acceptProposedAction();
+  SetPath(PathBytes(file));
+}
+
+FileField* AddFileField(QFormLayout& form, const FieldText& text) {
+  auto* const field = new FileField(text);
+  form.addRow(Text(text.label), field);
+  return field;
+}
+
+}  // namespace kaldo

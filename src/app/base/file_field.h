@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <string>
+
+#include "app/base/form_fields.h"
+
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+
+namespace kaldo {
+
+/// A field for the name of an input file: typed, picked or dropped. Below it stands what was read
+/// from the file, so that a wrong file is seen before anything runs.
+class FileField : public QWidget {
+ public:
+  /// Tells in one line what a file holds; gets the path as typed, never empty.
+  using Describer = std::function<std::string(const std::string&)>;
+
+  explicit FileField(const FieldText& text, QWidget* parent = nullptr);
+
+  void SetDescriber(Describer describer) { describer_ = std::move(describer); }
+
+  /// Called whenever another file was named.
+  void SetOnChange(std::function<void()> on_change) { on_change_ = std::move(on_change); }
+
+  std::string Path() const;
+  void SetPath(const std::string& path);
+
+  /// Reads the file again, for instance because the names-of-loci file is another one.
+  void Refresh();
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void Browse();
+
+  QLineEdit* path_;
+  QLabel* hint_;
+  QTimer typing_;  ///< files are not read at every key
+  Describer describer_;
+  std::function<void()> on_change_;
+  QString title_;
+};
+
+/// A file field with its label in a form.
+FileField* AddFileField(QFormLayout& form, const FieldText& text);
+
+}  // namespace kaldo

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/base/form_fields.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <fmt/format.h>
+
+#include "app/base/text.h"
+#include "genotypes/number_text.h"
+
+namespace kaldo {
+
+namespace {
+
+/// The label without its key and the arrow that leads to the field.
+QString SpokenName(std::string_view label) {
+  QString name = Text(label).remove(QLatin1Char('&'));
+  while (name.endsWith(QLatin1Char('>')) || name.endsWith(QLatin1Char('-')) ||
+         name.endsWith(QLatin1Char(' ')) || name.endsWith(QLatin1Char(':'))) {
+    name.chop(1);
+  }
+  return name.trimmed();
+}
+
+std::string Typed(const QLineEdit& field) { return Bytes(field.text().trimmed()); }
+
+}  // namespace
+
+void Describe(QWidget& widget, const FieldText& text) {
+  widget.setObjectName(Text(text.object_name));
+  widget.setToolTip(Text(text.help));
+  widget.setWhatsThis(Text(text.help));
+  widget.setAccessibleName(SpokenName(text.label));
+  widget.setAccessibleDescription(Text(text.help));
+}
+
+QLineEdit* AddLineEdit(QFormLayout& form, const FieldText& text) {
+  auto* const field = new QLineEdit;
+  Describe(*field, text);
+  form.addRow(Text(text.label), field);
+  return field;
+}
+
+QLabel* NewHint(QWidget* parent) {
+  auto* const hint = new QLabel(parent);
+  hint->setWordWrap(true);
+  hint->setTextFormat(Qt::PlainText);
+  hint->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  return hint;
+}
+
+std::optional<std::int32_t> WholeNumberIn(const QLineEdit& field) {
+  return ParseInteger(Typed(field));
+}
+
+std::optional<double> NumberIn(const QLineEdit& field) { return ParseDouble(Typed(field)); }
+
+QString NumberText(double value) { return Text(fmt::format("{}", value)); }
+
+QString NumberText(std::int32_t value) { return Text(fmt::format("{}", value)); }
+
+}  // namespace kaldo

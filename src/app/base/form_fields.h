@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QString;
+class QWidget;
+
+namespace kaldo {
+
+/// How a field of a screen is labelled and explained.
+struct FieldText {
+  std::string_view label;  ///< with "&" before its key
+  std::string_view object_name;
+  std::string_view help;  ///< what the value means to a geneticist, with unit and range
+};
+
+/// Sets object name, tooltip and the name that a screen reader says.
+void Describe(QWidget& widget, const FieldText& text);
+
+/// A line for one value, with its label.
+QLineEdit* AddLineEdit(QFormLayout& form, const FieldText& text);
+
+/// A line of plain words that explains or warns; wraps.
+QLabel* NewHint(QWidget* parent);
+
+// Numbers are read and written with a decimal point, whatever the language of the desktop.
+
+/// The whole number in the field, blanks around it left out, or nothing.
+std::optional<std::int32_t> WholeNumberIn(const QLineEdit& field);
+std::optional<double> NumberIn(const QLineEdit& field);
+
+/// The shortest text that reads back as the same number.
+QString NumberText(double value);
+QString NumberText(std::int32_t value);
+
+}  // namespace kaldo

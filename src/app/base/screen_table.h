@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+class QWidget;
+
+namespace kaldo {
+
+// The numbers of screens and controls. They have stayed the same since users first wrote them into
+// their manuals; here is the one place that knows them. A widget carries its number as the property
+// "number", by which tests and scripts find it.
+
+/// A screen: its number (0 where it never had one) and its object name.
+struct ScreenEntry {
+  int number = 0;
+  std::string_view object_name;
+};
+
+inline constexpr ScreenEntry kAboutScreen{100, "AboutBox"};
+inline constexpr ScreenEntry kMainMenuScreen{102, "MainMenu"};
+inline constexpr ScreenEntry kSexedAllocationScreen{135, "SexedAllocationFiles"};
+inline constexpr ScreenEntry kIntroductionScreen{138, "Introduction"};
+inline constexpr ScreenEntry kNonSexedAllocationScreen{139, "NonSexedAllocationFiles"};
+inline constexpr ScreenEntry kNonSexedSimulationScreen{140, "NonSexedSimulationStart"};
+inline constexpr ScreenEntry kSexedSimulationScreen{146, "SexedSimulationStart"};
+inline constexpr ScreenEntry kSexedAllocationLociScreen{154, "ChoiceOfLoci"};
+inline constexpr ScreenEntry kSequenceScreen{167, "CumulativeSequence"};
+
+inline constexpr ScreenEntry kLociScreen{0, "ChoiceOfLoci"};
+inline constexpr ScreenEntry kErrorScreen{0, "ErrorModel"};
+inline constexpr ScreenEntry kParentalScreen{0, "Parents"};
+inline constexpr ScreenEntry kOffspringScreen{0, "PseudoOffspring"};
+inline constexpr ScreenEntry kToleranceScreen{0, "Tolerance"};
+inline constexpr ScreenEntry kStrategyScreen{0, "Strategy"};
+inline constexpr ScreenEntry kOutputScreen{0, "Output"};
+
+/// The control numbers; some come again on another screen.
+enum ControlNumber : int {
+  kNonSexedAllocationButton = 1001,
+  kSexedAllocationButton = 1002,
+  kNonSexedSimulationButton = 1003,
+  kSexedSimulationButton = 1004,
+  kBackButton = 1002,
+  kAllLociBox = 1062,
+  kCumulativeSequenceBox = 1083,
+  kFirstLocusBox = 1255,
+  kLastLocusBox = 1304,
+};
+
+// The captions of the flows.
+inline constexpr std::string_view kNonSexedAllocationCaption = "ALLOCATION : NON-SEXED";
+inline constexpr std::string_view kSexedAllocationCaption = "ALLOCATION : SEXED";
+inline constexpr std::string_view kNonSexedSimulationCaption = "SIMULATIONS: NON-SEXED";
+inline constexpr std::string_view kSexedSimulationCaption = "SIMULATIONS : SEXED";
+inline constexpr std::string_view kSequenceCaption = "Cumulative Sequence";
+
+inline constexpr const char* kNumberProperty = "number";
+
+/// Gives a screen its object name and its number.
+void Name(QWidget& screen, const ScreenEntry& entry);
+
+/// Gives a control its number.
+void Number(QWidget& control, int number);
+
+}  // namespace kaldo

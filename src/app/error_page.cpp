@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/error_page.h"
+
+#include <QButtonGroup>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include <fmt/format.h>
+
+#include "app/base/form_fields.h"
+#include "app/base/text.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr int kShortField = 13;  // characters
+
+struct KindText {
+  ErrorKind kind;
+  FieldText text;
+};
+
+constexpr std::array<KindText, 3> kKinds{{
+    {ErrorKind::kNoError,
+     {"&No Error", "NoError",
+      "Every allele of a parent is read as itself: one misread allele excludes a parent."}},
+    {ErrorKind::kUniform,
+     {"&Uniform", "Uniform",
+      "An allele may be read as any other allele of its locus, all with the same probability."}},
+    {ErrorKind::kNonUniform,
+     {"N&on Uniform", "NonUniform",
+      "An allele may be read one or two unit distances shorter or longer, as stutter and slips of "
+      "the polymerase do."}},
+}};
+
+constexpr FieldText kEpsilon{
+    "&Global error", "Epsilon",
+    "Probability that an allele is read as any other one, all others together: at most 0.1."};
+
+/// Over the five fields, in the order in which they stand.
+struct ProbabilityText {
+  FieldText text;
+  double ErrorModel::*value;
+  std::string_view at_first;
+};
+
+constexpr std::array<ProbabilityText, 5> kProbabilities{{
+    {{"-&2 units", "Minus2", "Probability that an allele is read two unit distances shorter."},
+     &ErrorModel::minus2,
+     "0.002"},
+    {{"-&1 unit", "Minus1", "Probability that an allele is read one unit distance shorter."},
+     &ErrorModel::minus1,
+     "0.008"},
+    {{"&Target Allele", "Focal",
+      "Probability that an allele is read as itself (focal allele): 0.9 to 1."},
+     &ErrorModel::focal,
+     "0.980"},
+    {{"+1 un&it", "Plus1", "Probability that an allele is read one unit distance longer."},
+     &ErrorModel::plus1,
+     "0.008"},
+    {{"+2 unit&s", "Plus2", "Probability that an allele is read two unit distances longer."},
+     &ErrorModel::plus2,
+     "0.002"},
+}};
+
+QLineEdit* NewShortField(const FieldText& text, std::string_view value) {
+  auto* const field = new QLineEdit(Text(value));
+  Describe(*field, text);
+  field->setMinimumWidth(field->fontMetrics().averageCharWidth() * kShortField);
+  return field;
+}
+
+Problem NoNumber(const QLineEdit& field) {
+  Problem problem;
+  problem.sentence = "Enter numbers with a decimal point!";
+  problem.found = fmt::format("{}: {} is not a number", Bytes(field.accessibleName()),
+                              Quoted(Bytes(field.text())));
+  return problem;
+}
+
+}  // namespace
+
+ErrorModelBox::ErrorModelBox(std::string_view title)
+    : QGroupBox(Text(title)), kinds_(new QButtonGroup(this)), sum_(NewHint(this)) {
+  auto* const column = new QVBoxLayout(this);
+  for (const KindText& kind : kKinds) {
+    auto* const button = new QRadioButton(Text(kind.text.label));
+    Describe(*button, kind.text);
+    kinds_->addButton(button, static_cast<int>(kind.kind));
+    column->addWidget(button);
+    if (kind.kind == ErrorKind::kUniform) {
+      column->addLayout(UniformRow());
+    } else if (kind.kind == ErrorKind::kNonUniform) {
+      column->addLayout(NonUniformRow());
+    }
+  }
+  sum_->setObjectName(Text("ProbabilitySum"));
+  column->addWidget(sum_);
+  column->addStretch();
+  ShowSum();
+}
+
+QLayout* ErrorModelBox::UniformRow() {
+  auto* const form = new QFormLayout;
+  epsilon_ = NewShortField(kEpsilon, "0.02");
+  form->addRow(Text(kEpsilon.label), epsilon_);
+  form->setContentsMargins(fontMetrics().height() * 2, 0, 0, 0);
+  form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+  return form;
+}
+
+QLayout* ErrorModelBox::NonUniformRow() {
+  auto* const grid = new QGridLayout;
+  grid->setContentsMargins(fontMetrics().height() * 2, 0, 0, 0);
+  for (int k = 0; const ProbabilityText& probability : kProbabilities) {
+    QLineEdit* const field = NewShortField(probability.text, probability.at_first);
+    auto* const label = new QLabel(Text(probability.text.label));
+    label->setBuddy(field);
+    grid->addWidget(label, 0, k, Qt::AlignHCenter);
+    grid->addWidget(field, 1, k);
+    connect(field, &QLineEdit::textChanged, this, [this] { ShowSum(); });
+    probabilities_.at(static_cast<std::size_t>(k)) = field;
+    ++k;
+  }
+  return grid;
+}
+
+void ErrorModelBox::ShowSum() {
+  double sum = 0;
+  for (const QLineEdit* field : probabilities_) {
+    if (field == nullptr) {
+      return;  // the fields are still being made
+    }
+    const auto value = NumberIn(*field);
+    if (!value) {
+      sum_->setText(field->accessibleName() + Text(": enter a number with a decimal point"));
+      return;
+    }
+    sum += *value;
+  }
+  sum_->setText(Text(sum == 1.0 ? std::string("The five probabilities sum to 1.")
+                                : fmt::format("The five probabilities sum to {}, not to 1.", sum)));
+}
+
+void ErrorModelBox::Set(const ErrorModel& model) {
+  if (QAbstractButton* const button = kinds_->button(static_cast<int>(model.kind))) {
+    button->setChecked(true);
+  }
+  if (model.kind == ErrorKind::kUniform) {
+    epsilon_->setText(NumberText(model.epsilon));
+  }
+  if (model.kind == ErrorKind::kNonUniform) {
+    for (std::size_t k = 0; k < kProbabilities.size(); ++k) {
+      const double value = model.*kProbabilities.at(k).value;
+      if (NumberIn(*probabilities_.at(k)) != value) {  // "0.980" stays as it is
+        probabilities_.at(k)->setText(NumberText(value));
+      }
+    }
+  }
+}
+
+tl::expected<ErrorModel, Problem> ErrorModelBox::Model() const {
+  ErrorModel model;
+  const int chosen = kinds_->checkedId();
+  model.kind = chosen < 0 ? ErrorKind::kNotChosen : static_cast<ErrorKind>(chosen);
+  if (model.kind == ErrorKind::kUniform) {
+    const auto epsilon = NumberIn(*epsilon_);
+    if (!epsilon) {
+      return tl::unexpected(NoNumber(*epsilon_));
+    }
+    model.epsilon = *epsilon;
+  }
+  if (model.kind == ErrorKind::kNonUniform) {
+    for (std::size_t k = 0; k < kProbabilities.size(); ++k) {
+      const auto value = NumberIn(*probabilities_.at(k));
+      if (!value) {
+        return tl::unexpected(NoNumber(*probabilities_.at(k)));
+      }
+      model.*kProbabilities.at(k).value = *value;
+    }
+  }
+  return model;
+}
+
+ErrorPage::ErrorPage(std::string_view caption)
+    : FlowPage(kErrorScreen, caption), box_(new ErrorModelBox("  Model of error  ")) {
+  auto* const column = new QVBoxLayout(this);
+  column->addWidget(box_);
+}
+
+}  // namespace kaldo

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QGroupBox>
+#include <array>
+
+#include <tl/expected.hpp>
+
+#include "allocation/error_model.h"
+#include "app/flow_window.h"
+
+class QButtonGroup;
+class QLineEdit;
+
+namespace kaldo {
+
+/// The choice of the transmission error: No Error, Uniform or Non Uniform, with their
+/// probabilities. Nothing is chosen at first: an error model is a statement about one's laboratory.
+class ErrorModelBox : public QGroupBox {
+ public:
+  explicit ErrorModelBox(std::string_view title);
+
+  void Set(const ErrorModel& model);
+
+  /// The model as typed. A field that holds no number is a Problem.
+  tl::expected<ErrorModel, Problem> Model() const;
+
+ private:
+  QLayout* UniformRow();
+  QLayout* NonUniformRow();
+  void ShowSum();
+
+  QButtonGroup* kinds_;
+  QLineEdit* epsilon_ = nullptr;
+  std::array<QLineEdit*, 5> probabilities_{};  ///< minus2 to plus2
+  QLabel* sum_;
+};
+
+/// The error screen of the allocation flows.
+class ErrorPage : public FlowPage {
+ public:
+  explicit ErrorPage(std::string_view caption);
+
+  ErrorModelBox& Box() const { return *box_; }
+
+ private:
+  ErrorModelBox* box_;
+};
+
+}  // namespace kaldo

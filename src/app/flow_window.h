@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <string>
+#include <vector>
+
+#include "app/base/screen_table.h"
+
+class QLabel;
+class QPushButton;
+class QScrollArea;
+
+namespace kaldo {
+
+struct Problem;
+
+/// One parameter screen of a flow. It shows values and gives them back; what they mean together is
+/// tested by the flow, with the sentences of the core.
+class FlowPage : public QWidget {
+ public:
+  FlowPage(const ScreenEntry& entry, std::string_view caption);
+
+  const QString& Caption() const { return caption_; }
+
+ private:
+  QString caption_;
+};
+
+/// A chain of parameter screens that ends in a run. It stands over the main menu until the run is
+/// done or the user leaves; what was typed stays for the next time. "OK" confirms a screen, Back
+/// returns to the one before.
+class FlowWindow : public QDialog {
+ public:
+  explicit FlowWindow(QWidget* parent);
+
+  /// Shows the first screen for a project and returns when the flow is over.
+  void Start(const std::string& project);
+
+ protected:
+  const std::string& Project() const { return project_; }
+
+  /// Takes a screen into the flow, which owns it from here on.
+  template <typename Page>
+  Page* Own(Page* page) {
+    Keep(page);
+    return page;
+  }
+
+  virtual FlowPage& FirstPage() = 0;
+  virtual void Confirm(const FlowPage& page) = 0;
+
+  /// Called when the flow is over, run or not.
+  virtual void Leave() = 0;
+
+  /// The command line of the run, or nothing while the screens do not make one.
+  virtual std::string Command() = 0;
+
+  /// Called before a screen is shown, also by Back.
+  virtual void Prepare(const FlowPage& page) = 0;
+
+  /// True for a screen whose OK may start the run: it tells where results go.
+  virtual bool MayStartRun(const FlowPage& page) const = 0;
+
+  void ShowPage(FlowPage& page);
+
+  /// Shows the problem; the screen stays.
+  void Refuse(const Problem& problem);
+
+  /// The folder of the results, in full.
+  QString ResultsFolder() const;
+
+  /// Makes the project folder; tells why where that is not possible.
+  bool MakeProjectFolder();
+
+ private:
+  void Keep(QWidget* page);
+  void Display(FlowPage& page);
+  void GoBack();
+  void ConfirmCurrent();
+  void CopyCommand();
+  void ShowDestination(const FlowPage& page);
+
+  std::string project_;
+  std::vector<FlowPage*> before_;  ///< the screens that Back leads to
+  FlowPage* current_ = nullptr;
+  QScrollArea* area_;
+  QLabel* destination_;
+  QPushButton* copy_;
+  QPushButton* back_;
+  QPushButton* ok_;
+};
+
+}  // namespace kaldo

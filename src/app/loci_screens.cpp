@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/loci_screens.h"
+
+#include "allocation/cumulative_sequence.h"
+#include "app/loci_page.h"
+#include "app/sequence_page.h"
+#include "genotypes/loci_list.h"
+
+namespace kaldo {
+
+void LociScreens::Set(const std::string& loci_file,
+                      const std::optional<std::vector<std::string>>& in_use,
+                      const std::optional<std::vector<std::int32_t>>& sequence) {
+  const auto file = TokenFile::Read(loci_file);
+  if (!file || CheckLoci(*file)) {
+    return;  // the file screen tells what is wrong with it
+  }
+  Refill(LociList(*file).Names());
+  choice_->SetInUse(in_use);
+  choice_->SetSequenceWanted(sequence.has_value());
+  if (sequence && !sequence->empty()) {
+    sequence_->SetIndices(*sequence);
+  }
+}
+
+void LociScreens::Refill(const std::vector<std::string>& names) {
+  if (!sequence_stays_ || names != choice_->Names()) {
+    sequence_->SetNames(names);
+  }
+  sequence_stays_ = true;
+  choice_->SetNames(names);
+}
+
+std::optional<Problem> LociScreens::ChoiceFault() const {
+  const auto in_use = choice_->InUse();
+  if (!in_use || !in_use->empty()) {
+    return std::nullopt;
+  }
+  Problem problem;
+  problem.sentence = kNoLocusInUse;
+  return problem;
+}
+
+std::optional<Problem> LociScreens::SequenceFault() const {
+  return CheckSequence(sequence_->Indices(), choice_->Names().size());
+}
+
+}  // namespace kaldo

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "genotypes/problem.h"
+
+namespace kaldo {
+
+class LociPage;
+class SequencePage;
+
+/// The two screens that choose loci, as every flow has them: which loci take part, and where wanted
+/// the order in which they enter a cumulative sequence.
+class LociScreens {
+ public:
+  LociScreens(LociPage* choice, SequencePage* sequence) : choice_(choice), sequence_(sequence) {}
+
+  LociPage& Choice() const { return *choice_; }
+  SequencePage& Sequence() const { return *sequence_; }
+
+  /// Fills both screens from recorded choices.
+  void Set(const std::string& loci_file, const std::optional<std::vector<std::string>>& in_use,
+           const std::optional<std::vector<std::int32_t>>& sequence);
+
+  /// Called when the names of the loci have been read. The sequence starts as the file order, in
+  /// every new walk through the flow and for every other set of loci.
+  void Refill(const std::vector<std::string>& names);
+
+  /// Called when the flow is left.
+  void Leave() { sequence_stays_ = false; }
+
+  /// What is wrong with the choice, and with the sequence.
+  std::optional<Problem> ChoiceFault() const;
+  std::optional<Problem> SequenceFault() const;
+
+ private:
+  LociPage* choice_;
+  SequencePage* sequence_;
+  bool sequence_stays_ = false;
+};
+
+}  // namespace kaldo

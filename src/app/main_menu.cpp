@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/main_menu.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/about_box.h"
+#include "app/allocation_flow_window.h"
+#include "app/base/form_fields.h"
+#include "app/base/messages.h"
+#include "app/base/screen_table.h"
+#include "app/base/text.h"
+#include "app/example_data.h"
+#include "app/simulation_flow_window.h"
+#include "genotypes/version.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr FieldText kProject{
+    "Name of project    ----->", "Project",
+    "Names the folder for the results, in the folder below. A second run under the same name "
+    "replaces the results of the first."};
+
+constexpr std::string_view kNonSexedHelp =
+    "One set of candidate parents: any two of them may be a pair";
+constexpr std::string_view kSexedHelp =
+    "Males and females are known: a pair is a male and a female";
+
+std::size_t Place(Flow flow) { return static_cast<std::size_t>(flow); }
+
+QPushButton* NewFlowButton(Flow flow, std::string_view group, int number, Qt::Key key) {
+  auto* const button = new QPushButton(Text(flow == Flow::kSexed ? "SEXED" : "NON-SEXED"));
+  Number(*button, number);
+  button->setObjectName(Text(group) + button->text());
+  button->setAccessibleName(Text(group) + Text(", ") + button->text());
+  const QKeySequence shortcut(Qt::ALT | key);
+  button->setShortcut(shortcut);
+  button->setToolTip(Text(flow == Flow::kSexed ? kSexedHelp : kNonSexedHelp) + Text(" (") +
+                     shortcut.toString(QKeySequence::NativeText) + Text(")"));
+  return button;
+}
+
+QPushButton* NewButton(std::string_view caption, std::string_view name, std::string_view help) {
+  auto* const button = new QPushButton(Text(caption));
+  button->setObjectName(Text(name));
+  button->setToolTip(Text(help));
+  return button;
+}
+
+}  // namespace
+
+MainMenu::MainMenu() : project_(new QLineEdit), folder_(new QLineEdit) {
+  Name(*this, kMainMenuScreen);
+  setWindowTitle(Text(kProductTitle));
+  setAcceptDrops(true);
+  auto* const column = new QVBoxLayout(this);
+  column->addLayout(NewProjectRows());
+  column->addWidget(NewFlowGroups());
+  column->addLayout(NewFurtherButtons());
+  column->addStretch();
+  ShowFolder();
+  project_->setFocus();
+}
+
+MainMenu::~MainMenu() = default;
+
+QLayout* MainMenu::NewProjectRows() {
+  auto* const form = new QFormLayout;
+  Describe(*project_, kProject);
+  project_->setMinimumWidth(fontMetrics().averageCharWidth() * 56);
+  form->addRow(Text(kProject.label), project_);
+  connect(project_, &QLineEdit::textChanged, this, [this] { ShowFolder(); });
+
+  folder_->setObjectName(Text("ResultsFolder"));
+  folder_->setAccessibleName(Text("Results go to"));
+  folder_->setReadOnly(true);
+  folder_->setFrame(false);
+  auto* const choose =
+      NewButton("Working &folder...", "ChooseFolder", "Choose where project folders are made");
+  connect(choose, &QPushButton::clicked, this, [this] { ChooseFolder(); });
+  auto* const row = new QHBoxLayout;
+  row->addWidget(folder_, 1);
+  row->addWidget(choose);
+  form->addRow(Text("Results go to"), row);
+  return form;
+}
+
+QWidget* MainMenu::NewFlowGroups() {
+  auto* const groups = new QWidget;
+  auto* const row = new QHBoxLayout(groups);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto* const allocation = new QGroupBox(Text("ALLOCATION"));
+  auto* const simulations = new QGroupBox(Text("SIMULATIONS"));
+  auto* const allocation_column = new QVBoxLayout(allocation);
+  auto* const simulation_column = new QVBoxLayout(simulations);
+  const auto add = [this](QVBoxLayout& column, QPushButton* button, auto start) {
+    column.addWidget(button);
+    connect(button, &QPushButton::clicked, this, start);
+  };
+  add(*allocation_column,
+      NewFlowButton(Flow::kNonSexed, "ALLOCATION", kNonSexedAllocationButton, Qt::Key_1),
+      [this] { StartAllocation(Flow::kNonSexed); });
+  add(*allocation_column,
+      NewFlowButton(Flow::kSexed, "ALLOCATION", kSexedAllocationButton, Qt::Key_2),
+      [this] { StartAllocation(Flow::kSexed); });
+  add(*simulation_column,
+      NewFlowButton(Flow::kNonSexed, "SIMULATIONS", kNonSexedSimulationButton, Qt::Key_3),
+      [this] { StartSimulation(Flow::kNonSexed); });
+  add(*simulation_column,
+      NewFlowButton(Flow::kSexed, "SIMULATIONS", kSexedSimulationButton, Qt::Key_4),
+      [this] { StartSimulation(Flow::kSexed); });
+  row->addWidget(allocation);
+  row->addWidget(simulations);
+  return groups;
+}
+
+QLayout* MainMenu::NewFurtherButtons() {
+  auto* const record = NewButton("Open &run record...", "OpenRecord",
+                                 "Fill all screens as they were for an earlier run");
+  connect(record, &QPushButton::clicked, this, [this] { ChooseRecord(); });
+  auto* const examples =
+      NewButton("&Examples", "Examples", "Open a flow with the files of a made-up study");
+  auto* const menu = new QMenu(examples);
+  const auto add = [this, menu](std::string_view text, Flow flow, bool simulation) {
+    menu->addAction(Text(text), this, [=, this] { StartExampleOf(flow, simulation); });
+  };
+  add("Allocation, &non-sexed: a lake", Flow::kNonSexed, false);
+  add("Allocation, &sexed: two ponds", Flow::kSexed, false);
+  add("Simulations, n&on-sexed: after netting the lake", Flow::kNonSexed, true);
+  add("Simulations, s&exed: before netting the ponds", Flow::kSexed, true);
+  examples->setMenu(menu);
+  auto* const about = NewButton("A&bout KALDO...", "About", "Version, licence, how to cite");
+  connect(about, &QPushButton::clicked, this, [this] { ShowAboutBox(this); });
+  auto* const row = new QHBoxLayout;
+  row->addWidget(record);
+  row->addWidget(examples);
+  row->addStretch();
+  row->addWidget(about);
+  return row;
+}
+
+AllocationFlowWindow& MainMenu::AllocationScreens(Flow flow) {
+  auto& screens = allocations_.at(Place(flow));
+  if (!screens) {
+    screens = std::make_unique<AllocationFlowWindow>(flow, this);
+  }
+  return *screens;
+}
+
+SimulationFlowWindow& MainMenu::SimulationScreens(Flow flow) {
+  auto& screens = simulations_.at(Place(flow));
+  if (!screens) {
+    screens = std::make_unique<SimulationFlowWindow>(flow, this);
+  }
+  return *screens;
+}
+
+bool MainMenu::HasProject() {
+  if (!project_->text().isEmpty()) {
+    return true;
+  }
+  ShowSentence(this, "Please enter name of project!");
+  return false;
+}
+
+void MainMenu::StartAllocation(Flow flow) {
+  if (HasProject()) {
+    AllocationScreens(flow).Start(PathBytes(project_->text()));
+  }
+}
+
+void MainMenu::StartSimulation(Flow flow) {
+  if (HasProject()) {
+    SimulationScreens(flow).Start(PathBytes(project_->text()));
+  }
+}
+
+void MainMenu::StartWith(const RunSettings& settings) {
+  ShowFolder();
+  if (const auto* allocation = std::get_if<AllocationSettings>(&settings)) {
+    project_->setText(PathText(allocation->project));
+    AllocationScreens(allocation->flow).Set(*allocation);
+    StartAllocation(allocation->flow);
+  } else if (const auto* simulation = std::get_if<SimulationSettings>(&settings)) {
+    project_->setText(PathText(simulation->project));
+    SimulationScreens(simulation->flow).Set(*simulation);
+    StartSimulation(simulation->flow);
+  }
+}
+
+void MainMenu::StartExample() { StartExampleOf(Flow::kNonSexed, false); }
+
+void MainMenu::StartExampleOf(Flow flow, bool simulation) {
+  const auto start = [this](const auto& example) {
+    if (example) {
+      StartWith(*example);
+    } else {
+      ShowFailure(this, Text(example.error()));
+    }
+  };
+  if (simulation) {
+    start(SimulationExample(flow));
+  } else {
+    start(AllocationExample(flow));
+  }
+}
+
+void MainMenu::OpenRecord(const std::string& path) {
+  if (const auto settings = OpenRunRecord(this, path)) {
+    StartWith(*settings);
+  }
+}
+
+void MainMenu::ChooseRecord() {
+  const QString picked =
+      QFileDialog::getOpenFileName(this, Text("Open run record"), QDir::currentPath(),
+                                   Text("Run records (*.toml);;All files (*)"));
+  if (!picked.isEmpty()) {
+    OpenRecord(PathBytes(picked));
+  }
+}
+
+void MainMenu::ChooseFolder() {
+  const QString picked =
+      QFileDialog::getExistingDirectory(this, Text("Working folder"), QDir::currentPath());
+  if (!picked.isEmpty() && !QDir::setCurrent(picked)) {
+    ShowFailure(this, Text("Cannot use the folder ") + picked);
+  }
+  ShowFolder();
+}
+
+void MainMenu::ShowFolder() {
+  folder_->setText(QDir::toNativeSeparators(QDir::current().absoluteFilePath(project_->text())));
+}
+
+void MainMenu::closeEvent(QCloseEvent* event) {
+  event->accept();
+  QApplication::quit();  // results windows go with the menu
+}
+
+void MainMenu::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->urls().size() == 1) {
+    event->acceptProposedAction();
+  }
+}
+
+void MainMenu::dropEvent(QDropEvent* event) {
+  const QList<QUrl> urls = event->mimeData()->urls();
+  if (urls.size() == 1 && urls.front().isLocalFile()) {
+    event->acceptProposedAction();
+    OpenRecord(PathBytes(urls.front().toLocalFile()));
+  }
+}
+
+}  // namespace kaldo

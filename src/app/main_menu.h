@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <memory>
+
+#include "app/record_opener.h"
+
+class QLineEdit;
+class QPushButton;
+class QVBoxLayout;
+
+namespace kaldo {
+
+class AllocationFlowWindow;
+class SimulationFlowWindow;
+
+/// The main menu: the name of the project, the four flows, the folder that results go to. Flows run
+/// one after the other over the menu; closing the menu ends the program.
+class MainMenu : public QWidget {
+ public:
+  MainMenu();
+  MainMenu(const MainMenu&) = delete;
+  MainMenu& operator=(const MainMenu&) = delete;
+  MainMenu(MainMenu&&) = delete;
+  MainMenu& operator=(MainMenu&&) = delete;
+  ~MainMenu() override;
+
+  /// Opens an allocation with the example data.
+  void StartExample();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  QWidget* NewFlowGroups();
+  QLayout* NewProjectRows();
+  QLayout* NewFurtherButtons();
+
+  AllocationFlowWindow& AllocationScreens(Flow flow);
+  SimulationFlowWindow& SimulationScreens(Flow flow);
+
+  void StartAllocation(Flow flow);
+  void StartSimulation(Flow flow);
+  void StartWith(const RunSettings& settings);
+  void StartExampleOf(Flow flow, bool simulation);
+  bool HasProject();
+  void OpenRecord(const std::string& path);
+  void ChooseRecord();
+  void ChooseFolder();
+  void ShowFolder();
+
+  QLineEdit* project_;
+  QLineEdit* folder_;
+
+  // The screens of a flow are made when it is first reached, and keep what was typed.
+  std::array<std::unique_ptr<AllocationFlowWindow>, 2> allocations_;
+  std::array<std::unique_ptr<SimulationFlowWindow>, 2> simulations_;
+};
+
+}  // namespace kaldo

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/offspring_page.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "app/base/form_fields.h"
+#include "app/base/text.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::int32_t kOffspringAtFirst = 100;
+
+constexpr FieldText kNumber{
+    "&Number of pseudo-offspring generated at each iteration", "OffspringPerIteration",
+    "They are shared out over the origins by the weights below; fractions are dropped."};
+
+QTableWidgetItem* NewItem(const QString& text, Qt::Alignment alignment) {
+  auto* const item = new QTableWidgetItem(text);
+  item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+  item->setTextAlignment(alignment | Qt::AlignVCenter);
+  return item;
+}
+
+QTableWidget* NewTable() {
+  auto* const table = new QTableWidget;
+  table->setObjectName(Text("Origins"));
+  table->setAccessibleName(Text("Weights of the origins of the pseudo-offspring"));
+  table->setToolTip(
+      Text("The share of each parental origin in the population, which also weighs "
+           "the partial results into the global ones"));
+  table->setColumnCount(3);
+  table->setHorizontalHeaderLabels(
+      {Text("True parents"), Text("Weight"), Text("Pseudo-offspring")});
+  table->verticalHeader()->hide();
+  table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  table->setTabKeyNavigation(false);
+  table->setSelectionMode(QAbstractItemView::NoSelection);
+  return table;
+}
+
+}  // namespace
+
+OffspringPage::OffspringPage(Flow flow)
+    : FlowPage(kOffspringScreen,
+               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption),
+      table_(NewTable()),
+      box_(new ErrorModelBox("  Transmission error  ")) {
+  auto* const group = new QGroupBox(Text("  Pseudo-offspring  "));
+  auto* const inside = new QVBoxLayout(group);
+  auto* const form = new QFormLayout;
+  number_ = AddLineEdit(*form, kNumber);
+  number_->setText(NumberText(kOffspringAtFirst));
+  inside->addLayout(form);
+  inside->addWidget(table_);
+  auto* const column = new QVBoxLayout(this);
+  column->addWidget(group);
+  column->addWidget(box_);
+  connect(number_, &QLineEdit::textChanged, this, [this] { ShowShares(); });
+}
+
+void OffspringPage::SetShares(Shares shares) {
+  shares_ = std::move(shares);
+  ShowShares();
+}
+
+void OffspringPage::ShowShares() {
+  if (!shares_) {
+    return;
+  }
+  const auto shares = shares_(std::max(OffspringPerIteration(), 0));
+  table_->setRowCount(static_cast<int>(shares.size()));
+  for (int row = 0; const OriginShare& share : shares) {
+    table_->setItem(row, 0, NewItem(Text(share.label), Qt::AlignLeft));
+    table_->setItem(row, 1, NewItem(Text(fmt::format("{:.4f}", share.weight)), Qt::AlignRight));
+    table_->setItem(row, 2, NewItem(NumberText(share.offspring), Qt::AlignRight));
+    ++row;
+  }
+  const int height = table_->horizontalHeader()->sizeHint().height() +
+                     table_->rowCount() * table_->verticalHeader()->defaultSectionSize() +
+                     2 * table_->frameWidth();
+  table_->setFixedHeight(height);
+}
+
+void OffspringPage::SetNumber(std::int32_t offspring_per_iteration) {
+  number_->setText(NumberText(offspring_per_iteration));
+}
+
+std::int32_t OffspringPage::OffspringPerIteration() const {
+  return WholeNumberIn(*number_).value_or(0);
+}
+
+}  // namespace kaldo

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/output_page.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include <fmt/format.h>
+
+#include "app/base/form_fields.h"
+#include "app/base/text.h"
+#include "genotypes/number_text.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr FieldText kPrintIterations{"Print results for each &iteration", "PrintIterations",
+                                     "Write the tables of all iterations, a file per origin."};
+constexpr FieldText kPrintSubsets{
+    "Print global statistics for each &subset of loci (recommended)", "PrintSubsets",
+    "Write means and standard deviations of every subset at the end of the summary."};
+constexpr FieldText kKeepParents{
+    "simulated &parents", "KeepParents",
+    "Keep the simulated parents of the last iteration, one file per group."};
+constexpr FieldText kKeepOffspring{"pseudo-&offspring", "KeepOffspring",
+                                   "Keep the pseudo-offspring of the last iteration."};
+constexpr FieldText kKeepMatrices{
+    "transmission &matrices", "KeepMatrices",
+    "Keep the listing of all allocated pseudo-offspring of all iterations. It can be very large."};
+constexpr FieldText kSeed{
+    "S&eed", "Seed",
+    "Start of the random numbers, 0 to 4294967295: the same seed gives the same results. Empty: "
+    "the calendar time; the run record tells it."};
+
+QCheckBox* NewBox(QVBoxLayout& column, const FieldText& text) {
+  auto* const box = new QCheckBox(Text(text.label));
+  Describe(*box, text);
+  column.addWidget(box);
+  return box;
+}
+
+}  // namespace
+
+OutputPage::OutputPage(Flow flow)
+    : FlowPage(kOutputScreen,
+               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption) {
+  auto* const print = new QGroupBox(Text("  Print  "));
+  auto* const print_column = new QVBoxLayout(print);
+  print_iterations_ = NewBox(*print_column, kPrintIterations);
+  print_subsets_ = NewBox(*print_column, kPrintSubsets);
+  print_subsets_->setChecked(true);
+  auto* const keep = new QGroupBox(Text("  Keep in file  "));
+  auto* const keep_column = new QVBoxLayout(keep);
+  keep_parents_ = NewBox(*keep_column, kKeepParents);
+  keep_offspring_ = NewBox(*keep_column, kKeepOffspring);
+  keep_matrices_ = NewBox(*keep_column, kKeepMatrices);
+  auto* const form = new QFormLayout;
+  seed_ = AddLineEdit(*form, kSeed);
+  seed_->setPlaceholderText(Text("calendar time"));
+  auto* const column = new QVBoxLayout(this);
+  column->addWidget(print);
+  column->addWidget(keep);
+  column->addLayout(form);
+  column->addStretch();
+
+  SimulationSettings at_first;
+  at_first.flow = flow;
+  at_first.print_subset_statistics = true;
+  Set(at_first);
+}
+
+void OutputPage::Set(const SimulationSettings& settings) {
+  print_iterations_->setChecked(settings.print_iterations);
+  print_subsets_->setChecked(settings.print_subset_statistics);
+  const KeptFiles kept = KeptFilesOf(settings);
+  keep_parents_->setChecked(kept.parents);
+  keep_offspring_->setChecked(kept.offspring);
+  keep_matrices_->setChecked(kept.matrices);
+  seed_->setText(settings.seed ? Text(fmt::format("{}", *settings.seed)) : QString());
+}
+
+void OutputPage::FillIn(SimulationSettings& settings) const {
+  settings.print_iterations = print_iterations_->isChecked();
+  settings.print_subset_statistics = print_subsets_->isChecked();
+  settings.keep = KeptFiles{keep_parents_->isChecked(), keep_offspring_->isChecked(),
+                            keep_matrices_->isChecked()};
+  settings.seed = ParseSeedNumber(Bytes(seed_->text().trimmed()));
+}
+
+std::optional<Problem> OutputPage::SeedFault() const {
+  const std::string typed = Bytes(seed_->text().trimmed());
+  if (typed.empty() || ParseSeedNumber(typed)) {
+    return std::nullopt;
+  }
+  Problem problem;
+  problem.sentence = "That seed is not possible!";
+  problem.found = fmt::format("{} is not a whole number from 0 to 4294967295", Quoted(typed));
+  return problem;
+}
+
+}  // namespace kaldo

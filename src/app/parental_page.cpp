@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/parental_page.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include <fmt/format.h>
+
+#include "app/base/file_field.h"
+#include "app/base/text.h"
+#include "genotypes/file_summary.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::string_view kDrawnHelp =
+    "How many of them are drawn anew at every iteration: a whole number.";
+constexpr std::string_view kProportionHelp =
+    "How many there may be in the population; sets the proportion of collected parents, and with "
+    "it the share of each origin of the pseudo-offspring.";
+
+/// The labels of one set of parents.
+struct SetTexts {
+  std::string_view title;
+  FieldText collected_file;
+  FieldText pseudo_collected_sample;
+  FieldText pseudo_collected;
+  FieldText uncollected_sample;
+  FieldText uncollected;
+  FieldText estimated_collected;
+  FieldText estimated_uncollected;
+};
+
+constexpr std::string_view kCollectedHelp =
+    "Genotypes of the parents collected: a name and one field per locus, no missing alleles.";
+constexpr std::string_view kPseudoCollectedHelp =
+    "A representative sample: pseudo-collected parents are drawn from its allele frequencies.";
+constexpr std::string_view kUncollectedHelp =
+    "A representative sample: the uncollected parents are drawn from its allele frequencies at "
+    "every iteration.";
+constexpr std::string_view kPseudoNumberHelp =
+    "How many parents you expect to collect; as many are drawn at every iteration.";
+
+constexpr SetTexts kParentTexts{
+    "  Parents  ",
+    {"Collected &parents file", "CollectedFile", kCollectedHelp},
+    {"Sample of &pseudo-collected parents", "PseudoCollectedSample", kPseudoCollectedHelp},
+    {"&Estimated number of pseudo-collected parents", "PseudoCollected", kPseudoNumberHelp},
+    {"Sample of &uncollected parents", "UncollectedSample", kUncollectedHelp},
+    {"Estimated &number of uncollected parents", "Uncollected",
+     "How many true parents were not collected; as many are drawn at every iteration. Together "
+     "with the collected ones they set the share of each origin of the pseudo-offspring."},
+    {},
+    {}};
+
+constexpr SetTexts kMaleTexts{
+    "  Males  ",
+    {"Collected &males file", "CollectedMalesFile", kCollectedHelp},
+    {"Sample of pseudo-collected &males", "PseudoCollectedMalesSample", kPseudoCollectedHelp},
+    {"&Number of pseudo-collected males", "PseudoCollectedMales", kPseudoNumberHelp},
+    {"Sample of &uncollected males", "UncollectedMalesSample", kUncollectedHelp},
+    {"Num&ber of uncollected males", "UncollectedMales", kDrawnHelp},
+    {"Estimated number of (pseudo)collected male parents   -------------- >",
+     "EstimatedCollectedMales", kProportionHelp},
+    {"Estimated number of uncollected male parents   ------------------------ >",
+     "EstimatedUncollectedMales", kProportionHelp}};
+
+constexpr SetTexts kFemaleTexts{
+    "  Females  ",
+    {"Collected &females file", "CollectedFemalesFile", kCollectedHelp},
+    {"Sample of pseudo-collected &females", "PseudoCollectedFemalesSample", kPseudoCollectedHelp},
+    {"Number o&f pseudo-collected females", "PseudoCollectedFemales", kPseudoNumberHelp},
+    {"Sample of unco&llected females", "UncollectedFemalesSample", kUncollectedHelp},
+    {"Numbe&r of uncollected females", "UncollectedFemales", kDrawnHelp},
+    {"Estimated number of (pseudo)collected female parents   ----------- >",
+     "EstimatedCollectedFemales", kProportionHelp},
+    {"Estimated number of uncollected female parents   --------------------- >",
+     "EstimatedUncollectedFemales", kProportionHelp}};
+
+const SetTexts& TextsOf(Flow flow, std::size_t set) {
+  return flow == Flow::kNonSexed ? kParentTexts : set == 0 ? kMaleTexts : kFemaleTexts;
+}
+
+void ShowRow(QFormLayout& form, QWidget* field, bool shown) {
+  field->setVisible(shown);
+  form.labelForField(field)->setVisible(shown);
+}
+
+}  // namespace
+
+ParentalPage::ParentalPage(Flow flow)
+    : FlowPage(kParentalScreen,
+               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption),
+      flow_(flow) {
+  auto* const column = new QVBoxLayout(this);
+  for (std::size_t set = 0; set < Sets().size(); ++set) {
+    column->addWidget(NewSet(set));
+  }
+  column->addStretch();
+  Prepare(procedure_, {});
+}
+
+std::span<const ParentalPage::SetFields> ParentalPage::Sets() const {
+  return std::span(sets_).first(flow_ == Flow::kSexed ? 2 : 1);
+}
+
+FileField* ParentalPage::NewFile(QFormLayout& form, const FieldText& text) {
+  FileField* const field = AddFileField(form, text);
+  field->SetDescriber([this](const std::string& file) {
+    return DescribeGenotypeFile(file, loci_file_, Separators::kNone);
+  });
+  return field;
+}
+
+QWidget* ParentalPage::NewSet(std::size_t set) {
+  const SetTexts& texts = TextsOf(flow_, set);
+  SetFields& fields = sets_.at(set);
+  auto* const group = new QGroupBox(Text(texts.title));
+  auto* const form = new QFormLayout(group);
+  form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  fields.form = form;
+  fields.collected_file = NewFile(*form, texts.collected_file);
+  fields.pseudo_collected_sample = NewFile(*form, texts.pseudo_collected_sample);
+  fields.pseudo_collected = AddLineEdit(*form, texts.pseudo_collected);
+  fields.pseudo_collected->setText(NumberText(0));
+  fields.uncollected_sample = NewFile(*form, texts.uncollected_sample);
+  fields.uncollected = AddLineEdit(*form, texts.uncollected);
+  fields.uncollected->setText(NumberText(0));
+  if (flow_ == Flow::kSexed) {
+    fields.estimated_collected = AddLineEdit(*form, texts.estimated_collected);
+    fields.estimated_collected->setText(NumberText(0));
+    fields.estimated_uncollected = AddLineEdit(*form, texts.estimated_uncollected);
+    fields.estimated_uncollected->setText(NumberText(0));
+  }
+  return group;
+}
+
+void ParentalPage::Prepare(Procedure procedure, const std::string& loci_file) {
+  procedure_ = procedure;
+  loci_file_ = loci_file;
+  const bool parental = procedure == Procedure::kParental;
+  for (const SetFields& fields : Sets()) {
+    ShowRow(*fields.form, fields.collected_file, parental);
+    ShowRow(*fields.form, fields.pseudo_collected_sample, !parental);
+    ShowRow(*fields.form, fields.pseudo_collected, !parental);
+    fields.collected_file->Refresh();
+    fields.pseudo_collected_sample->Refresh();
+    fields.uncollected_sample->Refresh();
+  }
+}
+
+std::vector<ParentalPage::NumberRow> ParentalPage::NumbersOf(const SetFields& fields) {
+  const bool sexed = fields.estimated_collected != nullptr;
+  std::vector<NumberRow> rows = {{fields.uncollected, &ParentalSet::uncollected, sexed}};
+  if (sexed) {
+    rows.push_back({fields.estimated_collected, &ParentalSet::estimated_collected, false});
+    rows.push_back({fields.estimated_uncollected, &ParentalSet::estimated_uncollected, false});
+  }
+  return rows;
+}
+
+void ParentalPage::Set(const SimulationSettings& settings) {
+  Prepare(settings.procedure, settings.loci_file);
+  for (std::size_t k = 0; k < Sets().size(); ++k) {
+    const ParentalSet& set = settings.sets.at(k);
+    const SetFields& fields = sets_.at(k);
+    fields.collected_file->SetPath(set.collected_file);
+    fields.pseudo_collected_sample->SetPath(set.pseudo_collected_sample);
+    fields.pseudo_collected->setText(NumberText(set.pseudo_collected));
+    fields.uncollected_sample->SetPath(set.uncollected_sample);
+    fields.uncollected->setText(NumberText(set.uncollected));
+    if (flow_ == Flow::kSexed) {
+      fields.estimated_collected->setText(NumberText(set.estimated_collected));
+      fields.estimated_uncollected->setText(NumberText(set.estimated_uncollected));
+    }
+  }
+}
+
+void ParentalPage::FillIn(SimulationSettings& settings) const {
+  for (std::size_t k = 0; k < Sets().size(); ++k) {
+    ParentalSet& set = settings.sets.at(k);
+    const SetFields& fields = sets_.at(k);
+    set.uncollected_sample = fields.uncollected_sample->Path();
+    if (settings.procedure == Procedure::kParental) {
+      set.collected_file = fields.collected_file->Path();
+    } else {
+      set.pseudo_collected_sample = fields.pseudo_collected_sample->Path();
+      set.pseudo_collected = WholeNumberIn(*fields.pseudo_collected).value_or(0);
+    }
+    for (const NumberRow& row : NumbersOf(fields)) {
+      set.*row.value = NumberIn(*row.field).value_or(0);
+    }
+  }
+}
+
+std::optional<Problem> ParentalPage::NumberFault() const {
+  const auto fault = [](const QLineEdit& field, std::string_view wanted) {
+    Problem problem;
+    problem.sentence = "That number of parents is not possible!";
+    problem.found = fmt::format("{}: {} is not {}", Bytes(field.accessibleName()),
+                                Quoted(Bytes(field.text())), wanted);
+    return problem;
+  };
+  for (const SetFields& fields : Sets()) {
+    if (procedure_ == Procedure::kPreParental && !WholeNumberIn(*fields.pseudo_collected)) {
+      return fault(*fields.pseudo_collected, "a whole number");
+    }
+    for (const NumberRow& row : NumbersOf(fields)) {
+      if (row.whole && !WholeNumberIn(*row.field)) {
+        return fault(*row.field, "a whole number");
+      }
+      if (!NumberIn(*row.field)) {
+        return fault(*row.field, "a number with a decimal point");
+      }
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "app/flow_window.h"
+#include "simulation/simulation_settings.h"
+
+class QFormLayout;
+class QLineEdit;
+
+namespace kaldo {
+
+class FileField;
+struct FieldText;
+
+/// Where the parents of a simulation come from, and how many they are: one set in the non-sexed
+/// flow, males and females in the sexed one.
+class ParentalPage : public FlowPage {
+ public:
+  explicit ParentalPage(Flow flow);
+
+  /// Shows the fields of the procedure. The names-of-loci file tells what is in the others.
+  void Prepare(Procedure procedure, const std::string& loci_file);
+
+  void Set(const SimulationSettings& settings);
+
+  /// Files as typed, and the numbers that can be read.
+  void FillIn(SimulationSettings& settings) const;
+
+  /// Told when a number cannot be read.
+  std::optional<Problem> NumberFault() const;
+
+ private:
+  /// The fields of one set of parents. Those of the other procedure are hidden.
+  struct SetFields {
+    QFormLayout* form = nullptr;
+    FileField* collected_file = nullptr;
+    FileField* pseudo_collected_sample = nullptr;
+    QLineEdit* pseudo_collected = nullptr;
+    FileField* uncollected_sample = nullptr;
+    QLineEdit* uncollected = nullptr;
+    QLineEdit* estimated_collected = nullptr;  ///< sexed flow, as the next
+    QLineEdit* estimated_uncollected = nullptr;
+  };
+
+  /// A number typed into a field and where it belongs.
+  struct NumberRow {
+    const QLineEdit* field = nullptr;
+    double ParentalSet::*value = nullptr;
+    bool whole = false;
+  };
+
+  QWidget* NewSet(std::size_t set);
+  FileField* NewFile(QFormLayout& form, const FieldText& text);
+  static std::vector<NumberRow> NumbersOf(const SetFields& fields);
+  std::span<const SetFields> Sets() const;
+
+  Flow flow_;
+  Procedure procedure_ = Procedure::kParental;
+  std::string loci_file_;
+  std::array<SetFields, 2> sets_{};
+};
+
+}  // namespace kaldo

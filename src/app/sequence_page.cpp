@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/sequence_page.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include "allocation/cumulative_sequence.h"
+#include "app/base/form_fields.h"
+#include "app/base/text.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::size_t kRowsPerColumn = 13;
+
+}  // namespace
+
+SequencePage::SequencePage() : FlowPage(kSequenceScreen, kSequenceCaption) {
+  auto* const group = new QGroupBox(Text("  Position of each locus in the sequence  "));
+  auto* const grid = new QGridLayout;
+  for (std::size_t k = 0; k < rows_.size(); ++k) {
+    Row& row = rows_.at(k);
+    row.name = new QLabel;
+    row.name->setTextFormat(Qt::PlainText);
+    row.index = new QLineEdit;
+    row.index->setObjectName(Text("Index" + std::to_string(k + 1)));
+    row.index->setMinimumWidth(fontMetrics().averageCharWidth() * 5);
+    row.index->setMaximumWidth(fontMetrics().averageCharWidth() * 10);
+    row.name->setBuddy(row.index);
+    const int line = static_cast<int>(k % kRowsPerColumn);
+    const int column = static_cast<int>(k / kRowsPerColumn) * 2;
+    grid->addWidget(row.name, line, column);
+    grid->addWidget(row.index, line, column + 1);
+  }
+  auto* const inside = new QVBoxLayout(group);
+  inside->addLayout(grid);
+  inside->addStretch();
+  auto* const column = new QVBoxLayout(this);
+  column->addWidget(group);
+  SetNames({});
+}
+
+void SequencePage::SetNames(const std::vector<std::string>& names) {
+  number_of_loci_ = names.size();
+  for (std::size_t k = 0; k < rows_.size(); ++k) {
+    const bool has_locus = k < names.size();
+    const QString name = has_locus ? Text(names[k]) : QString();
+    rows_.at(k).name->setText(name);
+    rows_.at(k).name->setVisible(has_locus);
+    rows_.at(k).index->setAccessibleName(name);
+    rows_.at(k).index->setToolTip(
+        Text("Position of the locus: 1 enters first. A whole number from 1 to the number of loci"));
+    rows_.at(k).index->setVisible(has_locus);
+  }
+  SetIndices(FileOrderSequence(number_of_loci_));
+}
+
+void SequencePage::SetIndices(const std::vector<std::int32_t>& indices) {
+  for (std::size_t k = 0; k < indices.size() && k < number_of_loci_; ++k) {
+    rows_.at(k).index->setText(NumberText(indices[k]));
+  }
+}
+
+std::vector<std::int32_t> SequencePage::Indices() const {
+  std::vector<std::int32_t> indices;
+  for (std::size_t k = 0; k < number_of_loci_; ++k) {
+    indices.push_back(WholeNumberIn(*rows_.at(k).index).value_or(0));
+  }
+  return indices;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "app/flow_window.h"
+#include "genotypes/capacities.h"
+
+class QLineEdit;
+
+namespace kaldo {
+
+/// The "Cumulative Sequence" screen: for each locus the position at which it enters the sequence.
+class SequencePage : public FlowPage {
+ public:
+  SequencePage();
+
+  /// Labels the fields and fills them with the file order 1, 2, ...
+  void SetNames(const std::vector<std::string>& names);
+  void SetIndices(const std::vector<std::int32_t>& indices);
+
+  /// The positions as typed, one per locus. What is no whole number reads as 0, which no sequence
+  /// may have.
+  std::vector<std::int32_t> Indices() const;
+
+ private:
+  struct Row {
+    QLabel* name = nullptr;
+    QLineEdit* index = nullptr;
+  };
+
+  std::size_t number_of_loci_ = 0;
+  std::array<Row, kMaxLoci> rows_{};
+};
+
+}  // namespace kaldo

@@ -1,0 +1,307 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/simulation_flow_window.h"
+
+#include "app/base/messages.h"
+#include "app/base/text.h"
+#include "app/loci_page.h"
+#include "app/offspring_page.h"
+#include "app/output_page.h"
+#include "app/parental_page.h"
+#include "app/results/simulation_window.h"
+#include "app/run_dialog.h"
+#include "app/sequence_page.h"
+#include "app/simulation_start_page.h"
+#include "app/strategy_page.h"
+#include "app/tolerance_page.h"
+#include "genotypes/stepping_condition.h"
+#include "simulation/non_sexed_simulation.h"
+#include "simulation/saved_loci.h"
+#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/simulation_checks.h"
+#include "simulation/simulation_command.h"
+#include "simulation/simulation_files.h"
+#include "simulation/simulation_run.h"
+
+namespace kaldo {
+
+namespace {
+
+std::string_view CaptionOf(Flow flow) {
+  return flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption;
+}
+
+Problem NoStrategy() {
+  Problem problem;
+  problem.sentence = "Please, choose a procedure to run with !";
+  return problem;
+}
+
+}  // namespace
+
+SimulationFlowWindow::SimulationFlowWindow(Flow flow, QWidget* parent)
+    : FlowWindow(parent),
+      flow_(flow),
+      rules_(flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation()),
+      start_(Own(new SimulationStartPage(flow))),
+      parents_(Own(new ParentalPage(flow))),
+      offspring_(Own(new OffspringPage(flow))),
+      tolerance_(Own(new TolerancePage(flow))),
+      strategy_(Own(new StrategyPage(flow))),
+      loci_(Own(new LociPage(kLociScreen, CaptionOf(flow))), Own(new SequencePage)),
+      output_(Own(new OutputPage(flow))) {
+  strategy_->SetOnChooseLoci([this] { ShowPage(loci_.Choice()); });
+}
+
+void SimulationFlowWindow::Set(const SimulationSettings& settings) {
+  start_->Set(settings);
+  parents_->Set(settings);
+  offspring_->SetNumber(settings.offspring_per_iteration);
+  offspring_->Box().Set(settings.error_model);
+  tolerance_->Field().Set(settings.tolerance);
+  strategy_->Set(settings);
+  loci_.Set(settings.loci_file, settings.loci_in_use,
+            settings.sequence.empty() ? std::nullopt : std::optional(settings.sequence));
+  loci_.Choice().SetSequenceWanted(false);  // the strategy screen leads to the sequence
+  output_->Set(settings);
+}
+
+FlowPage& SimulationFlowWindow::FirstPage() { return *start_; }
+
+bool SimulationFlowWindow::MayStartRun(const FlowPage& page) const { return &page == output_; }
+
+void SimulationFlowWindow::Prepare(const FlowPage& page) {
+  if (&page == strategy_) {
+    const std::size_t all = loci_.Choice().Names().size();
+    const auto in_use = loci_.Choice().InUse();
+    strategy_->ShowLoci(in_use ? in_use->size() : all, all);
+  }
+}
+
+void SimulationFlowWindow::Confirm(const FlowPage& page) {
+  if (&page == start_) {
+    ConfirmStart();
+  } else if (&page == parents_) {
+    ConfirmParents();
+  } else if (&page == offspring_) {
+    ConfirmOffspring();
+  } else if (&page == tolerance_) {
+    ConfirmTolerance();
+  } else if (&page == strategy_) {
+    ConfirmStrategy();
+  } else if (&page == &loci_.Choice()) {
+    ConfirmLoci();
+  } else if (&page == &loci_.Sequence()) {
+    ConfirmSequence();
+  } else {
+    ConfirmOutput();
+  }
+}
+
+SimulationSettings SimulationFlowWindow::SettingsUpTo(Known known) const {
+  SimulationSettings settings;
+  settings.flow = flow_;
+  settings.project = Project();
+  start_->FillIn(settings);
+  if (known >= Known::kParents) {
+    parents_->FillIn(settings);
+  }
+  if (known >= Known::kOffspring) {
+    settings.offspring_per_iteration = offspring_->OffspringPerIteration();
+    settings.error_model = offspring_->Box().Model().value_or(ErrorModel{});
+  }
+  if (known >= Known::kTolerance) {
+    settings.tolerance = tolerance_->Field().Value();
+  }
+  if (known >= Known::kStrategy) {
+    strategy_->FillIn(settings);
+    settings.loci_in_use = loci_.Choice().InUse();
+  }
+  if (known >= Known::kLoci && settings.strategy == LociStrategy::kChoice &&
+      loci_.Choice().SequenceWanted()) {
+    settings.strategy = LociStrategy::kCumulative;
+  }
+  if (known >= Known::kSequence && settings.strategy == LociStrategy::kCumulative) {
+    settings.sequence = loci_.Sequence().Indices();
+  }
+  if (known >= Known::kAll) {
+    output_->FillIn(settings);
+  }
+  return settings;
+}
+
+bool SimulationFlowWindow::Passes(const SimulationSettings& settings) {
+  const auto input = LoadSimulationInput(settings, rules_);
+  if (!input) {
+    Refuse(input.error());
+  }
+  return input.has_value();
+}
+
+void SimulationFlowWindow::ConfirmStart() {
+  const SimulationSettings settings = SettingsUpTo(Known::kStart);
+  if (WarnsOfManyIterations(flow_, settings.iterations)) {
+    ShowSentence(this, kManyIterations);
+  }
+  const auto loci = OpenSimulationLoci(settings);
+  if (!loci) {
+    return Refuse(loci.error());
+  }
+  if (const auto fault = CheckIterations(flow_, settings.iterations)) {
+    return Refuse(*fault);
+  }
+  if (const auto fault = CheckLoci(*loci)) {
+    return Refuse(*fault);
+  }
+  if (!MakeProjectFolder()) {
+    return;
+  }
+  const LociList list(*loci);
+  try {
+    SaveLoci(list);
+  } catch (const RunFailure& failure) {
+    return ShowFailure(this, Text(failure.what()));
+  }
+  loci_.Refill(list.Names());
+  parents_->Prepare(settings.procedure, settings.loci_file);
+  ShowPage(*parents_);
+}
+
+void SimulationFlowWindow::ConfirmParents() {
+  const SimulationSettings settings = SettingsUpTo(Known::kParents);
+  const auto files = OpenSimulationFiles(settings, rules_.Design());
+  if (!files) {
+    return Refuse(files.error());
+  }
+  if (const auto fault = parents_->NumberFault()) {
+    return Refuse(*fault);
+  }
+  if (const auto fault = CheckSimulationFiles(*files, LociList(files->loci))) {
+    Refuse(*fault);
+    return reject();  // files at fault end the flow; what was typed stays for the next time
+  }
+  const auto input = LoadSimulationInput(settings, rules_);
+  if (!input) {
+    return Refuse(input.error());
+  }
+  ShowShares(input->collected_numbers);
+  ShowPage(*offspring_);
+}
+
+void SimulationFlowWindow::ShowShares(const std::vector<double>& collected_numbers) {
+  offspring_->SetShares([this, collected_numbers](std::int32_t number) {
+    SimulationSettings settings = SettingsUpTo(Known::kParents);
+    settings.offspring_per_iteration = number;
+    const auto weights = rules_.Weights(settings, collected_numbers);
+    const auto sizes = rules_.ClassSizes(settings, collected_numbers);
+    std::vector<OriginShare> shares;
+    for (std::size_t k = 0; k < weights.size(); ++k) {
+      shares.push_back({std::string(rules_.Design().classes[k].texts.label), weights[k], sizes[k]});
+    }
+    return shares;
+  });
+}
+
+void SimulationFlowWindow::ConfirmOffspring() {
+  const auto model = offspring_->Box().Model();
+  if (!model) {
+    return Refuse(model.error());
+  }
+  if (const auto fault = ValidateForSimulation(*model)) {
+    return Refuse(*fault);
+  }
+  if (Passes(SettingsUpTo(Known::kOffspring))) {
+    ShowPage(*tolerance_);
+  }
+}
+
+void SimulationFlowWindow::ConfirmTolerance() {
+  if (const auto fault = tolerance_->Field().Fault()) {
+    return Refuse(*fault);
+  }
+  ShowPage(*strategy_);
+}
+
+void SimulationFlowWindow::ConfirmStrategy() {
+  if (!strategy_->Strategy()) {
+    return Refuse(NoStrategy());
+  }
+  SimulationSettings settings = SettingsUpTo(Known::kStrategy);
+  if (settings.strategy == LociStrategy::kChoice) {
+    settings.loci_in_use.reset();  // chosen on the next screen
+  }
+  if (!Passes(settings)) {
+    return;
+  }
+  switch (settings.strategy) {
+    case LociStrategy::kChoice:
+      return ShowPage(loci_.Choice());
+    case LociStrategy::kCumulative:
+      return ShowPage(loci_.Sequence());
+    case LociStrategy::kAll:
+    case LociStrategy::kMinimal:
+      return ShowPage(*output_);
+  }
+}
+
+void SimulationFlowWindow::ConfirmLoci() {
+  if (const auto fault = loci_.ChoiceFault()) {
+    return Refuse(*fault);
+  }
+  const SimulationSettings settings = SettingsUpTo(Known::kLoci);
+  if (settings.strategy == LociStrategy::kCumulative) {
+    ShowPage(loci_.Sequence());
+  } else if (Passes(settings)) {
+    ShowPage(*output_);
+  }
+}
+
+void SimulationFlowWindow::ConfirmSequence() {
+  if (const auto fault = loci_.SequenceFault()) {
+    return Refuse(*fault);
+  }
+  if (Passes(SettingsUpTo(Known::kSequence))) {
+    ShowPage(*output_);
+  }
+}
+
+void SimulationFlowWindow::ConfirmOutput() {
+  if (const auto fault = output_->SeedFault()) {
+    return Refuse(*fault);
+  }
+  Run();
+}
+
+std::string SimulationFlowWindow::Command() {
+  if (const auto fault = output_->SeedFault()) {
+    Refuse(*fault);
+    return {};
+  }
+  return CommandOf(SettingsUpTo(Known::kAll));
+}
+
+void SimulationFlowWindow::Run() {
+  SimulationSettings settings = SettingsUpTo(Known::kAll);
+  tl::expected<SimulationRun, Problem> run = tl::unexpected(Problem{});
+  if (!RunWithProgress(this, windowTitle(), [&](RunObserver& observer) {
+        run = RunSimulation(settings, rules_, observer);
+      })) {
+    return;
+  }
+  if (!run) {
+    return Refuse(run.error());
+  }
+  settings.seed = run->result.seed;
+  const bool out_of_step = run->result.stepping.any_out_of_step;
+  auto* const results = new SimulationWindow(settings, std::move(*run), ResultsFolder());
+  results->SetCommand(Text(CommandOf(settings)));
+  accept();
+  results->show();
+  if (out_of_step) {
+    ShowSentence(results, kSteppingSentence);
+  }
+  ShowSentence(results, rules_.Design().closing_sentence);
+  results->raise();
+  results->activateWindow();
+}
+
+}  // namespace kaldo

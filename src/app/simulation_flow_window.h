@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+
+#include "app/flow_window.h"
+#include "app/loci_screens.h"
+#include "simulation/simulation_flow.h"
+#include "simulation/simulation_settings.h"
+
+namespace kaldo {
+
+class OffspringPage;
+class OutputPage;
+class ParentalPage;
+class SimulationStartPage;
+class StrategyPage;
+class TolerancePage;
+
+/// The screens of a simulation, sexed or not: names of loci, iterations and procedure; parents;
+/// pseudo-offspring and transmission error; tolerance; strategy; choice of loci or cumulative
+/// sequence; output; run.
+class SimulationFlowWindow : public FlowWindow {
+ public:
+  SimulationFlowWindow(Flow flow, QWidget* parent);
+
+  /// Fills all screens.
+  void Set(const SimulationSettings& settings);
+
+ protected:
+  FlowPage& FirstPage() override;
+  void Confirm(const FlowPage& page) override;
+  void Leave() override { loci_.Leave(); }
+  void Prepare(const FlowPage& page) override;
+  std::string Command() override;
+  bool MayStartRun(const FlowPage& page) const override;
+
+ private:
+  /// How far the settings are known: each screen adds to those before.
+  enum class Known { kStart, kParents, kOffspring, kTolerance, kStrategy, kLoci, kSequence, kAll };
+
+  /// What the screens up to `known` say. What is not known yet has a value that passes all tests.
+  SimulationSettings SettingsUpTo(Known known) const;
+
+  /// Tests the settings as the run will; tells what is wrong.
+  bool Passes(const SimulationSettings& settings);
+
+  void ConfirmStart();
+  void ConfirmParents();
+  void ConfirmOffspring();
+  void ConfirmTolerance();
+  void ConfirmStrategy();
+  void ConfirmLoci();
+  void ConfirmSequence();
+  void ConfirmOutput();
+  void ShowShares(const std::vector<double>& collected_numbers);
+  void Run();
+
+  Flow flow_;
+  const SimulationFlow& rules_;
+  SimulationStartPage* start_;
+  ParentalPage* parents_;
+  OffspringPage* offspring_;
+  TolerancePage* tolerance_;
+  StrategyPage* strategy_;
+  LociScreens loci_;
+  OutputPage* output_;
+};
+
+}  // namespace kaldo

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/simulation_start_page.h"
+
+#include <QButtonGroup>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include "app/base/file_field.h"
+#include "app/base/text.h"
+#include "genotypes/file_summary.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::int32_t kIterationsAtFirst = 100;
+
+constexpr FieldText kLoci{
+    "Names of &loci file", "LociFile",
+    "The names of the loci, in the order in which their fields follow each individual's name."};
+constexpr FieldText kIterations{
+    "Number of &iterations", "Iterations",
+    "How often parents are drawn and pseudo-offspring are produced and allocated: fewer than 1000 "
+    "in the non-sexed flow, at most 1000 in the sexed one. More give steadier averages."};
+constexpr FieldText kParental{"&parental procedure (real collected parents)", "Parental",
+                              "After the field work: the collected parents are read from a file."};
+constexpr FieldText kPreParental{
+    "pr&e-parental procedure (pseudo-collected parents)", "PreParental",
+    "Before the field work: parents as you hope to collect them are drawn from the allele "
+    "frequencies of a sample."};
+
+}  // namespace
+
+SimulationStartPage::SimulationStartPage(Flow flow)
+    : FlowPage(flow == Flow::kSexed ? kSexedSimulationScreen : kNonSexedSimulationScreen,
+               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption),
+      procedure_(new QButtonGroup(this)) {
+  auto* const form = new QFormLayout;
+  form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  loci_ = AddFileField(*form, kLoci);
+  loci_->SetDescriber(DescribeLociFile);
+  iterations_ = AddLineEdit(*form, kIterations);
+  iterations_->setText(NumberText(kIterationsAtFirst));
+
+  auto* const group = new QGroupBox(Text("  Type of simulations  "));
+  auto* const inside = new QVBoxLayout(group);
+  for (const auto& [procedure, text] :
+       {std::pair{Procedure::kParental, kParental}, {Procedure::kPreParental, kPreParental}}) {
+    auto* const button = new QRadioButton(Text(text.label));
+    Describe(*button, text);
+    button->setChecked(procedure == Procedure::kParental);
+    procedure_->addButton(button, static_cast<int>(procedure));
+    inside->addWidget(button);
+  }
+  auto* const column = new QVBoxLayout(this);
+  column->addLayout(form);
+  column->addWidget(group);
+  column->addStretch();
+}
+
+void SimulationStartPage::Set(const SimulationSettings& settings) {
+  loci_->SetPath(settings.loci_file);
+  iterations_->setText(NumberText(settings.iterations));
+  procedure_->button(static_cast<int>(settings.procedure))->setChecked(true);
+}
+
+void SimulationStartPage::FillIn(SimulationSettings& settings) const {
+  settings.loci_file = loci_->Path();
+  settings.iterations = WholeNumberIn(*iterations_).value_or(0);
+  settings.procedure = static_cast<Procedure>(procedure_->checkedId());
+}
+
+}  // namespace kaldo

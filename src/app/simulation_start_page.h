@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+
+#include "app/flow_window.h"
+#include "simulation/simulation_settings.h"
+
+class QButtonGroup;
+class QLineEdit;
+
+namespace kaldo {
+
+class FileField;
+
+/// The first screen of a simulation: names of loci, number of iterations, and whether the parents
+/// have been collected already (parental procedure) or not (pre-parental).
+class SimulationStartPage : public FlowPage {
+ public:
+  explicit SimulationStartPage(Flow flow);
+
+  void Set(const SimulationSettings& settings);
+
+  /// A number of iterations that cannot be read counts as 0, which no simulation has.
+  void FillIn(SimulationSettings& settings) const;
+
+ private:
+  FileField* loci_ = nullptr;
+  QLineEdit* iterations_ = nullptr;
+  QButtonGroup* procedure_;
+};
+
+}  // namespace kaldo

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/strategy_page.h"
+
+#include <QButtonGroup>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+#include <array>
+#include <limits>
+
+#include <fmt/format.h>
+
+#include "app/base/form_fields.h"
+#include "app/base/text.h"
+
+namespace kaldo {
+
+namespace {
+
+struct StrategyText {
+  LociStrategy strategy;
+  FieldText text;
+};
+
+constexpr std::array<StrategyText, 4> kStrategies{{
+    {LociStrategy::kChoice,
+     {"-   &Your choice of loci", "ChoiceOfLociStrategy", "One run with the loci of your choice."}},
+    {LociStrategy::kAll,
+     {"-   &All subsets of loci", "AllSubsets",
+      "Every subset of the loci, from the smallest size on. Their number doubles with every locus: "
+      "10 loci have 1,023 subsets."}},
+    {LociStrategy::kMinimal,
+     {"-   &Minimal subsets with correctness criteria", "MinimalSubsets",
+      "The same subsets, smallest first, until one reaches the criterion below."}},
+    {LociStrategy::kCumulative,
+     {"-   &Cumulative sequence", "CumulativeStrategy",
+      "The first locus, the first two, and so on, in the order of the next screen."}},
+}};
+
+constexpr FieldText kCriterion{
+    "&Give correctness criteria :", "Criterion",
+    "The probability that any allocation is correct which a minimal subset has to reach: 0 to 1."};
+constexpr FieldText kStartWith{"&Number of loci to start with :", "StartWith",
+                               "The smallest number of loci of a subset: 1 or more."};
+
+}  // namespace
+
+StrategyPage::StrategyPage(Flow flow)
+    : FlowPage(kStrategyScreen,
+               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption),
+      strategies_(new QButtonGroup(this)),
+      loci_(NewHint(nullptr)) {
+  auto* const group = new QGroupBox(Text("     Simulations run with :     "));
+  auto* const inside = new QVBoxLayout(group);
+  for (const StrategyText& strategy : kStrategies) {
+    auto* const button = new QRadioButton(Text(strategy.text.label));
+    Describe(*button, strategy.text);
+    strategies_->addButton(button, static_cast<int>(strategy.strategy));
+    inside->addWidget(button);
+  }
+  auto* const form = new QFormLayout;
+  criterion_ = AddLineEdit(*form, kCriterion);
+  start_with_ = AddLineEdit(*form, kStartWith);
+  const SimulationSettings at_first;
+  criterion_->setText(NumberText(at_first.criterion));
+  start_with_->setText(NumberText(at_first.start_with));
+  inside->addLayout(form);
+  inside->addLayout(NewLociRow());
+  auto* const column = new QVBoxLayout(this);
+  column->addWidget(group);
+  column->addStretch();
+}
+
+QLayout* StrategyPage::NewLociRow() {
+  auto* const choose = new QPushButton(Text("C&hoose loci..."));
+  choose->setObjectName(Text("ChooseLoci"));
+  choose->setToolTip(Text("Leave loci out of the subsets or of the sequence"));
+  choose->setAutoDefault(false);
+  connect(choose, &QPushButton::clicked, this, [this] { on_choose_loci_(); });
+  auto* const row = new QHBoxLayout;
+  row->addWidget(loci_, 1);
+  row->addWidget(choose);
+  return row;
+}
+
+void StrategyPage::ShowLoci(std::size_t in_use, std::size_t all) {
+  loci_->setText(
+      Text(in_use == all
+               ? fmt::format("Subsets and sequences are formed from all {} loci.", all)
+               : fmt::format("Subsets and sequences are formed from {} of {} loci.", in_use, all)));
+}
+
+void StrategyPage::Set(const SimulationSettings& settings) {
+  strategies_->button(static_cast<int>(settings.strategy))->setChecked(true);
+  criterion_->setText(NumberText(settings.criterion));
+  start_with_->setText(NumberText(settings.start_with));
+}
+
+std::optional<LociStrategy> StrategyPage::Strategy() const {
+  const int chosen = strategies_->checkedId();
+  return chosen < 0 ? std::nullopt : std::optional(static_cast<LociStrategy>(chosen));
+}
+
+void StrategyPage::FillIn(SimulationSettings& settings) const {
+  settings.strategy = Strategy().value_or(LociStrategy::kChoice);
+  settings.criterion = NumberIn(*criterion_).value_or(std::numeric_limits<double>::quiet_NaN());
+  settings.start_with = WholeNumberIn(*start_with_).value_or(0);
+}
+
+}  // namespace kaldo

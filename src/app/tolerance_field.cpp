@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/tolerance_field.h"
+
+#include <QLineEdit>
+
+#include <fmt/format.h>
+
+#include "app/base/form_fields.h"
+#include "app/base/text.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr OffsetTolerance kAtFirst{1};
+
+constexpr FieldText kTolerance{
+    "Maximal offset &tolerance", "Tolerance",
+    "The largest difference between a parent's and an offspring's allele, in whole unit distances "
+    "(repeats), that is taken for a typing error. A parent that would need a larger one is "
+    "declared uncollected (UC). 0 accepts exact alleles only."};
+
+}  // namespace
+
+ToleranceField::ToleranceField(QFormLayout& form) : field_(AddLineEdit(form, kTolerance)) {
+  Set(kAtFirst);
+}
+
+void ToleranceField::Set(OffsetTolerance tolerance) {
+  field_->setText(NumberText(tolerance.Value()));
+}
+
+OffsetTolerance ToleranceField::Value() const {
+  return OffsetTolerance{WholeNumberIn(*field_).value_or(0)};
+}
+
+std::optional<Problem> ToleranceField::Fault() const {
+  if (WholeNumberIn(*field_)) {
+    return ValidateTolerance(Value());
+  }
+  Problem problem;
+  problem.sentence = "Enter a positive number";
+  problem.found = fmt::format("the maximal offset tolerance is {}, which is no whole number",
+                              Quoted(Bytes(field_->text())));
+  return problem;
+}
+
+}  // namespace kaldo

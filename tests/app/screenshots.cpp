@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Takes the pictures of the user guide: walks through all four flows with the example data and
+// saves every screen. Usage: kaldo_screenshots FOLDER [dark]
+
+#include <QApplication>
+#include <QDir>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "app/base/text.h"
+#include "app/desktop.h"
+#include "app/introduction_screen.h"
+#include "app/main_menu.h"
+#include "app/support/script.h"
+
+namespace kaldo {
+
+namespace {
+
+QPalette DarkPalette() {
+  QPalette palette(QColor(45, 45, 48), QColor(37, 37, 40));
+  palette.setColor(QPalette::Base, QColor(30, 30, 32));
+  palette.setColor(QPalette::AlternateBase, QColor(40, 40, 43));
+  palette.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
+  palette.setColor(QPalette::Highlight, QColor(60, 110, 170));
+  palette.setColor(QPalette::Link, QColor(120, 170, 240));
+  return palette;
+}
+
+class Photographer {
+ public:
+  explicit Photographer(QString folder) : folder_(std::move(folder)) { QDir().mkpath(folder_); }
+
+  /// Saves the window in front once it has been laid out.
+  void Take(Script& script, std::string_view name) const {
+    const QString path = folder_ + Text("/") + Text(name) + Text(".png");
+    script.Do([path](QWidget& window) {
+      QTest::qWait(50);
+      if (!window.grab().save(path)) {
+        qWarning("cannot write %s", qPrintable(path));
+      }
+    });
+  }
+
+  /// Saves every tab of a results window, then closes it.
+  void TakeResults(Script& script, std::string_view name) const {
+    const QString path = folder_ + Text("/") + Text(name);
+    script.Await("tabs").Do([path](QWidget& window) {
+      auto* const tabs = window.findChild<QTabWidget*>(Text("tabs"));
+      for (int tab = 0; tab < tabs->count(); ++tab) {
+        tabs->setCurrentIndex(tab);
+        QTest::qWait(100);
+        const QString title = tabs->tabText(tab).remove(QLatin1Char('&')).toLower();
+        if (!window.grab().save(path + Text("-") + title + Text(".png"))) {
+          qWarning("cannot write into %s", qPrintable(path));
+        }
+      }
+      window.close();
+    });
+  }
+
+ private:
+  QString folder_;
+};
+
+void TakeFirstScreens(const Photographer& photographer) {
+  IntroductionScreen introduction;
+  Script script;
+  script.Await("Introduction");
+  photographer.Take(script, "introduction");
+  script.Click("Ok");
+  script.Run([&] { introduction.exec(); });
+}
+
+/// The screens of an allocation that the example has filled in.
+void TakeAllocation(const Photographer& photographer, MainMenu& menu, bool sexed) {
+  const std::string name = sexed ? "allocation-sexed" : "allocation-non-sexed";
+  Script script;
+  script.Click("Examples").Press(Qt::Key_Down);
+  if (sexed) {
+    script.Press(Qt::Key_Down);
+  }
+  script.Press(Qt::Key_Return);
+  script.Await(sexed ? "SexedAllocationFiles" : "NonSexedAllocationFiles");
+  photographer.Take(script, name + "-files");
+  script.Click("Ok").Await("ErrorModel");
+  photographer.Take(script, name + "-error");
+  script.Click("Ok").Await("ChoiceOfLoci");
+  photographer.Take(script, name + "-loci");
+  if (sexed) {
+    script.Click("Sequence").Click("Ok").Await("CumulativeSequence");
+    photographer.Take(script, name + "-sequence");
+  }
+  script.Click("Ok").Answer();
+  photographer.TakeResults(script, name + "-results");
+  script.Run([&menu] { menu.activateWindow(); });
+}
+
+void TakeSimulation(const Photographer& photographer, MainMenu& menu, bool sexed) {
+  const std::string name = sexed ? "simulation-sexed" : "simulation-non-sexed";
+  Script script;
+  script.Click("Examples");
+  for (int step = 0; step < (sexed ? 4 : 3); ++step) {
+    script.Press(Qt::Key_Down);
+  }
+  script.Press(Qt::Key_Return);
+  script.Await(sexed ? "SexedSimulationStart" : "NonSexedSimulationStart");
+  photographer.Take(script, name + "-start");
+  for (const std::string_view screen : {"Parents", "PseudoOffspring", "Tolerance", "Strategy"}) {
+    script.Click("Ok").Await(screen);
+    photographer.Take(script, name + "-" + std::string(screen));
+  }
+  script.Click(sexed ? "CumulativeStrategy" : "MinimalSubsets");
+  script.Click("Ok").Await(sexed ? "CumulativeSequence" : "Output");
+  if (sexed) {
+    script.Click("Ok").Await("Output");
+  }
+  photographer.Take(script, name + "-output");
+  script.Click("Ok").Answer();
+  photographer.TakeResults(script, name + "-results");
+  script.Run([&menu] { menu.activateWindow(); });
+}
+
+int TakeAll(const QString& folder) {
+  const QTemporaryDir work;
+  const Photographer photographer(QDir::current().absoluteFilePath(folder));
+  QDir::setCurrent(work.path());
+  TakeFirstScreens(photographer);
+  MainMenu menu;
+  menu.show();
+  Script first;
+  first.Await("MainMenu").Type("Project", Text("lake"));
+  photographer.Take(first, "menu");
+  first.Click("About").Await("AboutBox");
+  photographer.Take(first, "about");
+  first.Press(Qt::Key_Escape);
+  bool done = first.Run([] {});
+  for (const bool sexed : {false, true}) {
+    TakeAllocation(photographer, menu, sexed);
+    TakeSimulation(photographer, menu, sexed);
+  }
+  return done ? 0 : 1;
+}
+
+}  // namespace
+
+}  // namespace kaldo
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  kaldo::PrepareApplication();
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setStyle(QStyleFactory::create(kaldo::Text("Fusion")));
+  if (argc < 2) {
+    qWarning("usage: kaldo_screenshots FOLDER [dark]");
+    return 2;
+  }
+  if (argc > 2) {
+    QApplication::setPalette(kaldo::DarkPalette());
+  }
+  return kaldo::TakeAll(QString::fromLocal8Bit(argv[1]));
+}

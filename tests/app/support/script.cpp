@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/support/script.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+#include "app/base/screen_table.h"
+#include "app/base/text.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr int kTick = 5;              // milliseconds
+constexpr int kMostIdleTicks = 2000;  // at least ten seconds
+
+QMessageBox* MessageInFront() { return qobject_cast<QMessageBox*>(WindowInFront()); }
+
+QWidget* KeyboardWidget() {
+  QWidget* const window = WindowInFront();
+  QWidget* const focus = window != nullptr ? window->focusWidget() : nullptr;
+  return focus != nullptr ? focus : window;
+}
+
+QAbstractButton* ButtonOf(QMessageBox& box, std::string_view caption) {
+  for (QAbstractButton* button : box.buttons()) {
+    if (button->text().remove(QLatin1Char('&')) == Text(caption)) {
+      return button;
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+QWidget* WindowInFront() {
+  if (QWidget* const popup = QApplication::activePopupWidget()) {
+    return popup;
+  }
+  if (QWidget* const modal = QApplication::activeModalWidget()) {
+    return modal;
+  }
+  if (QWidget* const active = QApplication::activeWindow()) {
+    return active;
+  }
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible()) {
+      return window;
+    }
+  }
+  return nullptr;
+}
+
+QWidget* VisibleWidget(std::string_view name) {
+  QWidget* const window = WindowInFront();
+  if (window == nullptr) {
+    return nullptr;
+  }
+  for (QWidget* widget : window->findChildren<QWidget*>(Text(name))) {
+    if (widget->isVisible()) {
+      return widget;
+    }
+  }
+  return nullptr;
+}
+
+QWidget* VisibleWidget(int number) {
+  QWidget* const window = WindowInFront();
+  if (window == nullptr) {
+    return nullptr;
+  }
+  for (QWidget* widget : window->findChildren<QWidget*>()) {
+    const QVariant property = widget->property(kNumberProperty);
+    if (widget->isVisible() && property.isValid() && property.toInt() == number) {
+      return widget;
+    }
+  }
+  return nullptr;
+}
+
+Script& Script::Add(std::string what, std::function<bool()> ready, std::function<void()> act) {
+  steps_.push_back({std::move(what), std::move(ready), std::move(act)});
+  return *this;
+}
+
+Script& Script::Click(std::string_view name) {
+  const std::string wanted(name);
+  return Add(
+      "click " + wanted, [wanted] { return VisibleWidget(wanted) != nullptr; },
+      [wanted] {
+        QWidget* const button = VisibleWidget(wanted);
+        // A box or radio button is hit at its mark, not in the middle of its row.
+        const QPoint mark(button->height() / 2, button->height() / 2);
+        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, mark);
+      });
+}
+
+Script& Script::ClickNumber(int number) {
+  return Add(
+      "click number " + std::to_string(number),
+      [number] { return VisibleWidget(number) != nullptr; },
+      [number] {
+        QWidget* const button = VisibleWidget(number);
+        const QPoint mark(button->height() / 2, button->height() / 2);
+        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, mark);
+      });
+}
+
+Script& Script::Type(std::string_view name, const QString& text) {
+  const std::string wanted(name);
+  return Add(
+      "type into " + wanted, [wanted] { return VisibleWidget(wanted) != nullptr; },
+      [wanted, text] {
+        auto* const field = qobject_cast<QLineEdit*>(VisibleWidget(wanted));
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClick(field, Qt::Key_Delete);
+        QTest::keyClicks(field, text);
+      });
+}
+
+Script& Script::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  return Add(
+      "press key " + std::to_string(key), [] { return KeyboardWidget() != nullptr; },
+      [key, modifiers] { QTest::keyClick(KeyboardWidget(), key, modifiers); });
+}
+
+Script& Script::TypeHere(const QString& text) {
+  return Add(
+      "type " + Bytes(text), [] { return KeyboardWidget() != nullptr; },
+      [text] { QTest::keyClicks(KeyboardWidget(), text); });
+}
+
+Script& Script::Await(std::string_view screen) {
+  const std::string wanted(screen);
+  return Add(
+      "await " + wanted,
+      [wanted] {
+        const QWidget* const window = WindowInFront();
+        return window != nullptr &&
+               (window->objectName() == Text(wanted) || VisibleWidget(wanted) != nullptr);
+      },
+      [] {});
+}
+
+Script& Script::Answer(std::string_view answer) {
+  const std::string caption(answer);
+  return Add(
+      "answer a message with " + caption,
+      [caption] {
+        QMessageBox* const box = MessageInFront();
+        return box != nullptr && ButtonOf(*box, caption) != nullptr;
+      },
+      [this, caption] {
+        QMessageBox* const box = MessageInFront();
+        messages_.push_back(box->text());
+        details_.push_back(box->detailedText());
+        QTest::mouseClick(ButtonOf(*box, caption), Qt::LeftButton);
+      });
+}
+
+Script& Script::Until(std::function<bool()> condition, std::string what) {
+  return Add(std::move(what), std::move(condition), [] {});
+}
+
+Script& Script::Do(std::function<void(QWidget&)> act) {
+  Add(
+      "do something", [] { return WindowInFront() != nullptr; },
+      [act = std::move(act)] { act(*WindowInFront()); });
+  steps_.back().opens_window = false;
+  return *this;
+}
+
+void Script::Tick() {
+  if (steps_.empty()) {
+    return;
+  }
+  if (!steps_.front().ready()) {
+    if (++idle_ticks_ < kMostIdleTicks) {
+      QTimer::singleShot(kTick, &context_, [this] { Tick(); });
+      return;
+    }
+    failed_ = true;
+    const QWidget* const window = WindowInFront();
+    qWarning("The script waits in vain to %s; in front is %s \"%s\"", steps_.front().what.c_str(),
+             window != nullptr ? qPrintable(window->objectName()) : "nothing",
+             MessageInFront() != nullptr ? qPrintable(MessageInFront()->text()) : "");
+    steps_.clear();
+    QApplication::closeAllWindows();
+    return;
+  }
+  idle_ticks_ = 0;
+  const Step step = std::move(steps_.front());
+  steps_.pop_front();
+  const auto go_on = [this] { QTimer::singleShot(kTick, &context_, [this] { Tick(); }); };
+  // What the step does may open a window that waits for the next step.
+  if (step.opens_window) {
+    go_on();
+  }
+  step.act();
+  if (!step.opens_window) {
+    go_on();
+  }
+}
+
+bool Script::Run(const std::function<void()>& begin) {
+  failed_ = false;
+  QTimer::singleShot(kTick, &context_, [this] { Tick(); });
+  begin();
+  while (!steps_.empty() && !failed_) {
+    QTest::qWait(kTick);
+  }
+  QTest::qWait(2 * kTick);  // what the last step closed, closes
+  return !failed_;
+}
+
+}  // namespace kaldo
