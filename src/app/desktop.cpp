@@ -25,7 +25,7 @@ void PrepareApplication() {
   QLocale::setDefault(QLocale::c());
 }
 
-int RunDesktop(QApplication& application) {
+int RunDesktop(const QString& record) {
   QApplication::setApplicationName(Text("KALDO"));
   QApplication::setApplicationVersion(Text(Version()));
   QApplication::setDesktopFileName(Text("kaldo-desktop"));
@@ -36,15 +36,17 @@ int RunDesktop(QApplication& application) {
     QDir::setCurrent(QDir::homePath());
   }
   IntroductionScreen introduction;
-  if (introduction.exec() != QDialog::Accepted) {
+  if (record.isEmpty() && introduction.exec() != QDialog::Accepted) {
     return 0;
   }
   MainMenu menu;
   menu.show();
-  if (introduction.ExampleWanted()) {
-    QTimer::singleShot(0, &menu, [&menu] { menu.StartExample(); });
+  if (!record.isEmpty()) {
+    QTimer::singleShot(0, &menu, [&] { menu.OpenRecord(PathBytes(record)); });
+  } else if (introduction.ExampleWanted()) {
+    QTimer::singleShot(0, &menu, [&] { menu.StartExample(); });
   }
-  return application.exec();
+  return QApplication::exec();
 }
 
 }  // namespace kaldo

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-class QApplication;
+class QString;
 
 namespace kaldo {
 
@@ -9,7 +9,8 @@ namespace kaldo {
 /// language of the desktop, and the pictures and examples inside the program.
 void PrepareApplication();
 
-/// Introduction, then the main menu until it is closed. Returns the exit code of the program.
-int RunDesktop(QApplication& application);
+/// Introduction, then the main menu until it is closed. With the path of a run record the menu
+/// comes at once, and the screens are filled from the record. Returns the exit code of the program.
+int RunDesktop(const QString& record);
 
 }  // namespace kaldo

@@ -1,17 +1,63 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <string_view>
 
 #include "app/desktop.h"
+#include "genotypes/version.h"
+
+namespace {
+
+constexpr std::string_view kUsage =
+    "Usage: kaldo-desktop [RECORD]\n"
+    "Allocates offspring to their parents, in windows. RECORD is the \"Run record.toml\" of an "
+    "earlier\nrun, whose settings fill the screens. See also: kaldo --help\n";
+
+/// What is answered without a window: true when there was something to answer.
+bool AnswersOnTerminal(int argc, char** argv) {
+  const std::string_view option = argc == 2 ? argv[1] : "";
+  if (option == "--version") {
+    std::cout << "kaldo-desktop " << kaldo::Version() << " (" << kaldo::BuildNote() << ")\n";
+  } else if (option == "--help" || option == "-h") {
+    std::cout << kUsage;
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool HasDisplay() {
+#ifdef Q_OS_LINUX
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    if (const char* const value = std::getenv(name); value != nullptr && *value != '\0') {
+      return true;
+    }
+  }
+  return false;
+#else
+  return true;
+#endif
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   try {
-    QApplication application(argc, argv);
+    if (AnswersOnTerminal(argc, argv)) {
+      return EXIT_SUCCESS;
+    }
+    if (!HasDisplay()) {
+      std::cerr << "kaldo-desktop needs a graphical desktop. Without one, use the command kaldo.\n";
+      return EXIT_FAILURE;
+    }
+    const QApplication application(argc, argv);
     kaldo::PrepareApplication();
-    return kaldo::RunDesktop(application);
+    const QStringList arguments = QCoreApplication::arguments();
+    return kaldo::RunDesktop(arguments.size() > 1 ? arguments[1] : QString());
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
-    return 1;
+    return EXIT_FAILURE;
   }
 }

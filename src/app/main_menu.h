@@ -30,6 +30,9 @@ class MainMenu : public QWidget {
   /// Opens an allocation with the example data.
   void StartExample();
 
+  /// Opens the flow of a run record with all its settings.
+  void OpenRecord(const std::string& path);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -48,7 +51,6 @@ class MainMenu : public QWidget {
   void StartWith(const RunSettings& settings);
   void StartExampleOf(Flow flow, bool simulation);
   bool HasProject();
-  void OpenRecord(const std::string& path);
   void ChooseRecord();
   void ChooseFolder();
   void ShowFolder();

@@ -10,6 +10,8 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <array>
+#include <utility>
 
 #include "app/base/text.h"
 #include "app/desktop.h"
@@ -110,9 +112,14 @@ void TakeSimulation(const Photographer& photographer, MainMenu& menu, bool sexed
   script.Press(Qt::Key_Return);
   script.Await(sexed ? "SexedSimulationStart" : "NonSexedSimulationStart");
   photographer.Take(script, name + "-start");
-  for (const std::string_view screen : {"Parents", "PseudoOffspring", "Tolerance", "Strategy"}) {
+  const std::array<std::pair<std::string_view, std::string_view>, 4> screens{
+      {{"Parents", "-parents"},
+       {"PseudoOffspring", "-offspring"},
+       {"Tolerance", "-tolerance"},
+       {"Strategy", "-strategy"}}};
+  for (const auto& [screen, ending] : screens) {
     script.Click("Ok").Await(screen);
-    photographer.Take(script, name + "-" + std::string(screen));
+    photographer.Take(script, name + std::string(ending));
   }
   script.Click(sexed ? "CumulativeStrategy" : "MinimalSubsets");
   script.Click("Ok").Await(sexed ? "CumulativeSequence" : "Output");
