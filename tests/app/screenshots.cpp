@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QTabWidget>
@@ -132,6 +133,27 @@ void TakeSimulation(const Photographer& photographer, MainMenu& menu, bool sexed
   script.Run([&menu] { menu.activateWindow(); });
 }
 
+/// A spreadsheet has dropped the leading zero of a field.
+void TakeMessage(const Photographer& photographer, MainMenu& menu) {
+  QFile young(Text("kaldo-example/data/non-sexed/offspring.txt"));
+  QFile broken(Text("kaldo-example/data/non-sexed/young.txt"));
+  if (!young.open(QIODevice::ReadOnly) || !broken.open(QIODevice::WriteOnly)) {
+    qWarning("cannot write the broken file");
+    return;
+  }
+  QByteArray text = young.readAll();
+  text.remove(text.indexOf(" 0") + 1, 1);
+  broken.write(text);
+  broken.close();
+  Script script;
+  script.Click("Examples").Press(Qt::Key_Down).Press(Qt::Key_Return);
+  script.Await("NonSexedAllocationFiles").Type("OffspringFile", broken.fileName()).Click("Ok");
+  script.Await("qt_msgbox_label");
+  photographer.Take(script, "message");
+  script.Answer();
+  script.Run([&menu] { menu.activateWindow(); });
+}
+
 int TakeAll(const QString& folder) {
   const QTemporaryDir work;
   const Photographer photographer(QDir::current().absoluteFilePath(folder));
@@ -150,6 +172,7 @@ int TakeAll(const QString& folder) {
     TakeAllocation(photographer, menu, sexed);
     TakeSimulation(photographer, menu, sexed);
   }
+  TakeMessage(photographer, menu);
   return done ? 0 : 1;
 }
 
