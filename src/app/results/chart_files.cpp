@@ -7,6 +7,7 @@
 #include <QSvgGenerator>
 
 #include "app/base/text.h"
+#include "app/results/chart_layout.h"
 #include "app/results/chart_view.h"
 #include "genotypes/version.h"
 

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/base/text.h"
 #include "app/results/chart_view.h"
@@ -14,6 +15,8 @@
 namespace kaldo {
 
 namespace {
+
+constexpr int kWidestTable = 40;  ///< in characters; a wider one scrolls where room is scarce
 
 /// The numbers of a chart as people read them: six digits, like the reports.
 DataTable ShortTableOf(const Chart& chart) {
@@ -44,8 +47,8 @@ ChartPanel::ChartPanel(const QString& name, Qt::Orientation orientation, QString
   table_->setModel(model_);
   splitter->addWidget(chart_);
   splitter->addWidget(TableSide());
-  splitter->setStretchFactor(0, 2);
-  splitter->setStretchFactor(1, 1);
+  splitter->setStretchFactor(0, 3);
+  splitter->setStretchFactor(1, 2);
   splitter->setChildrenCollapsible(false);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -94,6 +97,8 @@ void ChartPanel::Show(const Chart& chart, const DataTable& table) {
   chart_->SetChart(chart);
   model_->SetTable(table);
   table_->FitColumns();
+  table_->setMinimumWidth(
+      std::min(table_->FullWidth(), kWidestTable * fontMetrics().averageCharWidth()));
 }
 
 }  // namespace kaldo

@@ -14,18 +14,21 @@
 #include "app/base/messages.h"
 #include "app/base/text.h"
 #include "app/results/chart_files.h"
+#include "app/results/chart_layout.h"
 #include "app/results/save_file.h"
 
 namespace kaldo {
 
 namespace {
 
-constexpr double kShareAxisEnd = 1.05;    ///< a little above 1, for marks at 1
-constexpr double kRoomForNumbers = 1.12;  ///< above the highest bar
-constexpr double kBarWidth = 0.7;         ///< of the distance between two bars
-constexpr std::size_t kMostNumberedBars = 12;
+constexpr double kShareAxisBegin = -0.03;  ///< of lines, for whole marks at 0
+constexpr double kShareAxisEnd = 1.05;     ///< and at 1
+constexpr double kRoomForNumbers = 1.12;   ///< above the highest bar
+constexpr double kBarWidth = 0.7;          ///< of the distance between two bars
+constexpr std::size_t kMostNumberedBars = 9;
 constexpr std::size_t kMostLevelLabels = 6;
 constexpr double kMarkerSize = 8;
+constexpr int kTitleMargin = 20;
 
 /// Puts one chart onto a plot.
 class ChartPainter {
@@ -42,11 +45,13 @@ class ChartPainter {
     plot_.setBackground(QBrush(theme.background));
   }
 
-  void Paint(const Chart& chart) {
-    PaintTexts(TextsOf(chart));
+  /// `width` is what the title has to fit into.
+  void Paint(const Chart& chart, int width) {
+    PaintTexts(TextsOf(chart), width);
     std::visit([this](const auto& any) { PaintData(any); }, chart);
     if (TextsOf(chart).shares) {
-      Values()->setRange(0, kShareAxisEnd);
+      const bool bars = std::holds_alternative<BarChart>(chart);
+      Values()->setRange(bars ? 0 : kShareAxisBegin, kShareAxisEnd);
     }
   }
 
@@ -58,10 +63,10 @@ class ChartPainter {
     return theme_.series[series % theme_.series.size()];
   }
 
-  void PaintTexts(const ChartTexts& texts) {
+  void PaintTexts(const ChartTexts& texts, int width) {
     QFont bold = font_;
     bold.setBold(true);
-    auto* title = new QCPTextElement(&plot_, texts.title, bold);
+    auto* title = new QCPTextElement(&plot_, Folded(texts.title, QFontMetrics(bold), width), bold);
     title->setTextColor(theme_.text);
     plot_.plotLayout()->addElement(0, 0, title);
     for (QCPAxis* axis : {Places(), Values()}) {
@@ -145,28 +150,7 @@ class ChartPainter {
   QFont font_;
 };
 
-/// Where the bars stand: at their own places, or one beside the other.
-std::vector<double> PlacesOf(const BarChart& chart) {
-  if (!chart.positions.empty()) {
-    return chart.positions;
-  }
-  std::vector<double> places(chart.categories.size());
-  for (std::size_t k = 0; k < places.size(); ++k) {
-    places[k] = static_cast<double>(k);
-  }
-  return places;
-}
-
-double SmallestStep(std::span<const double> places) {
-  double step = 0;
-  for (std::size_t k = 1; k < places.size(); ++k) {
-    const double here = places[k] - places[k - 1];
-    step = step == 0 ? here : std::min(step, here);
-  }
-  return step == 0 ? 1 : step;
-}
-
-/// Twice a deviation is drawn; one that is not a number (or not known) is not.
+/// A deviation that is not a number, or not known, is not drawn.
 double DrawnDeviation(const ChartValue& value) {
   return value.value ? value.deviation.value_or(qQNaN()) : qQNaN();
 }
@@ -320,22 +304,10 @@ QFont ChartFont() {
 
 }  // namespace
 
-QSize ChartSize(const Chart& chart) {
-  constexpr qsizetype kWidth = 720;
-  constexpr int kHeight = 450;
-  constexpr qsizetype kPerPlace = 22;
-  const auto* bars = std::get_if<BarChart>(&chart);
-  const auto* lines = std::get_if<LineChart>(&chart);
-  const std::size_t places = bars != nullptr    ? bars->categories.size()
-                             : lines != nullptr ? lines->labels.size()
-                                                : 0;
-  return {static_cast<int>(std::max(kWidth, kPerPlace * static_cast<qsizetype>(places))), kHeight};
-}
-
 void PaintChart(const Chart& chart, const ChartTheme& theme, double scale, QPaintDevice& device) {
   QCustomPlot plot;
-  ChartPainter(plot, theme, ChartFont()).Paint(chart);
   const QSize size = ChartSize(chart);
+  ChartPainter(plot, theme, ChartFont()).Paint(chart, size.width() - kTitleMargin);
   QCPPainter painter(&device);
   // Nothing may go through a cached picture, or texts would end up as dots.
   painter.setMode(QCPPainter::pmVectorized);
@@ -360,7 +332,7 @@ void ChartView::SetChart(const Chart& chart) {
 }
 
 void ChartView::Draw() {
-  ChartPainter(*plot_, ThemeOf(palette()), font()).Paint(chart_);
+  ChartPainter(*plot_, ThemeOf(palette()), font()).Paint(chart_, width() - kTitleMargin);
   plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
@@ -390,6 +362,11 @@ QSize ChartView::minimumSizeHint() const {
 
 QSize ChartView::sizeHint() const {
   return {fontMetrics().averageCharWidth() * 80, fontMetrics().lineSpacing() * 24};
+}
+
+void ChartView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  Draw();
 }
 
 void ChartView::changeEvent(QEvent* event) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QSize>
 #include <QWidget>
 
 #include "app/results/chart_data.h"
@@ -29,6 +28,7 @@ class ChartView : public QWidget {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void Draw();
@@ -36,9 +36,6 @@ class ChartView : public QWidget {
   Chart chart_;
   QCustomPlot* plot_ = nullptr;
 };
-
-/// The natural size of a chart in units of 1/96 inch: wider, the more there is below its axis.
-QSize ChartSize(const Chart& chart);
 
 /// Paints a chart of its natural size, enlarged by `scale`, onto paper or a picture.
 void PaintChart(const Chart& chart, const ChartTheme& theme, double scale, QPaintDevice& device);

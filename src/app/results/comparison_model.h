@@ -9,17 +9,18 @@
 
 namespace kaldo {
 
+/// The offsets stand beside the genotypes: their signs say what the colours say.
 enum class ComparisonColumn {
   kLocus,
-  kUnit,  ///< the unit distance of the locus
   kOffspring,
   kParent1,
   kParent2,
+  kOffset1,
+  kOffset2,
   kCondition,
   kDistance1,
   kDistance2,
-  kOffset1,
-  kOffset2,
+  kUnit,  ///< the unit distance of the locus
   kCount,
 };
 
@@ -34,7 +35,7 @@ enum class LocusFit {
 
 LocusFit FitOf(const LocusComparison& locus, UnitDistances offset, OffsetTolerance tolerance);
 
-/// Two signs before every offset, for whoever does not see the colours: "✓ 0", "≈ 1", "✗ 3".
+/// The sign before every offset, for whoever does not see the colours: "✓ 0", "≈ 1", "✗ 3".
 QString SignOf(LocusFit fit);
 
 /// An offspring beside one pair of parents, locus by locus: the loci of the run in file order.

@@ -32,6 +32,7 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, QString folder,
   table_->setModel(filter_);
   table_->setSortingEnabled(true);
   table_->sortByColumn(0, Qt::AscendingOrder);
+  table_->FitColumns();
   auto* splitter = new QSplitter(Qt::Vertical);
   splitter->addWidget(ListSide());
   splitter->addWidget(comparison_);

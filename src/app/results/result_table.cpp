@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "app/base/text.h"
@@ -91,13 +92,19 @@ void ResultTable::FitColumns() {
   const int widest = kWidestColumn * fontMetrics().averageCharWidth();
   const int rows = std::min(model()->rowCount(), kMeasuredRows);
   for (int column = 0; column < model()->columnCount(); ++column) {
-    int width = horizontalHeader()->sectionSizeHint(column);
+    // The arrow that tells the order needs room beside the head.
+    const int arrow = isSortingEnabled() ? 2 * fontMetrics().averageCharWidth() : 0;
+    int width = horizontalHeader()->sectionSizeHint(column) + arrow;
     for (int row = 0; row < rows; ++row) {
       const QString text = model()->index(row, column).data().toString();
       width = std::max(width, fontMetrics().horizontalAdvance(text) + margin);
     }
     setColumnWidth(column, std::min(width, widest));
   }
+}
+
+int ResultTable::FullWidth() const {
+  return horizontalHeader()->length() + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
 }
 
 void ResultTable::AppendRows(int first, int last, QString& text) const {

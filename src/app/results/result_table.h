@@ -48,6 +48,9 @@ class ResultTable : public QTableView {
   /// Makes every column as wide as its head and its first rows ask for.
   void FitColumns();
 
+  /// The width at which all columns are seen at once.
+  int FullWidth() const;
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 

@@ -28,7 +28,7 @@ ChartPanel* BestPanel(const FinishedSimulation& simulation, const SubsetModel& m
                       const QString& folder) {
   const SimulationFlow& flow = FlowOf(simulation.settings);
   LineChart chart;
-  chart.texts = {Text("Any allocation correct, with the best subset of each size"), Text("loci"),
+  chart.texts = {Text("Any allocation correct, best subset of each size"), Text("loci"),
                  Text("estimated probability"), true};
   ChartSeries series{Text("any allocation correct"), {}};
   DataTable table{{Text("loci"), Text("any correct"), Text("best subset")}, {}};
@@ -60,6 +60,7 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, QString folder, QWidg
   table_->setModel(model_);
   table_->horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
   table_->setSortingEnabled(true);
+  table_->FitColumns();
   table_->horizontalHeader()->setStretchLastSection(true);
   auto* splitter = new QSplitter(Qt::Vertical);
   splitter->addWidget(ListSide());

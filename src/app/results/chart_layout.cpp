@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/chart_layout.h"
+
+#include <QFontMetrics>
+#include <algorithm>
+
+namespace kaldo {
+
+QSize ChartSize(const Chart& chart) {
+  constexpr qsizetype kWidth = 720;
+  constexpr int kHeight = 450;
+  constexpr qsizetype kPerPlace = 22;
+  const auto* bars = std::get_if<BarChart>(&chart);
+  const auto* lines = std::get_if<LineChart>(&chart);
+  const std::size_t places = bars != nullptr    ? bars->categories.size()
+                             : lines != nullptr ? lines->labels.size()
+                                                : 0;
+  return {static_cast<int>(std::max(kWidth, kPerPlace * static_cast<qsizetype>(places))), kHeight};
+}
+
+QString Folded(const QString& text, const QFontMetrics& metrics, int width) {
+  QString folded;
+  QString line;
+  for (const QString& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    const QString longer = line.isEmpty() ? word : line + QLatin1Char(' ') + word;
+    if (!line.isEmpty() && metrics.horizontalAdvance(longer) > width) {
+      folded += line + QLatin1Char('\n');
+      line = word;
+    } else {
+      line = longer;
+    }
+  }
+  return folded + line;
+}
+
+std::vector<double> PlacesOf(const BarChart& chart) {
+  if (!chart.positions.empty()) {
+    return chart.positions;
+  }
+  std::vector<double> places(chart.categories.size());
+  for (std::size_t k = 0; k < places.size(); ++k) {
+    places[k] = static_cast<double>(k);
+  }
+  return places;
+}
+
+double SmallestStep(std::span<const double> places) {
+  double step = 0;
+  for (std::size_t k = 1; k < places.size(); ++k) {
+    const double here = places[k] - places[k - 1];
+    step = step == 0 ? here : std::min(step, here);
+  }
+  return step == 0 ? 1 : step;
+}
+
+}  // namespace kaldo
