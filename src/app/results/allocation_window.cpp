@@ -2,24 +2,33 @@
 #include "app/results/allocation_window.h"
 
 #include "app/base/text.h"
+#include "app/results/alleles_page.h"
 #include "app/results/allocation_summary.h"
 #include "app/results/chart_panel.h"
+#include "app/results/offspring_page.h"
 
 namespace kaldo {
 
 AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun run, QString folder,
                                    QWidget* parent)
     : ResultsWindow(settings.project, std::move(folder), parent) {
-  const AllocationCounters& counters = run.result.LastCounters();
+  const SharedAllocation shared = std::make_shared<const FinishedAllocation>(
+      FinishedAllocation{std::move(settings), std::move(run)});
+  const Flow flow = shared->settings.flow;
+  const AllocationCounters& counters = shared->run.result.LastCounters();
   AddTab(
-      new SummaryPage(SummaryOf(settings, run, Folder()), ProportionsChart(settings.flow, counters),
-                      ProportionsTable(settings.flow, counters), Folder()),
+      new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
+                      ProportionsChart(flow, counters), ProportionsTable(flow, counters), Folder()),
       Text("&Summary"), Text("What was run, and the proportions of allocations."));
-  if (settings.sequence) {
+  AddTab(new OffspringPage(shared, Folder()), Text("&Offspring"),
+         Text("The parents of every offspring, and why, locus by locus."));
+  if (shared->settings.sequence) {
     auto* sequence = new ChartPanel(Text("sequence"), Qt::Horizontal, Folder(), nullptr);
-    sequence->Show(SequenceChart(settings.flow, run.input, run.result));
+    sequence->Show(SequenceChart(flow, shared->run.input, shared->run.result));
     AddTab(sequence, Text("Se&quence"), Text("How the proportions settle as loci are added."));
   }
+  AddTab(new AllelesPage(shared, Folder()), Text("&Alleles"),
+         Text("The allele frequencies of each locus."));
 }
 
 }  // namespace kaldo

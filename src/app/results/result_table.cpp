@@ -57,6 +57,10 @@ QVariant DataTableModel::headerData(int section, Qt::Orientation orientation, in
   if (orientation == Qt::Horizontal && role == Qt::DisplayRole) {
     return table_.heads.value(section);
   }
+  if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole && !table_.rows.empty() &&
+      IsNumber(table_.rows.front().value(section))) {
+    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+  }
   return {};
 }
 

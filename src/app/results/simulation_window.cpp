@@ -3,22 +3,36 @@
 
 #include "app/base/text.h"
 #include "app/results/chart_panel.h"
+#include "app/results/finished_runs.h"
 #include "app/results/simulation_summary.h"
+#include "app/results/spread_page.h"
+#include "app/results/subset_page.h"
+#include "simulation/subset_title.h"
 
 namespace kaldo {
 
 SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun run, QString folder,
                                    QWidget* parent)
     : ResultsWindow(settings.project, std::move(folder), parent) {
-  const SimulationFlow& flow = FlowOf(settings);
-  const std::vector<Correctness> classes = CorrectnessOf(flow, run);
-  AddTab(new SummaryPage(SummaryOf(settings, run, Folder()), CorrectnessChart(settings, classes),
-                         CorrectnessTable(classes), Folder()),
+  const SharedSimulation shared = std::make_shared<const FinishedSimulation>(
+      FinishedSimulation{std::move(settings), std::move(run)});
+  const SimulationFlow& flow = FlowOf(shared->settings);
+  const LociStrategy strategy = shared->settings.strategy;
+  const std::vector<Correctness> classes = CorrectnessOf(flow, shared->run);
+  AddTab(new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
+                         CorrectnessChart(shared->settings, classes), CorrectnessTable(classes),
+                         Folder()),
          Text("&Summary"), Text("What was simulated, and how often decisions were correct."));
-  if (settings.strategy == LociStrategy::kCumulative) {
+  AddTab(new SpreadPage(classes, Text(LastCombinationNote(strategy)), Folder()), Text("S&pread"),
+         Text("How much the share of correct decisions varies between iterations."));
+  if (strategy == LociStrategy::kCumulative) {
     auto* sequence = new ChartPanel(Text("sequence"), Qt::Horizontal, Folder(), nullptr);
-    sequence->Show(SequenceChart(flow, run));
+    sequence->Show(SequenceChart(flow, shared->run));
     AddTab(sequence, Text("Se&quence"), Text("What each further locus adds."));
+  }
+  if (strategy == LociStrategy::kAll || strategy == LociStrategy::kMinimal) {
+    AddTab(new SubsetPage(shared, Folder()), Text("Su&bsets"),
+           Text("Which loci, and how many, are enough."));
   }
 }
 
