@@ -4,9 +4,9 @@
 #include "app/base/messages.h"
 #include "app/base/text.h"
 #include "app/loci_page.h"
-#include "app/offspring_page.h"
 #include "app/output_page.h"
 #include "app/parental_page.h"
+#include "app/pseudo_offspring_page.h"
 #include "app/results/simulation_window.h"
 #include "app/run_dialog.h"
 #include "app/sequence_page.h"
@@ -44,7 +44,7 @@ SimulationFlowWindow::SimulationFlowWindow(Flow flow, QWidget* parent)
       rules_(flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation()),
       start_(Own(new SimulationStartPage(flow))),
       parents_(Own(new ParentalPage(flow))),
-      offspring_(Own(new OffspringPage(flow))),
+      offspring_(Own(new PseudoOffspringPage(flow))),
       tolerance_(Own(new TolerancePage(flow))),
       strategy_(Own(new StrategyPage(flow))),
       loci_(Own(new LociPage(kLociScreen, CaptionOf(flow))), Own(new SequencePage)),

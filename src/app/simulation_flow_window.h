@@ -10,7 +10,7 @@
 
 namespace kaldo {
 
-class OffspringPage;
+class PseudoOffspringPage;
 class OutputPage;
 class ParentalPage;
 class SimulationStartPage;
@@ -60,7 +60,7 @@ class SimulationFlowWindow : public FlowWindow {
   const SimulationFlow& rules_;
   SimulationStartPage* start_;
   ParentalPage* parents_;
-  OffspringPage* offspring_;
+  PseudoOffspringPage* offspring_;
   TolerancePage* tolerance_;
   StrategyPage* strategy_;
   LociScreens loci_;

@@ -23,9 +23,9 @@ struct OriginShare {
 
 /// How many pseudo-offspring are produced, of which origins, and with which transmission error. The
 /// shares of the origins follow the number as it is typed.
-class OffspringPage : public FlowPage {
+class PseudoOffspringPage : public FlowPage {
  public:
-  explicit OffspringPage(Flow flow);
+  explicit PseudoOffspringPage(Flow flow);
 
   /// Tells the shares of the origins for a number of pseudo-offspring.
   using Shares = std::function<std::vector<OriginShare>(std::int32_t)>;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/offspring_page.h"
+#include "app/pseudo_offspring_page.h"
 
 #include <QFormLayout>
 #include <QGroupBox>
@@ -50,7 +50,7 @@ QTableWidget* NewTable() {
 
 }  // namespace
 
-OffspringPage::OffspringPage(Flow flow)
+PseudoOffspringPage::PseudoOffspringPage(Flow flow)
     : FlowPage(kOffspringScreen,
                flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption),
       table_(NewTable()),
@@ -68,12 +68,12 @@ OffspringPage::OffspringPage(Flow flow)
   connect(number_, &QLineEdit::textChanged, this, [this] { ShowShares(); });
 }
 
-void OffspringPage::SetShares(Shares shares) {
+void PseudoOffspringPage::SetShares(Shares shares) {
   shares_ = std::move(shares);
   ShowShares();
 }
 
-void OffspringPage::ShowShares() {
+void PseudoOffspringPage::ShowShares() {
   if (!shares_) {
     return;
   }
@@ -91,11 +91,11 @@ void OffspringPage::ShowShares() {
   table_->setFixedHeight(height);
 }
 
-void OffspringPage::SetNumber(std::int32_t offspring_per_iteration) {
+void PseudoOffspringPage::SetNumber(std::int32_t offspring_per_iteration) {
   number_->setText(NumberText(offspring_per_iteration));
 }
 
-std::int32_t OffspringPage::OffspringPerIteration() const {
+std::int32_t PseudoOffspringPage::OffspringPerIteration() const {
   return WholeNumberIn(*number_).value_or(0);
 }
 
