@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QPalette>
+#include <QProgressBar>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -25,9 +26,9 @@ namespace kaldo {
 namespace {
 
 QPalette DarkPalette() {
-  QPalette palette(QColor(45, 45, 48), QColor(37, 37, 40));
-  palette.setColor(QPalette::Base, QColor(30, 30, 32));
-  palette.setColor(QPalette::AlternateBase, QColor(40, 40, 43));
+  QPalette palette(QColor(66, 66, 68), QColor(53, 53, 55));
+  palette.setColor(QPalette::Base, QColor(38, 38, 40));
+  palette.setColor(QPalette::AlternateBase, QColor(48, 48, 50));
   palette.setColor(QPalette::PlaceholderText, QColor(150, 150, 150));
   palette.setColor(QPalette::Highlight, QColor(60, 110, 170));
   palette.setColor(QPalette::Link, QColor(120, 170, 240));
@@ -133,6 +134,28 @@ void TakeSimulation(const Photographer& photographer, MainMenu& menu, bool sexed
   script.Run([&menu] { menu.activateWindow(); });
 }
 
+/// A run that is long enough to be looked at, and stopped.
+void TakeProgress(const Photographer& photographer, MainMenu& menu) {
+  Script script;
+  script.Click("Examples");
+  for (int step = 0; step < 4; ++step) {
+    script.Press(Qt::Key_Down);
+  }
+  script.Press(Qt::Key_Return).Await("SexedSimulationStart").Type("Iterations", Text("1000"));
+  script.Click("Ok").Click("Ok").Await("PseudoOffspring");
+  script.Type("OffspringPerIteration", Text("5000")).Click("Ok").Await("Tolerance").Click("Ok");
+  script.Await("Strategy").Click("AllSubsets").Click("Ok").Await("Output").Click("Ok");
+  script.Until(
+      [] {
+        const auto* const bar = qobject_cast<QProgressBar*>(VisibleWidget("RunBar"));
+        return bar != nullptr && bar->value() > 0;
+      },
+      "see progress");
+  photographer.Take(script, "running");
+  script.Click("RunCancel").Answer().Press(Qt::Key_Escape);
+  script.Run([&menu] { menu.activateWindow(); });
+}
+
 /// A spreadsheet has dropped the leading zero of a field.
 void TakeMessage(const Photographer& photographer, MainMenu& menu) {
   QFile young(Text("kaldo-example/data/non-sexed/offspring.txt"));
@@ -172,6 +195,7 @@ int TakeAll(const QString& folder) {
     TakeAllocation(photographer, menu, sexed);
     TakeSimulation(photographer, menu, sexed);
   }
+  TakeProgress(photographer, menu);
   TakeMessage(photographer, menu);
   return done ? 0 : 1;
 }
