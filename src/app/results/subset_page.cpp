@@ -52,7 +52,7 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, QString folder, QWidg
     : QWidget(parent),
       folder_(std::move(folder)),
       model_(new SubsetModel(simulation, this)),
-      table_(new ResultTable(Text("Subsets of loci"), this)),
+      table_(new ResultTable(Text("Subsets of loci"))),
       find_(new QLineEdit),
       show_(new QComboBox),
       count_(new QLabel) {
