@@ -40,6 +40,7 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, QString folder,
   splitter->setStretchFactor(1, 2);
   splitter->setChildrenCollapsible(false);
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(splitter);
   connect(find_, &QLineEdit::textChanged, this, [this] { Narrow(); });
   connect(show_, &QComboBox::currentIndexChanged, this, [this] { Narrow(); });
