@@ -365,6 +365,22 @@ class ResultsAllocationTest : public QObject {
     QTRY_VERIFY(shown.window.isNull());
   }
 
+  void GoesFromFieldToFieldByTab() {
+    Shown shown(Flow::kNonSexed);
+    shown.Run();
+    Find<QTabWidget>(*shown.window, "tabs").setCurrentIndex(1);
+    QVERIFY(QTest::qWaitForWindowActive(shown.window));
+    Find<QLineEdit>(*shown.window, "offspring_find").setFocus();
+    QStringList names;
+    for (int step = 0; step < 7; ++step) {
+      names += QApplication::focusWidget()->objectName();
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             Text("offspring_find offspring_show offspring_table offspring_copy offspring_export "
+                  "comparison_table comparison_copy"));
+  }
+
   void KeepsTheRulesOfModels() {
     Shown shown(Flow::kNonSexed);
     shown.Run();

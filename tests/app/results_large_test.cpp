@@ -116,6 +116,19 @@ class ResultsLargeTest : public QObject {
       with_both += (choice & 0b11U) == 0b11U ? 1 : 0;
       made.run.result.subsets.push_back(std::move(subset));
     }
+    // Of thousands of subsets of one size several reach the highest of a thousand figures.
+    QStringList first_of_best;
+    const auto& subsets = made.run.result.subsets;
+    for (std::uint32_t size = 1; size <= kLoci; ++size) {
+      double highest = -1;
+      for (const SubsetFigures& subset : subsets) {
+        highest = subset.loci.size() == size ? std::max(highest, subset.figures[figure]) : highest;
+      }
+      const auto first = std::find_if(subsets.begin(), subsets.end(), [&](const auto& subset) {
+        return subset.loci.size() == size && subset.figures[figure] == highest;
+      });
+      first_of_best += QString::number(first - subsets.begin() + 1);
+    }
     SubsetModel model(std::make_shared<const FinishedSimulation>(std::move(made)), nullptr);
     QCOMPARE(model.rowCount(), (1 << kLoci) - 1);
     model.sort(static_cast<int>(SubsetColumn::kAnyCorrect), Qt::DescendingOrder);
@@ -135,7 +148,8 @@ class ResultsLargeTest : public QObject {
     choice.only_best = true;
     choice.loci.clear();
     model.Choose(choice);
-    QCOMPARE(model.rowCount(), static_cast<int>(kLoci));
+    model.sort(static_cast<int>(SubsetColumn::kLoci), Qt::AscendingOrder);
+    QCOMPARE(Column(model, static_cast<int>(SubsetColumn::kPlace)), first_of_best);
   }
 };
 

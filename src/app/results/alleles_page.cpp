@@ -22,6 +22,7 @@ AllelesPage::AllelesPage(SharedAllocation allocation, const QString& folder, QWi
       copies_(new QLabel),
       panel_(new ChartPanel(Text("alleles"), Qt::Horizontal, folder, nullptr)) {
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(LocusRow());
   layout->addWidget(panel_, 1);
   connect(locus_, &QComboBox::currentIndexChanged, this, [this] { ShowLocus(); });

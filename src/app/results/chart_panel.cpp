@@ -40,7 +40,7 @@ ChartPanel::ChartPanel(const QString& name, Qt::Orientation orientation, QString
       folder_(std::move(folder)),
       chart_(new ChartView),
       model_(new DataTableModel(this)),
-      table_(new ResultTable(Text("Numbers of the chart"), this)) {
+      table_(new ResultTable(Text("Numbers of the chart"))) {
   auto* splitter = new QSplitter(orientation);
   chart_->setObjectName(name + Text("_chart"));
   table_->setObjectName(name + Text("_table"));

@@ -29,6 +29,7 @@ constexpr std::size_t kMostNumberedBars = 9;
 constexpr std::size_t kMostLevelLabels = 6;
 constexpr double kMarkerSize = 8;
 constexpr int kTitleMargin = 20;
+constexpr int kLegendSign = 60;  ///< a piece of the line with its mark, and the gaps
 
 /// Puts one chart onto a plot.
 class ChartPainter {
@@ -51,7 +52,8 @@ class ChartPainter {
     std::visit([this](const auto& any) { PaintData(any); }, chart);
     if (TextsOf(chart).shares) {
       const bool bars = std::holds_alternative<BarChart>(chart);
-      Values()->setRange(bars ? 0 : kShareAxisBegin, kShareAxisEnd);
+      Values()->setRange(bars ? 0 : kShareAxisBegin,
+                         bars ? std::max(kRoomForNumbers, Values()->range().upper) : kShareAxisEnd);
     }
   }
 
@@ -64,6 +66,7 @@ class ChartPainter {
   }
 
   void PaintTexts(const ChartTexts& texts, int width) {
+    width_ = width;
     QFont bold = font_;
     bold.setBold(true);
     auto* title = new QCPTextElement(&plot_, Folded(texts.title, QFontMetrics(bold), width), bold);
@@ -143,11 +146,12 @@ class ChartPainter {
   void PaintData(const SpreadChart& chart);
   void PaintLine(const LineChart& chart, std::size_t number);
   void PaintLevel(double value, Qt::PenStyle style, const QString& text);
-  void PlaceLegend();
+  void PlaceLegend(const LineChart& chart);
 
   QCustomPlot& plot_;
   const ChartTheme& theme_;
   QFont font_;
+  int width_ = 0;
 };
 
 /// A deviation that is not a number, or not known, is not drawn.
@@ -214,12 +218,16 @@ void ChartPainter::PaintLine(const LineChart& chart, std::size_t number) {
   AddErrorBars(line, deviations);
 }
 
-void ChartPainter::PlaceLegend() {
+void ChartPainter::PlaceLegend(const LineChart& chart) {
+  int widest = 0;
+  for (const ChartSeries& series : chart.series) {
+    widest = std::max(widest, QFontMetrics(font_).horizontalAdvance(series.name));
+  }
   plot_.legend = new QCPLegend;
   plot_.plotLayout()->addElement(2, 0, plot_.legend);
   plot_.legend->setLayer(Text("legend"));
   plot_.legend->setFillOrder(QCPLayoutGrid::foColumnsFirst);
-  plot_.legend->setWrap(3);
+  plot_.legend->setWrap(std::clamp(width_ / (widest + kLegendSign), 1, 4));
   plot_.legend->setFont(font_);
   plot_.legend->setTextColor(theme_.text);
   plot_.legend->setBrush(Qt::NoBrush);
@@ -229,7 +237,7 @@ void ChartPainter::PlaceLegend() {
 
 void ChartPainter::PaintData(const LineChart& chart) {
   if (chart.series.size() > 1) {
-    PlaceLegend();
+    PlaceLegend(chart);
   }
   for (std::size_t number = 0; number < chart.series.size(); ++number) {
     PaintLine(chart, number);

@@ -21,7 +21,7 @@ ComparisonPanel::ComparisonPanel(SharedAllocation allocation, QWidget* parent)
     : QWidget(parent),
       allocation_(std::move(allocation)),
       model_(new ComparisonModel(allocation_, this)),
-      table_(new ResultTable(Text("Genotypes locus by locus"), this)),
+      table_(new ResultTable(Text("Genotypes locus by locus"))),
       pair_(new QComboBox),
       verdict_(new QLabel) {
   pair_->setObjectName(Text("comparison_pair"));
@@ -46,8 +46,8 @@ void ComparisonPanel::LayOut() {
   head->addWidget(pair_);
   head->addWidget(verdict_, 1);
   auto* legend = new QLabel(
-      Text(fmt::format("{} exact   {} offset within the tolerance, an error   {} offset above the "
-                       "tolerance: UC   {} one allele in neither parent   {} offspring not typed",
+      Text(fmt::format("{} exact   {} within the tolerance (an error)   {} above it (UC)   {} one "
+                       "allele in neither parent   {} not typed",
                        Bytes(SignOf(LocusFit::kExact)), Bytes(SignOf(LocusFit::kTolerated)),
                        Bytes(SignOf(LocusFit::kExcluded)), Bytes(SignOf(LocusFit::kUnmeasured)),
                        Bytes(SignOf(LocusFit::kUnsaid)))));

@@ -20,7 +20,7 @@ class ResultTable;
 /// "comparison_copy".
 class ComparisonPanel : public QWidget {
  public:
-  ComparisonPanel(SharedAllocation allocation, QWidget* parent);
+  explicit ComparisonPanel(SharedAllocation allocation, QWidget* parent = nullptr);
 
   void ShowOffspring(std::size_t offspring);
   void Clear();

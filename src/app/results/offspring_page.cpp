@@ -23,8 +23,8 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, QString folder,
       folder_(std::move(folder)),
       model_(new OffspringModel(allocation, this)),
       filter_(new OffspringFilter(*model_, this)),
-      table_(new ResultTable(Text("Offspring and their parents"), this)),
-      comparison_(new ComparisonPanel(allocation, this)),
+      table_(new ResultTable(Text("Offspring and their parents"))),
+      comparison_(new ComparisonPanel(allocation)),
       find_(new QLineEdit),
       show_(new QComboBox),
       count_(new QLabel) {
@@ -40,6 +40,7 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, QString folder,
   splitter->setStretchFactor(1, 2);
   splitter->setChildrenCollapsible(false);
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(splitter);
   connect(find_, &QLineEdit::textChanged, this, [this] { Narrow(); });
   connect(show_, &QComboBox::currentIndexChanged, this, [this] { Narrow(); });

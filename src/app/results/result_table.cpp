@@ -17,6 +17,7 @@ namespace kaldo {
 namespace {
 
 constexpr int kMeasuredRows = 60;
+constexpr int kFewestRows = 4;     ///< that are seen in the smallest window
 constexpr int kWidestColumn = 44;  ///< in characters
 
 bool IsNumber(const QString& text) {
@@ -109,6 +110,13 @@ void ResultTable::FitColumns() {
 
 int ResultTable::FullWidth() const {
   return horizontalHeader()->length() + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+}
+
+QSize ResultTable::minimumSizeHint() const {
+  const int height = horizontalHeader()->sizeHint().height() + 2 * frameWidth() +
+                     horizontalScrollBar()->sizeHint().height() +
+                     kFewestRows * verticalHeader()->defaultSectionSize();
+  return {QTableView::minimumSizeHint().width(), height};
 }
 
 void ResultTable::AppendRows(int first, int last, QString& text) const {

@@ -30,7 +30,7 @@ class DataTableModel : public QAbstractTableModel {
 class ResultTable : public QTableView {
  public:
   /// `name` is read out to who cannot see the table.
-  ResultTable(const QString& name, QWidget* parent);
+  explicit ResultTable(const QString& name, QWidget* parent = nullptr);
 
   void setModel(QAbstractItemModel* model) override;
 
@@ -50,6 +50,8 @@ class ResultTable : public QTableView {
 
   /// The width at which all columns are seen at once.
   int FullWidth() const;
+
+  QSize minimumSizeHint() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

@@ -70,7 +70,10 @@ void ResultsWindow::SetCommand(const QString& command) {
 }
 
 void ResultsWindow::AddTab(QWidget* page, const QString& title, const QString& tip) {
-  tabs_->setTabToolTip(tabs_->addTab(page, title), tip);
+  auto* framed = new QWidget;
+  auto* layout = new QVBoxLayout(framed);
+  layout->addWidget(page);
+  tabs_->setTabToolTip(tabs_->addTab(framed, title), tip);
 }
 
 }  // namespace kaldo

@@ -152,7 +152,9 @@ Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
   const SimulationFlow& flow = FlowOf(settings);
   Summary summary;
   summary.title =
-      Text(flow.TypeLine(settings.procedure)) + Text(LastCombinationNote(settings.strategy));
+      Text(fmt::format("{} simulation, {}{}", settings.flow == Flow::kSexed ? "Sexed" : "Non-sexed",
+                       settings.procedure == Procedure::kParental ? "PARENTAL" : "PRE-PARENTAL",
+                       LastCombinationNote(settings.strategy)));
   AddParents(settings, summary);
   AddFigures(settings, run, summary);
   if (run.result.stepping.any_out_of_step) {

@@ -34,6 +34,7 @@ SpreadPage::SpreadPage(std::vector<Correctness> classes, QString note, const QSt
   row->addWidget(class_);
   row->addWidget(figures_, 1);
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
   layout->addLayout(row);
   layout->addWidget(panel_, 1);
   connect(class_, &QComboBox::currentIndexChanged, this, [this] { ShowClass(); });

@@ -52,7 +52,7 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, QString folder, QWidg
     : QWidget(parent),
       folder_(std::move(folder)),
       model_(new SubsetModel(simulation, this)),
-      table_(new ResultTable(Text("Subsets of loci"), this)),
+      table_(new ResultTable(Text("Subsets of loci"))),
       find_(new QLineEdit),
       show_(new QComboBox),
       count_(new QLabel) {
@@ -69,6 +69,7 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, QString folder, QWidg
   splitter->setStretchFactor(1, 1);
   splitter->setChildrenCollapsible(false);
   auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(splitter);
   connect(find_, &QLineEdit::textChanged, this, [this] { Narrow(); });
   connect(show_, &QComboBox::currentIndexChanged, this, [this] { Narrow(); });

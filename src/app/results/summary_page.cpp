@@ -67,6 +67,7 @@ SummaryPage::SummaryPage(const Summary& summary, const Chart& chart, const DataT
   splitter->setStretchFactor(1, 1);
   splitter->setChildrenCollapsible(false);
   auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(splitter);
 }
 
