@@ -17,27 +17,38 @@ namespace hn = hwy::HWY_NAMESPACE;
 using Sums = hn::ScalableTag<std::uint16_t>;
 using Words = hn::ScalableTag<std::uint64_t>;
 
-void AndAllImpl(const std::uint64_t* const* rows, std::size_t count, std::uint64_t* all,
+bool AndAllImpl(const std::uint64_t* const* rows, std::size_t count, std::uint64_t* all,
                 std::size_t words) {
   const Words tag;
   const std::size_t lanes = hn::Lanes(tag);
+  const auto zero = hn::Zero(tag);
+  const auto one = hn::Set(tag, 1);
+  auto seen = zero;    // of each lane, all bits met
+  auto second = zero;  // not 0 in a lane that has met two bits or more
   std::size_t i = 0;
   for (; i + lanes <= words; i += lanes) {
     auto common = hn::LoadU(tag, rows[0] + i);
-    // Where nobody is left, further rows change nothing.
-    for (std::size_t row = 1; row < count && !hn::AllTrue(tag, hn::Eq(common, hn::Zero(tag)));
-         ++row) {
+    for (std::size_t row = 1; row < count; ++row) {
       common = hn::And(common, hn::LoadU(tag, rows[row] + i));
     }
     hn::StoreU(common, tag, all + i);
+    const auto without_lowest = hn::And(common, hn::Sub(common, one));
+    const auto as_well = hn::IfThenZeroElse(hn::Eq(seen, zero), common);
+    second = hn::Or(second, hn::Or(without_lowest, as_well));
+    seen = hn::Or(seen, common);
   }
+  bool two = !hn::AllTrue(tag, hn::Eq(second, zero));
+  std::size_t met = lanes - hn::CountTrue(tag, hn::Eq(seen, zero));
   for (; i < words; ++i) {
     std::uint64_t common = rows[0][i];
     for (std::size_t row = 1; row < count; ++row) {
       common &= rows[row][i];
     }
     all[i] = common;
+    two = two || (common & (common - 1)) != 0;
+    met += common != 0 ? 1 : 0;
   }
+  return two || met > 1;
 }
 
 void SumCostsImpl(const std::uint8_t* const* rows, std::size_t count, const std::uint64_t* possible,
@@ -97,8 +108,8 @@ HWY_EXPORT(AndAllImpl);
 HWY_EXPORT(SumCostsImpl);
 HWY_EXPORT(MaskAtMostImpl);
 
-void AndAll(std::span<const std::uint64_t* const> rows, std::span<std::uint64_t> all) {
-  HWY_DYNAMIC_DISPATCH(AndAllImpl)(rows.data(), rows.size(), all.data(), all.size());
+bool AndAll(std::span<const std::uint64_t* const> rows, std::span<std::uint64_t> all) {
+  return HWY_DYNAMIC_DISPATCH(AndAllImpl)(rows.data(), rows.size(), all.data(), all.size());
 }
 
 void SumCosts(std::span<const std::uint8_t* const> rows, std::span<const std::uint64_t> possible,

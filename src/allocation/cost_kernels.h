@@ -13,8 +13,9 @@ inline constexpr std::size_t kBlock = 64;
 // The inner loops of the pair search. They work on integers and masks only, so that every processor
 // gives the same result; the widest vectors that the machine has are chosen when the program runs.
 
-/// all = the words that every one of the bit rows has in common, at least one row.
-void AndAll(std::span<const std::uint64_t* const> rows, std::span<std::uint64_t> all);
+/// all = the words that every one of the bit rows has in common, at least one row. Tells whether
+/// two bits or more are left.
+bool AndAll(std::span<const std::uint64_t* const> rows, std::span<std::uint64_t> all);
 
 /// Adds up the costs of every parent over the rows, and finds the smallest sum of each block. A
 /// parent whose bit in `possible` (a word per block) is not set gets `impossible`.
