@@ -17,8 +17,8 @@ namespace hn = hwy::HWY_NAMESPACE;
 using Sums = hn::ScalableTag<std::uint16_t>;
 using Words = hn::ScalableTag<std::uint64_t>;
 
-bool AndAllImpl(const std::uint64_t* const* rows, std::size_t count, std::uint64_t* all,
-                std::size_t words) {
+bool KeepCommonImpl(const std::uint64_t* all, const GiverRows* loci, std::size_t count,
+                    std::uint64_t* left, std::size_t words) {
   const Words tag;
   const std::size_t lanes = hn::Lanes(tag);
   const auto zero = hn::Zero(tag);
@@ -27,11 +27,13 @@ bool AndAllImpl(const std::uint64_t* const* rows, std::size_t count, std::uint64
   auto second = zero;  // not 0 in a lane that has met two bits or more
   std::size_t i = 0;
   for (; i + lanes <= words; i += lanes) {
-    auto common = hn::LoadU(tag, rows[0] + i);
-    for (std::size_t row = 1; row < count; ++row) {
-      common = hn::And(common, hn::LoadU(tag, rows[row] + i));
+    auto common = hn::LoadU(tag, all + i);
+    for (std::size_t k = 0; k < count; ++k) {
+      const auto either =
+          hn::Or(hn::LoadU(tag, loci[k].first + i), hn::LoadU(tag, loci[k].second + i));
+      common = hn::And(common, either);
     }
-    hn::StoreU(common, tag, all + i);
+    hn::StoreU(common, tag, left + i);
     const auto without_lowest = hn::And(common, hn::Sub(common, one));
     const auto as_well = hn::IfThenZeroElse(hn::Eq(seen, zero), common);
     second = hn::Or(second, hn::Or(without_lowest, as_well));
@@ -40,11 +42,11 @@ bool AndAllImpl(const std::uint64_t* const* rows, std::size_t count, std::uint64
   bool two = !hn::AllTrue(tag, hn::Eq(second, zero));
   std::size_t met = lanes - hn::CountTrue(tag, hn::Eq(seen, zero));
   for (; i < words; ++i) {
-    std::uint64_t common = rows[0][i];
-    for (std::size_t row = 1; row < count; ++row) {
-      common &= rows[row][i];
+    std::uint64_t common = all[i];
+    for (std::size_t k = 0; k < count; ++k) {
+      common &= loci[k].first[i] | loci[k].second[i];
     }
-    all[i] = common;
+    left[i] = common;
     two = two || (common & (common - 1)) != 0;
     met += common != 0 ? 1 : 0;
   }
@@ -104,12 +106,40 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace kaldo {
 
-HWY_EXPORT(AndAllImpl);
+namespace {
+
+// For fewer words than this, finding the code for the processor takes longer than the words do.
+constexpr std::size_t kFewWords = 8;
+
+bool KeepCommonOfFew(const std::uint64_t* all, std::span<const GiverRows> loci,
+                     std::span<std::uint64_t> left) {
+  std::uint64_t seen = 0;
+  std::uint64_t second = 0;  // not 0 when two bits or more were met
+  for (std::size_t i = 0; i < left.size(); ++i) {
+    std::uint64_t common = all[i];
+    for (const GiverRows& locus : loci) {
+      common &= locus.first[i] | locus.second[i];
+    }
+    left[i] = common;
+    second |= (common & (common - 1)) | (seen != 0 ? common : 0);
+    seen |= common;
+  }
+  return second != 0;
+}
+
+}  // namespace
+
+HWY_EXPORT(KeepCommonImpl);
 HWY_EXPORT(SumCostsImpl);
 HWY_EXPORT(MaskAtMostImpl);
 
-bool AndAll(std::span<const std::uint64_t* const> rows, std::span<std::uint64_t> all) {
-  return HWY_DYNAMIC_DISPATCH(AndAllImpl)(rows.data(), rows.size(), all.data(), all.size());
+bool KeepCommon(const std::uint64_t* all, std::span<const GiverRows> loci,
+                std::span<std::uint64_t> left) {
+  if (left.size() < kFewWords) {
+    return KeepCommonOfFew(all, loci, left);
+  }
+  return HWY_DYNAMIC_DISPATCH(KeepCommonImpl)(all, loci.data(), loci.size(), left.data(),
+                                              left.size());
 }
 
 void SumCosts(std::span<const std::uint8_t* const> rows, std::span<const std::uint64_t> possible,

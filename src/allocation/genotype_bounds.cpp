@@ -55,7 +55,7 @@ void GenotypeBounds::Prepare(const GenotypeTable& table, std::size_t parents,
     locus.genotypes = table.Locus(loci[k]);
     locus.matrix = &matrices[loci[k].Value()];
     locus.alleles = locus.matrix->Alleles();
-    locus.bounds_of.assign(locus.alleles * locus.alleles, kNoBounds);
+    locus.places.assign(locus.alleles * locus.alleles, kNoBounds);
     locus.classes.Sort(locus.genotypes.first(parents), locus.alleles);
     const auto of_parents = locus.classes.OfParents();
     for (std::size_t parent = 0; parent < parents; ++parent) {
@@ -71,16 +71,16 @@ void GenotypeBounds::LimitMemory(std::size_t parents) {
   for (const Locus& locus : loci_) {
     classes = std::max(classes, locus.classes.Count());
   }
+  // Per class its scores, a cost and marks; per parent a cost.
   const std::size_t bytes_each =
-      sizeof(LocusBounds) + parents + parents / 8 +
-      classes * (sizeof(LocusBounds::Scores) + sizeof(LocusBounds::Bound));
+      sizeof(LocusBounds) + classes * (sizeof(LocusBounds::Scores) + 2) + parents;
   most_ = std::max(kBytes / bytes_each, loci_.size());
 }
 
 void GenotypeBounds::MakeRoom() {
   if (in_use_ + loci_.size() > most_) {
     for (Locus& locus : loci_) {
-      std::fill(locus.bounds_of.begin(), locus.bounds_of.end(), kNoBounds);
+      std::fill(locus.places.begin(), locus.places.end(), kNoBounds);
     }
     in_use_ = 0;
   }
@@ -94,8 +94,8 @@ LocusBounds& GenotypeBounds::Add(std::size_t k, const LocusGenotype& offspring) 
   Locus& locus = loci_[k];
   // Both orders of the offspring's alleles share their bounds.
   const auto place = static_cast<std::int32_t>(in_use_);
-  locus.bounds_of[PlaceOf(locus, offspring.index1, offspring.index2)] = place;
-  locus.bounds_of[PlaceOf(locus, offspring.index2, offspring.index1)] = place;
+  locus.places[Pair(locus, offspring.index1, offspring.index2)] = place;
+  locus.places[Pair(locus, offspring.index2, offspring.index1)] = place;
   LocusBounds& bounds = bounds_[in_use_];
   ++in_use_;
   bounds.Build(locus.classes, *locus.matrix, offspring.index1, offspring.index2, side_ratio_);

@@ -34,15 +34,12 @@ class GenotypeBounds {
   /// Makes room for one offspring. What Of() returned for earlier ones may be gone afterwards.
   void MakeRoom();
 
-  const LocusGenotype& Genotype(std::size_t k, Slot offspring) const {
-    return loci_[k].genotypes[offspring.Value()];
-  }
-
-  /// The bounds of a genotype, not missing, at the k-th locus of the run.
-  LocusBounds& Of(std::size_t k, const LocusGenotype& offspring) {
+  /// The bounds of an offspring's genotype, not missing, at the k-th locus of the run.
+  LocusBounds& Of(std::size_t k, Slot offspring) {
     const Locus& locus = loci_[k];
-    const std::int32_t place = locus.bounds_of[PlaceOf(locus, offspring.index1, offspring.index2)];
-    return place != kNoBounds ? bounds_[static_cast<std::size_t>(place)] : Add(k, offspring);
+    const LocusGenotype& genotype = locus.genotypes[offspring.Value()];
+    const std::int32_t place = locus.places[Pair(locus, genotype.index1, genotype.index2)];
+    return place != kNoBounds ? bounds_[static_cast<std::size_t>(place)] : Add(k, genotype);
   }
 
   const ParentClasses& Classes(std::size_t k) const { return loci_[k].classes; }
@@ -59,11 +56,11 @@ class GenotypeBounds {
     std::span<const LocusGenotype> genotypes;
     const TransmissionMatrix* matrix = nullptr;
     std::size_t alleles = 0;
-    std::vector<std::int32_t> bounds_of;  ///< place in bounds_ by (r, j), or kNoBounds
+    std::vector<std::int32_t> places;  ///< in bounds_ by (r, j), or kNoBounds
     ParentClasses classes;
   };
 
-  static std::size_t PlaceOf(const Locus& locus, AlleleIndex r, AlleleIndex j) {
+  static std::size_t Pair(const Locus& locus, AlleleIndex r, AlleleIndex j) {
     return r.Value() * locus.alleles + j.Value();
   }
 

@@ -31,7 +31,7 @@ void ListedParents::Prepare(std::size_t parents) {
 }
 
 bool ListedParents::ListPossible(const OffspringBounds& offspring) {
-  const auto possible = offspring.Possible();
+  const auto possible = offspring.Possible().Bits();
   const std::size_t most = all_slots_.size() * kListPercent / 100;
   std::uint32_t* const slots = some_slots_.data();
   std::size_t count = 0;
@@ -50,27 +50,27 @@ bool ListedParents::ListPossible(const OffspringBounds& offspring) {
   return true;
 }
 
-void ListedParents::AddUpOneByOne(const OffspringBounds& offspring) {
-  std::uint64_t* marks = marks_.data();
-  for (std::uint32_t place = 0; place < count_; ++place, marks += offspring.MarkWords()) {
-    some_costs_[place] = offspring.CostOf(slots_[place], marks);
+void ListedParents::List(const OffspringBounds& offspring) {
+  if (!offspring.Possible().SomeImpossible() || !ListPossible(offspring)) {
+    slots_ = all_slots_.data();
+    count_ = static_cast<std::uint32_t>(all_slots_.size());
   }
 }
 
-void ListedParents::FillUp() {
-  std::fill(some_costs_.begin() + count_,
-            some_costs_.begin() + static_cast<std::ptrdiff_t>(blocks_ * kBlock), kImpossible);
-  for (std::uint32_t block = 0; block < blocks_; ++block) {
-    const auto* const begin = some_costs_.data() + block * kBlock;
-    std::uint16_t minimum = kImpossible;
-    for (std::size_t i = 0; i < kBlock; ++i) {
-      minimum = std::min(minimum, begin[i]);
-    }
-    block_minima_[block] = minimum;
+void ListedParents::AddUpCosts(OffspringBounds& offspring) {
+  const std::size_t parents = all_slots_.size();
+  blocks_ = static_cast<std::uint32_t>((count_ + kBlock - 1) / kBlock);
+  if (marks_.size() < count_ * offspring.MarkWords()) {
+    marks_.resize(parents * offspring.MarkWords());
   }
-}
-
-void ListedParents::FindMinima() {
+  std::fill_n(marks_known_.begin(), blocks_, std::uint64_t{0});
+  if (AllListed()) {
+    offspring.AddUpCosts(kImpossible, all_costs_, block_minima_);
+    costs_ = all_costs_.data();
+  } else {
+    AddUpCostsOfSome(offspring);
+    costs_ = some_costs_.data();
+  }
   for (std::uint32_t begin = 0, many = 0; begin < blocks_; begin += kBlocksAtOnce, ++many) {
     const std::uint32_t end = std::min(begin + kBlocksAtOnce, blocks_);
     minima_of_blocks_[many] =
@@ -78,38 +78,25 @@ void ListedParents::FindMinima() {
   }
 }
 
-void ListedParents::List(OffspringBounds& offspring) {
-  const std::size_t parents = all_slots_.size();
-  const bool is_short = offspring.SomeImpossible() && ListPossible(offspring);
-  if (!is_short) {
-    slots_ = all_slots_.data();
-    count_ = static_cast<std::uint32_t>(parents);
-  }
-  blocks_ = static_cast<std::uint32_t>((count_ + kBlock - 1) / kBlock);
-  if (marks_.size() < count_ * offspring.MarkWords()) {
-    marks_.resize(parents * offspring.MarkWords());
-  }
-  const bool one_by_one = is_short && count_ * kFewOneIn < parents;
-  std::fill_n(marks_known_.begin(), blocks_, one_by_one ? ~std::uint64_t{0} : 0);
-  if (one_by_one) {
-    AddUpOneByOne(offspring);
-  } else {
+void ListedParents::AddUpCostsOfSome(OffspringBounds& offspring) {
+  const bool one_by_one = count_ * kFewOneIn < all_slots_.size();
+  if (!one_by_one) {
     offspring.AddUpCosts(kImpossible, all_costs_, block_minima_);
   }
-  costs_ = is_short ? some_costs_.data() : all_costs_.data();
-  if (is_short && !one_by_one) {
-    for (std::uint32_t place = 0; place < count_; ++place) {
-      some_costs_[place] = all_costs_[slots_[place]];
-    }
+  for (std::uint32_t place = 0; place < count_; ++place) {
+    const std::uint32_t slot = slots_[place];
+    some_costs_[place] = one_by_one ? offspring.CostOf(slot) : all_costs_[slot];
   }
-  if (is_short) {
-    FillUp();
+  std::fill(some_costs_.begin() + count_,
+            some_costs_.begin() + static_cast<std::ptrdiff_t>(blocks_ * kBlock), kImpossible);
+  for (std::uint32_t block = 0; block < blocks_; ++block) {
+    const auto begin = some_costs_.begin() + static_cast<std::ptrdiff_t>(block * kBlock);
+    block_minima_[block] = *std::min_element(begin, begin + kBlock);
   }
-  FindMinima();
 }
 
 SlotRange ListedParents::PlacesOf(SlotRange slots) const {
-  if (slots_ == all_slots_.data()) {
+  if (AllListed()) {
     return slots;
   }
   const auto place_of = [this](std::uint32_t slot) {

@@ -27,14 +27,17 @@ class ListedParents {
 
   void Prepare(std::size_t parents);
 
-  /// Lists the parents for an offspring, and adds up their costs.
-  void List(OffspringBounds& offspring);
+  /// Lists the parents for an offspring.
+  void List(const OffspringBounds& offspring);
 
   std::uint32_t Count() const { return count_; }
   std::uint32_t SlotAt(std::uint32_t place) const { return slots_[place]; }
 
   /// The places of the listed parents in a range of slots.
   SlotRange PlacesOf(SlotRange slots) const;
+
+  /// Adds up the costs of the listed parents. All that follows stands for the same offspring.
+  void AddUpCosts(OffspringBounds& offspring);
 
   /// The costs by place.
   const std::uint16_t* Costs() const { return costs_; }
@@ -48,16 +51,15 @@ class ListedParents {
     const std::uint64_t bit = std::uint64_t{1} << place % kBlock;
     if ((known & bit) == 0) {
       known |= bit;
-      offspring.CostOf(slots_[place], marks);
+      offspring.MarksOfParent(slots_[place], marks);
     }
     return marks;
   }
 
  private:
   bool ListPossible(const OffspringBounds& offspring);
-  void AddUpOneByOne(const OffspringBounds& offspring);
-  void FillUp();
-  void FindMinima();
+  void AddUpCostsOfSome(OffspringBounds& offspring);
+  bool AllListed() const { return slots_ == all_slots_.data(); }
 
   std::vector<std::uint32_t> all_slots_;
   std::vector<std::uint32_t> some_slots_;

@@ -79,11 +79,11 @@ void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& 
                         AlleleIndex r, AlleleIndex j, double side_ratio) {
   const std::size_t classes = parents.Count();
   scores.resize(classes);
-  bounds.resize(classes);
+  cost_of_class.resize(classes);
+  marks_of_class.resize(classes);
   std::array<double, kMostClasses> log_lengths;
   Measures measures(side_ratio);
   log_largest = -std::numeric_limits<double>::infinity();
-  all_possible = true;
   for (std::size_t number = 0; number < classes; ++number) {
     const LocusGenotype& genotype = parents.Genotype(number);
     const std::size_t p1 = genotype.index1.Value();
@@ -92,44 +92,24 @@ void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& 
     scores[number] = {matrix(p1, r.Value()) + matrix(p2, r.Value()),
                       matrix(p1, j.Value()) + matrix(p2, j.Value())};
     const Measures::Measure& measure = measures.Of(scores[number]);
-    bounds[number].marks = measure.marks;
+    marks_of_class[number] = measure.marks;
     log_lengths[number] = measure.log_length;
     log_largest = std::max(log_largest, measure.log_length);
-    all_possible = all_possible && measure.marks != giving::kNothing;
   }
   if (std::isinf(log_largest)) {
     log_largest = 0;  // nobody can have given anything
   }
   for (std::size_t number = 0; number < classes; ++number) {
-    bounds[number].cost = CostOf(log_lengths[number], log_largest);
+    cost_of_class[number] = CostOf(log_lengths[number], log_largest);
   }
   costs.clear();
-  if (!all_possible) {
-    FindPossibleParents(parents, matrix, r, j);
-  }
-}
-
-// Where probabilities are negative their sum may be 0 for a parent that is found here. That is no
-// harm: its pairs are multiplied out.
-void LocusBounds::FindPossibleParents(const ParentClasses& parents,
-                                      const TransmissionMatrix& matrix, AlleleIndex r,
-                                      AlleleIndex j) {
-  possible.assign((parents.OfParents().size() + kBlock - 1) / kBlock, 0);
-  for (std::size_t allele = 0; allele < matrix.Alleles(); ++allele) {
-    if (matrix(allele, r.Value()) != 0 || matrix(allele, j.Value()) != 0) {
-      const auto carriers = parents.CarriersOf(allele);
-      for (std::size_t block = 0; block < possible.size(); ++block) {
-        possible[block] |= carriers[block];
-      }
-    }
-  }
 }
 
 void LocusBounds::AddCostsOfParents(const ParentClasses& parents) {
   const auto of_parents = parents.OfParents();
   costs.assign((of_parents.size() + kBlock - 1) / kBlock * kBlock, 0);
   for (std::size_t slot = 0; slot < of_parents.size(); ++slot) {
-    costs[slot] = bounds[of_parents[slot]].cost;
+    costs[slot] = cost_of_class[of_parents[slot]];
   }
 }
 

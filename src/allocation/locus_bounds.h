@@ -26,16 +26,11 @@ struct LocusBounds {
     double r = 0;
     double j = 0;
   };
-  struct Bound {
-    std::uint8_t cost = 0;
-    std::uint8_t marks = 0;
-  };
 
-  bool all_possible = true;
-  double log_largest = 0;               ///< logarithm of the largest |v|
-  std::vector<std::uint64_t> possible;  ///< bit by slot: the parent can have given something
-  std::vector<Scores> scores;           ///< by class
-  std::vector<Bound> bounds;            ///< by class
+  double log_largest = 0;      ///< logarithm of the largest |v|
+  std::vector<Scores> scores;  ///< by class
+  std::vector<std::uint8_t> cost_of_class;
+  std::vector<std::uint8_t> marks_of_class;  ///< see giving_marks.h
 
   /// Costs by slot, up to a multiple of kBlock; empty until AddCostsOfParents().
   std::vector<std::uint8_t> costs;
@@ -47,10 +42,6 @@ struct LocusBounds {
 
   /// Spreads the costs of the classes over the parents, when they are first wanted.
   void AddCostsOfParents(const ParentClasses& parents);
-
- private:
-  void FindPossibleParents(const ParentClasses& parents, const TransmissionMatrix& matrix,
-                           AlleleIndex r, AlleleIndex j);
 };
 
 }  // namespace kaldo

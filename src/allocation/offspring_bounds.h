@@ -8,6 +8,7 @@
 
 #include "allocation/genotype_bounds.h"
 #include "allocation/giving_marks.h"
+#include "allocation/possible_parents.h"
 
 namespace kaldo {
 
@@ -22,13 +23,7 @@ class OffspringBounds {
   /// of its loci: then no pair has any likelihood, and nothing else here may be asked.
   bool Collect(Slot offspring);
 
-  std::uint32_t Parents() const { return parents_; }
-
-  /// Whether some parent cannot have given anything at some locus.
-  bool SomeImpossible() const { return possible_ != all_parents_.data(); }
-
-  /// Bit by slot: the parent can have given something at every locus.
-  std::span<const std::uint64_t> Possible() const { return {possible_, all_parents_.size()}; }
+  const PossibleParents& Possible() const { return possible_; }
 
   /// No likelihood is more than exp of this and of minus the costs of the two parents.
   double LogLargest() const { return 2 * log_largest_; }
@@ -37,10 +32,12 @@ class OffspringBounds {
   bool Hold() const { return bounds_.Hold(); }
 
   const MarkCosts& CostsOfMarks() const { return mark_costs_; }
-  std::size_t MarkWords() const { return (typed_ + kLociPerMarkWord - 1) / kLociPerMarkWord; }
+  std::size_t MarkWords() const { return mark_words_; }
 
-  /// The cost of one parent, and its marks into so many words.
-  std::uint16_t CostOf(std::uint32_t parent, std::uint64_t* marks) const;
+  /// The marks of one parent, into so many words.
+  void MarksOfParent(std::uint32_t parent, std::uint64_t* marks) const;
+
+  std::uint16_t CostOf(std::uint32_t parent) const;
 
   /// The costs of all parents by slot, filled up to whole blocks, with the smallest of each block.
   /// One that is not possible gets `impossible`.
@@ -51,24 +48,18 @@ class OffspringBounds {
   double Likelihood(std::uint32_t one, std::uint32_t two) const;
 
  private:
-  struct TypedLocus {
-    std::size_t k = 0;  ///< locus of the run
-    const LocusBounds::Scores* scores = nullptr;
-    const LocusBounds::Bound* bounds = nullptr;
-    LocusBounds* all = nullptr;
-  };
-  // The parents left so far and this many loci more are brought together at once.
-  static constexpr std::size_t kRowsAtOnce = 5;
-
+  PossibleParents possible_;
   GenotypeBounds bounds_;
   MarkCosts mark_costs_;
-  std::uint32_t parents_ = 0;
-  std::vector<std::uint64_t> all_parents_;
-  std::vector<std::uint64_t> some_parents_;
-  const std::uint64_t* possible_ = nullptr;  ///< one of the two above
-  std::array<TypedLocus, kMaxLoci> loci_;
-  std::size_t typed_ = 0;  ///< loci in use of the above: those that are not missing
   double log_largest_ = 0;
+
+  // At the loci at which the offspring is typed:
+  std::span<const std::uint32_t> typed_;
+  std::size_t mark_words_ = 0;
+  std::array<LocusBounds*, kMaxLoci> bounds_at_{};
+  std::array<const LocusBounds::Scores*, kMaxLoci> scores_at_{};
+  std::array<const std::uint8_t*, kMaxLoci> marks_at_{};
+  std::array<const std::uint8_t*, kMaxLoci> costs_at_{};
   std::vector<const std::uint8_t*> cost_rows_;
 };
 

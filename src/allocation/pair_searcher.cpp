@@ -95,12 +95,8 @@ AfterPair PairSearcher::Multiply(std::uint32_t first_parent, std::uint32_t partn
   return after;
 }
 
-AfterPair PairSearcher::TryPair(std::uint32_t first_parent, std::uint32_t partner,
-                                KeptPairs& kept) {
-  const std::int32_t cost = listed_.Costs()[first_parent] + listed_.Costs()[partner];
-  if (cost > limit_) {
-    return AfterPair::kGoOn;
-  }
+bool PairSearcher::MarksAllow(std::uint32_t first_parent, std::uint32_t partner,
+                              std::int32_t cost) {
   const auto wanted = std::span(wanted_marks_).first(bounds_.MarkWords());
   if (!wanted_are_known_) {
     const std::uint64_t* const marks = listed_.MarksAt(bounds_, first_parent);
@@ -108,10 +104,7 @@ AfterPair PairSearcher::TryPair(std::uint32_t first_parent, std::uint32_t partne
     wanted_are_known_ = true;
   }
   const MarkClash clash = CompareMarks(wanted, listed_.MarksAt(bounds_, partner));
-  if (clash.is_impossible || cost + bounds_.CostsOfMarks().Of(clash) > limit_) {
-    return AfterPair::kGoOn;
-  }
-  return Multiply(first_parent, partner, kept);
+  return !clash.is_impossible && cost + bounds_.CostsOfMarks().Of(clash) <= limit_;
 }
 
 void PairSearcher::ScanRowByBounds(std::uint32_t first_parent, SlotRange partners,
@@ -120,24 +113,27 @@ void PairSearcher::ScanRowByBounds(std::uint32_t first_parent, SlotRange partner
   const std::int32_t own_cost = costs[first_parent];
   const std::uint32_t end = BlockOf(partners.end - 1) + 1;
   wanted_are_known_ = false;
-  for (std::uint32_t block = BlockOf(partners.begin); block < end;) {
+  for (std::uint32_t block = BlockOf(partners.begin); block < end; ++block) {
     const std::int32_t left = limit_ - own_cost;
     if (block % ListedParents::kBlocksAtOnce == 0 &&
         listed_.MinimumOfBlocks(block / ListedParents::kBlocksAtOnce) > left) {
-      block += ListedParents::kBlocksAtOnce;
+      block += ListedParents::kBlocksAtOnce - 1;
       continue;
     }
-    if (listed_.BlockMinimum(block) <= left) {
-      const std::uint64_t mask =
-          MaskAtMost(costs + block * kBlock, static_cast<std::uint16_t>(left)) &
-          MaskOfRange(block, partners);
-      for (std::uint64_t rest = mask; rest != 0; rest &= rest - 1) {
-        if (TryPair(first_parent, PlaceOf(block, rest), kept) == AfterPair::kLeaveRow) {
-          return;
-        }
+    if (listed_.BlockMinimum(block) > left) {
+      continue;
+    }
+    std::uint64_t rest = MaskAtMost(costs + block * kBlock, static_cast<std::uint16_t>(left)) &
+                         MaskOfRange(block, partners);
+    for (; rest != 0; rest &= rest - 1) {
+      const std::uint32_t partner = PlaceOf(block, rest);
+      const std::int32_t cost = own_cost + costs[partner];
+      // The limit may have come down inside the block.
+      if (cost <= limit_ && MarksAllow(first_parent, partner, cost) &&
+          Multiply(first_parent, partner, kept) == AfterPair::kLeaveRow) {
+        return;
       }
     }
-    ++block;
   }
 }
 
@@ -219,10 +215,28 @@ void PairSearcher::ScanGroup(const CandidateGroup& slots, KeptPairs& kept,
       parent = block_end;
       continue;
     }
-    for (; parent < block_end; ++parent) {
-      const SlotRange partners = PartnersOf(candidates_.flow, group, parent);
+    std::uint64_t rest = MaskAtMost(listed_.Costs() + block * kBlock,
+                                    static_cast<std::uint16_t>(limit_ - best_partner)) &
+                         MaskOfRange(block, {parent, block_end});
+    for (; rest != 0; rest &= rest - 1) {
+      parent = PlaceOf(block, rest);
+      const SlotRange partners = sexed ? group.second : SlotRange{parent + 1, group.second.end};
+      // The limit may have come down inside the block.
       if (listed_.Costs()[parent] + best_partner <= limit_ && partners.begin < partners.end) {
         ScanRow(parent, partners, kept);
+      }
+    }
+    parent = block_end;
+  }
+}
+
+void PairSearcher::MultiplyAll(const CandidateGroup& slots, KeptPairs& kept) {
+  const CandidateGroup group{listed_.PlacesOf(slots.first), listed_.PlacesOf(slots.second)};
+  for (std::uint32_t parent = group.first.begin; parent < group.first.end; ++parent) {
+    const SlotRange partners = PartnersOf(candidates_.flow, group, parent);
+    for (std::uint32_t partner = partners.begin; partner < partners.end; ++partner) {
+      if (Multiply(parent, partner, kept) == AfterPair::kLeaveRow) {
+        break;
       }
     }
   }
@@ -247,6 +261,14 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
     return OutcomeOf(kept);
   }
   listed_.List(bounds_);
+  if (listed_.Count() <= kFewToMultiply) {
+    ++work_.among_three;
+    for (const CandidateGroup& group : candidates_.groups) {
+      MultiplyAll(group, kept);
+    }
+    return OutcomeOf(kept);
+  }
+  listed_.AddUpCosts(bounds_);
   work_.among_some += listed_.Count() < parents_ ? 1 : 0;
   scores_are_known_ = false;
   plain_rows_left_ = 0;

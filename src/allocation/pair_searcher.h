@@ -52,8 +52,8 @@ class PairSearcher {
   void ScanRowByBounds(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept);
   bool IsCrowded(std::uint32_t first_parent, SlotRange partners) const;
   void ScanRowPlainly(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept);
-  void ScanTheFew(KeptPairs& kept);
-  AfterPair TryPair(std::uint32_t first_parent, std::uint32_t partner, KeptPairs& kept);
+  void MultiplyAll(const CandidateGroup& group, KeptPairs& kept);
+  bool MarksAllow(std::uint32_t first_parent, std::uint32_t partner, std::int32_t cost);
   AfterPair Multiply(std::uint32_t first_parent, std::uint32_t partner, KeptPairs& kept);
   void Tighten(double best);
   void FillPartnerMinima(SlotRange partners);

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 
-#include "allocation/cost_kernels.h"
-
 namespace kaldo {
 
 namespace {
@@ -17,8 +15,6 @@ void ParentClasses::Sort(std::span<const LocusGenotype> parents, std::size_t all
   first_.clear();
   of_parents_.resize(parents.size());
   number_of_pair_.assign(alleles * alleles, kNoClass);
-  words_ = (parents.size() + kBlock - 1) / kBlock;
-  carriers_.assign(alleles * words_, 0);
   for (std::size_t slot = 0; slot < parents.size(); ++slot) {
     const LocusGenotype& genotype = parents[slot];
     const std::size_t smaller = std::min(genotype.index1, genotype.index2).Value();
@@ -29,9 +25,6 @@ void ParentClasses::Sort(std::span<const LocusGenotype> parents, std::size_t all
       first_.push_back(genotype);
     }
     of_parents_[slot] = number;
-    const std::uint64_t bit = std::uint64_t{1} << slot % kBlock;
-    carriers_[smaller * words_ + slot / kBlock] |= bit;
-    carriers_[larger * words_ + slot / kBlock] |= bit;
   }
 }
 

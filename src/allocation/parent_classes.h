@@ -26,17 +26,10 @@ class ParentClasses {
   /// The class of each parent, by slot.
   std::span<const std::uint16_t> OfParents() const { return of_parents_; }
 
-  /// The parents that carry an allele, bit by slot.
-  std::span<const std::uint64_t> CarriersOf(std::size_t allele) const {
-    return std::span(carriers_).subspan(allele * words_, words_);
-  }
-
  private:
   std::vector<LocusGenotype> first_;
   std::vector<std::uint16_t> of_parents_;
   std::vector<std::uint16_t> number_of_pair_;  ///< class by two allele places, while sorting
-  std::size_t words_ = 0;
-  std::vector<std::uint64_t> carriers_;  ///< by allele and block of slots
 };
 
 }  // namespace kaldo
