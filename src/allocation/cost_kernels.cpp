@@ -115,11 +115,12 @@ bool KeepCommonOfFew(const std::uint64_t* all, std::span<const GiverRows> loci,
                      std::span<std::uint64_t> left) {
   std::uint64_t seen = 0;
   std::uint64_t second = 0;  // not 0 when two bits or more were met
+  const GiverRows& a = loci.front();
+  const GiverRows& b = loci[loci.size() / 2];
+  const GiverRows& c = loci.back();
   for (std::size_t i = 0; i < left.size(); ++i) {
-    std::uint64_t common = all[i];
-    for (const GiverRows& locus : loci) {
-      common &= locus.first[i] | locus.second[i];
-    }
+    std::uint64_t common = all[i] & (a.first[i] | a.second[i]) & (b.first[i] | b.second[i]) &
+                           (c.first[i] | c.second[i]);
     left[i] = common;
     second |= (common & (common - 1)) | (seen != 0 ? common : 0);
     seen |= common;
@@ -135,7 +136,7 @@ HWY_EXPORT(MaskAtMostImpl);
 
 bool KeepCommon(const std::uint64_t* all, std::span<const GiverRows> loci,
                 std::span<std::uint64_t> left) {
-  if (left.size() < kFewWords) {
+  if (left.size() < kFewWords && loci.size() <= 3) {
     return KeepCommonOfFew(all, loci, left);
   }
   return HWY_DYNAMIC_DISPATCH(KeepCommonImpl)(all, loci.data(), loci.size(), left.data(),

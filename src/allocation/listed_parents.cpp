@@ -30,8 +30,8 @@ void ListedParents::Prepare(std::size_t parents) {
   marks_known_.resize(blocks);
 }
 
-bool ListedParents::ListPossible(const OffspringBounds& offspring) {
-  const auto possible = offspring.Possible().Bits();
+bool ListedParents::ListPossible(const PossibleParents& parents) {
+  const auto possible = parents.Bits();
   const std::size_t most = all_slots_.size() * kListPercent / 100;
   std::uint32_t* const slots = some_slots_.data();
   std::size_t count = 0;
@@ -50,8 +50,8 @@ bool ListedParents::ListPossible(const OffspringBounds& offspring) {
   return true;
 }
 
-void ListedParents::List(const OffspringBounds& offspring) {
-  if (!offspring.Possible().SomeImpossible() || !ListPossible(offspring)) {
+void ListedParents::List(const PossibleParents& possible) {
+  if (!possible.SomeImpossible() || !ListPossible(possible)) {
     slots_ = all_slots_.data();
     count_ = static_cast<std::uint32_t>(all_slots_.size());
   }

@@ -28,7 +28,7 @@ class ListedParents {
   void Prepare(std::size_t parents);
 
   /// Lists the parents for an offspring.
-  void List(const OffspringBounds& offspring);
+  void List(const PossibleParents& possible);
 
   std::uint32_t Count() const { return count_; }
   std::uint32_t SlotAt(std::uint32_t place) const { return slots_[place]; }
@@ -57,7 +57,7 @@ class ListedParents {
   }
 
  private:
-  bool ListPossible(const OffspringBounds& offspring);
+  bool ListPossible(const PossibleParents& parents);
   void AddUpCostsOfSome(OffspringBounds& offspring);
   bool AllListed() const { return slots_ == all_slots_.data(); }
 

@@ -10,17 +10,14 @@ namespace kaldo {
 void OffspringBounds::Prepare(const GenotypeTable& table, std::size_t parents,
                               std::span<const LocusIndex> loci,
                               std::span<const TransmissionMatrix> matrices) {
-  possible_.Prepare(table, parents, loci, matrices);
   bounds_.Prepare(table, parents, loci, matrices);
   mark_costs_ = MarkCosts(bounds_.SideRatio());
 }
 
-bool OffspringBounds::Collect(Slot offspring) {
-  if (!possible_.Find(offspring)) {
-    return false;
-  }
+void OffspringBounds::Collect(Slot offspring, const PossibleParents& possible) {
   bounds_.MakeRoom();
-  typed_ = possible_.TypedLoci();
+  typed_ = possible.TypedLoci();
+  possible_ = possible.Bits();
   mark_words_ = (typed_.size() + kLociPerMarkWord - 1) / kLociPerMarkWord;
   log_largest_ = 0;
   for (std::size_t i = 0; i < typed_.size(); ++i) {
@@ -31,7 +28,6 @@ bool OffspringBounds::Collect(Slot offspring) {
     costs_at_[i] = bounds.cost_of_class.data();
     log_largest_ += bounds.log_largest;
   }
-  return true;
 }
 
 void OffspringBounds::MarksOfParent(std::uint32_t parent, std::uint64_t* marks) const {
@@ -65,7 +61,7 @@ void OffspringBounds::AddUpCosts(std::uint16_t impossible, std::span<std::uint16
     }
     cost_rows_.push_back(bounds.costs.data());
   }
-  SumCosts(cost_rows_, possible_.Bits(), impossible, costs.data(), minima.data());
+  SumCosts(cost_rows_, possible_, impossible, costs.data(), minima.data());
 }
 
 double OffspringBounds::Likelihood(std::uint32_t one, std::uint32_t two) const {

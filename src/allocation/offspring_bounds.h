@@ -19,11 +19,9 @@ class OffspringBounds {
   void Prepare(const GenotypeTable& table, std::size_t parents, std::span<const LocusIndex> loci,
                std::span<const TransmissionMatrix> matrices);
 
-  /// Goes over to an offspring. False when fewer than two parents can have given something at all
-  /// of its loci: then no pair has any likelihood, and nothing else here may be asked.
-  bool Collect(Slot offspring);
-
-  const PossibleParents& Possible() const { return possible_; }
+  /// Goes over to an offspring, of which the possible parents are known already. They must outlive
+  /// what is asked about it.
+  void Collect(Slot offspring, const PossibleParents& possible);
 
   /// No likelihood is more than exp of this and of minus the costs of the two parents.
   double LogLargest() const { return 2 * log_largest_; }
@@ -48,13 +46,13 @@ class OffspringBounds {
   double Likelihood(std::uint32_t one, std::uint32_t two) const;
 
  private:
-  PossibleParents possible_;
   GenotypeBounds bounds_;
   MarkCosts mark_costs_;
   double log_largest_ = 0;
 
   // At the loci at which the offspring is typed:
   std::span<const std::uint32_t> typed_;
+  std::span<const std::uint64_t> possible_;
   std::size_t mark_words_ = 0;
   std::array<LocusBounds*, kMaxLoci> bounds_at_{};
   std::array<const LocusBounds::Scores*, kMaxLoci> scores_at_{};

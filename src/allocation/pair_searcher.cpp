@@ -64,6 +64,8 @@ void PairSearcher::Prepare(const GenotypeTable& table, std::size_t parents,
   parents_ = static_cast<std::uint32_t>(parents);
   scores_ = TransmissionScores(0, 0);
   if (parents > kFewToScan) {
+    possible_.Prepare(table, parents, loci, matrices);
+    direct_.Prepare(table, parents, loci, matrices);
     bounds_.Prepare(table, parents, loci, matrices);
     listed_.Prepare(parents);
     partner_minima_.resize(parents / kBlock + 1);
@@ -235,7 +237,10 @@ void PairSearcher::MultiplyAll(const CandidateGroup& slots, KeptPairs& kept) {
   for (std::uint32_t parent = group.first.begin; parent < group.first.end; ++parent) {
     const SlotRange partners = PartnersOf(candidates_.flow, group, parent);
     for (std::uint32_t partner = partners.begin; partner < partners.end; ++partner) {
-      if (Multiply(parent, partner, kept) == AfterPair::kLeaveRow) {
+      const ParentPair pair{Slot{listed_.SlotAt(parent)}, Slot{listed_.SlotAt(partner)}};
+      const double likelihood =
+          direct_.Of(offspring_, possible_.TypedLoci(), pair.parent1, pair.parent2);
+      if (kept.Matters(likelihood) && kept.Show(pair, likelihood) == AfterPair::kLeaveRow) {
         break;
       }
     }
@@ -256,11 +261,11 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
     return ScanPairs(scores_, candidates_, observer);
   }
   KeptPairs kept(candidates_.flow, candidates_.names);
-  if (!bounds_.Collect(offspring)) {
+  if (!possible_.Find(offspring)) {
     ++work_.without_two_parents;
     return OutcomeOf(kept);
   }
-  listed_.List(bounds_);
+  listed_.List(possible_);
   if (listed_.Count() <= kFewToMultiply) {
     ++work_.among_three;
     for (const CandidateGroup& group : candidates_.groups) {
@@ -268,6 +273,7 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
     }
     return OutcomeOf(kept);
   }
+  bounds_.Collect(offspring, possible_);
   listed_.AddUpCosts(bounds_);
   work_.among_some += listed_.Count() < parents_ ? 1 : 0;
   scores_are_known_ = false;

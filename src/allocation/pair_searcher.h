@@ -6,9 +6,11 @@
 #include <span>
 #include <vector>
 
+#include "allocation/direct_likelihood.h"
 #include "allocation/listed_parents.h"
 #include "allocation/offspring_bounds.h"
 #include "allocation/pair_scan.h"
+#include "allocation/possible_parents.h"
 
 namespace kaldo {
 
@@ -63,6 +65,8 @@ class PairSearcher {
   std::vector<LocusIndex> loci_;
   Candidates candidates_;
   std::uint32_t parents_ = 0;
+  PossibleParents possible_;
+  DirectLikelihood direct_;
   OffspringBounds bounds_;
   ListedParents listed_;
   Work work_;

@@ -43,7 +43,7 @@ void PossibleParents::AddLocus(std::span<const LocusGenotype> parents,
 void PossibleParents::Prepare(const GenotypeTable& table, std::size_t parents,
                               std::span<const LocusIndex> loci,
                               std::span<const TransmissionMatrix> matrices) {
-  parents_ = static_cast<std::uint32_t>(parents);
+  individuals_ = table.NumberOfIndividuals();
   const std::size_t words = (parents + kBlock - 1) / kBlock;
   some_.resize(words);
   all_.assign(words, ~std::uint64_t{0});
@@ -66,21 +66,20 @@ bool PossibleParents::KeepGivers(std::size_t loci) {
 
 bool PossibleParents::Find(Slot offspring) {
   left_ = all_.data();
-  typed_count_ = 0;
+  std::size_t typed = 0;
   std::size_t pending = 0;
   const std::size_t words = all_.size();
+  const std::size_t ahead = std::min<std::size_t>(offspring.Value() + kAhead, individuals_ - 1);
   for (std::uint32_t k = 0; k < loci_.size(); ++k) {
     const Locus& locus = loci_[k];
-    const std::size_t ahead =
-        std::min<std::size_t>(offspring.Value() + kAhead, locus.genotypes.size() - 1);
     hwy::Prefetch(&locus.genotypes[ahead]);
     const LocusGenotype& genotype = locus.genotypes[offspring.Value()];
     // A missing locus multiplies every likelihood by exactly 1.
     if (genotype.IsMissing()) {
       continue;
     }
-    typed_[typed_count_] = k;
-    ++typed_count_;
+    typed_[typed] = k;
+    ++typed;
     if (locus.all_give_any) {
       continue;
     }
@@ -95,6 +94,7 @@ bool PossibleParents::Find(Slot offspring) {
       pending = 0;
     }
   }
+  typed_count_ = typed;
   return pending == 0 || KeepGivers(pending);
 }
 

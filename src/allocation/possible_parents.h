@@ -29,8 +29,6 @@ class PossibleParents {
   /// likelihood, and nothing else here may be asked.
   bool Find(Slot offspring);
 
-  std::uint32_t Parents() const { return parents_; }
-
   /// The loci of the run at which the offspring is typed, by their place in the run.
   std::span<const std::uint32_t> TypedLoci() const { return std::span(typed_).first(typed_count_); }
 
@@ -52,7 +50,7 @@ class PossibleParents {
   void AddLocus(std::span<const LocusGenotype> parents, const TransmissionMatrix& matrix);
   bool KeepGivers(std::size_t loci);
 
-  std::uint32_t parents_ = 0;
+  std::size_t individuals_ = 0;
   std::vector<Locus> loci_;
   std::vector<std::uint64_t> carriers_;  ///< by allele and block, of the locus at hand
   std::vector<std::uint64_t> givers_;    ///< by locus, allele and block of slots
