@@ -66,14 +66,16 @@ inline MarkClash CompareMarks(std::span<const std::uint64_t> wanted, const std::
         (bits & kFirst) * kFirst >> (kMarkBits * (kLociPerMarkWord - 1)) & kOneLocus);
   };
   MarkClash clash;
-  std::uint64_t never = 0;
+  std::uint64_t agreed = 0;
   for (std::size_t i = 0; i < wanted.size(); ++i) {
+    agreed |= wanted[i] & marks[i];
+  }
+  clash.is_impossible = (agreed & kNever) != 0;
+  for (std::size_t i = 0; i < wanted.size() && !clash.is_impossible; ++i) {
     const std::uint64_t both = wanted[i] & marks[i];
-    never |= both & kNever;
     clash.same_only += kCount(both | both >> 1U);
     clash.one_either += kCount(both >> 2U | both >> 3U);
   }
-  clash.is_impossible = never != 0;
   return clash;
 }
 
