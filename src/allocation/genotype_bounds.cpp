@@ -8,9 +8,6 @@ namespace kaldo {
 
 namespace {
 
-// Memory for the bounds of all genotypes met.
-constexpr std::size_t kBytes = std::size_t{128} << 20U;
-
 // A class is one-sided at a ratio of its scores of no less than this.
 constexpr double kLeastSideRatio = 0x1p-10;
 constexpr double kLargestSideRatio = 0.25;
@@ -74,7 +71,7 @@ void GenotypeBounds::LimitMemory(std::size_t parents) {
   // Per class its scores, a cost and marks; per parent a cost.
   const std::size_t bytes_each =
       sizeof(LocusBounds) + classes * (sizeof(LocusBounds::Scores) + 2) + parents;
-  most_ = std::max(kBytes / bytes_each, loci_.size());
+  most_ = std::max(bytes_ / bytes_each, loci_.size());
 }
 
 void GenotypeBounds::MakeRoom() {

@@ -19,6 +19,11 @@ namespace kaldo {
 /// but no more memory.
 class GenotypeBounds {
  public:
+  /// Memory that the bounds may take before they start anew.
+  static constexpr std::size_t kBytes = std::size_t{128} << 20U;
+
+  explicit GenotypeBounds(std::size_t bytes = kBytes) : bytes_(bytes) {}
+
   /// All that is passed must outlive the object, and no individual may be added to the table.
   void Prepare(const GenotypeTable& table, std::size_t parents, std::span<const LocusIndex> loci,
                std::span<const TransmissionMatrix> matrices);
@@ -73,7 +78,8 @@ class GenotypeBounds {
   double side_ratio_ = 0;
   std::vector<LocusBounds> bounds_;
   std::size_t in_use_ = 0;
-  std::size_t most_ = 0;
+  std::size_t bytes_;
+  std::size_t most_ = 0;  ///< bounds in so many bytes
 };
 
 }  // namespace kaldo

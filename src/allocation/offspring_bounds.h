@@ -15,6 +15,8 @@ namespace kaldo {
 /// What the collected parents can have given to one offspring, over all its loci.
 class OffspringBounds {
  public:
+  explicit OffspringBounds(std::size_t bytes = GenotypeBounds::kBytes) : bounds_(bytes) {}
+
   /// For the arguments see GenotypeBounds.
   void Prepare(const GenotypeTable& table, std::size_t parents, std::span<const LocusIndex> loci,
                std::span<const TransmissionMatrix> matrices);

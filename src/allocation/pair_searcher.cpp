@@ -62,7 +62,6 @@ void PairSearcher::Prepare(const GenotypeTable& table, std::size_t parents,
   loci_.assign(loci.begin(), loci.end());
   candidates_ = candidates;
   parents_ = static_cast<std::uint32_t>(parents);
-  scores_ = TransmissionScores(0, 0);
   if (parents > kFewToScan) {
     possible_.Prepare(table, parents, loci, matrices);
     direct_.Prepare(table, parents, loci, matrices);
@@ -150,12 +149,16 @@ bool PairSearcher::IsCrowded(std::uint32_t first_parent, SlotRange partners) con
   return within * kPlainShare >= slots;
 }
 
+void PairSearcher::ScoreParents() {
+  if (scores_.Loci() != loci_.size() || scores_.R(0).size() != parents_) {
+    scores_ = TransmissionScores(loci_.size(), parents_);
+  }
+  ComputeTransmissionScores(*table_, offspring_, loci_, matrices_, scores_);
+}
+
 void PairSearcher::ScanRowPlainly(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept) {
   if (!scores_are_known_) {
-    if (scores_.Loci() == 0) {
-      scores_ = TransmissionScores(loci_.size(), parents_);
-    }
-    ComputeTransmissionScores(*table_, offspring_, loci_, matrices_, scores_);
+    ScoreParents();
     scores_are_known_ = true;
   }
   ++work_.plain_rows;
@@ -253,11 +256,7 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
   }
   offspring_ = offspring;
   if (parents_ <= kFewToScan) {
-    ++work_.plain_scans;
-    if (scores_.Loci() == 0) {
-      scores_ = TransmissionScores(loci_.size(), parents_);
-    }
-    ComputeTransmissionScores(*table_, offspring, loci_, matrices_, scores_);
+    ScoreParents();
     return ScanPairs(scores_, candidates_, observer);
   }
   KeptPairs kept(candidates_.flow, candidates_.names);
@@ -275,7 +274,6 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
   }
   bounds_.Collect(offspring, possible_);
   listed_.AddUpCosts(bounds_);
-  work_.among_some += listed_.Count() < parents_ ? 1 : 0;
   scores_are_known_ = false;
   plain_rows_left_ = 0;
   plain_rows_next_ = kFewestPlainRows;

@@ -27,15 +27,16 @@ namespace kaldo {
 /// One object serves one thread. Memory grows with the genotypes met: at most about 160 MB.
 class PairSearcher {
  public:
-  /// What the searches did: how often each way was taken.
+  /// How often some ways were taken that only matter to the time of a search.
   struct Work {
     std::uint64_t without_two_parents = 0;  ///< fewer than two parents can have given something
-    std::uint64_t among_three = 0;          ///< of at most three parents every pair was multiplied
-    std::uint64_t among_some = 0;           ///< the possible parents were listed
-    std::uint64_t plain_rows = 0;           ///< rows of other searches that were scanned plainly
-    std::uint64_t plain_scans = 0;          ///< few parents in all
-    std::uint64_t multiplied = 0;           ///< pairs multiplied out beside plain rows and scans
+    std::uint64_t among_three = 0;          ///< so few possible parents that all were multiplied
+    std::uint64_t multiplied = 0;           ///< pairs that were multiplied out one by one
+    std::uint64_t plain_rows = 0;           ///< rows scanned plainly
   };
+
+  /// `bytes` is the memory for the bounds of genotypes.
+  explicit PairSearcher(std::size_t bytes = GenotypeBounds::kBytes) : bounds_(bytes) {}
 
   /// Prepares for a run over `loci` of an indexed table; `matrices` has one per locus of the
   /// names-of-loci file. All of them must outlive the searches, and the table keep its size. May be
@@ -55,6 +56,7 @@ class PairSearcher {
   bool IsCrowded(std::uint32_t first_parent, SlotRange partners) const;
   void ScanRowPlainly(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept);
   void MultiplyAll(const CandidateGroup& group, KeptPairs& kept);
+  void ScoreParents();
   bool MarksAllow(std::uint32_t first_parent, std::uint32_t partner, std::int32_t cost);
   AfterPair Multiply(std::uint32_t first_parent, std::uint32_t partner, KeptPairs& kept);
   void Tighten(double best);
