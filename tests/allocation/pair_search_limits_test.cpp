@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Searches in which a bound on a likelihood says nothing: the pair that it would rule out is the
 // one to be found.
+#include <cmath>
+
 #include <gtest/gtest.h>
 
 #include "allocation/pair_searcher.h"
@@ -65,32 +67,36 @@ class WrittenStudy {
 TEST(PairSearchLimits, LikelihoodsNearTheSmallestNumberAreAllMultipliedOut) {
   constexpr std::uint32_t kLoci = 50;
   constexpr std::uint32_t kParents = 40;
-  constexpr std::uint32_t kRead = 200;      // the allele of the offspring that tells pairs apart
-  constexpr std::uint32_t kOther = 300;     // its other one
-  constexpr std::uint32_t kFar = 400;       // read as neither of them
-  constexpr std::uint32_t kTwoSteps = 204;  // read as kRead once in 1e54
+  constexpr std::uint32_t kLost = 24;     // loci at which the early pair comes down
+  constexpr std::uint32_t kRaising = 38;  // from here on every pair has a factor of 2.2
+  constexpr std::uint32_t kOne = 200;     // the alleles of the offspring
+  constexpr std::uint32_t kOther = 300;
+  constexpr std::uint32_t kFar = 400;  // never read as one of them
   ErrorModel model;
-  model.minus2 = model.plus2 = 0x1p-179;
-  model.minus1 = model.plus1 = 0.2;
-  model.focal = 0.6;
+  model.minus2 = model.plus2 = std::exp2(-23.35);
+  model.minus1 = model.plus1 = 0.24;
+  model.focal = 0.52;
 
   WrittenStudy study(kParents, kLoci);
   for (std::uint32_t locus = 0; locus < kLoci; ++locus) {
-    const bool is_raising = locus >= 36 && locus < 44;  // a factor of 2.88 for every pair
-    study.Type(study.Offspring(), locus, kRead, is_raising ? kRead : kOther);
-    for (std::uint32_t slot = 0; slot < kParents; ++slot) {
-      // Even slots give the first allele, odd ones the other, once or twice.
-      const bool is_late = slot < 2;
-      const bool is_lost = slot % 2 == 0 && (is_late ? locus >= 44 : locus < 6);
-      const std::uint32_t given = slot % 2 == 0 || is_raising ? kRead : kOther;
-      const bool is_single = slot % 2 == 1 && !is_raising && !(is_late && locus % 4 == 0);
-      study.Type(Slot{slot}, locus, is_lost ? kTwoSteps : given,
-                 is_lost     ? kTwoSteps
-                 : is_single ? kFar
-                             : given);
+    const std::uint32_t second = locus < kRaising ? kOther : kOne;
+    study.Type(study.Offspring(), locus, kOne, second);
+    // A unit distance of 2, and nothing to give.
+    for (std::uint32_t slot = 4; slot < kParents; ++slot) {
+      study.Type(Slot{slot}, locus, kFar, kFar + 2);
     }
-    // The unit distance is the smallest step between two alleles of the locus.
-    study.Type(Slot{kParents - 1}, locus, 202, kFar);
+    for (const bool is_late : {true, false}) {
+      const Slot first_parent{is_late ? 0U : 2U};
+      const Slot partner{is_late ? 1U : 3U};
+      if (is_late ? locus > kLost + 2 : locus < kLost) {
+        study.Type(first_parent, locus, kOne + 4, kOne + 4);
+        study.Type(partner, locus, second + 4, second + 4);
+        continue;
+      }
+      const bool is_weak = is_late && locus < kLost - 2;
+      study.Type(first_parent, locus, kOne, is_weak ? kFar : kOne);
+      study.Type(partner, locus, second, locus < kRaising ? kFar : second);
+    }
   }
   const std::vector<CandidateGroup> groups = {{{0, 2}, {0, 2}}, {{2, 4}, {2, 4}}};
   const AllocationOutcome late = study.Search(model, std::span(groups).first(1));

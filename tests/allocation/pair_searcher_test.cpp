@@ -3,6 +3,7 @@
 #include "allocation/pair_searcher.h"
 
 #include <array>
+#include <bit>
 #include <hwy/targets.h>
 #include <map>
 
@@ -172,6 +173,32 @@ TEST(PairSearcher, FindsTheSameWithEveryKindOfVector) {
     Coverage coverage;
     CompareShape({150, 12, 12, 6, true, true}, 90, 6, coverage);
     EXPECT_GT(coverage["one pair"], 0) << hwy::TargetName(target);
+  }
+  hwy::SetSupportedTargetsForTest(0);
+}
+
+/// Few bits, anywhere, among fewer words than a vector holds and more.
+TEST(CostKernels, TellWhetherTwoParentsAreLeft) {
+  RandomStudyMaker random(10);
+  for (const auto target : hwy::SupportedAndGeneratedTargets()) {
+    hwy::SetSupportedTargetsForTest(target);
+    for (int round = 0; round < 3'000; ++round) {
+      const std::uint32_t words = random.Draw(1, 40);
+      std::vector<std::uint64_t> all(words);
+      for (std::uint32_t bits = random.Draw(0, 3); bits > 0; --bits) {
+        all[random.Draw(0, words - 1)] |= std::uint64_t{1} << random.Draw(0, 63);
+      }
+      int left = 0;
+      for (const std::uint64_t word : all) {
+        left += std::popcount(word);
+      }
+      const std::vector<std::uint64_t> everybody(words, ~std::uint64_t{0});
+      const std::vector<std::uint64_t> nobody(words);
+      const std::vector<GiverRows> loci(random.Draw(1, 3), {everybody.data(), nobody.data()});
+      const std::vector<std::uint64_t> before = all;
+      EXPECT_EQ(KeepCommon(all.data(), loci, all), left >= 2);
+      EXPECT_EQ(all, before);
+    }
   }
   hwy::SetSupportedTargetsForTest(0);
 }
