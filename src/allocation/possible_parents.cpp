@@ -2,6 +2,8 @@
 #include "allocation/possible_parents.h"
 
 #include <algorithm>
+#include <cassert>
+#include <functional>
 #include <hwy/cache_control.h>
 
 namespace kaldo {
@@ -43,6 +45,7 @@ void PossibleParents::AddLocus(std::span<const LocusGenotype> parents,
 void PossibleParents::Prepare(const GenotypeTable& table, std::size_t parents,
                               std::span<const LocusIndex> loci,
                               std::span<const TransmissionMatrix> matrices) {
+  assert(loci.size() <= kMaxLoci);
   individuals_ = table.NumberOfIndividuals();
   const std::size_t words = (parents + kBlock - 1) / kBlock;
   some_.resize(words);
