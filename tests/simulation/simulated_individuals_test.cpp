@@ -145,7 +145,7 @@ TEST(ReadingTable, ReadsWhatTransmitReadsForEveryDraw) {
   std::uniform_real_distribution<> share(0, 1);
   ReadingTable table;
   for (int round = 0; round < 600; ++round) {
-    const UnitDraw draw(1 + round % 4);
+    const UnitDraw draw(static_cast<std::size_t>(1 + round % 4));
     const std::size_t alleles = 1 + random() % 12;
     TransmissionMatrix matrix(alleles);
     for (std::size_t i = 0; i < alleles; ++i) {
