@@ -8,8 +8,8 @@
 // "portable" leaves out every vector instruction that not all processors of the kind have; a model
 // of "" stands for all.
 #include <array>
-#include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <hwy/targets.h>
 #include <random>
 #include <string_view>
@@ -137,10 +137,9 @@ class Study {
   std::vector<CandidateGroup> groups_;
 };
 
-using Clock = std::chrono::steady_clock;
-
-double Microseconds(Clock::time_point since) {
-  return std::chrono::duration<double, std::micro>(Clock::now() - since).count();
+/// Time of the processor: other programs on the machine do not count.
+double Microseconds(std::clock_t since) {
+  return 1e6 * static_cast<double>(std::clock() - since) / CLOCKS_PER_SEC;
 }
 
 bool SameSearch(const AllocationOutcome& a, const AllocationOutcome& b) {
@@ -157,7 +156,7 @@ void Row(const Shape& shape, std::string_view name, const ErrorModel& model,
   const RunObserver observer;
 
   std::vector<AllocationOutcome> of_scan(scanned);
-  const auto scan_start = Clock::now();
+  const auto scan_start = std::clock();
   TransmissionScores scores(shape.loci, parents);
   for (std::uint32_t i = 0; i < scanned; ++i) {
     ComputeTransmissionScores(study.Table(), study.Offspring(i), study.Loci(), matrices, scores);
@@ -166,7 +165,7 @@ void Row(const Shape& shape, std::string_view name, const ErrorModel& model,
   const double scan = Microseconds(scan_start) / scanned;
 
   std::vector<AllocationOutcome> of_search(searched);
-  const auto search_start = Clock::now();
+  const auto search_start = std::clock();
   PairSearcher searcher;
   searcher.Prepare(study.Table(), parents, study.Loci(), matrices, study.Parents());
   for (std::uint32_t i = 0; i < searched; ++i) {

@@ -17,27 +17,40 @@ namespace hn = hwy::HWY_NAMESPACE;
 using Sums = hn::ScalableTag<std::uint16_t>;
 using Words = hn::ScalableTag<std::uint64_t>;
 
-void AndAllImpl(const std::uint64_t* const* rows, std::size_t count, std::uint64_t* all,
-                std::size_t words) {
+bool KeepCommonImpl(const std::uint64_t* all, const GiverRows* loci, std::size_t count,
+                    std::uint64_t* left, std::size_t words) {
   const Words tag;
   const std::size_t lanes = hn::Lanes(tag);
+  const auto zero = hn::Zero(tag);
+  const auto one = hn::Set(tag, 1);
+  auto seen = zero;    // of each lane, all bits met
+  auto second = zero;  // not 0 in a lane that has met two bits or more
   std::size_t i = 0;
   for (; i + lanes <= words; i += lanes) {
-    auto common = hn::LoadU(tag, rows[0] + i);
-    // Where nobody is left, further rows change nothing.
-    for (std::size_t row = 1; row < count && !hn::AllTrue(tag, hn::Eq(common, hn::Zero(tag)));
-         ++row) {
-      common = hn::And(common, hn::LoadU(tag, rows[row] + i));
+    auto common = hn::LoadU(tag, all + i);
+    for (std::size_t k = 0; k < count; ++k) {
+      const auto either =
+          hn::Or(hn::LoadU(tag, loci[k].first + i), hn::LoadU(tag, loci[k].second + i));
+      common = hn::And(common, either);
     }
-    hn::StoreU(common, tag, all + i);
+    hn::StoreU(common, tag, left + i);
+    const auto without_lowest = hn::And(common, hn::Sub(common, one));
+    const auto as_well = hn::IfThenZeroElse(hn::Eq(seen, zero), common);
+    second = hn::Or(second, hn::Or(without_lowest, as_well));
+    seen = hn::Or(seen, common);
   }
+  bool two = !hn::AllTrue(tag, hn::Eq(second, zero));
+  std::size_t met = lanes - hn::CountTrue(tag, hn::Eq(seen, zero));
   for (; i < words; ++i) {
-    std::uint64_t common = rows[0][i];
-    for (std::size_t row = 1; row < count; ++row) {
-      common &= rows[row][i];
+    std::uint64_t common = all[i];
+    for (std::size_t k = 0; k < count; ++k) {
+      common &= loci[k].first[i] | loci[k].second[i];
     }
-    all[i] = common;
+    left[i] = common;
+    two = two || (common & (common - 1)) != 0;
+    met += common != 0 ? 1 : 0;
   }
+  return two || met > 1;
 }
 
 void SumCostsImpl(const std::uint8_t* const* rows, std::size_t count, const std::uint64_t* possible,
@@ -93,12 +106,41 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 namespace kaldo {
 
-HWY_EXPORT(AndAllImpl);
+namespace {
+
+// For fewer words than this, finding the code for the processor takes longer than the words do.
+constexpr std::size_t kFewWords = 8;
+
+bool KeepCommonOfFew(const std::uint64_t* all, std::span<const GiverRows> loci,
+                     std::span<std::uint64_t> left) {
+  std::uint64_t seen = 0;
+  std::uint64_t second = 0;  // not 0 when two bits or more were met
+  const GiverRows& a = loci.front();
+  const GiverRows& b = loci[loci.size() / 2];
+  const GiverRows& c = loci.back();
+  for (std::size_t i = 0; i < left.size(); ++i) {
+    std::uint64_t common = all[i] & (a.first[i] | a.second[i]) & (b.first[i] | b.second[i]) &
+                           (c.first[i] | c.second[i]);
+    left[i] = common;
+    second |= (common & (common - 1)) | (seen != 0 ? common : 0);
+    seen |= common;
+  }
+  return second != 0;
+}
+
+}  // namespace
+
+HWY_EXPORT(KeepCommonImpl);
 HWY_EXPORT(SumCostsImpl);
 HWY_EXPORT(MaskAtMostImpl);
 
-void AndAll(std::span<const std::uint64_t* const> rows, std::span<std::uint64_t> all) {
-  HWY_DYNAMIC_DISPATCH(AndAllImpl)(rows.data(), rows.size(), all.data(), all.size());
+bool KeepCommon(const std::uint64_t* all, std::span<const GiverRows> loci,
+                std::span<std::uint64_t> left) {
+  if (left.size() < kFewWords && loci.size() <= 3) {
+    return KeepCommonOfFew(all, loci, left);
+  }
+  return HWY_DYNAMIC_DISPATCH(KeepCommonImpl)(all, loci.data(), loci.size(), left.data(),
+                                              left.size());
 }
 
 void SumCosts(std::span<const std::uint8_t* const> rows, std::span<const std::uint64_t> possible,

@@ -13,8 +13,16 @@ inline constexpr std::size_t kBlock = 64;
 // The inner loops of the pair search. They work on integers and masks only, so that every processor
 // gives the same result; the widest vectors that the machine has are chosen when the program runs.
 
-/// all = the words that every one of the bit rows has in common, at least one row.
-void AndAll(std::span<const std::uint64_t* const> rows, std::span<std::uint64_t> all);
+/// The parents that can have given the first and the second allele at one locus, bit by slot.
+struct GiverRows {
+  const std::uint64_t* first;
+  const std::uint64_t* second;
+};
+
+/// Keeps, of the parents in `all`, those that can have given one of the two alleles at all of the
+/// loci. Tells whether two or more are left. `all` and `left` may be the same.
+bool KeepCommon(const std::uint64_t* all, std::span<const GiverRows> loci,
+                std::span<std::uint64_t> left);
 
 /// Adds up the costs of every parent over the rows, and finds the smallest sum of each block. A
 /// parent whose bit in `possible` (a word per block) is not set gets `impossible`.

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "allocation/cost_kernels.h"
+#include "allocation/giving_marks.h"
 #include "genotypes/capacities.h"
 
 namespace kaldo {
@@ -34,9 +35,42 @@ double LogLength(double r, double j) {
   return std::log(larger) + 0.5 * std::log1p(ratio * ratio);
 }
 
+/// Logarithms of lengths and marks of the last few scores: under every model of error most classes
+/// share theirs.
+class Measures {
+ public:
+  struct Measure {
+    LocusBounds::Scores scores;
+    double log_length;
+    std::uint8_t marks;
+  };
+
+  explicit Measures(double side_ratio) : side_ratio_(side_ratio) {}
+
+  const Measure& Of(LocusBounds::Scores scores) {
+    for (std::size_t i = 0; i < in_use_; ++i) {
+      if (known_[i].scores.r == scores.r && known_[i].scores.j == scores.j) {
+        return known_[i];
+      }
+    }
+    Measure& measure = known_[next_];
+    next_ = (next_ + 1) % known_.size();
+    in_use_ = std::min(in_use_ + 1, known_.size());
+    measure = {scores, LogLength(scores.r, scores.j), MarksOf(scores.r, scores.j, side_ratio_)};
+    return measure;
+  }
+
+ private:
+  double side_ratio_;
+  std::array<Measure, 8> known_;
+  std::size_t next_ = 0;
+  std::size_t in_use_ = 0;
+};
+
 std::uint8_t CostOf(double log_length, double log_largest) {
   const double cost = kCostsPerNat * (log_largest - log_length) - kRoundingMargin;
-  return static_cast<std::uint8_t>(std::clamp(std::floor(cost), 0.0, kLargestCost));
+  // Above 0, so that cutting off the fraction rounds down. No number is no cost.
+  return cost > 0 ? static_cast<std::uint8_t>(std::min(cost, kLargestCost)) : std::uint8_t{0};
 }
 
 }  // namespace
@@ -45,52 +79,30 @@ void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& 
                         AlleleIndex r, AlleleIndex j, double side_ratio) {
   const std::size_t classes = parents.Count();
   scores.resize(classes);
+  cost_of_class.resize(classes);
+  marks_of_class.resize(classes);
   std::array<double, kMostClasses> log_lengths;
+  Measures measures(side_ratio);
   log_largest = -std::numeric_limits<double>::infinity();
   for (std::size_t number = 0; number < classes; ++number) {
     const LocusGenotype& genotype = parents.Genotype(number);
     const std::size_t p1 = genotype.index1.Value();
     const std::size_t p2 = genotype.index2.Value();
     // The same sums as in the plain scan, so that products tie where they tie there.
-    const double to_r = matrix(p1, r.Value()) + matrix(p2, r.Value());
-    const double to_j = matrix(p1, j.Value()) + matrix(p2, j.Value());
-    scores[number] = {to_r, to_j, to_j <= side_ratio * to_r ? 1U : 0U,
-                      to_r <= side_ratio * to_j ? 1U : 0U};
-    log_lengths.at(number) = LogLength(to_r, to_j);
-    log_largest = std::max(log_largest, log_lengths.at(number));
+    scores[number] = {matrix(p1, r.Value()) + matrix(p2, r.Value()),
+                      matrix(p1, j.Value()) + matrix(p2, j.Value())};
+    const Measures::Measure& measure = measures.Of(scores[number]);
+    marks_of_class[number] = measure.marks;
+    log_lengths[number] = measure.log_length;
+    log_largest = std::max(log_largest, measure.log_length);
   }
   if (std::isinf(log_largest)) {
     log_largest = 0;  // nobody can have given anything
   }
-  costs.clear();
-  cost_of_class.resize(classes);
-  all_possible = true;
   for (std::size_t number = 0; number < classes; ++number) {
-    const bool is_possible = !std::isinf(log_lengths.at(number));
-    all_possible = all_possible && is_possible;
-    cost_of_class[number] = is_possible ? CostOf(log_lengths.at(number), log_largest) : 0;
+    cost_of_class[number] = CostOf(log_lengths[number], log_largest);
   }
-  if (!all_possible) {
-    FindPossibleParents(parents);
-  }
-}
-
-void LocusBounds::FindPossibleParents(const ParentClasses& parents) {
-  std::array<std::uint8_t, kMostClasses> possible_class;
-  for (std::size_t number = 0; number < scores.size(); ++number) {
-    possible_class.at(number) = scores[number].r != 0 || scores[number].j != 0 ? 1 : 0;
-  }
-  const auto of_parents = parents.OfParents();
-  possible.resize((of_parents.size() + kBlock - 1) / kBlock);
-  for (std::size_t block = 0; block < possible.size(); ++block) {
-    const std::size_t begin = block * kBlock;
-    const std::size_t count = std::min(kBlock, of_parents.size() - begin);
-    std::uint64_t word = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-      word |= std::uint64_t{possible_class[of_parents[begin + i]]} << i;
-    }
-    possible[block] = word;
-  }
+  costs.clear();
 }
 
 void LocusBounds::AddCostsOfParents(const ParentClasses& parents) {

@@ -18,36 +18,30 @@ inline constexpr double kCostsPerNat = 16;
 /// A factor of a likelihood, P_R1 P_J2 + P_J1 P_R2, is at most |v1| |v2| with v = (P_R, P_J)
 /// (Cauchy-Schwarz). So each parent has a cost of its own, the logarithm of the largest |v| of the
 /// locus over its own |v|, and the costs of two parents together bound the logarithm of their
-/// factor. Costs are rounded down: a bound never promises too little.
+/// factor. Costs are rounded down: a bound never promises too little. Marks tell where the factor
+/// of two parents is smaller still.
 struct LocusBounds {
-  /// P_R and P_J of a class of parents, and whether it can hardly have given J, or R.
+  /// P_R and P_J of a class of parents.
   struct Scores {
     double r = 0;
     double j = 0;
-    std::uint32_t hardly_j = 0;
-    std::uint32_t hardly_r = 0;
   };
-  std::vector<Scores> scores;  ///< by class
 
+  double log_largest = 0;      ///< logarithm of the largest |v|
+  std::vector<Scores> scores;  ///< by class
   std::vector<std::uint8_t> cost_of_class;
-  std::vector<std::uint64_t> possible;  ///< bit by slot: the parent can have given something
-  bool all_possible = true;
-  double log_largest = 0;  ///< logarithm of the largest |v|
+  std::vector<std::uint8_t> marks_of_class;  ///< see giving_marks.h
 
   /// Costs by slot, up to a multiple of kBlock; empty until AddCostsOfParents().
   std::vector<std::uint8_t> costs;
 
-  /// Works out all but the costs of the single parents. A class can hardly have given an allele
-  /// where its score for it is at most `side_ratio` times the other one. The two alleles may be
-  /// exchanged: the factor of a pair stays the same to the last bit.
+  /// Works out all but the costs of the single parents. The two alleles may be exchanged: the
+  /// factor of a pair stays the same to the last bit. For `side_ratio` see MarkCosts.
   void Build(const ParentClasses& parents, const TransmissionMatrix& matrix, AlleleIndex r,
              AlleleIndex j, double side_ratio);
 
   /// Spreads the costs of the classes over the parents, when they are first wanted.
   void AddCostsOfParents(const ParentClasses& parents);
-
- private:
-  void FindPossibleParents(const ParentClasses& parents);
 };
 
 }  // namespace kaldo

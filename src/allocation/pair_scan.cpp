@@ -39,9 +39,10 @@ void MultiplyLoci(const TransmissionScores& scores, std::size_t first_parent, st
   }
 }
 
-/// Shows the pairs of one first parent until its row is over or left.
-void ScanRow(const TransmissionScores& scores, std::uint32_t first_parent, SlotRange partners,
-             KeptPairs& kept) {
+}  // namespace
+
+void ScanRowOfPairs(const TransmissionScores& scores, std::uint32_t first_parent,
+                    SlotRange partners, KeptPairs& kept) {
   Likelihoods likelihoods;
   for (std::size_t begin = partners.begin; begin < partners.end; begin += kPartnersAtOnce) {
     const std::size_t count = std::min(kPartnersAtOnce, partners.end - begin);
@@ -58,8 +59,6 @@ void ScanRow(const TransmissionScores& scores, std::uint32_t first_parent, SlotR
   }
 }
 
-}  // namespace
-
 AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& candidates,
                             const RunObserver& observer) {
   assert(scores.Loci() > 0 && "a likelihood needs a locus");
@@ -69,7 +68,7 @@ AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& 
       if (observer.StopRequested()) {
         throw RunStopped();
       }
-      ScanRow(scores, parent, PartnersOf(candidates.flow, group, parent), kept);
+      ScanRowOfPairs(scores, parent, PartnersOf(candidates.flow, group, parent), kept);
     }
   }
   return OutcomeOf(kept);

@@ -31,6 +31,11 @@ struct Candidates {
 AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& candidates,
                             const RunObserver& observer);
 
+/// One row of that scan: `first_parent` with the partners given. `kept` holds what the scan has met
+/// before.
+void ScanRowOfPairs(const TransmissionScores& scores, std::uint32_t first_parent,
+                    SlotRange partners, KeptPairs& kept);
+
 /// The search part of an outcome.
 AllocationOutcome OutcomeOf(const KeptPairs& kept);
 

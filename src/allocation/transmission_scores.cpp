@@ -17,7 +17,7 @@ constexpr double kMissingJ = 0.5;
 using Column = std::array<double, kMaxAlleles>;
 
 Column ColumnOf(const TransmissionMatrix& matrix, AlleleIndex offspring_allele) {
-  Column column{};
+  Column column;  // only the first alleles are looked at
   for (std::size_t parental = 0; parental < matrix.Alleles(); ++parental) {
     column[parental] = matrix(parental, offspring_allele.Value());
   }

@@ -44,21 +44,24 @@ AlleleIndex Transmit(const TransmissionMatrix& matrix, AlleleIndex parental, dou
 
 void ProducePseudoOffspring(GenotypeTable& table, Slot offspring, ParentPair parents,
                             LocusFlags in_use, std::span<const TransmissionMatrix> matrices,
+                            std::span<const ReadingTable> readings,
                             std::span<const AlleleCatalogue> catalogues, const UnitDraw& draw,
                             RandomNumbers& random) {
   for (std::uint32_t l = 0; l < in_use.size(); ++l) {
     const LocusIndex locus{l};
     const std::uint32_t choice1 = random.Next();
     const std::uint32_t choice2 = random.Next();
-    const double reading1 = draw(random);
-    const double reading2 = draw(random);
+    const std::uint32_t reading1 = draw.Step(random);
+    const std::uint32_t reading2 = draw.Step(random);
     LocusGenotype genotype;
     if (in_use[l] != 0) {
       const auto sizes = catalogues[l].Sizes();
-      genotype.index1 =
-          Transmit(matrices[l], Chosen(table.Genotype(locus, parents.parent1), choice1), reading1);
-      genotype.index2 =
-          Transmit(matrices[l], Chosen(table.Genotype(locus, parents.parent2), choice2), reading2);
+      const auto read = [&](AlleleIndex parental, std::uint32_t step) {
+        return readings[l].IsEmpty() ? Transmit(matrices[l], parental, draw.At(step))
+                                     : readings[l].Read(parental, step);
+      };
+      genotype.index1 = read(Chosen(table.Genotype(locus, parents.parent1), choice1), reading1);
+      genotype.index2 = read(Chosen(table.Genotype(locus, parents.parent2), choice2), reading2);
       genotype.allele1 = sizes[genotype.index1.Value()];
       genotype.allele2 = sizes[genotype.index2.Value()];
     }

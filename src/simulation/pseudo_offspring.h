@@ -8,6 +8,7 @@
 #include "genotypes/allele_catalogue.h"
 #include "genotypes/genotype_table.h"
 #include "simulation/random_numbers.h"
+#include "simulation/reading_table.h"
 
 namespace kaldo {
 
@@ -34,9 +35,11 @@ AlleleIndex Transmit(const TransmissionMatrix& matrix, AlleleIndex parental, dou
 
 /// Makes one pseudo-offspring from its true parents, which must be indexed. Per locus the draws
 /// are: which allele of the first parent, which of the second, the reading of the first, that of
-/// the second. The first parent's allele comes first. `matrices` has one per locus of the list.
+/// the second. The first parent's allele comes first. `matrices` and `readings` have one per locus
+/// of the list; where a table of readings is empty the matrix is walked along.
 void ProducePseudoOffspring(GenotypeTable& table, Slot offspring, ParentPair parents,
                             LocusFlags in_use, std::span<const TransmissionMatrix> matrices,
+                            std::span<const ReadingTable> readings,
                             std::span<const AlleleCatalogue> catalogues, const UnitDraw& draw,
                             RandomNumbers& random);
 

@@ -46,8 +46,13 @@ class UnitDraw {
  public:
   explicit UnitDraw(std::size_t digits_per_allele);
 
-  double operator()(RandomNumbers& random) const {
-    return static_cast<double>(random.Next() % modulus_) / static_cast<double>(modulus_);
+  double operator()(RandomNumbers& random) const { return At(Step(random)); }
+
+  /// The same draw as a number of steps from 0, and what so many steps are.
+  std::uint32_t Steps() const { return modulus_; }
+  std::uint32_t Step(RandomNumbers& random) const { return random.Next() % modulus_; }
+  double At(std::uint32_t step) const {
+    return static_cast<double>(step) / static_cast<double>(modulus_);
   }
 
  private:

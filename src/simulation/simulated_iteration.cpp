@@ -43,6 +43,7 @@ SimulatedIteration::SimulatedIteration(const SimulationSettings& settings,
       table_(input.loci.Count()),
       catalogues_(input.loci.Count()),
       production_matrices_(input.loci.Count()),
+      readings_(input.loci.Count()),
       allocation_matrices_(input.loci.Count()),
       truth_(offspring_.Size()),
       outcomes_(offspring_.Size()) {
@@ -91,14 +92,33 @@ void SimulatedIteration::CatalogueParents() {
   }
 }
 
+void SimulatedIteration::WriteReadingsOut() {
+  std::size_t bytes = 0;
+  for (const LocusIndex locus : loci_.loci) {
+    bytes += production_matrices_[locus.Value()].Alleles() * draw_.Steps();
+  }
+  // Every offspring reads two alleles a locus. Filling sixteen bytes takes less than one walk.
+  const std::size_t walks = 2 * offspring_.Size() * loci_.loci.size();
+  const bool pays = bytes <= ReadingTable::kMostBytes && bytes <= 16 * walks;
+  for (const LocusIndex locus : loci_.loci) {
+    ReadingTable& readings = readings_[locus.Value()];
+    if (pays) {
+      readings.Build(production_matrices_[locus.Value()], draw_);
+    } else {
+      readings.Clear();
+    }
+  }
+}
+
 void SimulatedIteration::Produce(RandomNumbers& random) {
+  WriteReadingsOut();
   std::uint32_t next = 0;
   for (std::size_t k = 0; k < design_.classes.size(); ++k) {
     const TrueParentRanges ranges = RangesOf(design_.classes[k], input_);
     for (std::int32_t i = 0; i < input_.class_sizes[k]; ++i, ++next) {
       truth_[next] = DrawTrueParents(ranges, random);
       ProducePseudoOffspring(table_, Slot{offspring_.begin + next}, truth_[next], in_use_,
-                             production_matrices_, catalogues_, draw_, random);
+                             production_matrices_, readings_, catalogues_, draw_, random);
     }
   }
 }

@@ -10,6 +10,7 @@
 #include "genotypes/run_observer.h"
 #include "simulation/iteration_counts.h"
 #include "simulation/random_numbers.h"
+#include "simulation/reading_table.h"
 #include "simulation/simulation_input.h"
 
 namespace kaldo {
@@ -43,6 +44,7 @@ class SimulatedIteration {
  private:
   void DrawAllParents(RandomNumbers& random);
   void CatalogueParents();
+  void WriteReadingsOut();
   void Produce(RandomNumbers& random);
 
   const SimulationSettings& settings_;
@@ -59,6 +61,7 @@ class SimulatedIteration {
   GenotypeTable table_;
   AlleleCatalogues catalogues_;
   std::vector<TransmissionMatrix> production_matrices_;
+  std::vector<ReadingTable> readings_;
   std::vector<TransmissionMatrix> allocation_matrices_;
   PairSearcher searcher_;
   std::vector<ParentPair> truth_;

@@ -2,7 +2,8 @@
 // The production search against the plain scan, bit for bit, over a hundred thousand searches.
 #include "allocation/pair_searcher.h"
 
-#include <cmath>
+#include <array>
+#include <bit>
 #include <hwy/targets.h>
 #include <map>
 
@@ -50,6 +51,30 @@ void CoverSearch(const AllocationOutcome& outcome, Coverage& coverage) {
   coverage["near the smallest number"] += pairs > 0 && outcome.best_likelihood < 0x1p-900 ? 1 : 0;
 }
 
+/// The parents that have something to give at every locus.
+std::size_t PossibleParents(const TransmissionScores& scores, std::uint32_t parents) {
+  std::size_t possible = 0;
+  for (std::uint32_t parent = 0; parent < parents; ++parent) {
+    bool all = true;
+    for (std::size_t k = 0; k < scores.Loci(); ++k) {
+      all = all && (scores.R(k)[parent] != 0 || scores.J(k)[parent] != 0);
+    }
+    possible += all ? 1 : 0;
+  }
+  return possible;
+}
+
+std::string ShareOfParents(std::size_t possible, std::size_t parents) {
+  if (possible <= 3) {
+    return possible < 2 ? "fewer than two possible parents" : "two or three possible parents";
+  }
+  if (possible == parents) {
+    return "all parents possible";
+  }
+  const std::size_t percent = possible * 100 / parents;
+  return percent < 12 ? "few parents possible" : percent < 75 ? "many possible" : "most possible";
+}
+
 void CompareSearches(const RandomStudy& study, PairSearcher& searcher, Coverage& coverage) {
   const RunObserver observer;
   const Candidates candidates{study.flow, study.groups, study.table.Names()};
@@ -65,6 +90,9 @@ void CompareSearches(const RandomStudy& study, PairSearcher& searcher, Coverage&
     ASSERT_EQ(search.more_than_five, scan.more_than_five);
     ASSERT_EQ(search.best_likelihood, scan.best_likelihood);
     CoverSearch(scan, coverage);
+    if (study.parents > 100) {
+      ++coverage[ShareOfParents(PossibleParents(scores, study.parents), study.parents)];
+    }
     bool all_missing = true;
     for (const LocusIndex locus : study.loci) {
       all_missing = all_missing && study.table.Genotype(locus, offspring).IsMissing();
@@ -76,14 +104,16 @@ void CompareSearches(const RandomStudy& study, PairSearcher& searcher, Coverage&
 }
 
 /// Runs studies of one shape over all models, with one searcher that is prepared again and again.
-void CompareShape(const StudyShape& shape, int studies, unsigned seed, Coverage& coverage) {
+void CompareShape(const StudyShape& shape, int studies, unsigned seed, Coverage& coverage,
+                  std::size_t bytes = GenotypeBounds::kBytes) {
   // With 1e-81, 1e-108 and 1e-162 a few mismatches lead to the smallest numbers there are.
   const std::vector<ErrorModel> models = {
-      NoError(),      Uniform(0.02),   Uniform(0.1),        Uniform(1e-12),
-      Uniform(1e-81), Uniform(1e-108), Uniform(1e-162),     Uniform(-0.3),
-      Uniform(-5),    ErrorModel{},    NonUniform(0.02, 0), NonUniform(0, 1e-60)};
+      NoError(),          Uniform(0.02),     Uniform(0.1),         Uniform(1e-12),
+      Uniform(1e-81),     Uniform(1e-108),   Uniform(1e-162),      Uniform(-0.3),
+      Uniform(-5),        ErrorModel{},      NonUniform(0.02, 0),  NonUniform(0, 1e-60),
+      NonUniform(0.1, 0), NonUniform(0, .2), NonUniform(1e-90, .2)};
   RandomStudyMaker maker(seed);
-  PairSearcher searcher;
+  PairSearcher searcher(bytes);
   for (int round = 0; round < studies; ++round) {
     SCOPED_TRACE(round);
     const auto model = static_cast<std::size_t>(round) % models.size();
@@ -92,6 +122,10 @@ void CompareShape(const StudyShape& shape, int studies, unsigned seed, Coverage&
       return;
     }
   }
+  const PairSearcher::Work& work = searcher.WorkDone();
+  coverage["answered without a pair"] += static_cast<int>(work.without_two_parents);
+  coverage["answered from three parents"] += static_cast<int>(work.among_three);
+  coverage["rows scanned plainly"] += static_cast<int>(work.plain_rows);
 }
 
 void ExpectMet(Coverage& coverage, const std::vector<std::string>& what, int often) {
@@ -114,9 +148,21 @@ TEST(PairSearcher, FindsWhatTheScanFindsAmongManyParents) {
   Coverage coverage;
   CompareShape({500, 24, 12, 6, true, true}, 450, 3, coverage);
   CompareShape({300, 8, 12, 12, true, true}, 450, 4, coverage);
-  CompareShape({200, 50, 40, 4, true, true}, 180, 5, coverage);
-  ExpectMet(coverage, {"one pair", "tie", "mark", "several groups", "near the smallest number"},
+  CompareShape({200, 50, 40, 4, true, true}, 300, 5, coverage);
+  CompareShape({2'600, 16, 14, 3, true, true}, 90, 8, coverage);
+  ExpectMet(coverage,
+            {"one pair", "tie", "mark", "several groups", "near the smallest number",
+             "fewer than two possible parents", "two or three possible parents",
+             "few parents possible", "many possible", "most possible", "all parents possible",
+             "answered without a pair", "answered from three parents", "rows scanned plainly"},
             10);
+}
+
+/// No memory for bounds but those of one offspring: they start anew with each.
+TEST(PairSearcher, FindsTheSameInLittleMemory) {
+  Coverage coverage;
+  CompareShape({150, 12, 12, 6, true, true}, 150, 9, coverage, 0);
+  ExpectMet(coverage, {"one pair", "tie", "many possible", "all parents possible"}, 10);
 }
 
 /// The narrowest vectors that this machine knows give the same, so that a laptop agrees with a
@@ -131,6 +177,32 @@ TEST(PairSearcher, FindsTheSameWithEveryKindOfVector) {
   hwy::SetSupportedTargetsForTest(0);
 }
 
+/// Few bits, anywhere, among fewer words than a vector holds and more.
+TEST(CostKernels, TellWhetherTwoParentsAreLeft) {
+  RandomStudyMaker random(10);
+  for (const auto target : hwy::SupportedAndGeneratedTargets()) {
+    hwy::SetSupportedTargetsForTest(target);
+    for (int round = 0; round < 3'000; ++round) {
+      const std::uint32_t words = random.Draw(1, 40);
+      std::vector<std::uint64_t> all(words);
+      for (std::uint32_t bits = random.Draw(0, 3); bits > 0; --bits) {
+        all[random.Draw(0, words - 1)] |= std::uint64_t{1} << random.Draw(0, 63);
+      }
+      int left = 0;
+      for (const std::uint64_t word : all) {
+        left += std::popcount(word);
+      }
+      const std::vector<std::uint64_t> everybody(words, ~std::uint64_t{0});
+      const std::vector<std::uint64_t> nobody(words);
+      const std::vector<GiverRows> loci(random.Draw(1, 3), {everybody.data(), nobody.data()});
+      const std::vector<std::uint64_t> before = all;
+      EXPECT_EQ(KeepCommon(all.data(), loci, all), left >= 2);
+      EXPECT_EQ(all, before);
+    }
+  }
+  hwy::SetSupportedTargetsForTest(0);
+}
+
 TEST(CostKernels, AgreeWithPlainLoops) {
   RandomStudyMaker random(7);
   constexpr std::size_t kBlocks = 13;
@@ -138,7 +210,6 @@ TEST(CostKernels, AgreeWithPlainLoops) {
   std::vector<std::vector<std::uint8_t>> costs(kRows);
   std::vector<std::vector<std::uint64_t>> bits(kRows);
   std::vector<const std::uint8_t*> cost_rows;
-  std::vector<const std::uint64_t*> bit_rows;
   for (std::size_t row = 0; row < kRows; ++row) {
     for (std::size_t i = 0; i < kBlocks * kBlock; ++i) {
       costs[row].push_back(static_cast<std::uint8_t>(random.Draw(0, 255)));
@@ -148,19 +219,17 @@ TEST(CostKernels, AgreeWithPlainLoops) {
       bits[row].push_back(block % 3 == 0 ? 0 : word | random.Draw(0, 0xffffffff));
     }
     cost_rows.push_back(costs[row].data());
-    bit_rows.push_back(bits[row].data());
   }
   std::vector<std::uint64_t> all(kBlocks);
-  AndAll(bit_rows, all);
+  const std::array<GiverRows, 2> loci = {
+      {{bits[2].data(), bits[3].data()}, {bits[4].data(), bits[5].data()}}};
+  KeepCommon(bits[1].data(), loci, all);
   std::vector<std::uint16_t> sums(kBlocks * kBlock);
   std::vector<std::uint16_t> minima(kBlocks);
   SumCosts(cost_rows, bits[0], 0xffff, sums.data(), minima.data());
   for (std::size_t block = 0; block < kBlocks; ++block) {
-    std::uint64_t common = ~std::uint64_t{0};
-    for (const auto& row : bits) {
-      common &= row[block];
-    }
-    EXPECT_EQ(all[block], common);
+    EXPECT_EQ(all[block], bits[1][block] & (bits[2][block] | bits[3][block]) &
+                              (bits[4][block] | bits[5][block]));
     for (std::size_t i = block * kBlock; i < (block + 1) * kBlock; ++i) {
       int sum = 0;
       for (const auto& row : costs) {

@@ -2,6 +2,8 @@
 // Parents drawn from a sample and pseudo-offspring made from them, with draws followed by hand.
 // Seed 1 draws 41, 18467, 6334, 26500, 19169, 15724, 11478, 29358; as fractions of three digits
 // these are .041, .467, .334, .500, .169, .724, .478, .358.
+#include <array>
+#include <random>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -138,6 +140,33 @@ TEST(Transmit, StopsWhereTheRunningSumIsNotZeroAndReachesTheDraw) {
   EXPECT_EQ(received({-0.5, 1.5}, 0), 1) << "a negative sum reaches no draw";
 }
 
+TEST(ReadingTable, ReadsWhatTransmitReadsForEveryDraw) {
+  std::mt19937 random(20260301);
+  std::uniform_real_distribution<> share(0, 1);
+  ReadingTable table;
+  for (int round = 0; round < 600; ++round) {
+    const UnitDraw draw(static_cast<std::size_t>(1 + round % 4));
+    const std::size_t alleles = 1 + random() % 12;
+    TransmissionMatrix matrix(alleles);
+    for (std::size_t i = 0; i < alleles; ++i) {
+      for (std::size_t j = 0; j < alleles; ++j) {
+        // Sums that lie on the grid of the draws, beside it, at 0, below 0 and beyond 1.
+        const std::array<double, 5> values = {0, draw.At(static_cast<std::uint32_t>(random() % 5)),
+                                              share(random) / 4, 0.1, -0.05};
+        matrix(i, j) = values[random() % (round % 3 == 0 ? 5 : 4)];
+      }
+    }
+    table.Build(matrix, draw);
+    for (std::uint32_t step = 0; step < draw.Steps(); ++step) {
+      for (std::uint8_t parental = 0; parental < alleles; ++parental) {
+        ASSERT_EQ(table.Read(AlleleIndex{parental}, step),
+                  Transmit(matrix, AlleleIndex{parental}, draw.At(step)))
+            << round << ' ' << step;
+      }
+    }
+  }
+}
+
 TEST(ProducePseudoOffspring, DrawsBothChoicesAndThenBothReadingsAtEachLocus) {
   // Parents 0 and 1 at the second locus: 100102 and 104106. At the first one, not in use, four
   // numbers are drawn in vain. 19169 is odd: 102 of the first; 15724 is even: 104 of the second.
@@ -162,12 +191,18 @@ TEST(ProducePseudoOffspring, DrawsBothChoicesAndThenBothReadingsAtEachLocus) {
   const std::vector<TransmissionMatrix> matrices = {TransmissionMatrix(), matrix};
   const std::vector<AlleleCatalogue> catalogues = {AlleleCatalogue(), catalogue};
   const std::vector<std::uint8_t> in_use = {0, 1};
-  RandomNumbers random(1);
-  ProducePseudoOffspring(table, Slot{2}, {Slot{0}, Slot{1}}, in_use, matrices, catalogues,
-                         UnitDraw(3), random);
-  EXPECT_EQ(SizesOf(table, 0, 2), Sizes(0, 0));
-  EXPECT_EQ(SizesOf(table, 1, 2), Sizes(106, 102)) << "the allele of the first parent first";
-  EXPECT_EQ(random.State(), RandomJump(DrawsPerPseudoOffspring(2)).From(1));
+  std::vector<ReadingTable> readings(2);
+  for (const bool written_out : {false, true}) {
+    if (written_out) {
+      readings[1].Build(matrix, UnitDraw(3));
+    }
+    RandomNumbers random(1);
+    ProducePseudoOffspring(table, Slot{2}, {Slot{0}, Slot{1}}, in_use, matrices, readings,
+                           catalogues, UnitDraw(3), random);
+    EXPECT_EQ(SizesOf(table, 0, 2), Sizes(0, 0));
+    EXPECT_EQ(SizesOf(table, 1, 2), Sizes(106, 102)) << "the allele of the first parent first";
+    EXPECT_EQ(random.State(), RandomJump(DrawsPerPseudoOffspring(2)).From(1));
+  }
 }
 
 }  // namespace

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/giving_marks.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "allocation/locus_bounds.h"
+
+namespace kaldo {
+
+namespace {
+
+// A class gives either allele with about the same ease where its smaller score is at least this
+// share of the larger one.
+constexpr double kEvenRatio = 0.95;
+
+// Logarithms are off by less than this many costs.
+constexpr double kRoundingMargin = 1e-6;
+
+/// Costs of so many loci, each of which divides a likelihood by exp(`nats`) at least.
+void Fill(std::span<std::int32_t> costs, double nats) {
+  for (std::size_t loci = 0; loci < costs.size(); ++loci) {
+    const double cost = static_cast<double>(loci) * (kCostsPerNat * nats - kRoundingMargin);
+    costs[loci] = static_cast<std::int32_t>(std::floor(std::max(cost, 0.0)));
+  }
+}
+
+}  // namespace
+
+// The factor of a pair is |v1| |v2| sin(a1 + a2) with v = (P_R, P_J) and a the angle of v.
+MarkCosts::MarkCosts(double side_ratio) {
+  const double largest_side = std::atan(side_ratio);
+  const double largest_even = std::atan(1 / kEvenRatio);
+  constexpr double kRightAngle = std::numbers::pi / 2;
+  Fill(same_only_, -std::log(std::sin(std::min(2 * largest_side, kRightAngle))));
+  Fill(one_either_, -std::log(std::sin(std::min(largest_side + largest_even, kRightAngle))));
+}
+
+std::uint8_t MarksOf(double r, double j, double side_ratio) {
+  unsigned marks = (j == 0 ? giving::kNoJ : 0U) | (r == 0 ? giving::kNoR : 0U);
+  if (marks == giving::kNothing) {
+    return giving::kNothing;
+  }
+  if (j <= side_ratio * r) {
+    marks |= giving::kOnlyR | giving::kOneOf;
+  } else if (r <= side_ratio * j) {
+    marks |= giving::kOnlyJ | giving::kOneOf;
+  } else if (std::min(r, j) >= kEvenRatio * std::max(r, j)) {
+    marks |= giving::kEither;
+  }
+  return static_cast<std::uint8_t>(marks);
+}
+
+}  // namespace kaldo

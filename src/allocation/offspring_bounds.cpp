@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/offspring_bounds.h"
+
+#include <algorithm>
+
+#include "allocation/cost_kernels.h"
+
+namespace kaldo {
+
+void OffspringBounds::Prepare(const GenotypeTable& table, std::size_t parents,
+                              std::span<const LocusIndex> loci,
+                              std::span<const TransmissionMatrix> matrices) {
+  bounds_.Prepare(table, parents, loci, matrices);
+  mark_costs_ = MarkCosts(bounds_.SideRatio());
+}
+
+void OffspringBounds::Collect(Slot offspring, const PossibleParents& possible) {
+  bounds_.MakeRoom();
+  typed_ = possible.TypedLoci();
+  possible_ = possible.Bits();
+  mark_words_ = (typed_.size() + kLociPerMarkWord - 1) / kLociPerMarkWord;
+  log_largest_ = 0;
+  for (std::size_t i = 0; i < typed_.size(); ++i) {
+    LocusBounds& bounds = bounds_.Of(typed_[i], offspring);
+    bounds_at_[i] = &bounds;
+    scores_at_[i] = bounds.scores.data();
+    marks_at_[i] = bounds.marks_of_class.data();
+    costs_at_[i] = bounds.cost_of_class.data();
+    log_largest_ += bounds.log_largest;
+  }
+}
+
+void OffspringBounds::MarksOfParent(std::uint32_t parent, std::uint64_t* marks) const {
+  const std::uint16_t* const classes = bounds_.ClassesOf(parent);
+  for (std::size_t begin = 0; begin < typed_.size(); begin += kLociPerMarkWord) {
+    std::uint64_t word = 0;
+    for (std::size_t i = std::min(begin + kLociPerMarkWord, typed_.size()); i > begin; --i) {
+      word = word << kMarkBits | marks_at_[i - 1][classes[typed_[i - 1]]];
+    }
+    *marks = word;
+    ++marks;
+  }
+}
+
+std::uint16_t OffspringBounds::CostOf(std::uint32_t parent) const {
+  const std::uint16_t* const classes = bounds_.ClassesOf(parent);
+  std::uint32_t cost = 0;
+  for (std::size_t i = 0; i < typed_.size() && bounds_.Hold(); ++i) {
+    cost += costs_at_[i][classes[typed_[i]]];
+  }
+  return static_cast<std::uint16_t>(cost);
+}
+
+void OffspringBounds::AddUpCosts(std::uint16_t impossible, std::span<std::uint16_t> costs,
+                                 std::span<std::uint16_t> minima) {
+  cost_rows_.clear();
+  for (std::size_t i = 0; i < typed_.size() && bounds_.Hold(); ++i) {
+    LocusBounds& bounds = *bounds_at_[i];
+    if (bounds.costs.empty()) {
+      bounds.AddCostsOfParents(bounds_.Classes(typed_[i]));
+    }
+    cost_rows_.push_back(bounds.costs.data());
+  }
+  SumCosts(cost_rows_, possible_, impossible, costs.data(), minima.data());
+}
+
+double OffspringBounds::Likelihood(std::uint32_t one, std::uint32_t two) const {
+  const std::uint16_t* const classes1 = bounds_.ClassesOf(one);
+  const std::uint16_t* const classes2 = bounds_.ClassesOf(two);
+  double product = 1;  // 1 times the first factor is that factor
+  for (std::size_t i = 0; i < typed_.size(); ++i) {
+    const LocusBounds::Scores& scores1 = scores_at_[i][classes1[typed_[i]]];
+    const LocusBounds::Scores& scores2 = scores_at_[i][classes2[typed_[i]]];
+    product *= scores1.r * scores2.j + scores1.j * scores2.r;
+  }
+  return product;
+}
+
+}  // namespace kaldo
