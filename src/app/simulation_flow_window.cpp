@@ -49,7 +49,7 @@ SimulationFlowWindow::SimulationFlowWindow(Flow flow, QWidget* parent)
       strategy_(Own(new StrategyPage(flow))),
       loci_(Own(new LociPage(kLociScreen, CaptionOf(flow))), Own(new SequencePage)),
       output_(Own(new OutputPage(flow))) {
-  strategy_->SetOnChooseLoci([this] { ShowPage(loci_.Choice()); });
+  strategy_->SetOnChooseLoci([this] { ChooseLoci(); });
 }
 
 void SimulationFlowWindow::Set(const SimulationSettings& settings) {
@@ -241,6 +241,13 @@ void SimulationFlowWindow::ConfirmStrategy() {
     case LociStrategy::kMinimal:
       return ShowPage(*output_);
   }
+}
+
+void SimulationFlowWindow::ChooseLoci() {
+  if (!strategy_->Strategy()) {
+    return Refuse(NoStrategy());
+  }
+  ShowPage(loci_.Choice());
 }
 
 void SimulationFlowWindow::ConfirmLoci() {

@@ -50,6 +50,7 @@ class SimulationFlowWindow : public FlowWindow {
   void ConfirmOffspring();
   void ConfirmTolerance();
   void ConfirmStrategy();
+  void ChooseLoci();
   void ConfirmLoci();
   void ConfirmSequence();
   void ConfirmOutput();

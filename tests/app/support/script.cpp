@@ -3,10 +3,14 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
@@ -24,6 +28,31 @@ QWidget* KeyboardWidget() {
   QWidget* const window = WindowInFront();
   QWidget* const focus = window != nullptr ? window->focusWidget() : nullptr;
   return focus != nullptr ? focus : window;
+}
+
+/// A text as typed, letters with accents too.
+void TypeKeys(QWidget* widget, const QString& text) {
+  for (const QChar letter : text) {
+    if (letter.unicode() < 0x80) {
+      QTest::keyClick(widget, letter.toLatin1());
+    } else {
+      QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    }
+  }
+}
+
+/// What a file manager does: the drop comes only where the widget took the file when it came in.
+void DropFile(QWidget& target, const QString& path) {
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(path)});
+  const QPoint middle = target.rect().center();
+  QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  enter.ignore();
+  QApplication::sendEvent(&target, &enter);
+  if (enter.isAccepted()) {
+    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&target, &drop);
+  }
 }
 
 QAbstractButton* ButtonOf(QMessageBox& box, std::string_view caption) {
@@ -119,7 +148,7 @@ Script& Script::Type(std::string_view name, const QString& text) {
         field->setFocus();
         field->selectAll();
         QTest::keyClick(field, Qt::Key_Delete);
-        QTest::keyClicks(field, text);
+        TypeKeys(field, text);
       });
 }
 
@@ -132,7 +161,7 @@ Script& Script::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 Script& Script::TypeHere(const QString& text) {
   return Add(
       "type " + Bytes(text), [] { return KeyboardWidget() != nullptr; },
-      [text] { QTest::keyClicks(KeyboardWidget(), text); });
+      [text] { TypeKeys(KeyboardWidget(), text); });
 }
 
 Script& Script::Await(std::string_view screen) {
@@ -167,6 +196,26 @@ Script& Script::Until(std::function<bool()> condition, std::string what) {
   return Add(std::move(what), std::move(condition), [] {});
 }
 
+Script& Script::Drop(std::string_view name, const QString& path) {
+  const std::string wanted(name);
+  return Add(
+      "drop a file onto " + wanted,
+      [wanted] {
+        const QWidget* const window = WindowInFront();
+        return window != nullptr &&
+               (window->objectName() == Text(wanted) || VisibleWidget(wanted) != nullptr);
+      },
+      [wanted, path] {
+        QWidget* target = VisibleWidget(wanted);
+        target = target != nullptr ? target : WindowInFront();
+        // As in real life, what does not take files passes them on to what it lies in.
+        while (!target->acceptDrops() && target->parentWidget() != nullptr) {
+          target = target->parentWidget();
+        }
+        DropFile(*target, path);
+      });
+}
+
 Script& Script::Do(std::function<void(QWidget&)> act) {
   Add(
       "do something", [] { return WindowInFront() != nullptr; },
@@ -190,7 +239,7 @@ void Script::Tick() {
              window != nullptr ? qPrintable(window->objectName()) : "nothing",
              MessageInFront() != nullptr ? qPrintable(MessageInFront()->text()) : "");
     steps_.clear();
-    QApplication::closeAllWindows();
+    GiveUp();
     return;
   }
   idle_ticks_ = 0;
@@ -207,11 +256,28 @@ void Script::Tick() {
   }
 }
 
+/// Closes what waits for the user, one window after the other, so that the next test can run.
+void Script::GiveUp() {
+  QWidget* window = QApplication::activePopupWidget();
+  window = window != nullptr ? window : QApplication::activeModalWidget();
+  giving_up_ = window != nullptr;
+  if (window == nullptr) {
+    return;
+  }
+  QTimer::singleShot(kTick, &context_, [this] { GiveUp(); });
+  QMessageBox* const box = MessageInFront();
+  if (QAbstractButton* const yes = box != nullptr ? ButtonOf(*box, "Yes") : nullptr) {
+    yes->click();
+  } else {
+    window->close();
+  }
+}
+
 bool Script::Run(const std::function<void()>& begin) {
   failed_ = false;
   QTimer::singleShot(kTick, &context_, [this] { Tick(); });
   begin();
-  while (!steps_.empty() && !failed_) {
+  while (!steps_.empty() || giving_up_) {
     QTest::qWait(kTick);
   }
   QTest::qWait(2 * kTick);  // what the last step closed, closes

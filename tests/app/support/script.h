@@ -42,6 +42,9 @@ class Script {
   /// Waits until the condition holds.
   Script& Until(std::function<bool()> condition, std::string what);
 
+  /// Drops a file onto the widget of that name.
+  Script& Drop(std::string_view name, const QString& path);
+
   /// Does anything else with the window in front, but opens none.
   Script& Do(std::function<void(QWidget&)> act);
 
@@ -63,6 +66,7 @@ class Script {
 
   Script& Add(std::string what, std::function<bool()> ready, std::function<void()> act);
   void Tick();
+  void GiveUp();
 
   QObject context_;  ///< no tick outlives the script
   std::deque<Step> steps_;
@@ -70,6 +74,7 @@ class Script {
   QStringList details_;
   int idle_ticks_ = 0;
   bool failed_ = false;
+  bool giving_up_ = false;
 };
 
 /// The window in front: an open menu, the modal window, or else the one that is active.

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Whole flows, clicked through from the introduction to the results. What the windows write must be
+// what the command line writes, to the byte; the command is the one that they offer to copy.
+#include <QDir>
+
+#include "app/base/screen_table.h"
+#include "app/base/text.h"
+#include "app/desktop.h"
+#include "app/support/desktop_test.h"
+
+namespace kaldo {
+namespace {
+
+using test::ExpectText;
+using test::OpenFlow;
+using test::PickInDialog;
+using test::RunToTheEnd;
+using test::Told;
+using test::TypeAllocationFiles;
+
+using Sentences = std::vector<std::string>;
+
+const std::string kCompleted = "Calculations completed!";
+const std::string kSimulated = "calculations completed!";
+const std::string kStepping =
+    "Some allelic distances not in step with the smallest difference. Please read the stepping "
+    "error file !";
+
+class FlowsTest : public test::WorkplaceTest {
+ protected:
+  FlowsTest() { WriteExamples(); }
+
+  /// From the introduction to the main menu, through the steps, to the end of the program.
+  void RunProgram(const std::function<void(Script&)>& steps, std::string_view start = "Ok") {
+    script_.Await("Introduction").Click(start);
+    steps(script_);
+    script_.Await("MainMenu").Do([](QWidget& menu) { menu.close(); });
+    EXPECT_TRUE(script_.Run([] { EXPECT_EQ(RunDesktop({}), 0); }));
+  }
+
+  /// Types the parents of a simulation, and the numbers behind them.
+  static void TypeSet(Script& script, const std::string& sex, bool parental,
+                      const std::vector<const char*>& numbers) {
+    const QString folder = Text(sex.empty() ? "data/non-sexed/" : "data/sexed/");
+    const QString real = folder + Text(sex.empty()        ? "parents.txt"
+                                       : sex == "Females" ? "females.txt"
+                                                          : "males.txt");
+    const QString sample = folder + Text(sex.empty()        ? "parents.txt"
+                                         : sex == "Females" ? "sample-females.txt"
+                                                            : "sample-males.txt");
+    if (parental) {
+      script.Type("Collected" + sex + "File", real);
+    } else {
+      script.Type("PseudoCollected" + sex + "Sample", sample);
+      script.Type("PseudoCollected" + sex, Text(numbers.back()));
+    }
+    script.Type("Uncollected" + sex + "Sample", sample);
+    script.Type("Uncollected" + sex, Text(numbers[0]));
+    if (!sex.empty()) {
+      script.Type("EstimatedCollected" + sex, Text(numbers[1]));
+      script.Type("EstimatedUncollected" + sex, Text(numbers[2]));
+    }
+  }
+
+  Script script_;    // NOLINT(misc-non-private-member-variables-in-classes)
+  QString command_;  // NOLINT(misc-non-private-member-variables-in-classes)
+};
+
+TEST_F(FlowsTest, TheIntroductionLeadsToAnExampleInFourClicks) {
+  RunProgram(
+      [this](Script& script) {
+        script.Await("NonSexedAllocationFiles").Click("Ok").Await("ErrorModel").Click("Ok");
+        script.Await("ChoiceOfLoci");
+        RunToTheEnd(script, command_);
+        script.Do([](QWidget&) { EXPECT_EQ(test::TextIn("Project"), Text("kaldo-example/lake")); });
+      },
+      "TryExample");
+  EXPECT_EQ(Told(script_), Sentences{kCompleted});
+  ExpectAsCommandLine("kaldo-example/lake", command_);
+}
+
+TEST_F(FlowsTest, AllocatesTypedFiles) {
+  RunProgram([this](Script& script) {
+    OpenFlow(script, "ALLOCATIONNON-SEXED", Text("Etang d'été"));
+    TypeAllocationFiles(script, Flow::kNonSexed, Text("data/non-sexed"));
+    script.Type("Tolerance", Text("2"));
+    script.Do([](QWidget&) { EXPECT_FALSE(QDir(Text("Etang d'été")).exists()); });
+    script.Click("Ok").Await("ErrorModel");
+    script.Do([](QWidget&) { EXPECT_TRUE(QDir(Text("Etang d'été")).exists()); });
+    script.Click("Uniform").Type("Epsilon", Text("0.05")).Click("Ok").Await("ChoiceOfLoci");
+    script.ClickNumber(kFirstLocusBox).ClickNumber(kFirstLocusBox + 8);
+    RunToTheEnd(script, command_);
+  });
+  EXPECT_EQ(Told(script_), Sentences{kCompleted});
+  EXPECT_TRUE(command_.contains(Text("--error uniform=0.05")));
+  EXPECT_TRUE(command_.contains(Text("--use Mir08Di,")));
+  ExpectAsCommandLine("Etang d'été", command_);
+}
+
+TEST_F(FlowsTest, AllocatesASexedSequence) {
+  RunProgram([this](Script& script) {
+    OpenFlow(script, "ALLOCATIONSEXED");
+    TypeAllocationFiles(script, Flow::kSexed, Text("data/sexed"));
+    script.Click("Ok").Await("ErrorModel").Click("NonUniform").Click("Ok").Await("ChoiceOfLoci");
+    script.ClickNumber(kCumulativeSequenceBox).Click("Ok").Await("CumulativeSequence");
+    for (int locus = 1; locus <= 8; ++locus) {
+      script.Type("Index" + std::to_string(locus), Text(std::to_string(9 - locus)));
+    }
+    RunToTheEnd(script, command_);
+  });
+  EXPECT_EQ(Told(script_), Sentences{kCompleted});
+  EXPECT_TRUE(command_.contains(Text("--sequence 8,7,6,5,4,3,2,1")));
+  EXPECT_EQ(ContentsOf("p").count("Sequence results.xls"), 1U);
+  ExpectAsCommandLine("p", command_);
+}
+
+TEST_F(FlowsTest, TheMenuOffersEveryExample) {
+  std::array<QString, 3> commands;
+  RunProgram([&commands](Script& script) {
+    script.Click("Examples").Press(Qt::Key_Down).Press(Qt::Key_Down).Press(Qt::Key_Return);
+    script.Await("SexedAllocationFiles").Click("Ok").Await("ErrorModel").Click("Ok");
+    RunToTheEnd(script, commands[0]);
+    for (const bool sexed : {false, true}) {
+      script.Click("Examples");
+      for (int down = 0; down < (sexed ? 4 : 3); ++down) {
+        script.Press(Qt::Key_Down);
+      }
+      script.Press(Qt::Key_Return).Type("Iterations", Text("5"));
+      for (const char* screen : {"Parents", "PseudoOffspring", "Tolerance", "Strategy"}) {
+        script.Click("Ok").Await(screen);
+      }
+      script.Click("ChoiceOfLociStrategy").Click("Ok").Await("ChoiceOfLoci");
+      script.ClickNumber(kAllLociBox).Click("Ok").Await("Output");
+      RunToTheEnd(script, commands.at(sexed ? 2 : 1));
+    }
+  });
+  EXPECT_EQ(Told(script_), (Sentences{kCompleted, kSimulated, kCompleted}));
+  ExpectAsCommandLine("kaldo-example/ponds", commands[0]);
+  ExpectAsCommandLine("kaldo-example/lake-simulation", commands[1]);
+  ExpectAsCommandLine("kaldo-example/ponds-simulation", commands[2]);
+}
+
+TEST_F(FlowsTest, SimulatesAllSubsetsWithoutSexes) {
+  RunProgram([this](Script& script) {
+    OpenFlow(script, "SIMULATIONSNON-SEXED");
+    script.Type("LociFile", Text("data/non-sexed/loci.txt")).Type("Iterations", Text("3"));
+    script.Do([](QWidget&) { EXPECT_FALSE(QFile::exists(Text("SAUVLOCUSTULM.txt"))); });
+    script.Click("PreParental").Click("Ok").Await("Parents");
+    script.Do([](QWidget&) {
+      EXPECT_TRUE(QDir(Text("p")).exists());
+      EXPECT_TRUE(test::ReadFile("SAUVLOCUSTULM.txt").starts_with("Mir03Di Mir08Di Mir14Di "));
+    });
+    TypeSet(script, "", false, {"5.5", "20"});
+    script.Click("Ok").Await("PseudoOffspring").Type("OffspringPerIteration", Text("30"));
+    script.Click("NoError").Click("Ok").Await("Tolerance").Type("Tolerance", Text("0"));
+    script.Click("Ok").Await("Strategy").Click("AllSubsets").Type("StartWith", Text("8"));
+    script.Click("Ok").Await("Output").Click("PrintIterations").Click("KeepMatrices");
+    script.Type("Seed", Text("7"));
+    RunToTheEnd(script, command_);
+  });
+  EXPECT_EQ(Told(script_), Sentences{kSimulated});
+  EXPECT_TRUE(command_.contains(Text("--strategy all --start-with 8")));
+  ExpectAsCommandLine("p", command_);
+}
+
+TEST_F(FlowsTest, SimulatesMinimalSubsetsAndASequenceWithSexes) {
+  QString sequence;
+  RunProgram([&](Script& script) {
+    OpenFlow(script, "SIMULATIONSSEXED", Text("minimal"));
+    script.Type("LociFile", Text("data/sexed/loci.txt")).Type("Iterations", Text("4"));
+    script.Click("Ok").Await("Parents");
+    TypeSet(script, "Males", true, {"3", "17", "4.5"});
+    TypeSet(script, "Females", true, {"4", "17", "2"});
+    script.Click("Ok").Await("PseudoOffspring").Type("OffspringPerIteration", Text("40"));
+    script.Click("NonUniform").Click("Ok").Await("Tolerance").Click("Ok").Await("Strategy");
+    script.Click("MinimalSubsets").Type("Criterion", Text("0.5")).Type("StartWith", Text("7"));
+    script.Click("ChooseLoci").Await("ChoiceOfLoci").ClickNumber(kFirstLocusBox + 2);
+    script.Click("Ok").Await("Output").Click("KeepParents").Click("KeepOffspring");
+    script.Type("Seed", Text("4294967295"));
+    RunToTheEnd(script, command_);
+
+    OpenFlow(script, "SIMULATIONSSEXED", Text("sequence"));
+    script.Click("PreParental").Click("Ok").Await("Parents");
+    TypeSet(script, "Males", false, {"3", "10", "5", "9"});
+    TypeSet(script, "Females", false, {"2", "10", "5", "8"});
+    for (const char* screen : {"PseudoOffspring", "Tolerance", "Strategy"}) {
+      script.Click("Ok").Await(screen);
+    }
+    script.Click("CumulativeStrategy").Click("Ok").Await("CumulativeSequence");
+    script.Type("Index1", Text("8")).Type("Index8", Text("1")).Click("Ok").Await("Output");
+    script.Click("PrintSubsets");
+    RunToTheEnd(script, sequence);
+  });
+  EXPECT_EQ(Told(script_), (Sentences{kCompleted, kCompleted}));
+  EXPECT_TRUE(command_.contains(Text("--strategy minimal --criterion 0.5 --start-with 7")));
+  EXPECT_TRUE(command_.contains(Text("--use ")));
+  ExpectAsCommandLine("minimal", command_);
+  EXPECT_TRUE(sequence.contains(Text("--sequence 8,2,3,4,5,6,7,1")));
+  EXPECT_TRUE(sequence.contains(Text("--use "))) << "the loci chosen before stay chosen";
+  ExpectAsCommandLine("sequence", sequence);
+}
+
+TEST_F(FlowsTest, AllelesOutOfStepAreTold) {
+  // 151 lies a single base beside 150 and 152.
+  WriteStudy();
+  folder_.Write("data/males.txt",
+                "M1 100102 200204 150151 120124\nM2 104104 208208 152154 128128\n");
+  RunProgram([this](Script& script) {
+    OpenFlow(script, "ALLOCATIONSEXED");
+    TypeAllocationFiles(script, Flow::kSexed, Text("data"));
+    script.Click("Ok").Click("NoError").Click("Ok").Await("ChoiceOfLoci");
+    RunToTheEnd(script, command_);
+    OpenFlow(script, "SIMULATIONSNON-SEXED");
+    script.Type("LociFile", Text("data/loci.txt")).Type("Iterations", Text("2")).Click("Ok");
+    script.Type("CollectedFile", Text("data/males.txt"));
+    script.Type("UncollectedSample", Text("data/sample.txt")).Type("Uncollected", Text("2"));
+    script.Click("Ok").Click("NoError").Click("Ok").Await("Tolerance").Click("Ok");
+    script.Click("ChoiceOfLociStrategy").Click("Ok").Await("ChoiceOfLoci").Click("Ok");
+    RunToTheEnd(script, command_, 2);
+  });
+  EXPECT_EQ(Told(script_), (Sentences{kStepping, kStepping, kSimulated}));
+}
+
+TEST_F(FlowsTest, ResultsGoToTheWorkingFolderChosen) {
+  const QString lake = QDir::current().absoluteFilePath(Text("my lake"));
+  QDir().mkdir(lake);
+  RunProgram([&](Script& script) {
+    script.Await("MainMenu").Type("Project", Text("p"));
+    ExpectText(script, "ResultsFolder", QDir::current().absoluteFilePath(Text("p")));
+    script.Click("ChooseFolder");
+    PickInDialog(script, lake);
+    script.Await("MainMenu");
+    ExpectText(script, "ResultsFolder", lake + Text("/p"));
+    script.Click("ALLOCATIONNON-SEXED");
+    TypeAllocationFiles(script, Flow::kNonSexed, Text("../data/non-sexed"));
+    script.Click("Ok").Click("NoError").Click("Ok").Await("ChoiceOfLoci");
+    ExpectText(script, "Destination", Text("Results go to ") + lake + Text("/p"));
+    RunToTheEnd(script, command_);
+  });
+  EXPECT_EQ(ContentsOf("my lake").count("p/Allocation results.xls"), 1U);
+  EXPECT_FALSE(std::filesystem::exists(folder_.Path("p")));
+}
+
+}  // namespace
+}  // namespace kaldo

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <map>
+
+#include <gtest/gtest.h>
+
+#include "allocation/flow.h"
+#include "app/main_menu.h"
+#include "app/support/script.h"
+#include "tests/support/run_support.h"
+#include "tests/support/temp_folder.h"
+
+namespace kaldo::test {
+
+/// All files of a folder and of those below it, by their paths from there.
+using Contents = std::map<std::string, std::string>;
+
+/// The same without what two equal runs do not share: when, where, how long, on how many cores.
+Contents WithoutCircumstances(Contents contents);
+
+/// Tells by name which files differ; pages of reports would hide it.
+void ExpectSame(const Contents& found, const Contents& expected);
+
+/// The messages that were shown, in their order.
+std::vector<std::string> Told(const Script& script);
+
+/// The text that stands in a field or a label of the window in front.
+QString TextIn(std::string_view name);
+
+/// Whether a box or radio button of the window in front is marked.
+bool IsMarked(std::string_view name);
+
+/// A test in a working folder of its own, with the windows closed behind it.
+class WorkplaceTest : public testing::Test {
+ protected:
+  WorkplaceTest() : here_(folder_.Path("")) {}
+  void TearDown() override;
+
+  /// Copies the example files to the folder "data".
+  void WriteExamples() const;
+
+  /// A small study of four loci in the folder "data", for both flows and simulations.
+  void WriteStudy() const;
+
+  Contents ContentsOf(const std::string& folder) const;
+
+  /// Runs a command line where the same input files are, and compares all files of the project.
+  void ExpectAsCommandLine(const std::string& project, const QString& command) const;
+
+  TempFolder folder_;  // NOLINT(misc-non-private-member-variables-in-classes)
+
+ private:
+  WorkingFolder here_;
+};
+
+/// A test that begins at the main menu.
+class MenuTest : public WorkplaceTest {
+ protected:
+  MenuTest() { menu_.show(); }
+
+  /// Goes through the script from where the windows are.
+  void Go(Script& script);
+
+  MainMenu menu_;  // NOLINT(misc-non-private-member-variables-in-classes)
+};
+
+// Steps that many walks have in common.
+
+/// Opens a flow from the main menu, under a project.
+void OpenFlow(Script& script, std::string_view button,
+              const QString& project = QStringLiteral("p"));
+
+/// Types the files of an allocation, all of them in one folder.
+void TypeAllocationFiles(Script& script, Flow flow, const QString& folder);
+
+/// Types into a file dialog.
+void PickInDialog(Script& script, const QString& path);
+
+/// From the last screen of a flow: copies the command, runs, answers as many messages, closes the
+/// results and waits for the menu.
+void RunToTheEnd(Script& script, QString& command, int messages = 1);
+
+/// Notes what a field shows and compares it when the script gets there.
+void ExpectText(Script& script, std::string_view name, const QString& text);
+
+}  // namespace kaldo::test
