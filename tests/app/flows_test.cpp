@@ -42,12 +42,11 @@ class FlowsTest : public test::WorkplaceTest {
   static void TypeSet(Script& script, const std::string& sex, bool parental,
                       const std::vector<const char*>& numbers) {
     const QString folder = Text(sex.empty() ? "data/non-sexed/" : "data/sexed/");
-    const QString real = folder + Text(sex.empty()        ? "parents.txt"
-                                       : sex == "Females" ? "females.txt"
-                                                          : "males.txt");
     const QString sample = folder + Text(sex.empty()        ? "parents.txt"
                                          : sex == "Females" ? "sample-females.txt"
                                                             : "sample-males.txt");
+    // The adults of the ponds are divided by separators, which no simulation takes.
+    const QString real = sample;
     if (parental) {
       script.Type("Collected" + sex + "File", real);
     } else {

@@ -31,7 +31,7 @@ inline constexpr ScreenEntry kLociScreen{0, "ChoiceOfLoci"};
 inline constexpr ScreenEntry kErrorScreen{0, "ErrorModel"};
 inline constexpr ScreenEntry kParentalScreen{0, "Parents"};
 inline constexpr ScreenEntry kOffspringScreen{0, "PseudoOffspring"};
-inline constexpr ScreenEntry kToleranceScreen{0, "Tolerance"};
+inline constexpr ScreenEntry kToleranceScreen{0, "PseudoAllocation"};
 inline constexpr ScreenEntry kStrategyScreen{0, "Strategy"};
 inline constexpr ScreenEntry kOutputScreen{0, "Output"};
 
