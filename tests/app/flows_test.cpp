@@ -11,9 +11,7 @@
 namespace kaldo {
 namespace {
 
-using test::ExpectText;
 using test::OpenFlow;
-using test::PickInDialog;
 using test::RunToTheEnd;
 using test::Told;
 using test::TypeAllocationFiles;
@@ -215,29 +213,10 @@ TEST_F(FlowsTest, AllelesOutOfStepAreTold) {
     script.Type("UncollectedSample", Text("data/sample.txt")).Type("Uncollected", Text("2"));
     script.Click("Ok").Click("NoError").Click("Ok").Await("Tolerance").Click("Ok");
     script.Click("ChoiceOfLociStrategy").Click("Ok").Await("ChoiceOfLoci").Click("Ok");
+    script.Await("Output").Type("Seed", Text("1"));
     RunToTheEnd(script, command_, 2);
   });
   EXPECT_EQ(Told(script_), (Sentences{kStepping, kStepping, kSimulated}));
-}
-
-TEST_F(FlowsTest, ResultsGoToTheWorkingFolderChosen) {
-  const QString lake = QDir::current().absoluteFilePath(Text("my lake"));
-  QDir().mkdir(lake);
-  RunProgram([&](Script& script) {
-    script.Await("MainMenu").Type("Project", Text("p"));
-    ExpectText(script, "ResultsFolder", QDir::current().absoluteFilePath(Text("p")));
-    script.Click("ChooseFolder");
-    PickInDialog(script, lake);
-    script.Await("MainMenu");
-    ExpectText(script, "ResultsFolder", lake + Text("/p"));
-    script.Click("ALLOCATIONNON-SEXED");
-    TypeAllocationFiles(script, Flow::kNonSexed, Text("../data/non-sexed"));
-    script.Click("Ok").Click("NoError").Click("Ok").Await("ChoiceOfLoci");
-    ExpectText(script, "Destination", Text("Results go to ") + lake + Text("/p"));
-    RunToTheEnd(script, command_);
-  });
-  EXPECT_EQ(ContentsOf("my lake").count("p/Allocation results.xls"), 1U);
-  EXPECT_FALSE(std::filesystem::exists(folder_.Path("p")));
 }
 
 }  // namespace
