@@ -243,8 +243,8 @@ void PairSearcher::MultiplyAll(const CandidateGroup& slots, KeptPairs& kept) {
       const ParentPair pair{Slot{listed_.SlotAt(parent)}, Slot{listed_.SlotAt(partner)}};
       const double likelihood =
           direct_.Of(offspring_, possible_.TypedLoci(), pair.parent1, pair.parent2);
-      if (kept.Matters(likelihood) && kept.Show(pair, likelihood) == AfterPair::kLeaveRow) {
-        break;
+      if (kept.Matters(likelihood)) {
+        kept.Show(pair, likelihood);  // so few pairs are all kept: no row is left early
       }
     }
   }

@@ -1,9 +1,8 @@
 """Which situations the compared sets met, so that a tame generator is noticed."""
 
-from collections import Counter
-
 from allocation_reference import OUT_OF_STEP
 from reference_tables import single
+from situation_counter import SituationCounter
 
 NEAREST_FORMS = ["single", "tie", "homozygous"]
 BOTH_FORMS = NEAREST_FORMS + ["homozygous tie"]
@@ -36,19 +35,11 @@ REQUIRED = (
     + ["CR LF", "byte-order mark", "tabs", "records over several lines", "older reports present"])
 
 
-class Coverage:
-    """Counts situations over all sets."""
+class Coverage(SituationCounter):
+    """The situations of allocations."""
 
     def __init__(self):
-        self.counts = Counter()
-
-    def missing(self):
-        return [situation for situation in REQUIRED if not self.counts[situation]]
-
-    def report(self):
-        unknown = set(self.counts) - set(REQUIRED)
-        assert not unknown, f"counted but not required: {sorted(unknown)}"
-        return "\n".join(f"{self.counts[situation]:7}  {situation}" for situation in REQUIRED)
+        super().__init__(REQUIRED)
 
     def add(self, input_set, run):
         """Count what one set met; settings once per set, the rest per offspring."""

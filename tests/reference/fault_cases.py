@@ -5,12 +5,8 @@ from a sound command line. A sentence of None leaves the wording to the program;
 only its exit code and the untouched project folder are then compared.
 """
 
-import contextlib
-import io
-import subprocess
-
 from allocation_reference import allocate, parse_arguments
-from reference_input import InputFault, byte_text
+from fault_table import FaultTable, options_of
 
 SOUND_FILES = {
     "loci": "A B\n",
@@ -164,80 +160,12 @@ def prepare(case, folder):
     roles = ["loci", "offspring"] + (["males", "females"] if sexed else ["parents"])
     for role in SOUND_FILES:
         (folder / role).write_text(files.get(role, SOUND_FILES[role]), encoding="utf-8")
-    typed = {"project": "results"} | {role: role for role in roles} | options
-    arguments = []
-    for name, value in typed.items():
-        arguments += [f"--{name}={value}"] if value.startswith("-") else [f"--{name}", value]
-    return arguments
+    return options_of({"project": "results"} | {role: role for role in roles} | options)
 
 
 def ask_reference(arguments, folder):
-    """Exit code and sentence of the reference."""
-    try:
-        with contextlib.redirect_stderr(io.StringIO()):
-            settings = parse_arguments(arguments)
-        allocate(settings, folder)
-    except InputFault as fault:
-        return 2, byte_text(str(fault))
-    except SystemExit as usage:
-        return usage.code, ""
-    return 0, ""
+    allocate(parse_arguments(arguments), folder)
 
 
-def state_of(folder):
-    """Everything in the folder of a case, to see that nothing was created or changed."""
-    return {path.relative_to(folder).as_posix(): path.read_bytes() if path.is_file() else None
-            for path in folder.rglob("*")}
-
-
-def make_folder(number, parent):
-    """A folder per case; every second one holds an earlier result."""
-    folder = parent / f"case_{number:03d}"
-    folder.mkdir(parents=True)
-    if number % 2:
-        (folder / "results").mkdir()
-        (folder / "results" / "Allocation results.xls").write_bytes(b"an earlier result\n")
-    return folder
-
-
-def check_fault_table(parent):
-    """The reference gives the sentence of every case; returns the number of failures."""
-    failures = 0
-    for number, case in enumerate(CASES):
-        folder = make_folder(number, parent)
-        arguments = prepare(case, folder)
-        code, sentence = ask_reference(arguments, folder)
-        wanted = case[3]
-        if code != 2 or (wanted is not None and sentence != byte_text(wanted)):
-            failures += 1
-            print(f"fault case {number} {arguments}: wanted {wanted!r}, got {code} {sentence!r}")
-    print(f"{len(CASES)} refused inputs, {failures} failures of the reference")
-    return failures
-
-
-def compare_faults(binary, parent):
-    """The program gives the same code and sentence, and touches nothing."""
-    failures = 0
-    for number, case in enumerate(CASES):
-        folder = make_folder(number, parent / "faults")
-        arguments = prepare(case, folder)
-        before = state_of(folder)
-        code, sentence = ask_reference(arguments, folder)
-        completed = subprocess.run([binary, "allocate", *arguments], cwd=folder, timeout=120,
-                                   capture_output=True, check=False)
-        first_line = completed.stderr.decode("latin-1").partition("\n")[0]
-        problems = []
-        if completed.returncode != code:
-            problems.append(f"exit code {completed.returncode}, not {code}")
-        if case[3] is not None and first_line != sentence:
-            problems.append(f"says {first_line!r}, not {sentence!r}")
-        if not first_line:
-            problems.append("says nothing on standard error")
-        if state_of(folder) != before:
-            problems.append("files were created or changed")
-        if problems:
-            failures += 1
-            print(f"fault case {number} {arguments}: " + "; ".join(problems))
-    print(f"{len(CASES)} refused inputs compared, "
-          + (f"{failures} failures" if failures else "all alike"))
-    return failures
+ALLOCATION_FAULTS = FaultTable("allocate", CASES, prepare, ask_reference,
+                               {"results/Allocation results.xls": b"an earlier result\n"}, {})

@@ -1,12 +1,11 @@
 """Which situations the compared simulations met, so that a tame generator is noticed."""
 
-from collections import Counter
-
 from allocation_reference import OUT_OF_STEP
 from simulation_flows import NON_SEXED_ORIGINS, SEXED_ORIGINS, origins_of
 from simulation_random import SampleCatalogue, cumulative_frequencies
 from simulation_scoring import BEST_KEYS
 from simulation_sets import STRATEGIES
+from situation_counter import SituationCounter
 
 FLOWS = {False: "non-sexed", True: "sexed"}
 NEAR = 1e-6     # closer than this a frequency lies on the grid of the draws
@@ -53,19 +52,11 @@ REQUIRED = (
        for kind in ("iterations", "subset statistics", "little")])
 
 
-class SimulationCoverage:
-    """Counts situations over all sets."""
+class SimulationCoverage(SituationCounter):
+    """The situations of simulations."""
 
     def __init__(self):
-        self.counts = Counter()
-
-    def missing(self):
-        return [situation for situation in REQUIRED if not self.counts[situation]]
-
-    def report(self):
-        unknown = set(self.counts) - set(REQUIRED)
-        assert not unknown, f"counted but not required: {sorted(unknown)}"
-        return "\n".join(f"{self.counts[situation]:7}  {situation}" for situation in REQUIRED)
+        super().__init__(REQUIRED)
 
     def met(self, situation, holds=True):
         if holds:

@@ -5,12 +5,9 @@ from a sound command line (None takes an option away). A sentence of None leaves
 the wording to the program; only its exit code and the untouched folder count then.
 """
 
-import contextlib
-import io
-import subprocess
-
-from fault_cases import S_ODD, S_UNDEFINED, state_of
-from reference_input import InputFault, byte_text
+from fault_cases import S_ODD, S_UNDEFINED
+from fault_table import FaultTable, options_of
+from reference_input import InputFault
 from simulation_input import FEMALE_HALF, MALE_HALF, SAMPLE_HALF, check_and_read_simulation
 from simulation_settings import parse_simulation
 
@@ -26,7 +23,7 @@ PARENTAL = COMMON | {"collected-parents": "parents", "uncollected-sample": "unco
 PREPARENTAL = COMMON | {"pseudo-collected-sample": "pseudo", "pseudo-collected": "4",
                         "uncollected-sample": "uncollected", "uncollected": "3"}
 SEXED = COMMON | {
-    "sexed": "", "uncollected-male-sample": "uncollected males", "uncollected-males": "2",
+    "sexed": True, "uncollected-male-sample": "uncollected males", "uncollected-males": "2",
     "uncollected-female-sample": "uncollected females", "uncollected-females": "2",
     "estimated-collected-males": "3", "estimated-uncollected-males": "3",
     "estimated-collected-females": "3", "estimated-uncollected-females": "3"}
@@ -181,97 +178,34 @@ def many_loci():
                 loci=" ".join(f"L{k}" for k in range(MANY)))
 
 
-ALL_CASES = CASES + [many_loci()]
-
-
 def prepare(each, folder):
     """Write the files of a case; returns its command line."""
     base, files, options, _ = each
     for name, text in (SOUND_FILES | files).items():
         (folder / name).write_text(text, encoding="utf-8")
-    arguments = []
-    for name, value in (base | options).items():
-        if value is None:
-            continue
-        if name == "sexed":
-            arguments += ["--sexed"]
-        else:
-            arguments += [f"--{name}={value}"] if value.startswith("-") else [f"--{name}", value]
-    return arguments
+    return options_of(base | options)
 
 
 def ask_reference(arguments, folder):
-    """Exit code and sentence of the reference."""
-    try:
-        with contextlib.redirect_stderr(io.StringIO()):
-            settings = parse_simulation(arguments)
-        check_and_read_simulation(settings, folder)
-    except InputFault as fault:
-        return 2, byte_text(str(fault))
-    except SystemExit as usage:
-        return usage.code, ""
-    return 0, ""
+    check_and_read_simulation(parse_simulation(arguments), folder)
 
 
-def make_folder(number, parent):
-    """A folder per case; every second one holds an earlier result."""
-    folder = parent / f"case_{number:03d}"
-    folder.mkdir(parents=True)
-    if number % 2:
-        (folder / "results").mkdir()
-        (folder / "results" / "Summary.xls").write_bytes(b"an earlier result\n")
-        (folder / "SAUVLOCUSTULM.txt").write_bytes(b"X Y ")
-    return folder
+SIMULATION_FAULTS = FaultTable(
+    "simulate", CASES + [many_loci()], prepare, ask_reference,
+    {"results/Summary.xls": b"an earlier result\n", "SAUVLOCUSTULM.txt": b"X Y "},
+    {len(CASES): f"{MANY_SUBSETS} subsets"})
 
 
-def check_simulation_fault_table(parent):
-    """The reference gives the sentence of every case; returns the number of failures."""
+def check_sound_sets(parent):
+    """The sets that the cases spoil are accepted; returns the number of failures."""
     failures = 0
     bases = (PARENTAL, PREPARENTAL, SEXED_PARENTAL, SEXED_PREPARENTAL)
     for number, base in enumerate(bases):
-        folder = make_folder(number, parent / "sound")
-        code, sentence = ask_reference(prepare(case(base, None), folder), folder)
-        if code != 0:
+        folder = parent / f"sound_{number}"
+        folder.mkdir(parents=True)
+        try:
+            ask_reference(prepare(case(base, None), folder), folder)
+        except InputFault as fault:
             failures += 1
-            print(f"a sound set is refused: {sentence!r}")
-    for number, each in enumerate(ALL_CASES):
-        folder = make_folder(number, parent)
-        arguments = prepare(each, folder)
-        code, sentence = ask_reference(arguments, folder)
-        wanted = each[3]
-        if code != 2 or (wanted is not None and sentence != byte_text(wanted)):
-            failures += 1
-            print(f"fault case {number} {arguments}: wanted {wanted!r}, got {code} {sentence!r}")
-    print(f"{len(ALL_CASES)} refused simulations, {failures} failures of the reference")
-    return failures
-
-
-def compare_simulation_faults(binary, parent):
-    """The program gives the same code and sentence, and touches nothing."""
-    failures = 0
-    for number, each in enumerate(ALL_CASES):
-        folder = make_folder(number, parent / "faults")
-        arguments = prepare(each, folder)
-        before = state_of(folder)
-        code, sentence = ask_reference(arguments, folder)
-        completed = subprocess.run([binary, "simulate", *arguments], cwd=folder, timeout=120,
-                                   capture_output=True, check=False)
-        errors = completed.stderr.decode("latin-1")
-        first_line = errors.partition("\n")[0]
-        problems = []
-        if completed.returncode != code:
-            problems.append(f"exit code {completed.returncode}, not {code}")
-        if each[3] is not None and first_line != sentence:
-            problems.append(f"says {first_line!r}, not {sentence!r}")
-        if not first_line:
-            problems.append("says nothing on standard error")
-        if number == len(CASES) and MANY_SUBSETS not in errors:
-            problems.append(f"does not say that it would be {MANY_SUBSETS} subsets")
-        if state_of(folder) != before:
-            problems.append("files were created or changed")
-        if problems:
-            failures += 1
-            print(f"fault case {number} {arguments}: " + "; ".join(problems))
-    print(f"{len(ALL_CASES)} refused simulations compared, "
-          + (f"{failures} failures" if failures else "all alike"))
+            print(f"a sound set is refused: {fault}")
     return failures
