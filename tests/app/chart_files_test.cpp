@@ -176,18 +176,18 @@ class ChartFilesTest : public QObject {
   }
 
   void SavesThroughItsDialog() {
-    ChartPanel panel(Text("figures"), Qt::Horizontal, folder_.path(), nullptr);
+    ChartPanel panel(Text("Figures"), Qt::Horizontal, folder_.path(), nullptr);
     panel.Show(SomeLines());
     panel.show();
     QTimer timer;
     connect(&timer, &QTimer::timeout, &timer, [] {
       QWidget* dialog = QApplication::activeModalWidget();
-      if (dialog != nullptr && dialog->objectName() == Text("save_dialog")) {
+      if (dialog != nullptr && dialog->objectName() == Text("SaveDialog")) {
         QTest::keyClick(dialog, Qt::Key_Return);
       }
     });
     timer.start(20);
-    QTest::mouseClick(&test::Find<QPushButton>(panel, "figures_save"), Qt::LeftButton);
+    QTest::mouseClick(&test::Find<QPushButton>(panel, "FiguresSave"), Qt::LeftButton);
     QVERIFY(TextsIn(test::ReadFile(folder_.filePath(Text("figures.svg")))).contains(Text("2 UC")));
   }
 
@@ -195,11 +195,11 @@ class ChartFilesTest : public QObject {
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
     QCOMPARE(QLocale().toString(0.5), Text("0,5"));
-    ChartPanel panel(Text("figures"), Qt::Horizontal, folder_.path(), nullptr);
+    ChartPanel panel(Text("Figures"), Qt::Horizontal, folder_.path(), nullptr);
     panel.Show(SomeBars());
-    const auto& table = test::Find<QTableView>(panel, "figures_table");
+    const auto& table = test::Find<QTableView>(panel, "FiguresTable");
     QCOMPARE(table.model()->index(0, 1).data().toString(), Text("0.333333"));
-    auto& view = test::Find<ChartView>(panel, "figures_chart");
+    auto& view = test::Find<ChartView>(panel, "FiguresChart");
     const QString path = folder_.filePath(Text("german"));
     QVERIFY(view.SaveChart(path + Text(".svg")) && view.SaveChart(path + Text(".csv")));
     const QStringList texts = TextsIn(test::ReadFile(path + Text(".svg")));

@@ -298,7 +298,7 @@ TEST_F(MessagesTest, LociAndTheirSequence) {
       told.push_back(sentence);
       continue;
     }
-    script_.Answer().Click("close").Click("ALLOCATIONNON-SEXED").Click("Ok").Click("Ok");
+    script_.Answer().Click("Close").Click("ALLOCATIONNON-SEXED").Click("Ok").Click("Ok");
     script_.Await("ChoiceOfLoci").Click("Ok").Await("CumulativeSequence");
     told.emplace_back("Calculations completed!");
   }

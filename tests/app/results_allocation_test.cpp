@@ -125,7 +125,7 @@ class ResultsAllocationTest : public QObject {
       shown.settings.error_model.epsilon = epsilon;
     }
     shown.Run();
-    const QAbstractItemModel& model = ModelOf(*shown.window, "offspring_table");
+    const QAbstractItemModel& model = ModelOf(*shown.window, "OffspringTable");
     const Rows lines = OffspringLines(shown.project);
     QCOMPARE(lines.size(), shown.run.result.outcomes.size());
     QCOMPARE(model.rowCount(), static_cast<int>(lines.size()));
@@ -144,7 +144,7 @@ class ResultsAllocationTest : public QObject {
   void SortsNumbersAsNumbers() {
     Shown shown(Flow::kSexed);
     shown.Run();
-    auto& table = Find<QTableView>(*shown.window, "offspring_table");
+    auto& table = Find<QTableView>(*shown.window, "OffspringTable");
     for (const OffspringColumn column : {OffspringColumn::kPlace, OffspringColumn::kRank1,
                                          OffspringColumn::kErrors2, OffspringColumn::kLikelihood}) {
       for (const Qt::SortOrder order : {Qt::DescendingOrder, Qt::AscendingOrder}) {
@@ -164,9 +164,9 @@ class ResultsAllocationTest : public QObject {
   void FindsByNameAndClass() {
     Shown shown(Flow::kSexed);
     shown.Run();
-    auto& find = Find<QLineEdit>(*shown.window, "offspring_find");
-    auto& show = Find<QComboBox>(*shown.window, "offspring_show");
-    const QAbstractItemModel& model = ModelOf(*shown.window, "offspring_table");
+    auto& find = Find<QLineEdit>(*shown.window, "OffspringFind");
+    auto& show = Find<QComboBox>(*shown.window, "OffspringShow");
+    const QAbstractItemModel& model = ModelOf(*shown.window, "OffspringTable");
     const Rows all = ModelRows(model);
     QTest::keyClicks(&find,
                      Text("male01"));  // Male01 and Female01, and whoever they are parents of
@@ -197,7 +197,7 @@ class ResultsAllocationTest : public QObject {
     shown.settings.loci_in_use = {"Mir03Di", "Mir14Di"};
     shown.Run();
     const std::vector<int> listed = ListedPairs(shown.project);
-    const QAbstractItemModel& model = ModelOf(*shown.window, "offspring_table");
+    const QAbstractItemModel& model = ModelOf(*shown.window, "OffspringTable");
     int several = 0;
     int none = 0;
     for (std::size_t k = 0; k < listed.size(); ++k) {
@@ -207,23 +207,23 @@ class ResultsAllocationTest : public QObject {
       QCOMPARE(cell.data().toString(), listed[k] < 0 ? Text("5+") : QString::number(listed[k]));
     }
     QVERIFY(several > 0 && none > 0);
-    auto& show = Find<QComboBox>(*shown.window, "offspring_show");
+    auto& show = Find<QComboBox>(*shown.window, "OffspringShow");
     show.setCurrentText(Text("several pairs"));
     QCOMPARE(model.rowCount(), several);
     show.setCurrentText(Text("no pair"));
     QCOMPARE(model.rowCount(), none);
-    QCOMPARE(Find<QLabel>(*shown.window, "offspring_count").text(),
+    QCOMPARE(Find<QLabel>(*shown.window, "OffspringCount").text(),
              Text("%1 of 50 offspring").arg(none));
-    Find<QTableView>(*shown.window, "offspring_table").selectRow(0);
-    QVERIFY(Find<QLabel>(*shown.window, "comparison_verdict").text().startsWith(Text("No pair")));
-    QCOMPARE(Column(ModelOf(*shown.window, "comparison_table"), Place(ComparisonColumn::kParent1)),
+    Find<QTableView>(*shown.window, "OffspringTable").selectRow(0);
+    QVERIFY(Find<QLabel>(*shown.window, "ComparisonVerdict").text().startsWith(Text("No pair")));
+    QCOMPARE(Column(ModelOf(*shown.window, "ComparisonTable"), Place(ComparisonColumn::kParent1)),
              QStringList({QString(), QString()}));
   }
 
   void CopiesSelectedRowsWithHeads() {
     Shown shown(Flow::kNonSexed);
     shown.Run();
-    auto& table = Find<QTableView>(*shown.window, "offspring_table");
+    auto& table = Find<QTableView>(*shown.window, "OffspringTable");
     const Rows rows = ModelRows(*table.model());
     table.selectRow(4);
     table.selectionModel()->select(table.model()->index(1, 0),
@@ -234,17 +234,17 @@ class ResultsAllocationTest : public QObject {
     QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QGuiApplication::clipboard()->text(), expected);
     QGuiApplication::clipboard()->clear();
-    Find<QTabWidget>(*shown.window, "tabs").setCurrentIndex(1);
-    QTest::mouseClick(&Find<QPushButton>(*shown.window, "offspring_copy"), Qt::LeftButton);
+    Find<QTabWidget>(*shown.window, "Tabs").setCurrentIndex(1);
+    QTest::mouseClick(&Find<QPushButton>(*shown.window, "OffspringCopy"), Qt::LeftButton);
     QCOMPARE(QGuiApplication::clipboard()->text(), expected);
   }
 
   void ExportsWhatIsShown() {
     Shown shown(Flow::kNonSexed);
     shown.Run();
-    auto& table = Find<ResultTable>(*shown.window, "offspring_table");
+    auto& table = Find<ResultTable>(*shown.window, "OffspringTable");
     table.sortByColumn(Place(OffspringColumn::kLikelihood), Qt::DescendingOrder);
-    Find<QLineEdit>(*shown.window, "offspring_find").setText(Text("Adult3"));
+    Find<QLineEdit>(*shown.window, "OffspringFind").setText(Text("Adult3"));
     const QString path = shown.folder.filePath(Text("table.csv"));
     QVERIFY(table.SaveCsv(path));
     QVERIFY(table.model()->rowCount() > 1);
@@ -257,9 +257,9 @@ class ResultsAllocationTest : public QObject {
     shown.settings.error_model.kind = ErrorKind::kUniform;
     shown.settings.error_model.epsilon = 0.01;
     shown.Run();
-    auto& table = Find<QTableView>(*shown.window, "offspring_table");
-    auto& combo = Find<QComboBox>(*shown.window, "comparison_pair");
-    const QAbstractItemModel& model = ModelOf(*shown.window, "comparison_table");
+    auto& table = Find<QTableView>(*shown.window, "OffspringTable");
+    auto& combo = Find<QComboBox>(*shown.window, "ComparisonPair");
+    const QAbstractItemModel& model = ModelOf(*shown.window, "ComparisonTable");
     std::set<QString> signs;
     int second_pairs = 0;
     for (int row = 0; row < table.model()->rowCount(); ++row) {
@@ -278,11 +278,11 @@ class ResultsAllocationTest : public QObject {
   void CountsTheAllelesOfTheFiles() {
     Shown shown(Flow::kSexed);
     shown.Run();
-    Find<QTabWidget>(*shown.window, "tabs").setCurrentIndex(2);
+    Find<QTabWidget>(*shown.window, "Tabs").setCurrentIndex(2);
     const auto copies = CopiesInFiles(
         {shown.settings.males_file, shown.settings.females_file, shown.settings.offspring_file}, 8);
-    const QAbstractItemModel& model = ModelOf(*shown.window, "alleles_table");
-    auto& next = Find<QPushButton>(*shown.window, "alleles_next");
+    const QAbstractItemModel& model = ModelOf(*shown.window, "AllelesTable");
+    auto& next = Find<QPushButton>(*shown.window, "AllelesNext");
     for (std::size_t locus = 0; locus < copies.size(); ++locus) {
       QCOMPARE(model.rowCount(), static_cast<int>(copies[locus].size()));
       int row = 0;
@@ -295,8 +295,7 @@ class ResultsAllocationTest : public QObject {
         all += number;
       }
       QVERIFY(std::abs(sum - 1) < 1e-5);
-      QVERIFY(
-          Find<QLabel>(*shown.window, "alleles_copies").text().startsWith(QString::number(all)));
+      QVERIFY(Find<QLabel>(*shown.window, "AllelesCopies").text().startsWith(QString::number(all)));
       QCOMPARE(next.isEnabled(), locus + 1 < copies.size());
       QTest::mouseClick(&next, Qt::LeftButton);
     }
@@ -316,7 +315,7 @@ class ResultsAllocationTest : public QObject {
           expected.push_back(row);
         }
       }
-      Rows rows = ModelRows(ModelOf(*shown.window, "sequence_table"));
+      Rows rows = ModelRows(ModelOf(*shown.window, "SequenceTable"));
       rows.erase(rows.begin());
       QVERIFY(rows.back()[1].startsWith(Text("+ Mir30Tet")));
       for (QStringList& row : rows) {
@@ -326,20 +325,20 @@ class ResultsAllocationTest : public QObject {
     }
     Shown without(Flow::kNonSexed);
     without.Run();
-    QCOMPARE(without.window->findChild<QWidget*>(Text("sequence_table")), nullptr);
+    QCOMPARE(without.window->findChild<QWidget*>(Text("SequenceTable")), nullptr);
   }
 
   void TellsWhatWasRun() {
     Shown shown(Flow::kSexed);
     shown.Run();
-    const QString text = Find<QTextBrowser>(*shown.window, "summary_text").toPlainText();
+    const QString text = Find<QTextBrowser>(*shown.window, "SummaryText").toPlainText();
     for (const char* part :
          {"16 males and 16 females in 2 groups", "54 (", "8 of 8: Mir03Di",
           "Allocation results.xls", "Max like pairs.txt", "Run record.toml", "no possible pair"}) {
       QVERIFY2(text.contains(Text(part)), part);
     }
     QVERIFY(!text.contains(Text("Sequence results.xls")));
-    const Rows table = ModelRows(ModelOf(*shown.window, "summary_table"));
+    const Rows table = ModelRows(ModelOf(*shown.window, "SummaryTable"));
     QCOMPARE(table.back().mid(0, 2), QStringList({Text("pairs UCM + UCF"), Text("3")}));
   }
 
@@ -348,17 +347,17 @@ class ResultsAllocationTest : public QObject {
     shown.Run();
     QVERIFY(shown.window->isWindow() && !shown.window->isModal());
     QCOMPARE(shown.window->windowTitle(), Text("KALDO 1.0 - %1 - results").arg(shown.project));
-    auto& copy = Find<QPushButton>(*shown.window, "copy_command");
+    auto& copy = Find<QPushButton>(*shown.window, "CopyCommand");
     QVERIFY(!copy.isEnabled());
     shown.window->SetCommand(Text("kaldo allocate --project 'a b'"));
     QTest::mouseClick(&copy, Qt::LeftButton);
     QCOMPARE(QGuiApplication::clipboard()->text(), Text("kaldo allocate --project 'a b'"));
     QDesktopServices::setUrlHandler(Text("file"), this, "TakeUrl");
-    QTest::mouseClick(&Find<QPushButton>(*shown.window, "open_folder"), Qt::LeftButton);
+    QTest::mouseClick(&Find<QPushButton>(*shown.window, "OpenFolder"), Qt::LeftButton);
     QDesktopServices::unsetUrlHandler(Text("file"));
     QCOMPARE(opened_, QUrl::fromLocalFile(shown.project));
-    auto& table = Find<QTableView>(*shown.window, "offspring_table");
-    Find<QTabWidget>(*shown.window, "tabs").setCurrentIndex(1);
+    auto& table = Find<QTableView>(*shown.window, "OffspringTable");
+    Find<QTabWidget>(*shown.window, "Tabs").setCurrentIndex(1);
     table.setFocus();
     QVERIFY(QTest::qWaitForWindowActive(shown.window));
     QTest::keyClick(&table, Qt::Key_Escape);
@@ -368,30 +367,29 @@ class ResultsAllocationTest : public QObject {
   void GoesFromFieldToFieldByTab() {
     Shown shown(Flow::kNonSexed);
     shown.Run();
-    Find<QTabWidget>(*shown.window, "tabs").setCurrentIndex(1);
+    Find<QTabWidget>(*shown.window, "Tabs").setCurrentIndex(1);
     QVERIFY(QTest::qWaitForWindowActive(shown.window));
-    Find<QLineEdit>(*shown.window, "offspring_find").setFocus();
+    Find<QLineEdit>(*shown.window, "OffspringFind").setFocus();
     QStringList names;
     for (int step = 0; step < 7; ++step) {
       names += QApplication::focusWidget()->objectName();
       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }
     QCOMPARE(names.join(QLatin1Char(' ')),
-             Text("offspring_find offspring_show offspring_table offspring_copy offspring_export "
-                  "comparison_table comparison_copy"));
+             Text("OffspringFind OffspringShow OffspringTable OffspringCopy OffspringExport "
+                  "ComparisonTable ComparisonCopy"));
   }
 
   void KeepsTheRulesOfModels() {
     Shown shown(Flow::kNonSexed);
     shown.Run();
     using Mode = QAbstractItemModelTester::FailureReportingMode;
-    for (const char* name :
-         {"offspring_table", "comparison_table", "alleles_table", "summary_table"}) {
+    for (const char* name : {"OffspringTable", "ComparisonTable", "AllelesTable", "SummaryTable"}) {
       const QAbstractItemModelTester tester(&ModelOf(*shown.window, name), Mode::QtTest);
-      Find<QTableView>(*shown.window, "offspring_table").selectRow(7);
-      Find<QComboBox>(*shown.window, "offspring_show").setCurrentIndex(2);
-      Find<QComboBox>(*shown.window, "offspring_show").setCurrentIndex(0);
-      Find<QComboBox>(*shown.window, "alleles_locus").setCurrentIndex(3);
+      Find<QTableView>(*shown.window, "OffspringTable").selectRow(7);
+      Find<QComboBox>(*shown.window, "OffspringShow").setCurrentIndex(2);
+      Find<QComboBox>(*shown.window, "OffspringShow").setCurrentIndex(0);
+      Find<QComboBox>(*shown.window, "AllelesLocus").setCurrentIndex(3);
     }
   }
 

@@ -85,7 +85,7 @@ class ResultsSimulationTest : public QObject {
       shown.settings.sets[1].estimated_uncollected = 1;  // no offspring of two uncollected parents
     }
     shown.Run();
-    const QAbstractItemModel& table = ModelOf(*shown.window, "summary_table");
+    const QAbstractItemModel& table = ModelOf(*shown.window, "SummaryTable");
     const QStringList means = CorrectRows(shown.project, Text("Average")).at(0);
     QCOMPARE(Column(table, 2), means);
     QCOMPARE(Column(table, 3), CorrectRows(shown.project, Text("SD")).at(0));
@@ -94,7 +94,7 @@ class ResultsSimulationTest : public QObject {
              sexed ? QStringList({Text("MC x FC"), Text("MC x FU"), Text("MU x FC"),
                                   Text("MU x FU"), Text("GLOBAL")})
                    : QStringList({Text("C X C"), Text("C X U"), Text("U X U"), Text("GLOBAL")}));
-    const QString text = Find<QTextBrowser>(*shown.window, "summary_text").toPlainText();
+    const QString text = Find<QTextBrowser>(*shown.window, "SummaryText").toPlainText();
     QVERIFY(text.contains(Text("Summary.xls")) && text.contains(Text("Run record.toml")));
     QCOMPARE(text.contains(Text("pseudo-offspring.txt")), !sexed);
     QVERIFY(!text.contains(Text("last combination")));
@@ -104,8 +104,8 @@ class ResultsSimulationTest : public QObject {
     Shown shown(Flow::kNonSexed);
     shown.settings.sets[0].uncollected = 1;  // no pseudo-offspring of two uncollected parents
     shown.Run();
-    auto& combo = Find<QComboBox>(*shown.window, "spread_class");
-    const QAbstractItemModel& table = ModelOf(*shown.window, "spread_table");
+    auto& combo = Find<QComboBox>(*shown.window, "SpreadClass");
+    const QAbstractItemModel& table = ModelOf(*shown.window, "SpreadTable");
     QCOMPARE(combo.currentText(), Text("GLOBAL"));
     const QStringList means = CorrectRows(shown.project, Text("Average")).at(0);
     for (int k = 0; k < combo.count(); ++k) {
@@ -115,7 +115,7 @@ class ResultsSimulationTest : public QObject {
         expected += CorrectRows(shown.project, QString::number(iteration)).at(0)[k];
       }
       QCOMPARE(Column(table, 1), expected);
-      QVERIFY(Find<QLabel>(*shown.window, "spread_figures").text().contains(means[k]));
+      QVERIFY(Find<QLabel>(*shown.window, "SpreadFigures").text().contains(means[k]));
     }
   }
 
@@ -131,14 +131,14 @@ class ResultsSimulationTest : public QObject {
       }
       last_section.push_back(row);
     }
-    const Rows rows = ModelRows(ModelOf(*shown.window, "sequence_table"));
+    const Rows rows = ModelRows(ModelOf(*shown.window, "SequenceTable"));
     QCOMPARE(rows.size(), std::size_t{9});
     QCOMPARE(rows[1][1], Text("+ Mir30Tet"));
     for (std::size_t k = 1; k < rows.size(); ++k) {
       QCOMPARE(rows[k][0], QString::number(k));
       QCOMPARE(rows[k][2], last_section.at(k)[1]);
     }
-    QVERIFY(Find<QTextBrowser>(*shown.window, "summary_text")
+    QVERIFY(Find<QTextBrowser>(*shown.window, "SummaryText")
                 .toPlainText()
                 .contains(Text("(results for the last combination of loci only)")));
   }
@@ -153,7 +153,7 @@ class ResultsSimulationTest : public QObject {
     const auto& subsets = shown.run.result.subsets;
     QCOMPARE(subsets.size(), std::size_t{15});
     const std::size_t figure = NonSexedSimulation().Design().any_correct_figure;
-    const QAbstractItemModel& model = ModelOf(*shown.window, "subsets_table");
+    const QAbstractItemModel& model = ModelOf(*shown.window, "SubsetsTable");
     for (std::size_t k = 0; k < subsets.size(); ++k) {
       bool is_best = true;  // better than all before, as good as all behind
       for (std::size_t other = 0; other < subsets.size(); ++other) {
@@ -169,8 +169,8 @@ class ResultsSimulationTest : public QObject {
       QCOMPARE(cell(SubsetColumn::kBest),
                is_best ? Text("★ best of %1").arg(subsets[k].loci.size()) : QString());
     }
-    Find<QComboBox>(*shown.window, "subsets_show").setCurrentIndex(1);
-    const QAbstractItemModel& best = ModelOf(*shown.window, "best_subsets_table");
+    Find<QComboBox>(*shown.window, "SubsetsShow").setCurrentIndex(1);
+    const QAbstractItemModel& best = ModelOf(*shown.window, "BestSubsetsTable");
     QCOMPARE(Column(model, Place(SubsetColumn::kNames)), Column(best, 2));
     QCOMPARE(Column(best, 0), QStringList({Text("1"), Text("2"), Text("3"), Text("4")}));
   }
@@ -182,7 +182,7 @@ class ResultsSimulationTest : public QObject {
     shown.settings.iterations = 1;
     shown.settings.loci_in_use = {"Mir03Di", "Mir08Di", "Mir14Di", "Mir05Tet"};
     shown.Run();
-    auto& table = Find<QTableView>(*shown.window, "subsets_table");
+    auto& table = Find<QTableView>(*shown.window, "SubsetsTable");
     const QAbstractItemModelTester tester(table.model(),
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
     table.sortByColumn(Place(SubsetColumn::kAnyCorrect), Qt::DescendingOrder);
@@ -192,14 +192,14 @@ class ResultsSimulationTest : public QObject {
     }
     QCOMPARE(figures.size(), std::size_t{15});
     QVERIFY(std::is_sorted(figures.rbegin(), figures.rend()));
-    QTest::keyClicks(&Find<QLineEdit>(*shown.window, "subsets_find"), Text("tet mir03"));
-    Find<QComboBox>(*shown.window, "subsets_show").setCurrentText(Text("3 loci"));
+    QTest::keyClicks(&Find<QLineEdit>(*shown.window, "SubsetsFind"), Text("tet mir03"));
+    Find<QComboBox>(*shown.window, "SubsetsShow").setCurrentText(Text("3 loci"));
     QStringList names = Column(*table.model(), Place(SubsetColumn::kNames));
     names.sort();
     QCOMPARE(names,
              QStringList({Text("Mir03Di Mir08Di Mir05Tet"), Text("Mir03Di Mir14Di Mir05Tet")}));
-    QCOMPARE(Find<QLabel>(*shown.window, "subsets_count").text(), Text("2 of 15 subsets"));
-    QVERIFY(Find<QTextBrowser>(*shown.window, "summary_text")
+    QCOMPARE(Find<QLabel>(*shown.window, "SubsetsCount").text(), Text("2 of 15 subsets"));
+    QVERIFY(Find<QTextBrowser>(*shown.window, "SummaryText")
                 .toPlainText()
                 .contains(Text("No subset reached the criterion 1.")));
   }

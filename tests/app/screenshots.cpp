@@ -53,8 +53,8 @@ class Photographer {
   /// Saves every tab of a results window, then closes it.
   void TakeResults(Script& script, std::string_view name) const {
     const QString path = folder_ + Text("/") + Text(name);
-    script.Await("tabs").Do([path](QWidget& window) {
-      auto* const tabs = window.findChild<QTabWidget*>(Text("tabs"));
+    script.Await("Tabs").Do([path](QWidget& window) {
+      auto* const tabs = window.findChild<QTabWidget*>(Text("Tabs"));
       for (int tab = 0; tab < tabs->count(); ++tab) {
         tabs->setCurrentIndex(tab);
         QTest::qWait(100);

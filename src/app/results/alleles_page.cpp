@@ -20,7 +20,7 @@ AllelesPage::AllelesPage(SharedAllocation allocation, const QString& folder, QWi
       previous_(new QPushButton(Text("Pre&vious"))),
       next_(new QPushButton(Text("&Next"))),
       copies_(new QLabel),
-      panel_(new ChartPanel(Text("alleles"), Qt::Horizontal, folder, nullptr)) {
+      panel_(new ChartPanel(Text("Alleles"), Qt::Horizontal, folder, nullptr)) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(LocusRow());
@@ -30,14 +30,14 @@ AllelesPage::AllelesPage(SharedAllocation allocation, const QString& folder, QWi
 }
 
 QWidget* AllelesPage::LocusRow() {
-  locus_->setObjectName(Text("alleles_locus"));
+  locus_->setObjectName(Text("AllelesLocus"));
   locus_->setToolTip(Text("The loci in use."));
   for (const LocusIndex locus : allocation_->run.result.loci.loci) {
     locus_->addItem(Text(allocation_->run.input.loci.Name(locus)));
   }
-  previous_->setObjectName(Text("alleles_previous"));
-  next_->setObjectName(Text("alleles_next"));
-  copies_->setObjectName(Text("alleles_copies"));
+  previous_->setObjectName(Text("AllelesPrevious"));
+  next_->setObjectName(Text("AllelesNext"));
+  copies_->setObjectName(Text("AllelesCopies"));
   copies_->setWordWrap(true);
   auto* label = new QLabel(Text("Loc&us:"));
   label->setBuddy(locus_);

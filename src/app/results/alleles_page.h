@@ -15,8 +15,8 @@ class ChartPanel;
 
 /// The allele frequencies of one locus at a time, over all individuals of an allocation.
 ///
-/// Object names: "alleles_locus", "alleles_previous", "alleles_next", "alleles_copies", and those
-/// of a ChartPanel "alleles".
+/// Object names: "AllelesLocus", "AllelesPrevious", "AllelesNext", "AllelesCopies", and those
+/// of a ChartPanel "Alleles".
 class AllelesPage : public QWidget {
  public:
   AllelesPage(SharedAllocation allocation, const QString& folder, QWidget* parent = nullptr);

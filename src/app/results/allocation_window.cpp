@@ -23,7 +23,7 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
   AddTab(new OffspringPage(shared, Folder()), Text("&Offspring"),
          Text("The parents of every offspring, and why, locus by locus."));
   if (shared->settings.sequence) {
-    auto* sequence = new ChartPanel(Text("sequence"), Qt::Horizontal, Folder(), nullptr);
+    auto* sequence = new ChartPanel(Text("Sequence"), Qt::Horizontal, Folder(), nullptr);
     sequence->Show(SequenceChart(flow, shared->run.input, shared->run.result));
     AddTab(sequence, Text("Se&quence"), Text("How the proportions settle as loci are added."));
   }

@@ -42,8 +42,8 @@ ChartPanel::ChartPanel(const QString& name, Qt::Orientation orientation, QString
       model_(new DataTableModel(this)),
       table_(new ResultTable(Text("Numbers of the chart"))) {
   auto* splitter = new QSplitter(orientation);
-  chart_->setObjectName(name + Text("_chart"));
-  table_->setObjectName(name + Text("_table"));
+  chart_->setObjectName(name + Text("Chart"));
+  table_->setObjectName(name + Text("Table"));
   table_->setModel(model_);
   splitter->addWidget(chart_);
   splitter->addWidget(TableSide());
@@ -66,10 +66,10 @@ QWidget* ChartPanel::TableSide() {
 
 void ChartPanel::AddButtons(QBoxLayout& layout) {
   auto* save = new QPushButton(Text("Save c&hart..."));
-  save->setObjectName(name_ + Text("_save"));
+  save->setObjectName(name_ + Text("Save"));
   save->setToolTip(Text("Save the chart for an article (SVG, PDF, PNG) or its numbers (CSV)."));
   auto* copy = new QPushButton(Text("Copy &table"));
-  copy->setObjectName(name_ + Text("_copy"));
+  copy->setObjectName(name_ + Text("Copy"));
   copy->setToolTip(
       Text("Copy the selected rows, or all, with their heads, to be pasted into a spreadsheet."));
   auto* row = new QHBoxLayout;
@@ -83,7 +83,7 @@ void ChartPanel::AddButtons(QBoxLayout& layout) {
 
 void ChartPanel::AskAndSave() {
   const QString path =
-      AskWhereToSave(window(), Text("Save chart"), folder_ + QLatin1Char('/') + name_,
+      AskWhereToSave(window(), Text("Save chart"), folder_ + QLatin1Char('/') + name_.toLower(),
                      {Text("Vector graphics (*.svg)"), Text("Portable document (*.pdf)"),
                       Text("Picture, 300 dpi (*.png)"), Text("Numbers of the chart (*.csv)")});
   if (!path.isEmpty()) {

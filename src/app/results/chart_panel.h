@@ -15,8 +15,8 @@ class ResultTable;
 
 /// A chart with its numbers as a table, and buttons to save the one and copy the other.
 ///
-/// Object names, with `name` as given: "<name>_chart", "<name>_table", "<name>_save",
-/// "<name>_copy".
+/// Object names, with `name` as given: "<name>Chart", "<name>Table", "<name>Save",
+/// "<name>Copy".
 class ChartPanel : public QWidget {
  public:
   /// The table stands beside (Qt::Horizontal) or below the chart. `folder` is where files are

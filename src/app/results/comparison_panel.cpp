@@ -24,13 +24,13 @@ ComparisonPanel::ComparisonPanel(SharedAllocation allocation, QWidget* parent)
       table_(new ResultTable(Text("Genotypes locus by locus"))),
       pair_(new QComboBox),
       verdict_(new QLabel) {
-  pair_->setObjectName(Text("comparison_pair"));
+  pair_->setObjectName(Text("ComparisonPair"));
   pair_->setToolTip(Text("Pairs that explain the offspring equally well. The first one decided."));
   pair_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  verdict_->setObjectName(Text("comparison_verdict"));
+  verdict_->setObjectName(Text("ComparisonVerdict"));
   verdict_->setWordWrap(true);
   verdict_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  table_->setObjectName(Text("comparison_table"));
+  table_->setObjectName(Text("ComparisonTable"));
   model_->SetColours(FitColoursOf(palette()));
   table_->setModel(model_);
   LayOut();
@@ -51,10 +51,10 @@ void ComparisonPanel::LayOut() {
                        Bytes(SignOf(LocusFit::kExact)), Bytes(SignOf(LocusFit::kTolerated)),
                        Bytes(SignOf(LocusFit::kExcluded)), Bytes(SignOf(LocusFit::kUnmeasured)),
                        Bytes(SignOf(LocusFit::kUnsaid)))));
-  legend->setObjectName(Text("comparison_legend"));
+  legend->setObjectName(Text("ComparisonLegend"));
   legend->setWordWrap(true);
   auto* copy = new QPushButton(Text("Copy &genotypes"));
-  copy->setObjectName(Text("comparison_copy"));
+  copy->setObjectName(Text("ComparisonCopy"));
   copy->setToolTip(Text("Copy the selected loci, or all, with their heads."));
   auto* foot = new QHBoxLayout;
   foot->addWidget(legend, 1);

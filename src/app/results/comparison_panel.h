@@ -16,8 +16,8 @@ class ResultTable;
 /// The genotypes of one offspring beside those of its pair, locus by locus, with what each locus
 /// says for or against either parent. Of several equally likely pairs each can be looked at.
 ///
-/// Object names: "comparison_pair", "comparison_verdict", "comparison_table", "comparison_legend",
-/// "comparison_copy".
+/// Object names: "ComparisonPair", "ComparisonVerdict", "ComparisonTable", "ComparisonLegend",
+/// "ComparisonCopy".
 class ComparisonPanel : public QWidget {
  public:
   explicit ComparisonPanel(SharedAllocation allocation, QWidget* parent = nullptr);

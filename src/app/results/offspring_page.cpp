@@ -28,7 +28,7 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, QString folder,
       find_(new QLineEdit),
       show_(new QComboBox),
       count_(new QLabel) {
-  table_->setObjectName(Text("offspring_table"));
+  table_->setObjectName(Text("OffspringTable"));
   table_->setModel(filter_);
   table_->setSortingEnabled(true);
   table_->sortByColumn(0, Qt::AscendingOrder);
@@ -51,12 +51,12 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, QString folder,
 }
 
 QWidget* OffspringPage::ChoiceRow() {
-  find_->setObjectName(Text("offspring_find"));
+  find_->setObjectName(Text("OffspringFind"));
   find_->setPlaceholderText(Text("part of a name"));
   find_->setToolTip(
       Text("Show only offspring whose name, or the name of a parent, contains this."));
   find_->setClearButtonEnabled(true);
-  show_->setObjectName(Text("offspring_show"));
+  show_->setObjectName(Text("OffspringShow"));
   show_->setToolTip(Text("Show only one class of allocations, or those to be looked at twice."));
   show_->addItem(Text("all offspring"));
   for (const QString& name : ClassNames(model_->RunFlow())) {
@@ -64,7 +64,7 @@ QWidget* OffspringPage::ChoiceRow() {
   }
   show_->addItem(Text("several pairs"));
   show_->addItem(Text("no pair"));
-  count_->setObjectName(Text("offspring_count"));
+  count_->setObjectName(Text("OffspringCount"));
   auto* find_label = new QLabel(Text("Fi&nd:"));
   find_label->setBuddy(find_);
   auto* show_label = new QLabel(Text("Sho&w:"));
@@ -82,11 +82,11 @@ QWidget* OffspringPage::ChoiceRow() {
 
 QWidget* OffspringPage::ListSide() {
   auto* copy = new QPushButton(Text("Copy &rows"));
-  copy->setObjectName(Text("offspring_copy"));
+  copy->setObjectName(Text("OffspringCopy"));
   copy->setToolTip(
       Text("Copy the selected rows with their heads, to be pasted into a spreadsheet (Ctrl+C)."));
   auto* save = new QPushButton(Text("&Export table..."));
-  save->setObjectName(Text("offspring_export"));
+  save->setObjectName(Text("OffspringExport"));
   save->setToolTip(Text("Save all rows shown, in their order, as comma-separated values."));
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();

@@ -19,8 +19,8 @@ class ResultTable;
 /// All offspring with their parents, to be searched, sorted, copied and exported, and below them
 /// the genotypes of the chosen one beside those of its pair.
 ///
-/// Object names: "offspring_find", "offspring_show", "offspring_count", "offspring_table",
-/// "offspring_copy", "offspring_export"; those of the ComparisonPanel.
+/// Object names: "OffspringFind", "OffspringShow", "OffspringCount", "OffspringTable",
+/// "OffspringCopy", "OffspringExport"; those of the ComparisonPanel.
 class OffspringPage : public QWidget {
  public:
   OffspringPage(const SharedAllocation& allocation, QString folder, QWidget* parent = nullptr);

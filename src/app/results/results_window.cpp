@@ -24,7 +24,7 @@ ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget
       copy_command_(new QPushButton(Text("&Copy as command"))) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(Text("%1 - %2 - results").arg(Text(kProductTitle), PathText(project)));
-  tabs_->setObjectName(Text("tabs"));
+  tabs_->setObjectName(Text("Tabs"));
   tabs_->setDocumentMode(true);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(tabs_);
@@ -36,14 +36,14 @@ ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget
 
 QWidget* ResultsWindow::ButtonRow() {
   auto* open = new QPushButton(Text("Open &folder"));
-  open->setObjectName(Text("open_folder"));
+  open->setObjectName(Text("OpenFolder"));
   open->setToolTip(Text("Show the reports of this run: %1").arg(folder_));
-  copy_command_->setObjectName(Text("copy_command"));
+  copy_command_->setObjectName(Text("CopyCommand"));
   copy_command_->setToolTip(
       Text("Copy the command line that repeats this run, for a script or a colleague."));
   copy_command_->setEnabled(false);
   auto* close_button = new QPushButton(Text("C&lose"));
-  close_button->setObjectName(Text("close"));
+  close_button->setObjectName(Text("Close"));
   close_button->setToolTip(Text("Close this window. The reports stay in their folder."));
 
   auto* row = new QWidget;

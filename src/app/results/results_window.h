@@ -13,7 +13,7 @@ namespace kaldo {
 /// buttons to open the folder with the reports and to copy the command that repeats the run. Esc
 /// closes it.
 ///
-/// Object names: "tabs", "open_folder", "copy_command", "close".
+/// Object names: "Tabs", "OpenFolder", "CopyCommand", "Close".
 class ResultsWindow : public QWidget {
  public:
   /// `folder` is the full path of the project folder.

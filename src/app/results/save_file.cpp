@@ -24,7 +24,7 @@ bool SaveFile(QWidget* parent, const QString& path, const QByteArray& contents) 
 QString AskWhereToSave(QWidget* parent, const QString& caption, const QString& suggested,
                        const QStringList& filters) {
   QFileDialog dialog(parent, caption, QFileInfo(suggested).path());
-  dialog.setObjectName(Text("save_dialog"));
+  dialog.setObjectName(Text("SaveDialog"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setNameFilters(filters);
   dialog.selectFile(suggested);

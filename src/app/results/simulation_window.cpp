@@ -26,7 +26,7 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
   AddTab(new SpreadPage(classes, Text(LastCombinationNote(strategy)), Folder()), Text("S&pread"),
          Text("How much the share of correct decisions varies between iterations."));
   if (strategy == LociStrategy::kCumulative) {
-    auto* sequence = new ChartPanel(Text("sequence"), Qt::Horizontal, Folder(), nullptr);
+    auto* sequence = new ChartPanel(Text("Sequence"), Qt::Horizontal, Folder(), nullptr);
     sequence->Show(SequenceChart(flow, shared->run));
     AddTab(sequence, Text("Se&quence"), Text("What each further locus adds."));
   }

@@ -18,14 +18,14 @@ SpreadPage::SpreadPage(std::vector<Correctness> classes, QString note, const QSt
       note_(std::move(note)),
       class_(new QComboBox),
       figures_(new QLabel),
-      panel_(new ChartPanel(Text("spread"), Qt::Horizontal, folder, nullptr)) {
-  class_->setObjectName(Text("spread_class"));
+      panel_(new ChartPanel(Text("Spread"), Qt::Horizontal, folder, nullptr)) {
+  class_->setObjectName(Text("SpreadClass"));
   class_->setToolTip(Text("The origin of the pseudo-offspring: which true parents are collected."));
   for (const Correctness& of_class : classes_) {
     class_->addItem(of_class.name);
   }
   class_->setCurrentIndex(class_->count() - 1);
-  figures_->setObjectName(Text("spread_figures"));
+  figures_->setObjectName(Text("SpreadFigures"));
   figures_->setWordWrap(true);
   auto* label = new QLabel(Text("Cl&ass:"));
   label->setBuddy(class_);

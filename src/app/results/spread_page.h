@@ -15,7 +15,7 @@ class ChartPanel;
 /// How much the share of correct decisions varies from iteration to iteration, for one class of
 /// origin or all together: that is how much chance there is in a single field season.
 ///
-/// Object names: "spread_class", "spread_figures", and those of a ChartPanel "spread".
+/// Object names: "SpreadClass", "SpreadFigures", and those of a ChartPanel "Spread".
 class SpreadPage : public QWidget {
  public:
   SpreadPage(std::vector<Correctness> classes, QString note, const QString& folder,

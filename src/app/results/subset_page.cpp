@@ -41,7 +41,7 @@ ChartPanel* BestPanel(const FinishedSimulation& simulation, const SubsetModel& m
                           Text(NamesOf(simulation.run.input.loci, best.loci))});
   }
   chart.series.push_back(std::move(series));
-  auto* panel = new ChartPanel(Text("best_subsets"), Qt::Horizontal, folder, nullptr);
+  auto* panel = new ChartPanel(Text("BestSubsets"), Qt::Horizontal, folder, nullptr);
   panel->Show(chart, table);
   return panel;
 }
@@ -56,7 +56,7 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, QString folder, QWidg
       find_(new QLineEdit),
       show_(new QComboBox),
       count_(new QLabel) {
-  table_->setObjectName(Text("subsets_table"));
+  table_->setObjectName(Text("SubsetsTable"));
   table_->setModel(model_);
   table_->horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
   table_->setSortingEnabled(true);
@@ -77,20 +77,20 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, QString folder, QWidg
 }
 
 QWidget* SubsetPage::ChoiceRow() {
-  find_->setObjectName(Text("subsets_find"));
+  find_->setObjectName(Text("SubsetsFind"));
   find_->setPlaceholderText(Text("names of loci"));
   find_->setToolTip(
       Text("Show only subsets that contain all these loci, with blanks between "
            "them; parts of names will do."));
   find_->setClearButtonEnabled(true);
-  show_->setObjectName(Text("subsets_show"));
+  show_->setObjectName(Text("SubsetsShow"));
   show_->setToolTip(Text("Show only subsets of one size, or the best of each."));
   show_->addItem(Text("all subsets"), kAllSizes);
   show_->addItem(Text("best of each size"), kOnlyBest);
   for (const auto& [size, place] : model_->Best()) {
     show_->addItem(size == 1 ? Text("1 locus") : Text("%1 loci").arg(size), static_cast<int>(size));
   }
-  count_->setObjectName(Text("subsets_count"));
+  count_->setObjectName(Text("SubsetsCount"));
   auto* find_label = new QLabel(Text("Fi&nd:"));
   find_label->setBuddy(find_);
   auto* show_label = new QLabel(Text("Sho&w:"));
@@ -108,11 +108,11 @@ QWidget* SubsetPage::ChoiceRow() {
 
 QWidget* SubsetPage::ListSide() {
   auto* copy = new QPushButton(Text("Copy &rows"));
-  copy->setObjectName(Text("subsets_copy"));
+  copy->setObjectName(Text("SubsetsCopy"));
   copy->setToolTip(
       Text("Copy the selected rows with their heads, to be pasted into a spreadsheet (Ctrl+C)."));
   auto* save = new QPushButton(Text("&Export table..."));
-  save->setObjectName(Text("subsets_export"));
+  save->setObjectName(Text("SubsetsExport"));
   save->setToolTip(Text("Save all rows shown, in their order, as comma-separated values."));
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();

@@ -17,8 +17,8 @@ class SubsetModel;
 /// All subsets of loci that were run, and the best of each size as a chart: how many loci are
 /// enough, and which.
 ///
-/// Object names: "subsets_find", "subsets_show", "subsets_count", "subsets_table",
-/// "subsets_copy", "subsets_export", and those of a ChartPanel "best_subsets".
+/// Object names: "SubsetsFind", "SubsetsShow", "SubsetsCount", "SubsetsTable",
+/// "SubsetsCopy", "SubsetsExport", and those of a ChartPanel "BestSubsets".
 class SubsetPage : public QWidget {
  public:
   SubsetPage(const SharedSimulation& simulation, QString folder, QWidget* parent = nullptr);

@@ -53,12 +53,12 @@ SummaryPage::SummaryPage(const Summary& summary, const Chart& chart, const DataT
                          const QString& folder, QWidget* parent)
     : QWidget(parent) {
   auto* text = new QTextBrowser;
-  text->setObjectName(Text("summary_text"));
+  text->setObjectName(Text("SummaryText"));
   text->setAccessibleName(Text("Summary of the run"));
   text->setTabChangesFocus(true);
   text->setHtml(HtmlOf(summary));
   text->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
-  auto* figures = new ChartPanel(Text("summary"), Qt::Vertical, folder, nullptr);
+  auto* figures = new ChartPanel(Text("Summary"), Qt::Vertical, folder, nullptr);
   figures->Show(chart, table);
   auto* splitter = new QSplitter;
   splitter->addWidget(text);

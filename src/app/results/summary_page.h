@@ -27,7 +27,7 @@ QStringList FilesPresent(const QString& folder, const std::vector<std::string_vi
 /// The first tab of a results window: the summary as text to be read and copied, beside the main
 /// figures as a chart and a table.
 ///
-/// Object names: "summary_text", and those of a ChartPanel "summary".
+/// Object names: "SummaryText", and those of a ChartPanel "Summary".
 class SummaryPage : public QWidget {
  public:
   SummaryPage(const Summary& summary, const Chart& chart, const DataTable& table,

@@ -167,10 +167,10 @@ void RunToTheEnd(Script& script, QString& command, int messages) {
     script.Answer();
   }
   // The results window tells the same command.
-  script.Click("copy_command").Do([&command](QWidget&) {
+  script.Click("CopyCommand").Do([&command](QWidget&) {
     EXPECT_EQ(QGuiApplication::clipboard()->text(), command);
   });
-  script.Click("close").Await("MainMenu");
+  script.Click("Close").Await("MainMenu");
 }
 
 void ExpectText(Script& script, std::string_view name, const QString& text) {
