@@ -139,6 +139,7 @@ class ChartPainter {
     item->setFont(font_);
     item->setColor(theme_.text);
     item->setPadding(QMargins(0, 0, 0, 3));
+    item->setClipToAxisRect(false);  // in a low chart a number rises above the axes
   }
 
   void PaintData(const BarChart& chart);

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "app/base/text.h"
@@ -16,6 +17,7 @@ namespace kaldo {
 
 namespace {
 
+constexpr int kAtRight = static_cast<int>(Qt::AlignRight) | static_cast<int>(Qt::AlignVCenter);
 constexpr int kMeasuredRows = 60;
 constexpr int kFewestRows = 4;     ///< that are seen in the smallest window
 constexpr int kWidestColumn = 44;  ///< in characters
@@ -23,6 +25,40 @@ constexpr int kWidestColumn = 44;  ///< in characters
 bool IsNumber(const QString& text) {
   return ParseDouble(Bytes(text)).has_value() || text == QLatin1String("NA");
 }
+
+/// Numbers stand at the right of their column. A blank behind them keeps them off a text that
+/// begins at the left of the next one.
+void KeepOff(Qt::Alignment alignment, QString& text) {
+  if ((alignment & Qt::AlignRight) != 0) {
+    text += QChar(QChar::Nbsp);
+  }
+}
+
+class Heads : public QHeaderView {
+ public:
+  explicit Heads(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    setSectionsClickable(true);
+    setHighlightSections(false);
+    setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  }
+
+ protected:
+  void initStyleOptionForIndex(QStyleOptionHeader* option, int section) const override {
+    QHeaderView::initStyleOptionForIndex(option, section);
+    KeepOff(option->textAlignment, option->text);
+  }
+};
+
+class Cells : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    KeepOff(option->displayAlignment, option->text);
+  }
+};
 
 }  // namespace
 
@@ -49,7 +85,7 @@ QVariant DataTableModel::data(const QModelIndex& index, int role) const {
     return text;
   }
   if (role == Qt::TextAlignmentRole && IsNumber(text)) {
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return kAtRight;
   }
   return {};
 }
@@ -60,7 +96,7 @@ QVariant DataTableModel::headerData(int section, Qt::Orientation orientation, in
   }
   if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole && !table_.rows.empty() &&
       IsNumber(table_.rows.front().value(section))) {
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return kAtRight;
   }
   return {};
 }
@@ -80,8 +116,8 @@ ResultTable::ResultTable(const QString& name, QWidget* parent) : QTableView(pare
   const int row_height = fontMetrics().lineSpacing() * 4 / 3;
   verticalHeader()->setMinimumSectionSize(row_height);
   verticalHeader()->setDefaultSectionSize(row_height);
-  horizontalHeader()->setHighlightSections(false);
-  horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  setHorizontalHeader(new Heads(this));
+  setItemDelegate(new Cells(this));
 }
 
 void ResultTable::setModel(QAbstractItemModel* model) {
@@ -94,11 +130,12 @@ void ResultTable::FitColumns() {
     return;
   }
   const int margin = 3 * fontMetrics().averageCharWidth();
+  const int blank = fontMetrics().horizontalAdvance(QChar(QChar::Nbsp));
   const int widest = kWidestColumn * fontMetrics().averageCharWidth();
   const int rows = std::min(model()->rowCount(), kMeasuredRows);
   for (int column = 0; column < model()->columnCount(); ++column) {
-    // The arrow that tells the order needs room beside the head.
-    const int arrow = isSortingEnabled() ? 2 * fontMetrics().averageCharWidth() : 0;
+    // The arrow that tells the order needs room beside the head, or else the blank behind it.
+    const int arrow = isSortingEnabled() ? 2 * fontMetrics().averageCharWidth() : blank;
     int width = horizontalHeader()->sectionSizeHint(column) + arrow;
     for (int row = 0; row < rows; ++row) {
       const QString text = model()->index(row, column).data().toString();
