@@ -67,7 +67,7 @@ FlowWindow::FlowWindow(QWidget* parent)
     : QDialog(parent),
       area_(new PageArea),
       destination_(NewHint(nullptr)),
-      copy_(NewButton("&Copy as command", "CopyAsCommand",
+      copy_(NewButton("Cop&y as command", "CopyAsCommand",
                       "Copy the command line that does the same run, for a script or a cluster")),
       back_(NewButton("<---  Back", "Back", "To the screen before; what was typed stays")),
       ok_(NewButton("OK", "Ok", "Check this screen and go on")) {

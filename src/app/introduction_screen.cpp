@@ -53,6 +53,7 @@ IntroductionScreen::IntroductionScreen() {
   example->setAutoDefault(false);
   auto* const ok = new QPushButton(Text("OK"));
   ok->setObjectName(Text("Ok"));
+  ok->setToolTip(Text("On to the main menu"));
   ok->setDefault(true);
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(example);

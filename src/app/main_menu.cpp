@@ -242,7 +242,11 @@ void MainMenu::ChooseFolder() {
 }
 
 void MainMenu::ShowFolder() {
-  folder_->setText(QDir::toNativeSeparators(QDir::current().absoluteFilePath(project_->text())));
+  const QString folder =
+      QDir::toNativeSeparators(QDir::current().absoluteFilePath(project_->text()));
+  folder_->setText(folder);
+  // Of a long path the line shows the end only.
+  folder_->setToolTip(folder + Text("\nMade when the first screen of a flow is confirmed"));
 }
 
 void MainMenu::closeEvent(QCloseEvent* event) {

@@ -72,7 +72,7 @@ constexpr SetTexts kFemaleTexts{
     "  Females  ",
     {"Collected &females file", "CollectedFemalesFile", kCollectedHelp},
     {"Sample of pseudo-collected &females", "PseudoCollectedFemalesSample", kPseudoCollectedHelp},
-    {"Number o&f pseudo-collected females", "PseudoCollectedFemales", kPseudoNumberHelp},
+    {"Number &of pseudo-collected females", "PseudoCollectedFemales", kPseudoNumberHelp},
     {"Sample of unco&llected females", "UncollectedFemalesSample", kUncollectedHelp},
     {"Numbe&r of uncollected females", "UncollectedFemales", kDrawnHelp},
     {"Estimated number of (pseudo)collected female parents   ----------- >",

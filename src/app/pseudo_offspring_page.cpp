@@ -21,7 +21,7 @@ namespace {
 constexpr std::int32_t kOffspringAtFirst = 100;
 
 constexpr FieldText kNumber{
-    "&Number of pseudo-offspring generated at each iteration", "OffspringPerIteration",
+    "Nu&mber of pseudo-offspring generated at each iteration", "OffspringPerIteration",
     "They are shared out over the origins by the weights below; fractions are dropped."};
 
 QTableWidgetItem* NewItem(const QString& text, Qt::Alignment alignment) {

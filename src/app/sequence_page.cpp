@@ -17,6 +17,9 @@ namespace {
 
 constexpr std::size_t kRowsPerColumn = 13;
 
+/// A name as a label shows it: an "&" of the name is no key.
+QString LabelText(QString name) { return name.replace(QLatin1Char('&'), Text("&&")); }
+
 }  // namespace
 
 SequencePage::SequencePage() : FlowPage(kSequenceScreen, kSequenceCaption) {
@@ -49,7 +52,7 @@ void SequencePage::SetNames(const std::vector<std::string>& names) {
   for (std::size_t k = 0; k < rows_.size(); ++k) {
     const bool has_locus = k < names.size();
     const QString name = has_locus ? Text(names[k]) : QString();
-    rows_.at(k).name->setText(name);
+    rows_.at(k).name->setText(LabelText(name));
     rows_.at(k).name->setVisible(has_locus);
     rows_.at(k).index->setAccessibleName(name);
     rows_.at(k).index->setToolTip(

@@ -40,6 +40,7 @@ FileField::FileField(const FieldText& text, QWidget* parent)
   auto* const browse = new QPushButton(Text("Browse..."), this);
   browse->setObjectName(path_->objectName() + Text("Browse"));
   browse->setAccessibleName(Text("Browse for: ") + title_);
+  browse->setToolTip(Text("Look for the file in the folders of this computer"));
   browse->setAutoDefault(false);
 
   auto* const row = new QHBoxLayout;
@@ -108,6 +109,10 @@ void FileField::dropEvent(QDropEvent* event) {
 FileField* AddFileField(QFormLayout& form, const FieldText& text) {
   auto* const field = new FileField(text);
   form.addRow(Text(text.label), field);
+  // The key of the label works only on what takes the keyboard itself.
+  if (auto* const label = qobject_cast<QLabel*>(form.labelForField(field))) {
+    label->setBuddy(field->focusProxy());
+  }
   return field;
 }
 

@@ -37,6 +37,8 @@ QWidget* AllelesPage::LocusRow() {
   }
   previous_->setObjectName(Text("AllelesPrevious"));
   next_->setObjectName(Text("AllelesNext"));
+  previous_->setToolTip(Text("To the locus before, in the order of the names-of-loci file"));
+  next_->setToolTip(Text("To the next locus, in the order of the names-of-loci file"));
   copies_->setObjectName(Text("AllelesCopies"));
   copies_->setWordWrap(true);
   auto* label = new QLabel(Text("Loc&us:"));

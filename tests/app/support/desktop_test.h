@@ -22,8 +22,14 @@ Contents WithoutCircumstances(Contents contents);
 /// Tells by name which files differ; pages of reports would hide it.
 void ExpectSame(const Contents& found, const Contents& expected);
 
+/// Runs a command line in a folder, with the command-line program of this build as "kaldo".
+void RunCommandLine(const std::string& folder, const QString& command);
+
 /// The messages that were shown, in their order.
 std::vector<std::string> Told(const Script& script);
+
+/// These messages were shown and no others.
+void ExpectTold(const Script& script, const std::vector<std::string_view>& sentences);
 
 /// The text that stands in a field or a label of the window in front.
 QString TextIn(std::string_view name);
@@ -38,7 +44,7 @@ class WorkplaceTest : public testing::Test {
   void TearDown() override;
 
   /// Copies the example files to the folder "data".
-  void WriteExamples() const;
+  static void WriteExamples();
 
   /// A small study of four loci in the folder "data", for both flows and simulations.
   void WriteStudy() const;
@@ -74,14 +80,18 @@ void OpenFlow(Script& script, std::string_view button,
 /// Types the files of an allocation, all of them in one folder.
 void TypeAllocationFiles(Script& script, Flow flow, const QString& folder);
 
-/// Types into a file dialog.
+/// From the menu to the screen of the parents in a simulation with the small study, filled in.
+void WalkToParents(Script& script, bool sexed, bool parental);
+
+/// Names a file or a folder in a file dialog.
 void PickInDialog(Script& script, const QString& path);
 
 /// From the last screen of a flow: copies the command, runs, answers as many messages, closes the
-/// results and waits for the menu.
+/// results and waits for the menu. The results tell the same command, and the seed where none was
+/// typed; that is the one which comes back.
 void RunToTheEnd(Script& script, QString& command, int messages = 1);
 
-/// Notes what a field shows and compares it when the script gets there.
+/// Compares what a field or label shows when the script gets there.
 void ExpectText(Script& script, std::string_view name, const QString& text);
 
 }  // namespace kaldo::test

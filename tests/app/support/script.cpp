@@ -30,6 +30,18 @@ QWidget* KeyboardWidget() {
   return focus != nullptr ? focus : window;
 }
 
+/// Whether keys would go to the window in front. After a message the desktop gives them back to the
+/// window below; without a desktop this does it.
+bool HasKeyboard() {
+  QWidget* const window = WindowInFront();
+  if (window == nullptr || window == QApplication::activePopupWidget() ||
+      window == QApplication::activeWindow()) {
+    return window != nullptr;
+  }
+  window->activateWindow();
+  return false;
+}
+
 /// A text as typed, letters with accents too.
 void TypeKeys(QWidget* widget, const QString& text) {
   for (const QChar letter : text) {
@@ -97,6 +109,19 @@ QWidget* VisibleWidget(std::string_view name) {
   return nullptr;
 }
 
+QLineEdit* VisibleField(std::string_view name) {
+  const QWidget* const window = WindowInFront();
+  if (window == nullptr) {
+    return nullptr;
+  }
+  for (QLineEdit* field : window->findChildren<QLineEdit*>(Text(name))) {
+    if (field->isVisible()) {
+      return field;
+    }
+  }
+  return nullptr;
+}
+
 QWidget* VisibleWidget(int number) {
   QWidget* const window = WindowInFront();
   if (window == nullptr) {
@@ -142,9 +167,9 @@ Script& Script::ClickNumber(int number) {
 Script& Script::Type(std::string_view name, const QString& text) {
   const std::string wanted(name);
   return Add(
-      "type into " + wanted, [wanted] { return VisibleWidget(wanted) != nullptr; },
+      "type into " + wanted, [wanted] { return VisibleField(wanted) != nullptr; },
       [wanted, text] {
-        auto* const field = qobject_cast<QLineEdit*>(VisibleWidget(wanted));
+        QLineEdit* const field = VisibleField(wanted);
         field->setFocus();
         field->selectAll();
         QTest::keyClick(field, Qt::Key_Delete);
@@ -154,13 +179,13 @@ Script& Script::Type(std::string_view name, const QString& text) {
 
 Script& Script::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   return Add(
-      "press key " + std::to_string(key), [] { return KeyboardWidget() != nullptr; },
+      "press key " + std::to_string(key), [] { return HasKeyboard(); },
       [key, modifiers] { QTest::keyClick(KeyboardWidget(), key, modifiers); });
 }
 
 Script& Script::TypeHere(const QString& text) {
   return Add(
-      "type " + Bytes(text), [] { return KeyboardWidget() != nullptr; },
+      "type " + Bytes(text), [] { return HasKeyboard(); },
       [text] { TypeKeys(KeyboardWidget(), text); });
 }
 
@@ -190,6 +215,12 @@ Script& Script::Answer(std::string_view answer) {
         details_.push_back(box->detailedText());
         QTest::mouseClick(ButtonOf(*box, caption), Qt::LeftButton);
       });
+}
+
+Script& Script::CloseWindow() {
+  return Add(
+      "close the window", [] { return WindowInFront() != nullptr; },
+      [] { WindowInFront()->close(); });
 }
 
 Script& Script::Until(std::function<bool()> condition, std::string what) {
@@ -262,6 +293,9 @@ void Script::GiveUp() {
   window = window != nullptr ? window : QApplication::activeModalWidget();
   giving_up_ = window != nullptr;
   if (window == nullptr) {
+    if (beginning_) {
+      QApplication::quit();  // a whole program was started
+    }
     return;
   }
   QTimer::singleShot(kTick, &context_, [this] { GiveUp(); });
@@ -276,7 +310,9 @@ void Script::GiveUp() {
 bool Script::Run(const std::function<void()>& begin) {
   failed_ = false;
   QTimer::singleShot(kTick, &context_, [this] { Tick(); });
+  beginning_ = true;
   begin();
+  beginning_ = false;
   while (!steps_.empty() || giving_up_) {
     QTest::qWait(kTick);
   }

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+class QLineEdit;
 class QWidget;
 
 namespace kaldo {
@@ -38,6 +39,9 @@ class Script {
 
   /// Waits for a message, notes its text and details, and presses its "OK" (or `answer`).
   Script& Answer(std::string_view answer = "OK");
+
+  /// Closes the window in front, as its corner button does.
+  Script& CloseWindow();
 
   /// Waits until the condition holds.
   Script& Until(std::function<bool()> condition, std::string what);
@@ -75,6 +79,7 @@ class Script {
   int idle_ticks_ = 0;
   bool failed_ = false;
   bool giving_up_ = false;
+  bool beginning_ = false;
 };
 
 /// The window in front: an open menu, the modal window, or else the one that is active.
@@ -83,5 +88,8 @@ QWidget* WindowInFront();
 /// A visible widget of the window in front, by its object name or its number.
 QWidget* VisibleWidget(std::string_view name);
 QWidget* VisibleWidget(int number);
+
+/// A visible line to type into. A screen and its field may have one name.
+QLineEdit* VisibleField(std::string_view name);
 
 }  // namespace kaldo
