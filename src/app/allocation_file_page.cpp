@@ -3,6 +3,8 @@
 
 #include <QFormLayout>
 
+#include <fmt/format.h>
+
 #include "app/base/file_field.h"
 #include "genotypes/file_summary.h"
 
@@ -34,14 +36,25 @@ std::string_view CaptionOf(Flow flow) {
   return flow == Flow::kSexed ? kSexedAllocationCaption : kNonSexedAllocationCaption;
 }
 
+/// How many groups the separators make of a file; nothing where it cannot be read.
+std::optional<std::size_t> GroupsIn(const std::string& path) {
+  const auto file = TokenFile::Read(path);
+  if (!file) {
+    return std::nullopt;
+  }
+  return CountTokens(file->Tokens(), {0, Separators::kAllowed}).separators + 1;
+}
+
 }  // namespace
 
 AllocationFilePage::AllocationFilePage(Flow flow) : FlowPage(EntryOf(flow), CaptionOf(flow)) {
   auto* const form = new QFormLayout(this);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   if (flow == Flow::kSexed) {
-    AddFile(*form, &AllocationSettings::males_file, true, kMales);
-    AddFile(*form, &AllocationSettings::females_file, true, kFemales);
+    males_ = AddFile(*form, &AllocationSettings::males_file, true, kMales);
+    females_ = AddFile(*form, &AllocationSettings::females_file, true, kFemales);
+    males_->SetOnChange([this] { females_->Refresh(); });
+    females_->SetOnChange([this] { males_->Refresh(); });
   } else {
     AddFile(*form, &AllocationSettings::parents_file, true, kParents);
   }
@@ -52,14 +65,30 @@ AllocationFilePage::AllocationFilePage(Flow flow) : FlowPage(EntryOf(flow), Capt
   tolerance_.emplace(*form);
 }
 
-void AllocationFilePage::AddFile(QFormLayout& form, std::string AllocationSettings::*path,
-                                 bool holds_parents, const FieldText& text) {
+FileField* AllocationFilePage::AddFile(QFormLayout& form, std::string AllocationSettings::*path,
+                                       bool holds_parents, const FieldText& text) {
   FileField* const field = AddFileField(form, text);
   field->SetDescriber([this, holds_parents](const std::string& file) {
-    return DescribeGenotypeFile(file, loci_->Path(),
-                                holds_parents ? Separators::kAllowed : Separators::kNone);
+    std::string line = DescribeGenotypeFile(
+        file, loci_->Path(), holds_parents ? Separators::kAllowed : Separators::kNone);
+    return holds_parents ? line + GroupsFault() : line;
   });
   rows_.push_back({path, field});
+  return field;
+}
+
+std::string AllocationFilePage::GroupsFault() const {
+  if (males_ == nullptr || females_ == nullptr) {
+    return {};
+  }
+  const auto males = GroupsIn(males_->Path());
+  const auto females = GroupsIn(females_->Path());
+  if (!males || !females || *males == *females) {
+    return {};
+  }
+  return fmt::format(
+      "\nThe numbers of groups differ: {} of males, {} of females. No run can start.", *males,
+      *females);
 }
 
 void AllocationFilePage::RefreshFiles() {

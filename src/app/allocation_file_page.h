@@ -28,8 +28,12 @@ class AllocationFilePage : public FlowPage {
   std::optional<Problem> ToleranceFault() const { return tolerance_->Fault(); }
 
  private:
-  void AddFile(QFormLayout& form, std::string AllocationSettings::*path, bool holds_parents,
-               const FieldText& text);
+  FileField* AddFile(QFormLayout& form, std::string AllocationSettings::*path, bool holds_parents,
+                     const FieldText& text);
+
+  /// Males of a group are tried with the females of the same group, so both files need as many. A
+  /// line that tells when they have not: the flow would end without a word.
+  std::string GroupsFault() const;
   void RefreshFiles();
 
   struct Row {
@@ -38,6 +42,8 @@ class AllocationFilePage : public FlowPage {
   };
 
   std::vector<Row> rows_;
+  FileField* males_ = nullptr;  ///< sexed flow, as the next
+  FileField* females_ = nullptr;
   FileField* loci_ = nullptr;
   std::optional<ToleranceField> tolerance_;
 };

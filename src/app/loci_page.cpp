@@ -56,6 +56,7 @@ QWidget* LociPage::NewRows() {
   for (std::size_t k = 0; k < rows_.size(); ++k) {
     Row& row = rows_.at(k);
     row.name = new QLineEdit;
+    row.name->setObjectName(Text("LocusName" + std::to_string(k + 1)));
     row.name->setReadOnly(true);
     row.name->setFocusPolicy(Qt::NoFocus);
     row.name->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
