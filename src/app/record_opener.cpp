@@ -26,8 +26,21 @@ void OfferFolder(QWidget* parent, const RunRecord& record) {
   }
 }
 
+std::vector<std::string> MissingInputs(const RunRecord& record) {
+  std::vector<std::string> missing;
+  for (const RecordedInput& input : record.inputs) {
+    if (!DigestOfFile(input.path)) {
+      missing.push_back(fmt::format("{} (\"{}\") cannot be read.", input.role, input.path));
+    }
+  }
+  return missing;
+}
+
 void TellChanges(QWidget* parent, const RunRecord& record) {
-  std::vector<std::string> changes = ChangedInputs(record);
+  std::vector<std::string> changes = MissingInputs(record);
+  for (std::string& change : ChangedInputs(record)) {
+    changes.push_back(std::move(change));
+  }
   if (record.version != Version()) {
     changes.push_back(fmt::format("The record was made by KALDO {}, this is KALDO {}.",
                                   record.version, Version()));
