@@ -4,7 +4,7 @@
 include(GNUInstallDirs)
 
 set(kaldo_man_pages docs/man/kaldo.1)
-foreach(program kaldo kaldo-desktop kaldo-mpi)
+foreach(program kaldo kaldo-desktop)
   if(TARGET ${program})
     install(TARGETS ${program} RUNTIME)
   endif()
@@ -19,6 +19,13 @@ if(TARGET kaldo-desktop)
     DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 endif()
 install(FILES ${kaldo_man_pages} DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+# A component of its own: the package would depend on an MPI library, which laptops need not have and
+# which clusters have in a version of their own.
+if(TARGET kaldo-mpi)
+  install(TARGETS kaldo-mpi RUNTIME COMPONENT cluster EXCLUDE_FROM_ALL)
+  install(FILES docs/man/kaldo-mpi.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
+    COMPONENT cluster EXCLUDE_FROM_ALL)
+endif()
 
 # The documents keep their places towards each other, so that the links between them lead somewhere.
 install(DIRECTORY examples DESTINATION "${CMAKE_INSTALL_DATADIR}/kaldo")

@@ -115,6 +115,12 @@ std::optional<Problem> CheckCapacity(const AllocationFiles& files, const LociLis
 }  // namespace
 
 tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings) {
+  DiskFiles disk;
+  return OpenAllocationFiles(settings, disk);
+}
+
+tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings,
+                                                           FileSource& source) {
   std::vector<AllocationFileRole> roles = GenotypeRoles(settings.flow);
   roles.push_back(kLoci);
   for (const AllocationFileRole& role : roles) {
@@ -126,7 +132,7 @@ tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSetti
   }
   AllocationFiles files;
   for (const AllocationFileRole& role : roles) {
-    auto tokens = TokenFile::Read(settings.*role.path);
+    auto tokens = TokenFile::Read(settings.*role.path, source);
     if (!tokens) {
       return tl::unexpected(std::move(tokens.error()));
     }

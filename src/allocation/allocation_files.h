@@ -42,6 +42,8 @@ struct AllocationFiles {
 
 /// Opens the files of a flow: first every name must be given, then every file must open.
 tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings);
+tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings,
+                                                           FileSource& source);
 
 /// The tests of the file screen, file by file and for all files together.
 std::optional<Problem> CheckAllocationFiles(const AllocationFiles& files, const LociList& loci);

@@ -110,7 +110,13 @@ std::size_t AllocationInput::NumberOfMissingGenotypes() const {
 }
 
 tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSettings& settings) {
-  auto files = OpenAllocationFiles(settings);
+  DiskFiles disk;
+  return LoadAllocationInput(settings, disk);
+}
+
+tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSettings& settings,
+                                                           FileSource& source) {
+  auto files = OpenAllocationFiles(settings, source);
   if (!files) {
     return tl::unexpected(std::move(files.error()));
   }

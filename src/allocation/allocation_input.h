@@ -49,5 +49,7 @@ struct AllocationInput {
 /// Tests the files and the choices of an allocation in the order of its screens, then each record
 /// for itself, and loads them. Nothing is written. The first Problem ends the tests.
 tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSettings& settings);
+tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSettings& settings,
+                                                           FileSource& source);
 
 }  // namespace kaldo

@@ -12,6 +12,7 @@
 #include "allocation/allocation_input.h"
 #include "genotypes/run_observer.h"
 #include "genotypes/stepping_condition.h"
+#include "genotypes/workforce.h"
 
 namespace kaldo {
 
@@ -26,17 +27,20 @@ struct AllocationResult {
 
   SteppingReport stepping;
 
-  unsigned threads = 1;
+  unsigned threads = 1;  ///< that computed, of all processes together
   std::chrono::system_clock::time_point started;
   std::chrono::duration<double> duration{};
 
   const AllocationCounters& LastCounters() const { return counters.back(); }
 };
 
+/// The part of a run in which offspring are allocated.
+inline constexpr std::string_view kAllocatingPart = "Allocating";
+
 /// Allocates every offspring, for every combination of loci in turn. The result is the same for any
-/// number of threads.
+/// workforce.
 AllocationResult Allocate(const AllocationSettings& settings, const AllocationInput& input,
-                          RunObserver& observer);
+                          RunObserver& observer, Workforce& workforce);
 
 /// The sentence that closes the run: "Calculations completed!", or that some loci are out of step.
 std::string_view ClosingSentence(const AllocationResult& result);
@@ -50,8 +54,10 @@ struct AllocationRun {
 /// The whole run: checks, allocates, and writes all reports and the run record into the project
 /// folder, each whole or not at all. A Problem means that nothing was done. Throws RunFailure when
 /// a report cannot be written and RunStopped when the observer asks to stop; the reports of earlier
-/// runs then are as they were.
+/// runs then are as they were. Without a workforce the threads of this process do it.
 tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& settings,
                                                    RunObserver& observer);
+tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& settings,
+                                                   RunObserver& observer, Workforce& workforce);
 
 }  // namespace kaldo

@@ -47,10 +47,11 @@ ExitCode Tell(const Problem& problem, const CommandLineStreams& streams) {
   return ExitCode::kBadInput;
 }
 
-ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineStreams& streams) {
+ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineStreams& streams,
+                         Workforce& workforce) {
   const auto run = [&] {
     TerminalProgress progress(streams.err, streams.err_is_terminal);
-    return RunAllocation(settings, progress);
+    return RunAllocation(settings, progress, workforce);
   }();
   if (!run) {
     return Tell(run.error(), streams);
@@ -59,22 +60,25 @@ ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineSt
   return ExitCode::kDone;
 }
 
-ExitCode RunAllocate(const AllocationOptions& options, const CommandLineStreams& streams) {
+ExitCode RunAllocate(const AllocationOptions& options, const CommandLineStreams& streams,
+                     Workforce& workforce) {
   const auto settings = SettingsFrom(options);
-  return settings ? AllocateAndTell(*settings, streams) : Tell(settings.error(), streams);
+  return settings ? AllocateAndTell(*settings, streams, workforce)
+                  : Tell(settings.error(), streams);
 }
 
 const SimulationFlow& FlowOf(const SimulationSettings& settings) {
   return settings.flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation();
 }
 
-ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineStreams& streams) {
+ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineStreams& streams,
+                         Workforce& workforce) {
   if (WarnsOfManyIterations(settings.flow, settings.iterations)) {
     streams.err << kManyIterations << '\n';
   }
   const auto run = [&] {
     TerminalProgress progress(streams.err, streams.err_is_terminal);
-    return RunSimulation(settings, FlowOf(settings), progress);
+    return RunSimulation(settings, FlowOf(settings), progress, workforce);
   }();
   if (!run) {
     return Tell(run.error(), streams);
@@ -83,9 +87,11 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
   return ExitCode::kDone;
 }
 
-ExitCode RunSimulate(const SimulationOptions& options, const CommandLineStreams& streams) {
+ExitCode RunSimulate(const SimulationOptions& options, const CommandLineStreams& streams,
+                     Workforce& workforce) {
   const auto settings = SettingsFrom(options);
-  return settings ? SimulateAndTell(*settings, streams) : Tell(settings.error(), streams);
+  return settings ? SimulateAndTell(*settings, streams, workforce)
+                  : Tell(settings.error(), streams);
 }
 
 ExitCode RunCheck(const AllocationOptions& options, const CommandLineStreams& streams) {
@@ -105,7 +111,7 @@ ExitCode RunCheck(const AllocationOptions& options, const CommandLineStreams& st
 /// Runs again with the settings of a record; `settings` are those of its flow.
 template <typename Settings, typename RunAndTell>
 ExitCode Repeat(tl::expected<Settings, Problem> settings, const std::optional<std::string>& threads,
-                const CommandLineStreams& streams, RunAndTell run_and_tell) {
+                const CommandLineStreams& streams, Workforce& workforce, RunAndTell run_and_tell) {
   if (!settings) {
     return Tell(settings.error(), streams);
   }
@@ -116,7 +122,7 @@ ExitCode Repeat(tl::expected<Settings, Problem> settings, const std::optional<st
     }
     settings->threads = *number;
   }
-  return run_and_tell(*settings, streams);
+  return run_and_tell(*settings, streams, workforce);
 }
 
 /// What may make a repeated run differ, or its files be missing.
@@ -136,7 +142,7 @@ void TellChanges(const RunRecord& record, const CommandLineStreams& streams) {
 }
 
 ExitCode RunRerun(const std::string& path, const std::optional<std::string>& threads,
-                  const CommandLineStreams& streams) {
+                  const CommandLineStreams& streams, Workforce& workforce) {
   const auto record = ReadRunRecord(path);
   if (!record) {
     return Tell(record.error(), streams);
@@ -144,11 +150,12 @@ ExitCode RunRerun(const std::string& path, const std::optional<std::string>& thr
   const std::string& flow = record->flow;
   if (flow == kNonSexedAllocationFlow || flow == kSexedAllocationFlow) {
     TellChanges(*record, streams);
-    return Repeat(SettingsOf(*record, path), threads, streams, AllocateAndTell);
+    return Repeat(SettingsOf(*record, path), threads, streams, workforce, AllocateAndTell);
   }
   if (flow == kNonSexedSimulationFlow || flow == kSexedSimulationFlow) {
     TellChanges(*record, streams);
-    return Repeat(SimulationSettingsOf(*record, path), threads, streams, SimulateAndTell);
+    return Repeat(SimulationSettingsOf(*record, path), threads, streams, workforce,
+                  SimulateAndTell);
   }
   Problem problem;
   problem.sentence = "This run record cannot be used!";
@@ -159,7 +166,8 @@ ExitCode RunRerun(const std::string& path, const std::optional<std::string>& thr
 
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
 
-ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineStreams& streams) {
+ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineStreams& streams,
+                  Workforce& workforce) {
   CLI::App app(
       "KALDO allocates offspring to their parents from microsatellite genotypes when only\n"
       "part of the true parents has been collected.",
@@ -199,16 +207,16 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
     return code == 0 ? ExitCode::kDone : ExitCode::kBadInput;
   }
   if (allocate->parsed()) {
-    return RunAllocate(options, streams);
+    return RunAllocate(options, streams, workforce);
   }
   if (simulate->parsed()) {
-    return RunSimulate(simulation_options, streams);
+    return RunSimulate(simulation_options, streams, workforce);
   }
   if (check->parsed()) {
     return RunCheck(options, streams);
   }
   if (rerun->parsed()) {
-    return RunRerun(record, rerun_threads, streams);
+    return RunRerun(record, rerun_threads, streams, workforce);
   }
   streams.err << app.help();
   return ExitCode::kBadInput;
@@ -218,8 +226,14 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
 
 ExitCode RunCommandLine(const std::vector<std::string>& arguments,
                         const CommandLineStreams& streams) {
+  LocalThreads threads;
+  return RunCommandLine(arguments, streams, threads);
+}
+
+ExitCode RunCommandLine(const std::vector<std::string>& arguments,
+                        const CommandLineStreams& streams, Workforce& workforce) {
   try {
-    return Dispatch(arguments, streams);
+    return Dispatch(arguments, streams, workforce);
   } catch (const RunStopped& stopped) {
     streams.err << stopped.what() << '\n';
     return ExitCode::kStopped;

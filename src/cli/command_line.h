@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/exit_code.h"
+#include "genotypes/workforce.h"
 
 namespace kaldo {
 
@@ -17,8 +18,11 @@ struct CommandLineStreams {
 };
 
 /// Runs one command of the `kaldo` program; `arguments` are those behind the program's name.
-/// Nothing is thrown: whatever happens becomes a message and an exit code.
+/// Nothing is thrown: whatever happens becomes a message and an exit code. Without a workforce the
+/// threads of this process compute.
 ExitCode RunCommandLine(const std::vector<std::string>& arguments,
                         const CommandLineStreams& streams);
+ExitCode RunCommandLine(const std::vector<std::string>& arguments,
+                        const CommandLineStreams& streams, Workforce& workforce);
 
 }  // namespace kaldo

@@ -107,6 +107,9 @@ std::string FormatRunRecord(const RunRecord& record);
 /// Reads a record back. A file that is no run record is a Problem that names file and line.
 tl::expected<RunRecord, Problem> ReadRunRecord(const std::string& path);
 
+/// The same from its text; `path` names it in a Problem.
+tl::expected<RunRecord, Problem> ParseRunRecord(std::string_view text, const std::string& path);
+
 /// Now, as a run record writes it.
 std::string DateText(std::chrono::system_clock::time_point time);
 

@@ -148,9 +148,13 @@ tl::expected<RunRecord, Problem> ReadRunRecord(const std::string& path) {
   if (!file) {
     return tl::unexpected(file.error());
   }
+  return ParseRunRecord(file->Text(), path);
+}
+
+tl::expected<RunRecord, Problem> ParseRunRecord(std::string_view text, const std::string& path) {
   toml::table table;
   try {
-    table = toml::parse_file(path);
+    table = toml::parse(text, path);
   } catch (const toml::parse_error& error) {
     return tl::unexpected(
         NotARecord(path, std::string(error.description()), error.source().begin.line));

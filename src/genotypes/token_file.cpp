@@ -1,57 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "genotypes/token_file.h"
 
-#include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstring>
-#include <fstream>
-#include <system_error>
 
 #include <fmt/format.h>
 #include <openssl/evp.h>
-
-#include "genotypes/capacities.h"
 
 namespace kaldo {
 
 namespace {
 
-constexpr std::size_t kBlockBytes = std::size_t{1} << 16U;
-
 bool IsBlank(char character) {
   return character == ' ' || (character >= '\t' && character <= '\r');
-}
-
-Problem CannotOpen(const std::string& path, std::string reason) {
-  Problem problem;
-  problem.sentence = fmt::format("Cannot open file \"{}\"!", path);
-  problem.file = path;
-  problem.found = std::move(reason);
-  return problem;
-}
-
-tl::expected<std::vector<char>, Problem> ReadBytes(const std::string& path) {
-  errno = 0;
-  std::ifstream stream(path, std::ios::binary);
-  std::vector<char> bytes;
-  if (stream.is_open()) {
-    std::vector<char> block(kBlockBytes);
-    while (stream && bytes.size() <= kMaxInputBytes) {
-      stream.read(block.data(), static_cast<std::streamsize>(block.size()));
-      bytes.insert(bytes.end(), block.begin(), block.begin() + stream.gcount());
-    }
-  }
-  if (!stream.eof() && bytes.size() <= kMaxInputBytes) {
-    const int error = errno != 0 ? errno : EIO;
-    return tl::unexpected(CannotOpen(path, std::generic_category().message(error)));
-  }
-  if (bytes.size() > kMaxInputBytes) {
-    return tl::unexpected(
-        CannotOpen(path, fmt::format("it holds more than {} MB and cannot be a genotype file",
-                                     kMaxInputBytes / 1024 / 1024)));
-  }
-  return bytes;
 }
 
 FileDigest DigestOf(const std::vector<char>& bytes) {
@@ -93,12 +54,17 @@ std::vector<Token> CutIntoTokens(std::string_view text) {
 }  // namespace
 
 tl::expected<TokenFile, Problem> TokenFile::Read(const std::string& path) {
-  auto bytes = ReadBytes(path);
+  DiskFiles disk;
+  return Read(path, disk);
+}
+
+tl::expected<TokenFile, Problem> TokenFile::Read(const std::string& path, FileSource& source) {
+  auto bytes = source.Read(path);
   if (!bytes) {
     return tl::unexpected(std::move(bytes.error()));
   }
   if (StartsWith(*bytes, "\xff\xfe") || StartsWith(*bytes, "\xfe\xff")) {
-    return tl::unexpected(CannotOpen(
+    return tl::unexpected(CannotOpenFile(
         path, "it is written in UTF-16 (\"Unicode text\"); save it as plain text or UTF-8"));
   }
   TokenFile file;
@@ -114,7 +80,7 @@ tl::expected<TokenFile, Problem> TokenFile::Read(const std::string& path) {
 }
 
 tl::expected<FileDigest, Problem> DigestOfFile(const std::string& path) {
-  return ReadBytes(path).map(DigestOf);
+  return DiskFiles().Read(path).map(DigestOf);
 }
 
 }  // namespace kaldo

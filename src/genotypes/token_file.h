@@ -9,7 +9,7 @@
 
 #include <tl/expected.hpp>
 
-#include "genotypes/problem.h"
+#include "genotypes/file_source.h"
 
 namespace kaldo {
 
@@ -42,10 +42,12 @@ class TokenFile {
   /// Reads the file once. A file that cannot be opened or read is a Problem with the sentence
   /// `Cannot open file "x"!`; so is one that cannot be text (UTF-16, larger than any input).
   static tl::expected<TokenFile, Problem> Read(const std::string& path);
+  static tl::expected<TokenFile, Problem> Read(const std::string& path, FileSource& source);
 
   /// The path as the user typed it.
   const std::string& Path() const { return path_; }
   std::span<const Token> Tokens() const { return tokens_; }
+  std::string_view Text() const { return {bytes_.data(), bytes_.size()}; }
   const FileDigest& Digest() const { return digest_; }
 
  private:

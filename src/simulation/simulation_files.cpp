@@ -116,6 +116,13 @@ tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& se
 
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
                                                            const SimulationDesign& design) {
+  DiskFiles disk;
+  return OpenSimulationFiles(settings, design, disk);
+}
+
+tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
+                                                           const SimulationDesign& design,
+                                                           FileSource& source) {
   if (settings.loci_file.empty()) {
     return tl::unexpected(Missing(kNoLociFile));
   }
@@ -127,13 +134,13 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
     }
   }
   SimulationFiles files;
-  auto loci = OpenSimulationLoci(settings);
+  auto loci = TokenFile::Read(settings.loci_file, source);
   if (!loci) {
     return tl::unexpected(std::move(loci.error()));
   }
   files.loci = std::move(*loci);
   for (GroupPath& path : paths) {
-    auto tokens = TokenFile::Read(*path.path);
+    auto tokens = TokenFile::Read(*path.path, source);
     if (!tokens) {
       return tl::unexpected(std::move(tokens.error()));
     }

@@ -31,6 +31,9 @@ tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& se
 /// Opens the files: first every name must be given, then every file must open.
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
                                                            const SimulationDesign& design);
+tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
+                                                           const SimulationDesign& design,
+                                                           FileSource& source);
 
 /// The tests of the file screens, group after group; each screen tells its own fault at once.
 std::optional<Problem> CheckSimulationFiles(const SimulationFiles& files, const LociList& loci);

@@ -179,8 +179,15 @@ std::uint32_t SimulationInput::OffspringPerIteration() const {
 
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
                                                            const SimulationFlow& flow) {
+  DiskFiles disk;
+  return LoadSimulationInput(settings, flow, disk);
+}
+
+tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
+                                                           const SimulationFlow& flow,
+                                                           FileSource& source) {
   const SimulationDesign& design = flow.Design();
-  auto files = OpenSimulationFiles(settings, design);
+  auto files = OpenSimulationFiles(settings, design, source);
   if (!files) {
     return tl::unexpected(std::move(files.error()));
   }

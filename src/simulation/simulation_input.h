@@ -48,5 +48,8 @@ struct SimulationInput {
 /// for itself and the group sizes, and loads them. Nothing is written.
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
                                                            const SimulationFlow& flow);
+tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
+                                                           const SimulationFlow& flow,
+                                                           FileSource& source);
 
 }  // namespace kaldo

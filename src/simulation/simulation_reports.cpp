@@ -3,9 +3,8 @@
 
 #include <fmt/format.h>
 
-#include "allocation/matrices_report.h"
 #include "genotypes/allele_listing.h"
-#include "genotypes/parallel_for.h"
+#include "simulation/iteration_units.h"
 #include "simulation/saved_loci.h"
 #include "simulation/simulated_individuals.h"
 #include "simulation/simulation_record.h"
@@ -15,17 +14,30 @@ namespace kaldo {
 
 namespace {
 
-/// The names of the loci on one line, each followed by a blank.
-std::string MatricesOf(const SimulationSettings& settings, const SimulationInput& input,
-                       const SimulatedIteration& iteration) {
-  const MatricesReport report{settings.flow, settings.tolerance, input.digits_per_field,
-                              iteration.Table(), iteration.Loci()};
-  std::string text;
-  for (std::uint32_t i = 0; i < iteration.Outcomes().size(); ++i) {
-    text += MatricesBlock(report, Slot{iteration.Offspring().begin + i}, iteration.Outcomes()[i]);
+/// Appends the listings of the iterations to their file, one iteration after the other.
+class MatricesPlan final : public UnitPlan {
+ public:
+  MatricesPlan(const SimulationResult& result, ReportFile& file) : result_(result), file_(file) {}
+
+  std::size_t Groups() const override { return 1; }
+  std::size_t ItemsPerGroup() const override { return result_.states.size(); }
+  /// A listing takes up to some megabytes: larger units would only wait in memory.
+  std::size_t MostItemsPerUnit() const override { return 1; }
+
+  std::string Order(const WorkUnit& unit) override {
+    return PackOrder(result_.LastSubset().loci,
+                     std::span(result_.states).subspan(unit.begin, unit.Size()));
   }
-  return text;
-}
+
+  bool Take(const WorkUnit& /*unit*/, std::string_view text) override {
+    file_.Append(text);
+    return true;
+  }
+
+ private:
+  const SimulationResult& result_;
+  ReportFile& file_;
+};
 
 }  // namespace
 
@@ -86,41 +98,29 @@ void SimulationReports::WriteIndividuals(const SimulationSettings& settings,
 
 void SimulationReports::WriteMatrices(const SimulationSettings& settings,
                                       const SimulationInput& input, const SimulationResult& result,
-                                      RunObserver& observer) {
+                                      RunObserver& observer, Workforce& workforce) {
   if (!KeptFilesOf(settings).matrices || input.OffspringPerIteration() == 0) {
     reports_.Remove(flow_.Design().matrices_file);
     return;
   }
-  // The iterations run once more, a few at a time, so that their listings need not stay in memory.
-  ReportFile& file = reports_.Add(flow_.Design().matrices_file);
-  const std::size_t at_once = std::size_t{4} * result.threads;
-  observer.OnPart("Writing the transmission matrices", result.states.size());
-  for (std::size_t begin = 0; begin < result.states.size(); begin += at_once) {
-    std::vector<std::string> texts(std::min(at_once, result.states.size() - begin));
-    ParallelFor(texts.size(), result.threads, [&] {
-      SimulatedIteration iteration(settings, input, flow_.Design());
-      iteration.UseLoci(result.LastSubset().loci);
-      return [&, iteration = std::move(iteration)](std::size_t i) mutable {
-        iteration.Run(result.states[begin + i], observer);
-        texts[i] = MatricesOf(settings, input, iteration);
-        observer.OnSteps(1);
-      };
-    });
-    for (const std::string& text : texts) {
-      file.Append(text);
-    }
-  }
+  // The iterations run once more, so that their listings need not stay in memory.
+  const IterationTask task(settings, input, flow_.Design(), IterationProduct::kMatrices);
+  MatricesPlan plan(result, reports_.Add(flow_.Design().matrices_file));
+  observer.OnPart(kMatricesPart, result.states.size());
+  workforce.Do({kMatricesPart, task, plan, [&] { return RecordOf(settings, input, result); }},
+               settings.threads, observer);
 }
 
 void SimulationReports::Write(const SimulationSettings& settings, const SimulationInput& input,
-                              const SimulationResult& result, RunObserver& observer) {
+                              const SimulationResult& result, RunObserver& observer,
+                              Workforce& workforce) {
   SimulatedIteration last(settings, input, flow_.Design());
   last.UseLoci(result.LastSubset().loci);
   last.Run(result.states.back(), observer);
 
   WriteTables(settings, input, result);
   WriteIndividuals(settings, input, result, last);
-  WriteMatrices(settings, input, result, observer);
+  WriteMatrices(settings, input, result, observer, workforce);
   reports_.AddElsewhere(std::string(kSavedLociFile), SavedLociText(input.loci));
   reports_.Add(kRunRecordFile, FormatRunRecord(RecordOf(settings, input, result)));
   reports_.Commit();

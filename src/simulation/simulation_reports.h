@@ -17,7 +17,7 @@ class SimulationReports {
   /// Writes every report, the kept individuals of the last iteration, the saved loci and the run
   /// record. Throws RunFailure or RunStopped.
   void Write(const SimulationSettings& settings, const SimulationInput& input,
-             const SimulationResult& result, RunObserver& observer);
+             const SimulationResult& result, RunObserver& observer, Workforce& workforce);
 
  private:
   void WriteTables(const SimulationSettings& settings, const SimulationInput& input,
@@ -25,7 +25,7 @@ class SimulationReports {
   void WriteIndividuals(const SimulationSettings& settings, const SimulationInput& input,
                         const SimulationResult& result, const SimulatedIteration& last);
   void WriteMatrices(const SimulationSettings& settings, const SimulationInput& input,
-                     const SimulationResult& result, RunObserver& observer);
+                     const SimulationResult& result, RunObserver& observer, Workforce& workforce);
   /// Writes a file, or has one of an earlier run removed when there is nothing to write.
   void AddOrRemove(std::string_view file, std::string_view text);
 

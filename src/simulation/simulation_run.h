@@ -9,6 +9,7 @@
 
 #include "genotypes/run_observer.h"
 #include "genotypes/stepping_condition.h"
+#include "genotypes/workforce.h"
 #include "simulation/figures.h"
 #include "simulation/simulation_flow.h"
 #include "simulation/simulation_input.h"
@@ -36,7 +37,7 @@ struct SimulationResult {
 
   SteppingReport stepping;  ///< of the last iteration
 
-  unsigned threads = 1;
+  unsigned threads = 1;  ///< that computed, of all processes together
   std::chrono::system_clock::time_point started;
   std::chrono::duration<double> duration{};
 
@@ -44,9 +45,9 @@ struct SimulationResult {
 };
 
 /// Runs all subsets and iterations. Iterations run in parallel: each starts at a state of the
-/// random numbers known beforehand, so that the result is the same for any number of threads.
+/// random numbers known beforehand, so that the result is the same for any workforce.
 SimulationResult Simulate(const SimulationSettings& settings, const SimulationInput& input,
-                          const SimulationFlow& flow, RunObserver& observer);
+                          const SimulationFlow& flow, RunObserver& observer, Workforce& workforce);
 
 /// A finished simulation.
 struct SimulationRun {
@@ -55,9 +56,12 @@ struct SimulationRun {
 };
 
 /// The whole run: checks, simulates, and writes all reports and the run record, each whole or not
-/// at all. Problems, failures and stops are as in RunAllocation.
+/// at all. Problems, failures, stops and the workforce are as in RunAllocation.
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
                                                    const SimulationFlow& flow,
                                                    RunObserver& observer);
+tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
+                                                   const SimulationFlow& flow,
+                                                   RunObserver& observer, Workforce& workforce);
 
 }  // namespace kaldo

@@ -53,6 +53,17 @@ class Installed(unittest.TestCase):
         self.assertGreater(len(installed[1]), 2)
         self.assertEqual(installed, reports(KALDO, source / "examples", self.root / "built"))
 
+    def test_the_program_for_clusters_is_a_component_of_its_own(self):
+        self.assertFalse((self.prefix / "bin/kaldo-mpi").exists())
+        if not Path(BUILD, "src/cluster/kaldo-mpi").exists():
+            self.skipTest("it was not built")
+        prefix = self.root / "cluster"
+        subprocess.run([CMAKE, "--install", BUILD, "--component", "cluster", "--prefix", prefix],
+                       check=True, capture_output=True)
+        self.assertEqual({str(path.relative_to(prefix)) for path in prefix.rglob("*")
+                          if path.is_file()},
+                         {"bin/kaldo-mpi", "share/man/man1/kaldo-mpi.1"})
+
     def test_links_between_documents_lead_somewhere(self):
         documents = [path for path in self.prefix.rglob("*.md")]
         self.assertGreater(len(documents), 3)

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/allocation_units.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "allocation/pair_searcher.h"
+#include "genotypes/byte_packing.h"
+#include "genotypes/unit_distance.h"
+
+namespace kaldo {
+
+namespace {
+
+/// A unit among 50,000 parents takes up to a tenth of a second.
+constexpr std::size_t kMostOffspringPerUnit = 256;
+
+LociOfRun LociOfCombination(const AllocationInput& input, std::vector<LocusIndex> loci) {
+  std::sort(loci.begin(), loci.end());
+  LociOfRun run{std::move(loci), {}};
+  for (const LocusIndex locus : run.loci) {
+    run.unit_distances.push_back(UnitDistance(input.catalogues[locus.Value()].Sizes()));
+  }
+  return run;
+}
+
+std::vector<TransmissionMatrix> BuildMatrices(const ErrorModel& model,
+                                              const AllocationInput& input) {
+  std::vector<TransmissionMatrix> matrices;
+  for (const AlleleCatalogue& catalogue : input.catalogues) {
+    matrices.push_back(BuildMatrix(model, catalogue.Sizes()));
+  }
+  return matrices;
+}
+
+class AllocationWorker final : public UnitWorker {
+ public:
+  AllocationWorker(const AllocationSettings& settings, const AllocationInput& input,
+                   std::span<const TransmissionMatrix> matrices)
+      : settings_(settings), input_(input), matrices_(matrices) {}
+
+  std::string Do(std::string_view order, RunObserver& observer) override {
+    const auto unit = ByteUnpacker(order).Get<WorkUnit>();
+    UseCombination(unit.group);
+    std::vector<AllocationOutcome> outcomes;
+    outcomes.reserve(unit.Size());
+    for (std::size_t i = unit.begin; i < unit.end; ++i) {
+      const Slot offspring{input_.offspring.begin + static_cast<std::uint32_t>(i)};
+      outcomes.push_back(searcher_.Search(offspring, observer));
+      DecideSides(input_.table, offspring, loci_, settings_.tolerance, outcomes.back());
+      observer.OnSteps(1);
+    }
+    BytePacker packer;
+    packer.AddAll(std::span<const AllocationOutcome>(outcomes));
+    return packer.Take();
+  }
+
+ private:
+  void UseCombination(std::size_t combination) {
+    if (combination_ == combination) {
+      return;
+    }
+    loci_ = LociOfCombination(input_, input_.combinations.at(combination));
+    searcher_.Prepare(input_.table, input_.Parents().Size(), loci_.loci, matrices_,
+                      {settings_.flow, input_.groups, input_.table.Names()});
+    combination_ = combination;
+  }
+
+  const AllocationSettings& settings_;
+  const AllocationInput& input_;
+  std::span<const TransmissionMatrix> matrices_;
+  std::optional<std::size_t> combination_;
+  LociOfRun loci_;
+  PairSearcher searcher_;
+};
+
+}  // namespace
+
+AllocationTask::AllocationTask(const AllocationSettings& settings, const AllocationInput& input)
+    : settings_(settings), input_(input), matrices_(BuildMatrices(settings.error_model, input)) {}
+
+std::unique_ptr<UnitWorker> AllocationTask::MakeWorker() const {
+  return std::make_unique<AllocationWorker>(settings_, input_, matrices_);
+}
+
+std::size_t AllocationPlan::MostItemsPerUnit() const { return kMostOffspringPerUnit; }
+
+std::string AllocationPlan::Order(const WorkUnit& unit) {
+  BytePacker packer;
+  packer.Add(unit);
+  return packer.Take();
+}
+
+bool AllocationPlan::Take(const WorkUnit& unit, std::string_view result) {
+  if (unit.begin == 0) {
+    result_.loci = LociOfCombination(input_, input_.combinations[unit.group]);
+    result_.outcomes.resize(input_.NumberOfOffspring());
+    result_.counters.emplace_back();
+  }
+  const auto outcomes = ByteUnpacker(result).GetAll<AllocationOutcome>();
+  for (std::size_t i = unit.begin; i < unit.end; ++i) {
+    result_.outcomes[i] = outcomes.at(i - unit.begin);
+    result_.counters.back().Count(result_.outcomes[i]);
+  }
+  return true;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+
+#include "allocation/allocation_run.h"
+#include "allocation/transmission_matrix.h"
+#include "genotypes/work_units.h"
+
+namespace kaldo {
+
+/// The allocation of stretches of offspring, each with the loci of one combination.
+class AllocationTask final : public UnitTask {
+ public:
+  AllocationTask(const AllocationSettings& settings, const AllocationInput& input);
+
+  std::unique_ptr<UnitWorker> MakeWorker() const override;
+
+ private:
+  const AllocationSettings& settings_;
+  const AllocationInput& input_;
+  std::vector<TransmissionMatrix> matrices_;
+};
+
+/// Combination by combination, its offspring in file order: fills the counters, the loci and the
+/// outcomes of a result.
+class AllocationPlan final : public UnitPlan {
+ public:
+  AllocationPlan(const AllocationInput& input, AllocationResult& result)
+      : input_(input), result_(result) {}
+
+  std::size_t Groups() const override { return input_.combinations.size(); }
+  std::size_t ItemsPerGroup() const override { return input_.NumberOfOffspring(); }
+  std::size_t MostItemsPerUnit() const override;
+  std::string Order(const WorkUnit& unit) override;
+  bool Take(const WorkUnit& unit, std::string_view result) override;
+
+ private:
+  const AllocationInput& input_;
+  AllocationResult& result_;
+};
+
+}  // namespace kaldo

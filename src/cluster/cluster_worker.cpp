@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cluster/cluster_worker.h"
+
+#include <chrono>
+#include <thread>
+
+#include <fmt/format.h>
+
+#include "cli/stop_signal.h"
+#include "cluster/pause.h"
+#include "cluster/worker_crew.h"
+#include "genotypes/byte_packing.h"
+#include "genotypes/problem.h"
+
+namespace kaldo {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// Longer than process 0 takes to answer, shorter than launchers leave a run before its end.
+constexpr auto kPatienceWhenStopped = std::chrono::milliseconds(600);
+
+class Worker {
+ public:
+  explicit Worker(MpiSession& session) : session_(session) {}
+
+  void Run() {
+    Pause pause;
+    while (!quit_) {
+      if (TakeMessages() || session_.IsSending()) {
+        pause.Reset();
+      }
+      if (SendFinished(pause.Next())) {
+        pause.Reset();
+      }
+      WatchProcess0();
+    }
+  }
+
+ private:
+  bool TakeMessages() {
+    bool any = false;
+    while (const auto message = session_.Poll()) {
+      Take(*message);
+      any = true;
+    }
+    return any;
+  }
+
+  void Take(const Message& message) {
+    switch (message.kind) {
+      case MessageKind::kPart: {
+        std::string bytes;
+        (void)MpiSession::Broadcast(bytes, [] { return false; });
+        StartCrew(bytes);
+        break;
+      }
+      case MessageKind::kUnit: {
+        if (crew_) {
+          ByteUnpacker unpacker(message.bytes);
+          const auto number = unpacker.Get<std::uint64_t>();
+          crew_->Add({number, std::string(unpacker.Rest())});
+        }
+        break;
+      }
+      case MessageKind::kEndPart:
+        // Answered first: process 0 wants to know that this process is there, and the crew may
+        // still be loading the input.
+        session_.Send(0, MessageKind::kPartEnded, {});
+        crew_.reset();
+        break;
+      default:
+        quit_ = true;
+    }
+  }
+
+  /// A launcher that sees a process die tells the others to stop. In the middle of a part process 0
+  /// then ends it at once, unless it is the one that died: only then another one speaks.
+  void WatchProcess0() {
+    if (session_.Rank() != 1 || !crew_ || !StopSignalled()) {
+      return;
+    }
+    stopped_ = stopped_.value_or(Clock::now());
+    if (Clock::now() - *stopped_ > kPatienceWhenStopped) {
+      throw RunFailure(EndedUnexpectedly(0, session_.Size()));
+    }
+  }
+
+  void StartCrew(std::string_view part) {
+    try {
+      crew_ = std::make_unique<WorkerCrew>(UnpackSentPart(part));
+    } catch (const std::exception& error) {
+      Send({0, true, error.what()});
+    }
+  }
+
+  /// Waits so long for a finished unit; then sends all there are.
+  bool SendFinished(std::chrono::microseconds patience) {
+    if (!crew_) {
+      std::this_thread::sleep_for(patience);
+      return false;
+    }
+    bool any = false;
+    while (auto unit = crew_->WaitForFinished(any ? std::chrono::microseconds{0} : patience)) {
+      Send(*unit);
+      any = true;
+    }
+    return any;
+  }
+
+  void Send(const FinishedUnit& unit) {
+    if (unit.failed) {
+      session_.Send(0, MessageKind::kFailure,
+                    fmt::format("Process {} of {} on {} failed: {}", session_.Rank(),
+                                session_.Size(), MpiSession::MachineName(), unit.bytes));
+      return;
+    }
+    BytePacker packer;
+    packer.Add(unit.number);
+    packer.AddRest(unit.bytes);
+    session_.Send(0, MessageKind::kResult, packer.Take());
+  }
+
+  MpiSession& session_;
+  std::unique_ptr<WorkerCrew> crew_;
+  std::optional<Clock::time_point> stopped_;
+  bool quit_ = false;
+};
+
+}  // namespace
+
+void WorkForProcess0(MpiSession& session) { Worker(session).Run(); }
+
+}  // namespace kaldo

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cluster/worker_crew.h"
+
+#include <new>
+
+#include "genotypes/problem.h"
+
+namespace kaldo {
+
+namespace {
+
+/// Progress is told by process 0, unit by unit; only the end of the part is heard.
+class CrewObserver final : public RunObserver {
+ public:
+  explicit CrewObserver(const std::atomic<bool>& ended) : ended_(ended) {}
+  bool StopRequested() const override { return ended_; }
+
+ private:
+  const std::atomic<bool>& ended_;
+};
+
+}  // namespace
+
+WorkerCrew::WorkerCrew(SentPart sent) : sent_(std::move(sent)) {
+  for (unsigned thread = 0; thread < sent_.threads; ++thread) {
+    threads_.emplace_back([this] { Work(); });
+  }
+}
+
+WorkerCrew::~WorkerCrew() {
+  {
+    const std::lock_guard lock(mutex_);
+    ended_ = true;
+  }
+  has_unit_.notify_all();
+}
+
+void WorkerCrew::Add(HandedUnit unit) {
+  {
+    const std::lock_guard lock(mutex_);
+    units_.push_back(std::move(unit));
+  }
+  has_unit_.notify_one();
+}
+
+std::optional<HandedUnit> WorkerCrew::WaitForUnit() {
+  std::unique_lock lock(mutex_);
+  has_unit_.wait(lock, [this] { return ended_ || !units_.empty(); });
+  if (ended_) {
+    return std::nullopt;
+  }
+  HandedUnit unit = std::move(units_.front());
+  units_.pop_front();
+  return unit;
+}
+
+void WorkerCrew::Finish(FinishedUnit unit) {
+  {
+    const std::lock_guard lock(mutex_);
+    finished_.push_back(std::move(unit));
+  }
+  has_finished_.notify_one();
+}
+
+std::optional<FinishedUnit> WorkerCrew::WaitForFinished(std::chrono::microseconds patience) {
+  std::unique_lock lock(mutex_);
+  if (!has_finished_.wait_for(lock, patience, [this] { return !finished_.empty(); })) {
+    return std::nullopt;
+  }
+  FinishedUnit unit = std::move(finished_.front());
+  finished_.pop_front();
+  return unit;
+}
+
+const UnitTask& WorkerCrew::Task() {
+  std::call_once(task_made_, [this] { task_ = MakeTask(sent_); });
+  return *task_;
+}
+
+void WorkerCrew::Work() {
+  CrewObserver observer(ended_);
+  std::uint64_t number = 0;
+  try {
+    const auto worker = Task().MakeWorker();
+    while (const auto unit = WaitForUnit()) {
+      number = unit->number;
+      Finish({number, false, worker->Do(unit->order, observer)});
+    }
+  } catch (const RunStopped&) {
+    return;  // nobody waits for the result
+  } catch (const std::bad_alloc&) {
+    Finish({number, true, "out of memory"});
+  } catch (const std::exception& error) {
+    Finish({number, true, error.what()});
+  }
+}
+
+}  // namespace kaldo

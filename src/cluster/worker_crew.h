@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
+
+#include "cluster/sent_part.h"
+#include "genotypes/unit_desk.h"
+
+namespace kaldo {
+
+/// What became of a unit. After a failure its thread takes no further one.
+struct FinishedUnit {
+  std::uint64_t number = 0;
+  bool failed = false;
+  std::string bytes;  ///< the result, or why it failed
+};
+
+/// The threads of a process that takes part in a run led by another one. They load the input, so
+/// that the process goes on answering messages meanwhile.
+class WorkerCrew {
+ public:
+  explicit WorkerCrew(SentPart sent);
+  WorkerCrew(const WorkerCrew&) = delete;
+  WorkerCrew& operator=(const WorkerCrew&) = delete;
+  WorkerCrew(WorkerCrew&&) = delete;
+  WorkerCrew& operator=(WorkerCrew&&) = delete;
+
+  /// Breaks off the units under way, which takes a moment.
+  ~WorkerCrew();
+
+  void Add(HandedUnit unit);
+
+  /// The next finished unit; nothing when there is none within `patience`.
+  std::optional<FinishedUnit> WaitForFinished(std::chrono::microseconds patience);
+
+ private:
+  void Work();
+  const UnitTask& Task();
+  std::optional<HandedUnit> WaitForUnit();
+  void Finish(FinishedUnit unit);
+
+  const SentPart sent_;
+  std::once_flag task_made_;
+  std::unique_ptr<UnitTask> task_;
+  std::atomic<bool> ended_{false};
+
+  std::mutex mutex_;  // guards what follows
+  std::condition_variable has_unit_;
+  std::condition_variable has_finished_;
+  std::deque<HandedUnit> units_;
+  std::deque<FinishedUnit> finished_;
+
+  std::vector<std::jthread> threads_;  // last: they use all of the above
+};
+
+}  // namespace kaldo

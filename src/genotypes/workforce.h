@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "genotypes/file_source.h"
+#include "genotypes/run_record.h"
+#include "genotypes/unit_desk.h"
+
+namespace kaldo {
+
+/// The long part of a run.
+struct UnitJob {
+  std::string_view part;  ///< its name, which also tells other processes what the orders mean
+  const UnitTask& task;
+  UnitPlan& plan;
+
+  /// The settings and files of the run: another process makes the same task from them.
+  std::function<RunRecord()> record;
+};
+
+/// Who does the units of a run: the threads of this process, or those of many processes.
+class Workforce {
+ public:
+  Workforce() = default;
+  Workforce(const Workforce&) = delete;
+  Workforce& operator=(const Workforce&) = delete;
+  Workforce(Workforce&&) = delete;
+  Workforce& operator=(Workforce&&) = delete;
+  virtual ~Workforce() = default;
+
+  /// All threads that will compute, when the user wants `wanted` in a process; 0 is as many as fit.
+  virtual unsigned Threads(unsigned wanted) const = 0;
+
+  /// Where the run takes its input files from.
+  virtual FileSource& Files() = 0;
+
+  /// Has the units done, until all results have been taken or the plan wants no more. Throws what a
+  /// unit threw, or RunStopped when the observer asks. The results do not depend on who did what.
+  virtual void Do(const UnitJob& job, unsigned wanted, RunObserver& observer) = 0;
+};
+
+/// The threads of this process.
+class LocalThreads final : public Workforce {
+ public:
+  unsigned Threads(unsigned wanted) const override { return NumberOfThreads(wanted); }
+  FileSource& Files() override { return files_; }
+  void Do(const UnitJob& job, unsigned wanted, RunObserver& observer) override;
+
+  /// `wanted`, or as many as the machine has cores when that is 0.
+  static unsigned NumberOfThreads(unsigned wanted);
+
+ private:
+  DiskFiles files_;
+};
+
+/// What one thread does: units from the desk until there are no more. A failure ends the part.
+void WorkAtDesk(const UnitTask& task, UnitDesk& desk, RunObserver& observer);
+
+}  // namespace kaldo

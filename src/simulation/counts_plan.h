@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <deque>
+
+#include "genotypes/work_units.h"
+#include "simulation/iteration_states.h"
+#include "simulation/simulation_run.h"
+
+namespace kaldo {
+
+/// Subset by subset, its iterations: finds where each iteration starts, and fills the subsets, the
+/// counts, the states and the statistics of a result. Ends with the first subset that reaches the
+/// criterion where the strategy asks for that.
+class CountsPlan final : public UnitPlan {
+ public:
+  CountsPlan(const SimulationSettings& settings, const SimulationInput& input,
+             const SimulationFlow& flow, SimulationResult& result, RunObserver& observer);
+
+  std::size_t Groups() const override { return input_.subsets.Count(); }
+  std::size_t ItemsPerGroup() const override;
+  std::size_t MostItemsPerUnit() const override;
+  bool MayEndEarly() const override { return settings_.strategy == LociStrategy::kMinimal; }
+  std::string Order(const WorkUnit& unit) override;
+  bool Take(const WorkUnit& unit, std::string_view result) override;
+
+ private:
+  void BeginSubset(std::size_t subset);
+  void EndSubset(std::size_t subset);
+
+  const SimulationSettings& settings_;
+  const SimulationInput& input_;
+  const SimulationFlow& flow_;
+  SimulationResult& result_;
+  RunObserver& observer_;
+
+  IterationStates stream_;
+  std::deque<std::vector<std::uint32_t>> ordered_;  ///< the states of units not yet taken
+};
+
+}  // namespace kaldo

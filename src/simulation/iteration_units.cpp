@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "simulation/iteration_units.h"
+
+#include "allocation/matrices_report.h"
+#include "genotypes/byte_packing.h"
+#include "genotypes/problem.h"
+#include "simulation/simulated_iteration.h"
+
+namespace kaldo {
+
+namespace {
+
+std::string MatricesOf(const SimulationSettings& settings, const SimulationInput& input,
+                       const SimulatedIteration& iteration) {
+  const MatricesReport report{settings.flow, settings.tolerance, input.digits_per_field,
+                              iteration.Table(), iteration.Loci()};
+  std::string text;
+  for (std::uint32_t i = 0; i < iteration.Outcomes().size(); ++i) {
+    text += MatricesBlock(report, Slot{iteration.Offspring().begin + i}, iteration.Outcomes()[i]);
+  }
+  return text;
+}
+
+class IterationWorker final : public UnitWorker {
+ public:
+  IterationWorker(const SimulationSettings& settings, const SimulationInput& input,
+                  const SimulationDesign& design, IterationProduct product)
+      : settings_(settings),
+        input_(input),
+        product_(product),
+        iteration_(settings, input, design) {}
+
+  std::string Do(std::string_view order, RunObserver& observer) override {
+    ByteUnpacker unpacker(order);
+    UseLoci(unpacker.GetAll<LocusIndex>());
+    const auto states = unpacker.GetAll<std::uint32_t>();
+    BytePacker counts;
+    std::string matrices;
+    for (const std::uint32_t state : states) {
+      if (observer.StopRequested()) {
+        throw RunStopped();
+      }
+      const IterationCounts found = iteration_.Run(state, observer);
+      if (product_ == IterationProduct::kCounts) {
+        counts.Add(found);
+      } else {
+        matrices += MatricesOf(settings_, input_, iteration_);
+      }
+      observer.OnSteps(1);
+    }
+    return product_ == IterationProduct::kCounts ? counts.Take() : matrices;
+  }
+
+ private:
+  void UseLoci(LocusSubset loci) {
+    if (loci != loci_) {
+      loci_ = std::move(loci);
+      iteration_.UseLoci(loci_);
+    }
+  }
+
+  const SimulationSettings& settings_;
+  const SimulationInput& input_;
+  IterationProduct product_;
+  SimulatedIteration iteration_;
+  LocusSubset loci_;  // those of iteration_; none at first
+};
+
+}  // namespace
+
+std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> states) {
+  BytePacker packer;
+  packer.AddAll(std::span(loci));
+  packer.AddAll(states);
+  return packer.Take();
+}
+
+std::unique_ptr<UnitWorker> IterationTask::MakeWorker() const {
+  return std::make_unique<IterationWorker>(settings_, input_, design_, product_);
+}
+
+}  // namespace kaldo

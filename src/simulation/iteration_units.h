@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "genotypes/work_units.h"
+#include "simulation/locus_subsets.h"
+#include "simulation/simulation_input.h"
+
+namespace kaldo {
+
+// The parts of a run in which iterations are simulated.
+inline constexpr std::string_view kSimulatingPart = "Simulating";
+inline constexpr std::string_view kMatricesPart = "Writing the transmission matrices";
+
+/// What a stretch of iterations gives back.
+enum class IterationProduct {
+  kCounts,    ///< the IterationCounts of each
+  kMatrices,  ///< their listings of transmission matrices, as text
+};
+
+/// A stretch of iterations: with which loci, and where in the stream of random numbers each starts.
+std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> states);
+
+/// The simulation of stretches of iterations.
+class IterationTask final : public UnitTask {
+ public:
+  IterationTask(const SimulationSettings& settings, const SimulationInput& input,
+                const SimulationDesign& design, IterationProduct product)
+      : settings_(settings), input_(input), design_(design), product_(product) {}
+
+  std::unique_ptr<UnitWorker> MakeWorker() const override;
+
+ private:
+  const SimulationSettings& settings_;
+  const SimulationInput& input_;
+  const SimulationDesign& design_;
+  IterationProduct product_;
+};
+
+}  // namespace kaldo

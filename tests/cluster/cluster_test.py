@@ -1,0 +1,278 @@
+#!/usr/bin/env python3
+"""Runs the program for clusters under the MPI launcher, against the program for one machine.
+
+    cluster_test.py MPIEXEC KALDO_MPI KALDO [unittest options]
+
+Process 0 alone runs in the folder of the study: the others start in an empty one, where none of the
+relative paths leads to a file.
+"""
+
+import os
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+MPIEXEC = KALDO_MPI = KALDO = None
+SOURCE = Path(__file__).resolve().parents[2]
+GENEROUS = 120           # seconds: against a hang only
+RUN_RECORD = "Run record.toml"
+SAVED_LOCI = "SAUVLOCUSTULM.txt"
+STOPPED = "Stopped. The results of earlier runs are as they were.\n"
+DIED = ("Process {} of 3 has ended unexpectedly, and with it the run. "
+        "The results of earlier runs are as they were.\n")
+# Test machines have few cores and often only the superuser; containers forbid one process to copy
+# from the memory of another. Open MPI minds all three unless told. The rest spares it the search
+# for networks and batch systems.
+ENVIRONMENT = os.environ | {"OMPI_ALLOW_RUN_AS_ROOT": "1", "OMPI_ALLOW_RUN_AS_ROOT_CONFIRM": "1",
+                            "OMPI_MCA_btl_vader_single_copy_mechanism": "none",
+                            "OMPI_MCA_rmaps_base_oversubscribe": "1",
+                            "OMPI_MCA_hwloc_base_binding_policy": "none",
+                            "OMPI_MCA_orte_execute_quiet": "1",
+                            "OMPI_MCA_pml": "ob1", "OMPI_MCA_btl": "self,vader",
+                            "OMPI_MCA_plm": "isolated"}
+
+NON_SEXED = ["--loci", "data/loci.txt", "--parents", "data/parents.txt",
+             "--offspring", "data/offspring.txt"]
+SEXED = ["--loci", "data/loci.txt", "--males", "data/males.txt", "--females", "data/females.txt",
+         "--offspring", "data/offspring.txt"]
+PARENTAL = ["--collected-parents", "data/parents.txt",
+            "--uncollected-sample", "data/parents.txt", "--uncollected", "10.5"]
+PRE_PARENTAL = ["--pseudo-collected-sample", "data/parents.txt", "--pseudo-collected", "30",
+                "--uncollected-sample", "data/parents.txt", "--uncollected", "10"]
+STRATEGIES = {
+    "choice": [],
+    "all": ["--strategy", "all", "--use", "{0},{1},{2},{3}", "--print-subset-statistics"],
+    # Reached after some subsets, so that later ones are begun in vain.
+    "minimal": ["--strategy", "minimal", "--criterion", "{criterion}", "--start-with", "2"],
+    "cumulative": ["--strategy", "cumulative", "--start-with", "2", "--print-subset-statistics"],
+}
+
+
+def sexed_sets(collected, sample, estimates=("10", "7.5")):
+    options = []
+    for sex in ("male", "female"):
+        options += [f"--{collected.format(sex)}", f"data/sample-{sex}s.txt",
+                    f"--uncollected-{sex}-sample", f"data/sample-{sex}s.txt",
+                    f"--uncollected-{sex}s", "6",
+                    f"--estimated-collected-{sex}s", estimates[0],
+                    f"--estimated-uncollected-{sex}s", estimates[1]]
+        if sample:
+            options += [f"--pseudo-collected-{sex}s", "12"]
+    return options
+
+
+def files_of(folder):
+    """All files below, by name; of a run record what tells of the run, not of the machine."""
+    files = {}
+    for path in sorted(folder.rglob("*")):
+        if path.is_file():
+            text = path.read_bytes()
+            if path.name == RUN_RECORD:
+                text = b"".join(line for line in text.splitlines(True) if not line.startswith(
+                    (b"date =", b"threads =", b"duration_seconds =", b"folder =")))
+            files[str(path.relative_to(folder))] = text
+    return files
+
+
+class Clusters(unittest.TestCase):
+    def setUp(self):
+        place = tempfile.TemporaryDirectory()
+        self.addCleanup(place.cleanup)
+        self.root = Path(place.name)
+        self.elsewhere = self.root / "elsewhere"
+        self.elsewhere.mkdir()
+
+    def study(self, flow, name="study"):
+        folder = self.root / name
+        shutil.copytree(SOURCE / "examples" / flow, folder / "data")
+        return folder
+
+    def launch(self, processes, arguments):
+        command = [MPIEXEC, "-n", "1", KALDO_MPI, *arguments]
+        if processes > 1:
+            command += [":", "-n", str(processes - 1), "-wdir", str(self.elsewhere), KALDO_MPI]
+        return command
+
+    def run_in(self, folder, command):
+        return subprocess.run(command, cwd=folder, env=ENVIRONMENT, timeout=GENEROUS, check=False,
+                              capture_output=True, text=True)
+
+
+class SameFiles(Clusters):
+    def compare(self, flow, arguments, processes=(1, 2, 3, 4)):
+        alone = self.study(flow, "alone")
+        done = self.run_in(alone, [KALDO, *arguments])
+        self.assertEqual(done.returncode, 0, done.stderr)
+        expected = files_of(alone)
+        self.assertGreater(len(expected), 3)
+        for number in processes:
+            folder = self.study(flow, f"cluster{number}")
+            run = self.run_in(folder, self.launch(number, arguments))
+            which = f"{number} processes: {arguments}"
+            self.assertEqual((run.returncode, run.stderr), (0, ""), which)
+            self.assertEqual(run.stdout, done.stdout, which)
+            found = files_of(folder)
+            self.assertEqual(found.keys(), expected.keys(), which)
+            for name, data in expected.items():
+                self.assertTrue(found[name] == data, f"{name} with {which}")
+            shutil.rmtree(folder)
+        shutil.rmtree(alone)
+        self.assertEqual(list(self.elsewhere.iterdir()), [])
+        return done.stdout
+
+    def test_allocations(self):
+        for flow, files in (("non-sexed", NON_SEXED), ("sexed", SEXED)):
+            for more in ([], ["--sequence", "--error", "uniform=0.02"]):
+                self.compare(flow, ["allocate", "--project", "lake", *files, *more])
+        # Threads within processes, and a run repeated from its record.
+        self.compare("sexed", ["allocate", "--project", "lake", *SEXED, "--threads", "3"], [2])
+        folder = self.study("sexed")
+        self.run_in(folder, [KALDO, "allocate", "--project", "lake", *SEXED])
+        first = files_of(folder)
+        shutil.move(folder / "lake" / RUN_RECORD, folder / RUN_RECORD)
+        shutil.rmtree(folder / "lake")
+        again = self.run_in(folder, self.launch(2, ["rerun", RUN_RECORD, "--threads", "2"]))
+        self.assertEqual((again.returncode, again.stderr), (0, ""))
+        (folder / RUN_RECORD).unlink()
+        self.assertEqual(files_of(folder), first)
+
+    def simulations(self, flow, sets, criterion):
+        loci = (SOURCE / "examples" / flow / "loci.txt").read_text().split()
+        for number, (strategy, more) in enumerate(STRATEGIES.items()):
+            options = [each.format(*loci, criterion=criterion) for each in more]
+            keep = ["--keep", "all", "--print-iterations"] if number % 2 else ["--threads", "2"]
+            told = self.compare(flow, ["simulate", "--project", "trial", "--loci", "data/loci.txt",
+                                       *sets[number % 2], "--iterations", "23",
+                                       "--offspring-per-iteration", "40", "--seed", "7",
+                                       *options, *keep])
+            self.assertIn("calculations completed!", told.lower(), strategy)
+
+    def test_non_sexed_simulations(self):
+        self.simulations("non-sexed", [PARENTAL, PRE_PARENTAL], 0.5)
+
+    def test_sexed_simulations(self):
+        sets = [["--sexed", *sexed_sets("collected-{}s", sample=False)],
+                ["--sexed", *sexed_sets("pseudo-collected-{}-sample", sample=True)]]
+        self.simulations("sexed", sets, 0.8)
+
+
+class Ends(Clusters):
+    def test_wrong_input_is_told_once(self):
+        folder = self.study("non-sexed")
+        for arguments, code in ((["allocate", "--project", "lake", *NON_SEXED[2:]], 2),
+                                (["simulate", "--nonsense"], 2),
+                                (["allocate", "--project", "data/loci.txt/x", *NON_SEXED], 1)):
+            alone = self.run_in(folder, [KALDO, *arguments])
+            run = self.run_in(folder, self.launch(3, arguments))
+            self.assertEqual(alone.returncode, code, arguments)
+            self.assertEqual((run.returncode, run.stdout, run.stderr),
+                             (code, alone.stdout, alone.stderr), arguments)
+        self.assertEqual([path.name for path in folder.iterdir()], ["data"])
+
+    def start_long_run(self):
+        """A simulation of minutes in a folder with earlier results, once its processes compute."""
+        folder = self.study("sexed")
+        project = folder / "trial"
+        project.mkdir()
+        for name in ("Summary.xls", "Sequence results.xls", RUN_RECORD):
+            (project / name).write_text("of an earlier run\n")
+        estimates = sexed_sets("collected-{}s", sample=False, estimates=("1", "1"))
+        process = subprocess.Popen(
+            self.launch(3, ["simulate", "--sexed", "--project", "trial", "--loci", "data/loci.txt",
+                            *estimates, "--iterations", "999", "--offspring-per-iteration",
+                            "40000", "--seed", "1"]),
+            cwd=folder, env=ENVIRONMENT, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+
+        def end():
+            if process.poll() is None:
+                process.terminate()
+            process.communicate()
+        self.addCleanup(end)
+        earlier = files_of(project)
+        deadline = time.monotonic() + GENEROUS
+        while True:
+            ranks = ranks_below(process.pid)
+            if len(ranks) == 3 and all(has_computed(pid) for pid in ranks.values()):
+                return process, ranks, project, earlier
+            self.assertIsNone(process.poll(), "the run ended before it could be disturbed")
+            self.assertLess(time.monotonic(), deadline, "the processes do not compute")
+            time.sleep(0.05)
+
+    def disturb(self, pick, sent):
+        """The exit code, what was said, and the project folder then and before."""
+        process, ranks, project, earlier = self.start_long_run()
+        os.kill(pick(process, ranks), sent)
+        out, err = process.communicate(timeout=GENEROUS)
+        self.assertEqual(out, "")
+        return process.returncode, err, files_of(project), earlier
+
+    def test_a_process_that_dies(self):
+        code, err, now, earlier = self.disturb(lambda _, ranks: ranks[2], signal.SIGKILL)
+        self.assertNotEqual(code, 0)
+        self.assertEqual(err.count(DIED.format(2)), 1, err)
+        self.assertNotIn("Stopped", err)
+        self.assertEqual(now, earlier)
+
+    def test_the_leading_process_dies(self):
+        code, err, now, earlier = self.disturb(lambda _, ranks: ranks[0], signal.SIGKILL)
+        self.assertNotEqual(code, 0)
+        self.assertEqual(err.count(DIED.format(0)), 1, err)
+        self.assertEqual({name: now[name] for name in earlier}, earlier)
+        self.assertTrue(all(name.endswith(".part") for name in now.keys() - earlier.keys()))
+
+    def test_a_user_who_stops_the_run(self):
+        code, err, now, earlier = self.disturb(lambda process, _: process.pid, signal.SIGINT)
+        self.assertNotEqual(code, 0)
+        self.assertEqual(err.count(STOPPED), 1, err)
+        self.assertEqual(now, earlier)
+
+    def test_a_batch_system_that_stops_the_leading_process(self):
+        code, err, now, earlier = self.disturb(lambda _, ranks: ranks[0], signal.SIGTERM)
+        self.assertEqual((code, err), (130, STOPPED))
+        self.assertEqual(now, earlier)
+
+
+def ranks_below(launcher):
+    """The processes that the launcher started, by rank."""
+    ranks = {}
+    for entry in Path("/proc").iterdir():
+        try:
+            if not entry.name.isdigit() or status_of(entry)[1] != str(launcher):
+                continue
+            for variable in (entry / "environ").read_bytes().split(b"\0"):
+                name, _, value = variable.partition(b"=")
+                if name == b"OMPI_COMM_WORLD_RANK":
+                    ranks[int(value)] = int(entry.name)
+        except (OSError, IndexError):
+            continue            # it has just ended
+    return ranks
+
+
+def status_of(entry):
+    """The fields of a process behind its name."""
+    return (entry / "stat").read_text().rpartition(")")[2].split()
+
+
+def has_computed(pid):
+    try:
+        status = status_of(Path("/proc") / str(pid))
+    except OSError:
+        return False
+    return int(status[11]) > 0.3 * os.sysconf("SC_CLK_TCK")
+
+
+if __name__ == "__main__":
+    if len(sys.argv) < 4:
+        sys.exit(__doc__)
+    MPIEXEC = sys.argv[1]
+    KALDO_MPI, KALDO = map(os.path.abspath, sys.argv[2:4])
+    version = subprocess.run([MPIEXEC, "--version"], capture_output=True, text=True, check=False)
+    if "Open MPI" not in version.stdout and "OpenRTE" not in version.stdout:
+        print("Skipped: the tests know the launcher of Open MPI alone")
+        sys.exit(77)
+    unittest.main(argv=sys.argv[:1] + sys.argv[4:])

@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "genotypes/workforce.h"
+
+#include <chrono>
+#include <deque>
+#include <set>
+#include <stdexcept>
+#include <thread>
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include "genotypes/byte_packing.h"
+#include "genotypes/problem.h"
+
+namespace kaldo {
+namespace {
+
+using namespace std::chrono_literals;
+
+std::uint64_t Expected(std::size_t group, std::size_t item) { return group * 1'000'003 + item; }
+
+/// One number per item. One item may be told to fail, and one group to go on until stopped.
+class NumbersTask final : public UnitTask {
+ public:
+  std::optional<WorkUnit> failing;
+  std::optional<std::size_t> endless_group;
+  mutable std::atomic<std::size_t> workers{0};
+
+  std::unique_ptr<UnitWorker> MakeWorker() const override {
+    ++workers;
+    return std::make_unique<Worker>(*this);
+  }
+
+ private:
+  class Worker final : public UnitWorker {
+   public:
+    explicit Worker(const NumbersTask& task) : task_(task) {}
+
+    std::string Do(std::string_view order, RunObserver& observer) override {
+      const auto unit = ByteUnpacker(order).Get<WorkUnit>();
+      while (task_.endless_group == unit.group) {
+        if (observer.StopRequested()) {
+          throw RunStopped();
+        }
+        std::this_thread::sleep_for(1ms);
+      }
+      BytePacker packer;
+      for (std::size_t item = unit.begin; item < unit.end; ++item) {
+        if (task_.failing && task_.failing->group == unit.group && task_.failing->begin == item) {
+          throw std::runtime_error("this item");
+        }
+        packer.Add(Expected(unit.group, item));
+        observer.OnSteps(1);
+      }
+      return packer.Take();
+    }
+
+   private:
+    const NumbersTask& task_;
+  };
+};
+
+/// Puts all numbers behind each other, as they are taken.
+class NumbersPlan final : public UnitPlan {
+ public:
+  NumbersPlan(std::size_t groups, std::size_t items) : groups_(groups), items_(items) {}
+
+  std::size_t most_per_unit = 1000;
+  std::optional<std::size_t> last_group;     ///< ends early behind it
+  std::optional<std::size_t> failing_group;  ///< of which a result cannot be taken
+  std::vector<std::uint64_t> taken;
+
+  std::size_t Groups() const override { return groups_; }
+  std::size_t ItemsPerGroup() const override { return items_; }
+  std::size_t MostItemsPerUnit() const override { return most_per_unit; }
+  bool MayEndEarly() const override { return last_group.has_value(); }
+
+  std::string Order(const WorkUnit& unit) override {
+    BytePacker packer;
+    packer.Add(unit);
+    return packer.Take();
+  }
+
+  bool Take(const WorkUnit& unit, std::string_view result) override {
+    if (failing_group == unit.group) {
+      throw RunFailure("disk full");
+    }
+    ByteUnpacker unpacker(result);
+    for (std::size_t item = unit.begin; item < unit.end; ++item) {
+      taken.push_back(unpacker.Get<std::uint64_t>());
+    }
+    return !(last_group == unit.group && unit.end == items_);
+  }
+
+  /// The numbers of the first so many items of all groups.
+  std::vector<std::uint64_t> Prefix(std::size_t count) const {
+    std::vector<std::uint64_t> numbers;
+    for (std::size_t i = 0; i < count; ++i) {
+      numbers.push_back(Expected(i / items_, i % items_));
+    }
+    return numbers;
+  }
+
+ private:
+  std::size_t groups_;
+  std::size_t items_;
+};
+
+class CountingObserver final : public RunObserver {
+ public:
+  void OnSteps(std::uint64_t steps) override { steps_ += steps; }
+  bool StopRequested() const override { return stop_; }
+  std::uint64_t Steps() const { return steps_; }
+  void Stop() { stop_ = true; }
+
+ private:
+  std::atomic<std::uint64_t> steps_{0};
+  std::atomic<bool> stop_{false};
+};
+
+void Do(const NumbersTask& task, NumbersPlan& plan, unsigned threads, RunObserver& observer) {
+  LocalThreads().Do({"Counting", task, plan, [] { return RunRecord(); }}, threads, observer);
+}
+
+TEST(LocalThreads, TakeEveryResultOnceAndInOrder) {
+  for (const unsigned threads : {1U, 2U, 7U}) {
+    for (const auto& [groups, items] : {std::pair<std::size_t, std::size_t>{1, 1},
+                                        {0, 5},
+                                        {3, 0},
+                                        {1, 20'000},
+                                        {700, 3},
+                                        {5, 1001}}) {
+      const NumbersTask task;
+      NumbersPlan plan(groups, items);
+      CountingObserver observer;
+      Do(task, plan, threads, observer);
+      EXPECT_EQ(plan.taken, plan.Prefix(groups * items)) << groups << " x " << items;
+      EXPECT_EQ(observer.Steps(), groups * items);
+      EXPECT_LE(task.workers, threads);
+    }
+  }
+}
+
+TEST(LocalThreads, EndEarlyBehindAGroupAndBreakOffThoseBehindIt) {
+  for (const unsigned threads : {1U, 4U}) {
+    NumbersTask task;
+    task.endless_group = 3;  // begun by threads that have nothing else to do; never ends by itself
+    NumbersPlan plan(1000, 50);
+    plan.last_group = 2;
+    CountingObserver observer;
+    Do(task, plan, threads, observer);
+    EXPECT_EQ(plan.taken, plan.Prefix(150));
+  }
+}
+
+TEST(LocalThreads, ThrowWhatAUnitThrewAndTakeNoneFromThereOn) {
+  for (const unsigned threads : {1U, 4U}) {
+    NumbersTask task;
+    task.failing = WorkUnit{2, 17, 18};
+    task.endless_group = 3;
+    NumbersPlan plan(1000, 50);
+    plan.most_per_unit = 5;
+    CountingObserver observer;
+    try {
+      Do(task, plan, threads, observer);
+      FAIL() << "nothing was thrown";
+    } catch (const std::runtime_error& error) {
+      EXPECT_STREQ(error.what(), "this item");
+    }
+    EXPECT_LE(plan.taken.size(), 115U);
+    EXPECT_EQ(plan.taken, plan.Prefix(plan.taken.size()));
+  }
+}
+
+TEST(LocalThreads, ThrowWhenAResultCannotBeTaken) {
+  const NumbersTask task;
+  NumbersPlan plan(1000, 50);
+  plan.failing_group = 1;
+  CountingObserver observer;
+  EXPECT_THROW(Do(task, plan, 3, observer), RunFailure);
+  EXPECT_EQ(plan.taken, plan.Prefix(50));
+}
+
+TEST(LocalThreads, StopWhenAsked) {
+  NumbersTask task;
+  task.endless_group = 0;
+  NumbersPlan plan(2, 50);
+  CountingObserver observer;
+  const std::jthread user([&] {
+    std::this_thread::sleep_for(20ms);
+    observer.Stop();
+  });
+  EXPECT_THROW(Do(task, plan, 3, observer), RunStopped);
+  EXPECT_TRUE(plan.taken.empty());
+}
+
+/// All units that the desk hands out when nothing comes back.
+std::deque<std::pair<HandedUnit, WorkUnit>> HandOutAll(UnitDesk& desk) {
+  std::deque<std::pair<HandedUnit, WorkUnit>> units;
+  while (auto unit = desk.TryNext()) {
+    const auto stretch = ByteUnpacker(unit->order).Get<WorkUnit>();
+    units.emplace_back(std::move(*unit), stretch);
+  }
+  return units;
+}
+
+std::string ResultOf(const WorkUnit& unit) {
+  BytePacker packer;
+  for (std::size_t item = unit.begin; item < unit.end; ++item) {
+    packer.Add(Expected(unit.group, item));
+  }
+  return packer.Take();
+}
+
+RC_GTEST_PROP(UnitDesk, TakesResultsInOrderInWhateverOrderTheyCome, ()) {
+  NumbersPlan plan(*rc::gen::inRange<std::size_t>(1, 9), *rc::gen::inRange<std::size_t>(1, 200));
+  plan.most_per_unit = *rc::gen::inRange<std::size_t>(1, 100);
+  UnitDesk desk(plan, *rc::gen::inRange<std::size_t>(1, 9));
+  auto units = HandOutAll(desk);
+  std::size_t items = 0;
+  while (!units.empty()) {
+    const auto chosen = units.begin() + *rc::gen::inRange<std::ptrdiff_t>(
+                                            0, static_cast<std::ptrdiff_t>(units.size()));
+    items += desk.HandIn(chosen->first.number, ResultOf(chosen->second));
+    units.erase(chosen);
+    for (auto& unit : HandOutAll(desk)) {
+      units.push_back(std::move(unit));
+    }
+  }
+  RC_ASSERT(desk.Ended());
+  RC_ASSERT(items == plan.Groups() * plan.ItemsPerGroup());
+  RC_ASSERT(plan.taken == plan.Prefix(items));
+}
+
+TEST(UnitDesk, HandsOutNoMoreWhileTooManyResultsWaitForAnEarlierOne) {
+  NumbersPlan plan(1'000'000, 1);
+  UnitDesk desk(plan, 4);
+  const auto units = HandOutAll(desk);
+  ASSERT_GT(units.size(), 8U);
+  ASSERT_LT(units.size(), 1000U);
+  for (std::size_t i = 1; i < units.size(); ++i) {
+    desk.HandIn(units[i].first.number, ResultOf(units[i].second));
+  }
+  EXPECT_FALSE(desk.TryNext()) << "units count until they are taken";
+  EXPECT_TRUE(plan.taken.empty());
+  desk.HandIn(units[0].first.number, ResultOf(units[0].second));
+  EXPECT_EQ(plan.taken, plan.Prefix(units.size()));
+  EXPECT_TRUE(desk.TryNext());
+}
+
+TEST(UnitDesk, HandsOutNoMoreWhileResultsWaitThatFillTheMemory) {
+  NumbersPlan plan(1'000'000, 1);
+  UnitDesk desk(plan, 4);
+  const auto first = desk.TryNext();
+  std::size_t waiting = 0;
+  while (const auto unit = desk.TryNext()) {
+    std::string result = ResultOf(ByteUnpacker(unit->order).Get<WorkUnit>());
+    result.resize(std::size_t{20} * 1024 * 1024);
+    desk.HandIn(unit->number, std::move(result));
+    ++waiting;
+  }
+  EXPECT_GE(waiting, 2U);
+  EXPECT_LE(waiting, 10U);
+  desk.HandIn(first->number, ResultOf({0, 0, 1}));
+  EXPECT_EQ(plan.taken.size(), waiting + 1);
+  EXPECT_TRUE(desk.TryNext());
+}
+
+TEST(UnitDesk, GivesAllWorkersAShareOfTheFirstGroupWhereItMayBeTheLast) {
+  NumbersPlan plan(1000, 64);
+  plan.last_group = 5;
+  UnitDesk desk(plan, 8);
+  for (int worker = 0; worker < 8; ++worker) {
+    EXPECT_EQ(ByteUnpacker(desk.TryNext()->order).Get<WorkUnit>().group, 0U);
+  }
+}
+
+TEST(UnitDesk, PassesOverWhatComesAfterTheEnd) {
+  NumbersPlan plan(10, 1);
+  plan.last_group = 0;
+  UnitDesk desk(plan, 2);
+  const auto units = HandOutAll(desk);
+  desk.HandIn(units[0].first.number, ResultOf(units[0].second));
+  EXPECT_TRUE(desk.Ended());
+  EXPECT_FALSE(desk.WaitForNext());
+  EXPECT_EQ(desk.HandIn(units[1].first.number, ResultOf(units[1].second)), 0U);
+  desk.Fail(std::make_exception_ptr(RunStopped()));
+  EXPECT_NO_THROW(desk.ThrowFailure());
+  EXPECT_EQ(plan.taken, plan.Prefix(1));
+}
+
+TEST(BytePacking, RefusesBytesThatWereCut) {
+  BytePacker packer;
+  packer.Add(std::uint32_t{7});
+  packer.AddText("loci.txt");
+  const std::vector<std::uint16_t> sizes = {100, 102, 104};
+  packer.AddAll(std::span(sizes));
+  packer.AddRest("rest");
+  const std::string bytes = packer.Take();
+  const auto unpack = [&sizes](std::string_view read) {
+    ByteUnpacker unpacker(read);
+    EXPECT_EQ(unpacker.Get<std::uint32_t>(), 7U);
+    EXPECT_EQ(unpacker.GetText(), "loci.txt");
+    EXPECT_EQ(unpacker.GetAll<std::uint16_t>(), sizes);
+    return std::string(unpacker.Rest());
+  };
+  EXPECT_EQ(unpack(bytes), "rest");
+  const std::size_t whole = bytes.size() - 4;
+  EXPECT_EQ(unpack(std::string_view(bytes).substr(0, whole)), "");
+  for (const std::size_t cut : {whole - 1, whole - 7, std::size_t{5}}) {
+    EXPECT_THROW(unpack(std::string_view(bytes).substr(0, cut)), std::runtime_error) << cut;
+  }
+}
+
+}  // namespace
+}  // namespace kaldo
