@@ -39,8 +39,9 @@ void AddMethodOptions(CLI::App& command, AllocationOptions& options) {
                 "Repeat for a cumulative sequence of loci: alone in file order, else the position "
                 "of each locus of the names file, between commas")
       ->expected(0, 1);
-  AddTextOption(command, "Machine", "--threads", options.threads, "N",
-                "Threads; default: all cores. The results never depend on it");
+  AddTextOption(
+      command, "Machine", "--threads", options.threads, "N",
+      "Threads; default: all cores (kaldo-mpi: 1 per process). The results never depend on it");
 }
 
 std::optional<Problem> CheckParentOptions(const AllocationOptions& options) {

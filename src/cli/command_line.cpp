@@ -193,7 +193,10 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
   rerun->add_option("record", record, "The file \"Run record.toml\" of a project folder")
       ->type_name("FILE")
       ->required();
-  rerun->add_option("--threads", rerun_threads, "Threads; default: all cores")->type_name("N");
+  rerun
+      ->add_option("--threads", rerun_threads,
+                   "Threads; default: all cores (kaldo-mpi: 1 per process)")
+      ->type_name("N");
   for (CLI::App* const command : {allocate, simulate, check, rerun}) {
     command->set_version_flag("--version", VersionLine());
     command->footer(std::string(kExamples));

@@ -91,8 +91,9 @@ void AddOutput(CLI::App& command, SimulationOptions& options) {
   AddTextOption(command, group, "--keep", options.keep, "KINDS",
                 "Generated files to keep: parents,offspring,matrices | all | none; default: "
                 "parents,offspring, and none when sexed");
-  AddTextOption(command, "Machine", "--threads", options.threads, "N",
-                "Threads; default: all cores. The results never depend on it");
+  AddTextOption(
+      command, "Machine", "--threads", options.threads, "N",
+      "Threads; default: all cores (kaldo-mpi: 1 per process). The results never depend on it");
 }
 
 tl::unexpected<Problem> Usage(std::string sentence, std::string found) {
