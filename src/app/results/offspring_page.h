@@ -5,40 +5,30 @@
 
 #include "app/results/finished_runs.h"
 
-class QComboBox;
-class QLabel;
-class QLineEdit;
-
 namespace kaldo {
 
 class ComparisonPanel;
 class OffspringFilter;
 class OffspringModel;
-class ResultTable;
+class SearchableTable;
 
 /// All offspring with their parents, to be searched, sorted, copied and exported, and below them
 /// the genotypes of the chosen one beside those of its pair.
 ///
-/// Object names: "OffspringFind", "OffspringShow", "OffspringCount", "OffspringTable",
-/// "OffspringCopy", "OffspringExport"; those of the ComparisonPanel.
+/// Object names: those of a SearchableTable "Offspring" and of the ComparisonPanel.
 class OffspringPage : public QWidget {
  public:
-  OffspringPage(const SharedAllocation& allocation, QString folder, QWidget* parent = nullptr);
+  OffspringPage(const SharedAllocation& allocation, const QString& folder,
+                QWidget* parent = nullptr);
 
  private:
-  QWidget* ChoiceRow();
-  QWidget* ListSide();
   void Narrow();
   void ShowCurrent();
 
-  QString folder_;
   OffspringModel* model_;
   OffspringFilter* filter_;
-  ResultTable* table_;
+  SearchableTable* list_;
   ComparisonPanel* comparison_;
-  QLineEdit* find_;
-  QComboBox* show_;
-  QLabel* count_;
 };
 
 }  // namespace kaldo

@@ -5,35 +5,24 @@
 
 #include "app/results/finished_runs.h"
 
-class QComboBox;
-class QLabel;
-class QLineEdit;
-
 namespace kaldo {
 
-class ResultTable;
+class SearchableTable;
 class SubsetModel;
 
 /// All subsets of loci that were run, and the best of each size as a chart: how many loci are
 /// enough, and which.
 ///
-/// Object names: "SubsetsFind", "SubsetsShow", "SubsetsCount", "SubsetsTable",
-/// "SubsetsCopy", "SubsetsExport", and those of a ChartPanel "BestSubsets".
+/// Object names: those of a SearchableTable "Subsets" and of a ChartPanel "BestSubsets".
 class SubsetPage : public QWidget {
  public:
-  SubsetPage(const SharedSimulation& simulation, QString folder, QWidget* parent = nullptr);
+  SubsetPage(const SharedSimulation& simulation, const QString& folder, QWidget* parent = nullptr);
 
  private:
-  QWidget* ListSide();
-  QWidget* ChoiceRow();
   void Narrow();
 
-  QString folder_;
   SubsetModel* model_;
-  ResultTable* table_;
-  QLineEdit* find_;
-  QComboBox* show_;
-  QLabel* count_;
+  SearchableTable* list_;
 };
 
 }  // namespace kaldo

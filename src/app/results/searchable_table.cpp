@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/searchable_table.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/base/text.h"
+#include "app/results/result_table.h"
+
+namespace kaldo {
+
+SearchableTable::SearchableTable(const SearchableTexts& texts, const QString& folder,
+                                 QWidget* parent)
+    : QWidget(parent),
+      table_(new ResultTable(Text(texts.title))),
+      find_(new QLineEdit),
+      show_(new QComboBox),
+      count_(new QLabel) {
+  table_->setObjectName(Text(texts.name) + Text("Table"));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addLayout(NewChoiceRow(texts));
+  layout->addWidget(table_);
+  layout->addLayout(NewButtons(texts, folder));
+}
+
+QLayout* SearchableTable::NewChoiceRow(const SearchableTexts& texts) {
+  find_->setObjectName(Text(texts.name) + Text("Find"));
+  find_->setPlaceholderText(Text(texts.find_hint));
+  find_->setToolTip(Text(texts.find_help));
+  find_->setClearButtonEnabled(true);
+  show_->setObjectName(Text(texts.name) + Text("Show"));
+  show_->setToolTip(Text(texts.show_help));
+  count_->setObjectName(Text(texts.name) + Text("Count"));
+  auto* find_label = new QLabel(Text("Fi&nd:"));
+  find_label->setBuddy(find_);
+  auto* show_label = new QLabel(Text("Sho&w:"));
+  show_label->setBuddy(show_);
+  auto* row = new QHBoxLayout;
+  row->addWidget(find_label);
+  row->addWidget(find_, 1);
+  row->addWidget(show_label);
+  row->addWidget(show_);
+  row->addWidget(count_);
+  return row;
+}
+
+QLayout* SearchableTable::NewButtons(const SearchableTexts& texts, const QString& folder) {
+  auto* copy = new QPushButton(Text("Copy &rows"));
+  copy->setObjectName(Text(texts.name) + Text("Copy"));
+  copy->setToolTip(
+      Text("Copy the selected rows with their heads, to be pasted into a spreadsheet (Ctrl+C)."));
+  auto* save = new QPushButton(Text("&Export table..."));
+  save->setObjectName(Text(texts.name) + Text("Export"));
+  save->setToolTip(Text("Save all rows shown, in their order, as comma-separated values."));
+  connect(copy, &QPushButton::clicked, this, [this] { table_->CopyRows(); });
+  connect(save, &QPushButton::clicked, this,
+          [this, path = folder + Text("/") + Text(texts.file)] { table_->ExportRows(path); });
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(copy);
+  row->addWidget(save);
+  return row;
+}
+
+QString SearchableTable::SoughtText() const { return find_->text(); }
+
+void SearchableTable::SetCount(const QString& text) { count_->setText(text); }
+
+void SearchableTable::SetOnChoice(const std::function<void()>& narrow) {
+  connect(find_, &QLineEdit::textChanged, this, narrow);
+  connect(show_, &QComboBox::currentIndexChanged, this, narrow);
+}
+
+}  // namespace kaldo
