@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "genotypes/project_folder.h"
+#include "tests/support/case_support.h"
 #include "tests/support/run_support.h"
 #include "tests/support/temp_folder.h"
 
@@ -37,23 +38,10 @@ AllocationSettings SexedSettings() {
   return settings;
 }
 
-/// Runs in a copy of tests/cases/NAME and compares every file with the one worked out by hand.
 void ExpectCase(const std::string& name, const AllocationSettings& settings) {
-  const TempFolder folder;
-  std::filesystem::copy(std::string(KALDO_ROOT) + "/tests/cases/" + name, folder.Path(""),
-                        std::filesystem::copy_options::recursive);
-  const WorkingFolder here(folder.Path(""));
   RunObserver observer;
-  const auto run = RunAllocation(settings, observer);
-  ASSERT_TRUE(run) << run.error().sentence << ' ' << DetailLine(run.error());
-
-  auto expected = folder.FilesIn("expected");
-  for (const std::string& file : expected) {
-    EXPECT_EQ(ReadFile("project/" + file), ReadFile("expected/" + file)) << file;
-  }
-  expected.emplace_back("Run record.toml");
-  std::sort(expected.begin(), expected.end());
-  EXPECT_EQ(folder.FilesIn("project"), expected);
+  test::ExpectCase(
+      name, [&] { return RunAllocation(settings, observer); }, [] {});
 }
 
 TEST(AllocationRun, WritesTheReportsOfTwoGroupsWorkedOutByHand) {

@@ -35,24 +35,10 @@ namespace {
 constexpr int Place(OffspringColumn column) { return static_cast<int>(column); }
 constexpr int Place(ComparisonColumn column) { return static_cast<int>(column); }
 
-/// A finished example run in its window.
-struct Shown {
-  explicit Shown(Flow flow) : settings(test::ExampleAllocation(flow, folder)) {}
-
-  void Run() {
-    run = test::Run(settings);
-    window = new AllocationWindow(settings, run, project);
-    window->show();
-  }
-  ~Shown() { delete window; }
-  Shown(const Shown&) = delete;
-  Shown& operator=(const Shown&) = delete;
-
-  QTemporaryDir folder;
-  QString project = folder.filePath(Text("project"));
-  AllocationSettings settings;
-  AllocationRun run;
-  QPointer<AllocationWindow> window;
+struct Shown : test::Shown<AllocationSettings, AllocationRun, AllocationWindow> {
+  explicit Shown(Flow flow)
+      : test::Shown<AllocationSettings, AllocationRun, AllocationWindow>(test::ExampleAllocation,
+                                                                         flow) {}
 };
 
 /// The lines of the offspring in the results report.

@@ -28,24 +28,10 @@ namespace {
 
 constexpr int Place(SubsetColumn column) { return static_cast<int>(column); }
 
-/// A finished example simulation in its window.
-struct Shown {
-  explicit Shown(Flow flow) : settings(test::ExampleSimulation(flow, folder)) {}
-
-  void Run() {
-    run = test::Run(settings);
-    window = new SimulationWindow(settings, run, project);
-    window->show();
-  }
-  ~Shown() { delete window; }
-  Shown(const Shown&) = delete;
-  Shown& operator=(const Shown&) = delete;
-
-  QTemporaryDir folder;
-  QString project = folder.filePath(Text("project"));
-  SimulationSettings settings;
-  SimulationRun run;
-  QPointer<SimulationWindow> window;
+struct Shown : test::Shown<SimulationSettings, SimulationRun, SimulationWindow> {
+  explicit Shown(Flow flow)
+      : test::Shown<SimulationSettings, SimulationRun, SimulationWindow>(test::ExampleSimulation,
+                                                                         flow) {}
 };
 
 /// The rows of correct frequencies in the summary report that begin with `word`, without it; "NA"

@@ -3,6 +3,7 @@
 
 #include <QAbstractItemView>
 #include <QFile>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <memory>
@@ -165,5 +166,27 @@ inline SimulationRun Run(const SimulationSettings& settings) {
   }
   return std::move(*run);
 }
+
+/// A finished example run in its window.
+template <typename Settings, typename FinishedRun, typename Window>
+struct Shown {
+  Shown(Settings (*example)(Flow, const QTemporaryDir&), Flow flow)
+      : settings(example(flow, folder)) {}
+
+  void Run() {
+    run = test::Run(settings);
+    window = new Window(settings, run, project);
+    window->show();
+  }
+  ~Shown() { delete window; }
+  Shown(const Shown&) = delete;
+  Shown& operator=(const Shown&) = delete;
+
+  QTemporaryDir folder;
+  QString project = folder.filePath(Text("project"));
+  Settings settings;
+  FinishedRun run;
+  QPointer<Window> window;
+};
 
 }  // namespace kaldo::test

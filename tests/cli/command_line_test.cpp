@@ -5,25 +5,27 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <regex>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
 #include "genotypes/version.h"
+#include "tests/cli/command_support.h"
 #include "tests/support/temp_folder.h"
 
 namespace kaldo {
 namespace {
 
+using test::Arguments;
+using test::Outcome;
 using test::ReadFile;
+using test::RunCommand;
 using test::TempFolder;
+using test::operator+;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
-
-using Arguments = std::vector<std::string>;
 
 constexpr std::string_view kNoZero =
     "Set of indices has to run from 1 to the total number of loci. No zero! Only integers!\n";
@@ -32,30 +34,11 @@ constexpr std::string_view kNotFarther =
 constexpr std::string_view kWrongSum =
     "Set of indices has to run from 1 to the total number of loci.\n";
 
-/// What a command did.
-struct Outcome {
-  ExitCode code;
-  std::string out;
-  std::string err;
-};
-
-Outcome RunCommand(const Arguments& arguments) {
-  std::ostringstream out;
-  std::ostringstream err;
-  const ExitCode code = RunCommandLine(arguments, {out, err});
-  return {code, out.str(), err.str()};
-}
-
 void ExpectRefusal(const Arguments& arguments, std::string_view start_of_message) {
   const Outcome outcome = RunCommand(arguments);
   EXPECT_EQ(outcome.code, ExitCode::kBadInput) << testing::PrintToString(arguments);
   EXPECT_THAT(outcome.out, IsEmpty());
   EXPECT_THAT(outcome.err, StartsWith(std::string(start_of_message)));
-}
-
-Arguments operator+(Arguments arguments, const Arguments& more) {
-  arguments.insert(arguments.end(), more.begin(), more.end());
-  return arguments;
 }
 
 /// A small study of four loci in a folder of its own.

@@ -3,64 +3,42 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <regex>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
-#include "cli/command_line.h"
 #include "genotypes/version.h"
+#include "tests/cli/command_support.h"
+#include "tests/support/run_support.h"
 #include "tests/support/temp_folder.h"
 
 namespace kaldo {
 namespace {
 
+using test::Arguments;
+using test::Outcome;
 using test::ReadFile;
+using test::RunCommand;
 using test::TempFolder;
+using test::WorkingFolder;
+using test::operator+;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-using Arguments = std::vector<std::string>;
 using Files = std::vector<std::pair<std::string, std::string>>;
-
-struct Outcome {
-  ExitCode code;
-  std::string out;
-  std::string err;
-};
-
-Outcome RunCommand(const Arguments& arguments) {
-  std::ostringstream out;
-  std::ostringstream err;
-  const ExitCode code = RunCommandLine(arguments, {out, err});
-  return {code, out.str(), err.str()};
-}
-
-Arguments operator+(Arguments arguments, const Arguments& more) {
-  arguments.insert(arguments.end(), more.begin(), more.end());
-  return arguments;
-}
 
 /// A small study in a folder of its own, which is the working folder: the saved loci go there.
 class SimulateCommand : public testing::Test {
- public:
-  SimulateCommand(const SimulateCommand&) = delete;
-  SimulateCommand& operator=(const SimulateCommand&) = delete;
-  SimulateCommand(SimulateCommand&&) = delete;
-  SimulateCommand& operator=(SimulateCommand&&) = delete;
-
  protected:
-  SimulateCommand() : earlier_(std::filesystem::current_path()) {
-    std::filesystem::current_path(folder_.Path(""));
+  SimulateCommand() {
     folder_.Write("loci", "A B C\n");
     folder_.Write("fish",
                   "P1 100102 200204 150150\n"
                   "P2 104104 208208 152154\n"
                   "P3 100106 200202 150152\n");
   }
-  ~SimulateCommand() override { std::filesystem::current_path(earlier_); }
 
   static Arguments Common() {
     return {"simulate", "--project",    "p", "--loci",
@@ -110,7 +88,7 @@ class SimulateCommand : public testing::Test {
   TempFolder folder_;  // NOLINT(misc-non-private-member-variables-in-classes)
 
  private:
-  std::filesystem::path earlier_;
+  WorkingFolder here_{folder_.Path("")};
 };
 
 void ExpectRefusal(const Arguments& arguments, const std::string& start_of_message) {

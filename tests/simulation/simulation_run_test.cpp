@@ -12,6 +12,7 @@
 #include "simulation/non_sexed_simulation.h"
 #include "simulation/sexed/sexed_simulation.h"
 #include "simulation/simulation_record.h"
+#include "tests/support/case_support.h"
 #include "tests/support/run_support.h"
 #include "tests/support/temp_folder.h"
 
@@ -43,25 +44,12 @@ SimulationSettings CaseSettings() {
   return settings;
 }
 
-/// Runs in a copy of tests/cases/NAME and compares every file with the one worked out by hand.
 void ExpectCase(const std::string& name, const SimulationSettings& settings,
                 std::string_view saved_loci) {
-  const TempFolder folder;
-  std::filesystem::copy(std::string(KALDO_ROOT) + "/tests/cases/" + name, folder.Path(""),
-                        std::filesystem::copy_options::recursive);
-  const WorkingFolder here(folder.Path(""));
   RunObserver observer;
-  const auto run = RunFiles(settings, observer);
-  ASSERT_TRUE(run) << run.error().sentence << ' ' << DetailLine(run.error());
-
-  auto expected = folder.FilesIn("expected");
-  for (const std::string& file : expected) {
-    EXPECT_EQ(ReadFile("project/" + file), ReadFile("expected/" + file)) << file;
-  }
-  expected.emplace_back("Run record.toml");
-  std::sort(expected.begin(), expected.end());
-  EXPECT_EQ(folder.FilesIn("project"), expected);
-  EXPECT_EQ(ReadFile("SAUVLOCUSTULM.txt"), saved_loci);
+  test::ExpectCase(
+      name, [&] { return RunFiles(settings, observer); },
+      [&] { EXPECT_EQ(ReadFile("SAUVLOCUSTULM.txt"), saved_loci); });
 }
 
 // No draw matters here. At "Alike" everybody is 100100; at "Telling" both collected parents are
