@@ -240,6 +240,12 @@ TEST_F(ScreensTest, TheHintsTellWhatWasRead) {
   ExpectText(script_, "LociFile", QString::fromStdString(folder_.Path("data/loci.txt")));
   script_.Type("ParentsFile", Text("data/nowhere.txt"));
   await_hint("ParentsFileHint", "cannot be read: No such file or directory");
+  // What was mended meanwhile shows when the screen comes back.
+  script_.Press(Qt::Key_Escape).Await("MainMenu").Do([this](QWidget&) {
+    folder_.Write("data/nowhere.txt", "P1 100102 200204 150150 120124\n");
+  });
+  OpenFlow(script_, "ALLOCATIONNON-SEXED");
+  await_hint("ParentsFileHint", "1 individual, 4 loci, 6 digits per field, no missing genotypes");
   script_.Press(Qt::Key_Escape);
   Go(script_);
 }

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include "app/base/text.h"
@@ -104,6 +105,13 @@ void FileField::dropEvent(QDropEvent* event) {
   }
   event->acceptProposedAction();
   SetPath(PathBytes(file));
+}
+
+void FileField::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (!event->spontaneous()) {
+    Refresh();
+  }
 }
 
 FileField* AddFileField(QFormLayout& form, const FieldText& text) {

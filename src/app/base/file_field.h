@@ -38,6 +38,9 @@ class FileField : public QWidget {
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
+  /// Reads the file again: it, or the working folder, may have changed since.
+  void showEvent(QShowEvent* event) override;
+
  private:
   void Browse();
 
