@@ -50,13 +50,6 @@ void FocusFirst(QWidget& page) {
   }
 }
 
-QPushButton* NewButton(std::string_view caption, std::string_view name, std::string_view help) {
-  auto* const button = new QPushButton(Text(caption));
-  button->setObjectName(Text(name));
-  button->setToolTip(Text(help));
-  return button;
-}
-
 }  // namespace
 
 FlowPage::FlowPage(const ScreenEntry& entry, std::string_view caption) : caption_(Text(caption)) {

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/base/form_fields.h"
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
 #include "genotypes/version.h"
@@ -45,15 +46,12 @@ IntroductionScreen::IntroductionScreen() {
   text->setWordWrap(true);
   text->setMinimumWidth(fontMetrics().averageCharWidth() * 66);
 
-  auto* const example = new QPushButton(Text("&Try it with example data"));
-  example->setObjectName(Text("TryExample"));
-  example->setToolTip(
-      Text("Opens an allocation with the files of a made-up lake: press OK on its "
-           "three screens to see a result"));
+  auto* const example = NewButton(
+      "&Try it with example data", "TryExample",
+      "Opens an allocation with the files of a made-up lake: press OK on its three screens to see "
+      "a result");
   example->setAutoDefault(false);
-  auto* const ok = new QPushButton(Text("OK"));
-  ok->setObjectName(Text("Ok"));
-  ok->setToolTip(Text("On to the main menu"));
+  auto* const ok = NewButton("OK", "Ok", "On to the main menu");
   ok->setDefault(true);
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(example);

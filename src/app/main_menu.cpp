@@ -52,13 +52,6 @@ QPushButton* NewFlowButton(Flow flow, std::string_view group, int number, Qt::Ke
   return button;
 }
 
-QPushButton* NewButton(std::string_view caption, std::string_view name, std::string_view help) {
-  auto* const button = new QPushButton(Text(caption));
-  button->setObjectName(Text(name));
-  button->setToolTip(Text(help));
-  return button;
-}
-
 }  // namespace
 
 MainMenu::MainMenu() : project_(new QLineEdit), folder_(new QLineEdit) {

@@ -77,9 +77,8 @@ StrategyPage::StrategyPage(Flow flow)
 }
 
 QLayout* StrategyPage::NewLociRow() {
-  auto* const choose = new QPushButton(Text("C&hoose loci..."));
-  choose->setObjectName(Text("ChooseLoci"));
-  choose->setToolTip(Text("Leave loci out of the subsets or of the sequence"));
+  auto* const choose = NewButton("C&hoose loci...", "ChooseLoci",
+                                 "Leave loci out of the subsets or of the sequence");
   choose->setAutoDefault(false);
   connect(choose, &QPushButton::clicked, this, [this] { on_choose_loci_(); });
   auto* const row = new QHBoxLayout;

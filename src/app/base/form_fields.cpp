@@ -4,6 +4,7 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 #include <fmt/format.h>
 
@@ -41,6 +42,13 @@ QLineEdit* AddLineEdit(QFormLayout& form, const FieldText& text) {
   Describe(*field, text);
   form.addRow(Text(text.label), field);
   return field;
+}
+
+QPushButton* NewButton(std::string_view caption, std::string_view name, std::string_view help) {
+  auto* const button = new QPushButton(Text(caption));
+  button->setObjectName(Text(name));
+  button->setToolTip(Text(help));
+  return button;
 }
 
 QLabel* NewHint(QWidget* parent) {

@@ -8,6 +8,7 @@
 class QFormLayout;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QString;
 class QWidget;
 
@@ -25,6 +26,9 @@ void Describe(QWidget& widget, const FieldText& text);
 
 /// A line for one value, with its label.
 QLineEdit* AddLineEdit(QFormLayout& form, const FieldText& text);
+
+/// A button with its name and its tooltip.
+QPushButton* NewButton(std::string_view caption, std::string_view name, std::string_view help);
 
 /// A line of plain words that explains or warns; wraps.
 QLabel* NewHint(QWidget* parent);

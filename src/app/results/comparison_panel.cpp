@@ -11,6 +11,7 @@
 
 #include <fmt/format.h>
 
+#include "app/base/form_fields.h"
 #include "app/base/text.h"
 #include "app/results/comparison_model.h"
 #include "app/results/result_table.h"
@@ -53,9 +54,8 @@ void ComparisonPanel::LayOut() {
                        Bytes(SignOf(LocusFit::kUnsaid)))));
   legend->setObjectName(Text("ComparisonLegend"));
   legend->setWordWrap(true);
-  auto* copy = new QPushButton(Text("Copy &genotypes"));
-  copy->setObjectName(Text("ComparisonCopy"));
-  copy->setToolTip(Text("Copy the selected loci, or all, with their heads."));
+  auto* copy = NewButton("Copy &genotypes", "ComparisonCopy",
+                         "Copy the selected loci, or all, with their heads.");
   auto* foot = new QHBoxLayout;
   foot->addWidget(legend, 1);
   foot->addWidget(copy);

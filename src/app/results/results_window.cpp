@@ -11,6 +11,7 @@
 #include <QTabWidget>
 #include <QUrl>
 
+#include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
 #include "genotypes/version.h"
@@ -42,9 +43,8 @@ QWidget* ResultsWindow::ButtonRow() {
   copy_command_->setToolTip(
       Text("Copy the command line that repeats this run, for a script or a colleague."));
   copy_command_->setEnabled(false);
-  auto* close_button = new QPushButton(Text("C&lose"));
-  close_button->setObjectName(Text("Close"));
-  close_button->setToolTip(Text("Close this window. The reports stay in their folder."));
+  auto* close_button =
+      NewButton("C&lose", "Close", "Close this window. The reports stay in their folder.");
 
   auto* row = new QWidget;
   auto* layout = new QHBoxLayout(row);
