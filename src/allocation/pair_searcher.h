@@ -50,12 +50,12 @@ class PairSearcher {
   const Work& WorkDone() const { return work_; }
 
  private:
-  void ScanGroup(const CandidateGroup& group, KeptPairs& kept, const RunObserver& observer);
+  void ScanGroup(const CandidateGroup& slots, KeptPairs& kept, const RunObserver& observer);
   void ScanRow(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept);
   void ScanRowByBounds(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept);
   bool IsCrowded(std::uint32_t first_parent, SlotRange partners) const;
   void ScanRowPlainly(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept);
-  void MultiplyAll(const CandidateGroup& group, KeptPairs& kept);
+  void MultiplyAll(const CandidateGroup& slots, KeptPairs& kept);
   void ScoreParents();
   bool MarksAllow(std::uint32_t first_parent, std::uint32_t partner, std::int32_t cost);
   AfterPair Multiply(std::uint32_t first_parent, std::uint32_t partner, KeptPairs& kept);
