@@ -277,4 +277,10 @@ if __name__ == "__main__":
     if "Open MPI" not in version.stdout and "OpenRTE" not in version.stdout:
         print("Skipped: the tests know the launcher of Open MPI alone")
         sys.exit(77)
+    probe = subprocess.run([MPIEXEC, "-n", "2", "true"], env=ENVIRONMENT, capture_output=True,
+                           text=True, check=False, timeout=GENEROUS)
+    if probe.returncode != 0:
+        print("Skipped: the launcher of Open MPI cannot start any program on this machine:\n"
+              + probe.stdout + probe.stderr)
+        sys.exit(77)
     unittest.main(argv=sys.argv[:1] + sys.argv[4:])
