@@ -26,21 +26,9 @@ void OfferFolder(QWidget* parent, const RunRecord& record) {
   }
 }
 
-std::vector<std::string> MissingInputs(const RunRecord& record) {
-  std::vector<std::string> missing;
-  for (const RecordedInput& input : record.inputs) {
-    if (!DigestOfFile(input.path)) {
-      missing.push_back(fmt::format("{} (\"{}\") cannot be read.", input.role, input.path));
-    }
-  }
-  return missing;
-}
-
 void TellChanges(QWidget* parent, const RunRecord& record) {
-  std::vector<std::string> changes = MissingInputs(record);
-  for (std::string& change : ChangedInputs(record)) {
-    changes.push_back(std::move(change));
-  }
+  auto [changes, changed] = CompareInputs(record);  // missing ones first
+  changes.insert(changes.end(), changed.begin(), changed.end());
   if (record.version != Version()) {
     changes.push_back(fmt::format("The record was made by KALDO {}, this is KALDO {}.",
                                   record.version, Version()));

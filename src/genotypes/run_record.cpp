@@ -111,18 +111,24 @@ std::string DateText(std::chrono::system_clock::time_point time) {
                      fmt::gmtime(std::chrono::system_clock::to_time_t(time)));
 }
 
-std::vector<std::string> ChangedInputs(const RunRecord& record) {
-  std::vector<std::string> changed;
+InputChanges CompareInputs(const RunRecord& record) {
+  InputChanges changes;
   for (const RecordedInput& input : record.inputs) {
     const auto now = DigestOfFile(input.path);
-    if (now && *now != input.digest) {
-      changed.push_back(
+    if (!now) {
+      changes.missing.push_back(fmt::format("{} (\"{}\") cannot be read.", input.role, input.path));
+    } else if (*now != input.digest) {
+      changes.changed.push_back(
           fmt::format("{} (\"{}\") has changed since the recorded run: {} bytes then, {} bytes "
                       "now, other contents.",
                       input.role, input.path, input.digest.bytes, now->bytes));
     }
   }
-  return changed;
+  return changes;
+}
+
+std::vector<std::string> ChangedInputs(const RunRecord& record) {
+  return CompareInputs(record).changed;
 }
 
 }  // namespace kaldo

@@ -113,7 +113,16 @@ tl::expected<RunRecord, Problem> ParseRunRecord(std::string_view text, const std
 /// Now, as a run record writes it.
 std::string DateText(std::chrono::system_clock::time_point time);
 
-/// The sentences that tell which inputs are no longer what they were when the record was written.
+/// The inputs that are no longer what they were when a record was written, a sentence each.
+struct InputChanges {
+  std::vector<std::string> missing;  ///< cannot be read
+  std::vector<std::string> changed;  ///< have other contents
+};
+
+/// Reads every input of the record once.
+InputChanges CompareInputs(const RunRecord& record);
+
+/// The sentences of those with other contents alone.
 std::vector<std::string> ChangedInputs(const RunRecord& record);
 
 }  // namespace kaldo

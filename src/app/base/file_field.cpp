@@ -79,6 +79,9 @@ void FileField::SetPath(const std::string& path) {
 }
 
 void FileField::Refresh() {
+  if (!isVisible()) {
+    return;  // read once, when it is shown
+  }
   const std::string path = Path();
   hint_->setText(path.empty() || !describer_ ? QString() : Text(describer_(path)));
 }
