@@ -39,7 +39,7 @@ void WorkAtDesk(const UnitTask& task, UnitDesk& desk, RunObserver& observer) {
   }
 }
 
-unsigned LocalThreads::NumberOfThreads(unsigned wanted) {
+unsigned LocalThreads::Threads(unsigned wanted) const {
   const unsigned cores = std::thread::hardware_concurrency();
   return wanted != 0 ? wanted : std::max(cores, 1U);
 }

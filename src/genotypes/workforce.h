@@ -44,12 +44,10 @@ class Workforce {
 /// The threads of this process.
 class LocalThreads final : public Workforce {
  public:
-  unsigned Threads(unsigned wanted) const override { return NumberOfThreads(wanted); }
+  /// `wanted`, or as many as the machine has cores when that is 0.
+  unsigned Threads(unsigned wanted) const override;
   FileSource& Files() override { return files_; }
   void Do(const UnitJob& job, unsigned wanted, RunObserver& observer) override;
-
-  /// `wanted`, or as many as the machine has cores when that is 0.
-  static unsigned NumberOfThreads(unsigned wanted);
 
  private:
   DiskFiles files_;
