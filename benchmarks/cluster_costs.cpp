@@ -24,8 +24,7 @@
 #include "genotypes/byte_packing.h"
 #include "simulation/counts_plan.h"
 #include "simulation/iteration_units.h"
-#include "simulation/non_sexed_simulation.h"
-#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/sexed/simulation_of.h"
 
 namespace kaldo {
 namespace {
@@ -94,7 +93,7 @@ Costs SimulationCosts(const std::filesystem::path& folder, Flow flow_kind) {
   }
   settings.iterations = 999;
   settings.offspring_per_iteration = 1000;
-  const SimulationFlow& flow = flow_kind == Flow::kSexed ? SexedSimulation() : NonSexedSimulation();
+  const SimulationFlow& flow = SimulationOf(flow_kind);
   Costs costs;
   RememberedFiles files;
   const auto start = Clock::now();

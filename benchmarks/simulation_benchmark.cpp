@@ -9,8 +9,7 @@
 #include <fmt/format.h>
 
 #include "simulation/iteration_states.h"
-#include "simulation/non_sexed_simulation.h"
-#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulated_iteration.h"
 
 namespace kaldo {
@@ -49,9 +48,7 @@ class Study {
   }
 
   const SimulationSettings& Settings() const { return settings_; }
-  const SimulationFlow& SimulatedFlow() const {
-    return settings_.flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation();
-  }
+  const SimulationFlow& SimulatedFlow() const { return SimulationOf(settings_.flow); }
   SimulationInput Load() const { return LoadSimulationInput(settings_, SimulatedFlow()).value(); }
 
  private:

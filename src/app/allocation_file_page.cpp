@@ -32,10 +32,6 @@ const ScreenEntry& EntryOf(Flow flow) {
   return flow == Flow::kSexed ? kSexedAllocationScreen : kNonSexedAllocationScreen;
 }
 
-std::string_view CaptionOf(Flow flow) {
-  return flow == Flow::kSexed ? kSexedAllocationCaption : kNonSexedAllocationCaption;
-}
-
 /// How many groups the separators make of a file; nothing where it cannot be read.
 std::optional<std::size_t> GroupsIn(const std::string& path) {
   const auto file = TokenFile::Read(path);
@@ -47,7 +43,8 @@ std::optional<std::size_t> GroupsIn(const std::string& path) {
 
 }  // namespace
 
-AllocationFilePage::AllocationFilePage(Flow flow) : FlowPage(EntryOf(flow), CaptionOf(flow)) {
+AllocationFilePage::AllocationFilePage(Flow flow)
+    : FlowPage(EntryOf(flow), AllocationCaption(flow)) {
   auto* const form = new QFormLayout(this);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   if (flow == Flow::kSexed) {

@@ -17,10 +17,6 @@ namespace kaldo {
 
 namespace {
 
-std::string_view CaptionOf(Flow flow) {
-  return flow == Flow::kSexed ? kSexedAllocationCaption : kNonSexedAllocationCaption;
-}
-
 const ScreenEntry& LociScreenOf(Flow flow) {
   return flow == Flow::kSexed ? kSexedAllocationLociScreen : kLociScreen;
 }
@@ -31,8 +27,9 @@ AllocationFlowWindow::AllocationFlowWindow(Flow flow, QWidget* parent)
     : FlowWindow(parent),
       flow_(flow),
       files_(Own(new AllocationFilePage(flow))),
-      error_(Own(new ErrorPage(CaptionOf(flow)))),
-      loci_(Own(new LociPage(LociScreenOf(flow), CaptionOf(flow))), Own(new SequencePage)) {}
+      error_(Own(new ErrorPage(AllocationCaption(flow)))),
+      loci_(Own(new LociPage(LociScreenOf(flow), AllocationCaption(flow))), Own(new SequencePage)) {
+}
 
 void AllocationFlowWindow::Set(const AllocationSettings& settings) {
   files_->Set(settings);

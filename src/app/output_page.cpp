@@ -44,9 +44,7 @@ QCheckBox* NewBox(QVBoxLayout& column, const FieldText& text) {
 
 }  // namespace
 
-OutputPage::OutputPage(Flow flow)
-    : FlowPage(kOutputScreen,
-               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption) {
+OutputPage::OutputPage(Flow flow) : FlowPage(kOutputScreen, SimulationCaption(flow)) {
   auto* const print = new QGroupBox(Text("  Print  "));
   auto* const print_column = new QVBoxLayout(print);
   print_iterations_ = NewBox(*print_column, kPrintIterations);

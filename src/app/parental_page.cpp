@@ -92,9 +92,7 @@ void ShowRow(QFormLayout& form, QWidget* field, bool shown) {
 }  // namespace
 
 ParentalPage::ParentalPage(Flow flow)
-    : FlowPage(kParentalScreen,
-               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption),
-      flow_(flow) {
+    : FlowPage(kParentalScreen, SimulationCaption(flow)), flow_(flow) {
   auto* const column = new QVBoxLayout(this);
   for (std::size_t set = 0; set < Sets().size(); ++set) {
     column->addWidget(NewSet(set));

@@ -51,8 +51,7 @@ QTableWidget* NewTable() {
 }  // namespace
 
 PseudoOffspringPage::PseudoOffspringPage(Flow flow)
-    : FlowPage(kOffspringScreen,
-               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption),
+    : FlowPage(kOffspringScreen, SimulationCaption(flow)),
       table_(NewTable()),
       box_(new ErrorModelBox("  Transmission error  ")) {
   auto* const group = new QGroupBox(Text("  Pseudo-offspring  "));

@@ -14,9 +14,8 @@
 #include "app/strategy_page.h"
 #include "app/tolerance_page.h"
 #include "genotypes/stepping_condition.h"
-#include "simulation/non_sexed_simulation.h"
 #include "simulation/saved_loci.h"
-#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_command.h"
 #include "simulation/simulation_files.h"
@@ -25,10 +24,6 @@
 namespace kaldo {
 
 namespace {
-
-std::string_view CaptionOf(Flow flow) {
-  return flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption;
-}
 
 Problem NoStrategy() {
   Problem problem;
@@ -41,13 +36,13 @@ Problem NoStrategy() {
 SimulationFlowWindow::SimulationFlowWindow(Flow flow, QWidget* parent)
     : FlowWindow(parent),
       flow_(flow),
-      rules_(flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation()),
+      rules_(SimulationOf(flow)),
       start_(Own(new SimulationStartPage(flow))),
       parents_(Own(new ParentalPage(flow))),
       offspring_(Own(new PseudoOffspringPage(flow))),
       tolerance_(Own(new TolerancePage(flow))),
       strategy_(Own(new StrategyPage(flow))),
-      loci_(Own(new LociPage(kLociScreen, CaptionOf(flow))), Own(new SequencePage)),
+      loci_(Own(new LociPage(kLociScreen, SimulationCaption(flow))), Own(new SequencePage)),
       output_(Own(new OutputPage(flow))) {
   strategy_->SetOnChooseLoci([this] { ChooseLoci(); });
 }

@@ -36,7 +36,7 @@ constexpr FieldText kPreParental{
 
 SimulationStartPage::SimulationStartPage(Flow flow)
     : FlowPage(flow == Flow::kSexed ? kSexedSimulationScreen : kNonSexedSimulationScreen,
-               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption),
+               SimulationCaption(flow)),
       procedure_(new QButtonGroup(this)) {
   auto* const form = new QFormLayout;
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);

@@ -51,8 +51,7 @@ constexpr FieldText kStartWith{"&Number of loci to start with :", "StartWith",
 }  // namespace
 
 StrategyPage::StrategyPage(Flow flow)
-    : FlowPage(kStrategyScreen,
-               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption),
+    : FlowPage(kStrategyScreen, SimulationCaption(flow)),
       strategies_(new QButtonGroup(this)),
       loci_(NewHint(nullptr)) {
   auto* const group = new QGroupBox(Text("     Simulations run with :     "));

@@ -22,9 +22,7 @@ constexpr std::string_view kSexedNote =
 
 }  // namespace
 
-TolerancePage::TolerancePage(Flow flow)
-    : FlowPage(kToleranceScreen,
-               flow == Flow::kSexed ? kSexedSimulationCaption : kNonSexedSimulationCaption) {
+TolerancePage::TolerancePage(Flow flow) : FlowPage(kToleranceScreen, SimulationCaption(flow)) {
   auto* const group = new QGroupBox(Text("  Allocation of the pseudo-offspring  "));
   auto* const form = new QFormLayout(group);
   field_.emplace(*form);

@@ -17,8 +17,7 @@
 #include "cli/simulation_result_text.h"
 #include "cli/terminal_progress.h"
 #include "genotypes/version.h"
-#include "simulation/non_sexed_simulation.h"
-#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_record.h"
 
@@ -67,10 +66,6 @@ ExitCode RunAllocate(const AllocationOptions& options, const CommandLineStreams&
                   : Tell(settings.error(), streams);
 }
 
-const SimulationFlow& FlowOf(const SimulationSettings& settings) {
-  return settings.flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation();
-}
-
 ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineStreams& streams,
                          Workforce& workforce) {
   if (WarnsOfManyIterations(settings.flow, settings.iterations)) {
@@ -78,12 +73,12 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
   }
   const auto run = [&] {
     TerminalProgress progress(streams.err, streams.err_is_terminal);
-    return RunSimulation(settings, FlowOf(settings), progress, workforce);
+    return RunSimulation(settings, SimulationOf(settings.flow), progress, workforce);
   }();
   if (!run) {
     return Tell(run.error(), streams);
   }
-  streams.out << ShortResult(settings, FlowOf(settings), *run);
+  streams.out << ShortResult(settings, SimulationOf(settings.flow), *run);
   return ExitCode::kDone;
 }
 

@@ -8,8 +8,7 @@
 #include "genotypes/byte_packing.h"
 #include "genotypes/version.h"
 #include "simulation/iteration_units.h"
-#include "simulation/non_sexed_simulation.h"
-#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_record.h"
 
 namespace kaldo {
@@ -57,16 +56,12 @@ class SentAllocation final : public UnitTask {
   AllocationTask task_;
 };
 
-const SimulationFlow& FlowOf(const RunRecord& record) {
-  return record.flow == kSexedSimulationFlow ? SexedSimulation() : NonSexedSimulation();
-}
-
 class SentSimulation final : public UnitTask {
  public:
   SentSimulation(const RunRecord& record, FileSource& files, IterationProduct product)
       : settings_(Expect(SimulationSettingsOf(record, {}))),
-        input_(Expect(LoadSimulationInput(settings_, FlowOf(record), files))),
-        task_(settings_, input_, FlowOf(record).Design(), product) {}
+        input_(Expect(LoadSimulationInput(settings_, SimulationOf(settings_.flow), files))),
+        task_(settings_, input_, SimulationOf(settings_.flow).Design(), product) {}
 
   std::unique_ptr<UnitWorker> MakeWorker() const override { return task_.MakeWorker(); }
 

@@ -102,7 +102,7 @@ class ResultsLargeTest : public QObject {
     auto tokens = TokenFile::Read(PathBytes(file.fileName()));
     QVERIFY(tokens.has_value());
     made.run.input.loci = LociList(*tokens);
-    const std::size_t figure = FlowOf(made.settings).Design().any_correct_figure;
+    const std::size_t figure = SimulationOf(made.settings.flow).Design().any_correct_figure;
     std::mt19937 random(7);
     std::size_t with_both = 0;
     for (std::uint32_t choice = 1; choice < 1U << kLoci; ++choice) {

@@ -138,7 +138,7 @@ class ResultsSimulationTest : public QObject {
     shown.Run();
     const auto& subsets = shown.run.result.subsets;
     QCOMPARE(subsets.size(), std::size_t{15});
-    const std::size_t figure = NonSexedSimulation().Design().any_correct_figure;
+    const std::size_t figure = SimulationOf(Flow::kNonSexed).Design().any_correct_figure;
     const QAbstractItemModel& model = ModelOf(*shown.window, "SubsetsTable");
     for (std::size_t k = 0; k < subsets.size(); ++k) {
       bool is_best = true;  // better than all before, as good as all behind

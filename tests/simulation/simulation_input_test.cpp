@@ -10,6 +10,7 @@
 
 #include "simulation/non_sexed_simulation.h"
 #include "simulation/sexed/sexed_simulation.h"
+#include "simulation/sexed/simulation_of.h"
 #include "tests/support/temp_folder.h"
 
 namespace kaldo {
@@ -47,10 +48,7 @@ class SimulationInputTest : public testing::Test {
     }
   }
 
-  auto Load() const {
-    return LoadSimulationInput(
-        settings_, settings_.flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation());
-  }
+  auto Load() const { return LoadSimulationInput(settings_, SimulationOf(settings_.flow)); }
   std::string Sentence() const {
     const auto input = Load();
     return input ? "ok" : input.error().sentence;

@@ -9,8 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "genotypes/project_folder.h"
-#include "simulation/non_sexed_simulation.h"
-#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_record.h"
 #include "tests/support/case_support.h"
 #include "tests/support/run_support.h"
@@ -27,8 +26,7 @@ using test::WorkingFolder;
 using Files = std::vector<std::pair<std::string, std::string>>;
 
 auto RunFiles(const SimulationSettings& settings, RunObserver& observer) {
-  return RunSimulation(
-      settings, settings.flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation(), observer);
+  return RunSimulation(settings, SimulationOf(settings.flow), observer);
 }
 
 SimulationSettings CaseSettings() {
@@ -185,7 +183,7 @@ TEST_F(ExampleSimulation, GivesTheSameFilesForAnyNumberOfThreadsAndOthersForAnot
 TEST_F(ExampleSimulation, RemovesFilesThatTheOptionsLeaveWithoutContent) {
   for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
     const bool sexed = flow == Flow::kSexed;
-    const SimulationDesign& design = (sexed ? SexedSimulation() : NonSexedSimulation()).Design();
+    const SimulationDesign& design = SimulationOf(sexed ? Flow::kSexed : Flow::kNonSexed).Design();
     SimulationSettings settings = Settings(flow);
     settings.keep = KeptFiles{true, true, true};
     settings.print_iterations = true;

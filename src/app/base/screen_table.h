@@ -3,6 +3,8 @@
 
 #include <string_view>
 
+#include "allocation/flow.h"
+
 class QWidget;
 
 namespace kaldo {
@@ -49,10 +51,12 @@ enum ControlNumber : int {
 };
 
 // The captions of the flows.
-inline constexpr std::string_view kNonSexedAllocationCaption = "ALLOCATION : NON-SEXED";
-inline constexpr std::string_view kSexedAllocationCaption = "ALLOCATION : SEXED";
-inline constexpr std::string_view kNonSexedSimulationCaption = "SIMULATIONS: NON-SEXED";
-inline constexpr std::string_view kSexedSimulationCaption = "SIMULATIONS : SEXED";
+constexpr std::string_view AllocationCaption(Flow flow) {
+  return flow == Flow::kSexed ? "ALLOCATION : SEXED" : "ALLOCATION : NON-SEXED";
+}
+constexpr std::string_view SimulationCaption(Flow flow) {
+  return flow == Flow::kSexed ? "SIMULATIONS : SEXED" : "SIMULATIONS: NON-SEXED";
+}
 inline constexpr std::string_view kSequenceCaption = "Cumulative Sequence";
 
 inline constexpr const char* kNumberProperty = "number";

@@ -6,8 +6,7 @@
 #include "app/base/text.h"
 #include "genotypes/number_text.h"
 #include "genotypes/project_folder.h"
-#include "simulation/non_sexed_simulation.h"
-#include "simulation/sexed/sexed_simulation.h"
+#include "simulation/sexed/simulation_of.h"
 #include "simulation/subset_title.h"
 
 namespace kaldo {
@@ -74,7 +73,7 @@ void AddFigures(const SimulationSettings& settings, const SimulationRun& run, Su
   const auto add = [&summary](std::string_view label, const std::string& text) {
     summary.lines.emplace_back(Text(label), Text(text));
   };
-  const SimulationFlow& flow = FlowOf(settings);
+  const SimulationFlow& flow = SimulationOf(settings.flow);
   add("true parents", fmt::format("{} candidates, {} in all",
                                   input.Candidates(flow.Design()).Size(), input.NumberOfParents()));
   add("pseudo-offspring",
@@ -121,10 +120,6 @@ std::vector<std::string_view> FilesOf(const SimulationDesign& design) {
 
 }  // namespace
 
-const SimulationFlow& FlowOf(const SimulationSettings& settings) {
-  return settings.flow == Flow::kSexed ? SexedSimulation() : NonSexedSimulation();
-}
-
 double AnyCorrect(const SimulationFlow& flow, const SubsetFigures& subset) {
   return subset.figures[flow.Design().any_correct_figure];
 }
@@ -149,7 +144,7 @@ std::vector<Correctness> CorrectnessOf(const SimulationFlow& flow, const Simulat
 
 Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
                   const QString& folder) {
-  const SimulationFlow& flow = FlowOf(settings);
+  const SimulationFlow& flow = SimulationOf(settings.flow);
   Summary summary;
   summary.title =
       Text(fmt::format("{} simulation, {}{}", settings.flow == Flow::kSexed ? "Sexed" : "Non-sexed",

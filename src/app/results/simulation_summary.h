@@ -7,9 +7,6 @@
 
 namespace kaldo {
 
-/// The flow that a simulation ran with.
-const SimulationFlow& FlowOf(const SimulationSettings& settings);
-
 /// The correct decisions of one class of origin in every iteration of the last subset of loci.
 struct Correctness {
   QString name;                ///< "C X U", "GLOBAL"

@@ -7,6 +7,7 @@
 #include "app/results/simulation_summary.h"
 #include "app/results/spread_page.h"
 #include "app/results/subset_page.h"
+#include "simulation/sexed/simulation_of.h"
 #include "simulation/subset_title.h"
 
 namespace kaldo {
@@ -16,7 +17,7 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
     : ResultsWindow(settings.project, std::move(folder), parent) {
   const SharedSimulation shared = std::make_shared<const FinishedSimulation>(
       FinishedSimulation{std::move(settings), std::move(run)});
-  const SimulationFlow& flow = FlowOf(shared->settings);
+  const SimulationFlow& flow = SimulationOf(shared->settings.flow);
   const LociStrategy strategy = shared->settings.strategy;
   const std::vector<Correctness> classes = CorrectnessOf(flow, shared->run);
   AddTab(new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),

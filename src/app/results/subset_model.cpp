@@ -7,6 +7,7 @@
 #include "app/base/text.h"
 #include "app/results/data_table.h"
 #include "app/results/simulation_summary.h"
+#include "simulation/sexed/simulation_of.h"
 #include "simulation/subset_title.h"
 
 namespace kaldo {
@@ -51,12 +52,12 @@ std::map<std::size_t, std::size_t> BestSubsets(const SimulationFlow& flow,
 SubsetModel::SubsetModel(SharedSimulation simulation, QObject* parent)
     : QAbstractTableModel(parent),
       simulation_(std::move(simulation)),
-      best_(BestSubsets(FlowOf(simulation_->settings), Subsets())) {
+      best_(BestSubsets(SimulationOf(simulation_->settings.flow), Subsets())) {
   Arrange();
 }
 
 double SubsetModel::AnyCorrectOf(std::size_t subset) const {
-  return AnyCorrect(FlowOf(simulation_->settings), Subsets()[subset]);
+  return AnyCorrect(SimulationOf(simulation_->settings.flow), Subsets()[subset]);
 }
 
 bool SubsetModel::IsBest(std::size_t subset) const {

@@ -12,6 +12,7 @@
 #include "app/results/searchable_table.h"
 #include "app/results/simulation_summary.h"
 #include "app/results/subset_model.h"
+#include "simulation/sexed/simulation_of.h"
 #include "simulation/subset_title.h"
 
 namespace kaldo {
@@ -32,7 +33,7 @@ constexpr SearchableTexts kTexts{
 
 ChartPanel* BestPanel(const FinishedSimulation& simulation, const SubsetModel& model,
                       const QString& folder) {
-  const SimulationFlow& flow = FlowOf(simulation.settings);
+  const SimulationFlow& flow = SimulationOf(simulation.settings.flow);
   LineChart chart;
   chart.texts = {Text("Any allocation correct, best subset of each size"), Text("loci"),
                  Text("estimated probability"), true};
