@@ -18,10 +18,10 @@
 #include <fmt/format.h>
 
 #include "allocation/allocation_units.h"
+#include "base/byte_packing.h"
 #include "cli/option_text.h"
 #include "cluster/mpi_session.h"
 #include "cluster/sent_part.h"
-#include "genotypes/byte_packing.h"
 #include "simulation/counts_plan.h"
 #include "simulation/iteration_units.h"
 #include "simulation/sexed/simulation_of.h"

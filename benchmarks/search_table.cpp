@@ -19,8 +19,8 @@
 #include <fmt/format.h>
 
 #include "allocation/pair_searcher.h"
+#include "base/number_text.h"
 #include "genotypes/catalogued_loci.h"
-#include "genotypes/number_text.h"
 
 namespace kaldo {
 namespace {

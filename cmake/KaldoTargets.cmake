@@ -17,12 +17,20 @@ if(KALDO_SANITIZE)
   target_link_options(kaldo_options INTERFACE -fsanitize=${KALDO_SANITIZE})
 endif()
 
-# kaldo_add_library(NAME SOURCES file... LINKS target...)
-# A folder of src/ as one static library. Its headers are included by their folder:
-# "genotypes/loci_list.h".
-function(kaldo_add_library name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
-  add_library(${name} STATIC ${ARG_SOURCES})
+# kaldo_add_room(NAME [FOLDERS folder...] [SOURCES file...] LINKS target... PRIVATE_LINKS target...)
+# A room of src/ as one static library: every source of its folder and of the folders named, but
+# main.cpp. SOURCES are those that stand elsewhere. Headers are included by their room:
+# "genotypes/loci_list.h". A room links only to the rooms below it, so a wrong include does not
+# build.
+function(kaldo_add_room name)
+  cmake_parse_arguments(ARG "" "" "FOLDERS;SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  set(patterns *.cpp)
+  foreach(folder ${ARG_FOLDERS})
+    list(APPEND patterns "${folder}/*.cpp")
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  add_library(${name} STATIC ${sources} ${ARG_SOURCES})
   target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(${name}
     PUBLIC ${ARG_LINKS}

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "allocation/allocation_settings.h"
-#include "genotypes/shell_text.h"
+#include "base/shell_text.h"
 
 namespace kaldo {
 

@@ -8,7 +8,7 @@
 
 #include "allocation/cumulative_sequence.h"
 #include "allocation/error_model_record.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 
 namespace kaldo {
 

@@ -10,7 +10,7 @@
 #include "allocation/allocation_counters.h"
 #include "allocation/allocation_decision.h"
 #include "allocation/allocation_input.h"
-#include "genotypes/run_observer.h"
+#include "base/run_observer.h"
 #include "genotypes/stepping_condition.h"
 #include "genotypes/workforce.h"
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "allocation/pair_searcher.h"
-#include "genotypes/byte_packing.h"
+#include "base/byte_packing.h"
 #include "genotypes/unit_distance.h"
 
 namespace kaldo {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 #include "genotypes/units.h"
 
 namespace kaldo {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 

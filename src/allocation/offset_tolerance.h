@@ -4,7 +4,7 @@
 #include <optional>
 #include <span>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 #include "genotypes/units.h"
 
 namespace kaldo {

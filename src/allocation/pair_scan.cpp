@@ -5,7 +5,7 @@
 #include <array>
 #include <cassert>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 

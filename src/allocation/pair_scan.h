@@ -6,7 +6,7 @@
 #include "allocation/allocation_outcome.h"
 #include "allocation/candidate_groups.h"
 #include "allocation/transmission_scores.h"
-#include "genotypes/run_observer.h"
+#include "base/run_observer.h"
 
 namespace kaldo {
 

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "allocation/cost_kernels.h"
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 

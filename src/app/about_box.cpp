@@ -10,7 +10,7 @@
 
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 
 namespace kaldo {
 

@@ -12,7 +12,7 @@
 #include "app/base/text.h"
 #include "app/introduction_screen.h"
 #include "app/main_menu.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 
 /// The macro works outside of namespaces only.
 static void InitResources() { Q_INIT_RESOURCE(resources); }

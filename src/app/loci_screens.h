@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "app/desktop.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 
 namespace {
 

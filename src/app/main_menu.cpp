@@ -22,7 +22,7 @@
 #include "app/base/text.h"
 #include "app/example_data.h"
 #include "app/simulation_flow_window.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 
 namespace kaldo {
 

@@ -11,7 +11,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 
 namespace kaldo {
 

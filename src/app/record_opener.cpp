@@ -8,7 +8,7 @@
 #include "allocation/allocation_record.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 #include "simulation/simulation_record.h"
 
 namespace kaldo {

@@ -19,8 +19,8 @@
 
 #include "app/base/messages.h"
 #include "app/base/text.h"
-#include "genotypes/problem.h"
-#include "genotypes/run_observer.h"
+#include "base/problem.h"
+#include "base/run_observer.h"
 
 namespace kaldo {
 

@@ -7,7 +7,7 @@
 #include <tl/expected.hpp>
 
 #include "allocation/allocation_settings.h"
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace CLI {
 class App;

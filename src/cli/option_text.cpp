@@ -6,7 +6,7 @@
 #include <fmt/format.h>
 
 #include "allocation/cumulative_sequence.h"
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 
 namespace kaldo {
 

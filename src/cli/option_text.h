@@ -9,7 +9,7 @@
 #include <tl/expected.hpp>
 
 #include "allocation/error_model.h"
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 

@@ -5,8 +5,8 @@
 
 #include <fmt/format.h>
 
+#include "base/version.h"
 #include "genotypes/project_folder.h"
-#include "genotypes/version.h"
 
 namespace kaldo {
 

@@ -7,7 +7,7 @@
 
 #include <tl/expected.hpp>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 #include "simulation/simulation_settings.h"
 
 namespace CLI {

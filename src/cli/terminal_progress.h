@@ -9,7 +9,7 @@
 #include <string>
 #include <thread>
 
-#include "genotypes/run_observer.h"
+#include "base/run_observer.h"
 
 namespace kaldo {
 

@@ -6,11 +6,11 @@
 
 #include <fmt/format.h>
 
+#include "base/byte_packing.h"
+#include "base/problem.h"
 #include "cli/stop_signal.h"
 #include "cluster/pause.h"
 #include "cluster/worker_crew.h"
-#include "genotypes/byte_packing.h"
-#include "genotypes/problem.h"
 
 namespace kaldo {
 

@@ -5,9 +5,9 @@
 #include <numeric>
 #include <thread>
 
+#include "base/byte_packing.h"
+#include "base/problem.h"
 #include "cluster/pause.h"
-#include "genotypes/byte_packing.h"
-#include "genotypes/problem.h"
 
 namespace kaldo {
 

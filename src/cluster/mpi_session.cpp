@@ -12,7 +12,7 @@
 #include <climits>
 #include <fmt/format.h>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 

@@ -5,8 +5,8 @@
 
 #include "allocation/allocation_record.h"
 #include "allocation/allocation_units.h"
-#include "genotypes/byte_packing.h"
-#include "genotypes/version.h"
+#include "base/byte_packing.h"
+#include "base/version.h"
 #include "simulation/iteration_units.h"
 #include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_record.h"

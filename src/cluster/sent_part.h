@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "genotypes/file_source.h"
+#include "base/file_source.h"
 #include "genotypes/work_units.h"
 
 namespace kaldo {

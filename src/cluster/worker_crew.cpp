@@ -3,7 +3,7 @@
 
 #include <new>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 

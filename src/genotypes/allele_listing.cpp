@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "genotypes/allele_listing.h"
 
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 
 namespace kaldo {
 

@@ -29,9 +29,6 @@ inline constexpr std::size_t kMaxAlleleDigits = 4;
 /// The largest size that such an allele can have, in base pairs.
 inline constexpr std::size_t kLargestAlleleSize = 9'999;
 
-/// Bytes of an input file; a larger one is no genotype file of this size class.
-inline constexpr std::size_t kMaxInputBytes = std::size_t{256} * 1024 * 1024;
-
 /// Bytes of two names that must agree for them to be the same individual in the test for pairs met
 /// twice. Laboratories put running numbers of a replicate behind the tenth character.
 inline constexpr std::size_t kNameKeyLength = 10;

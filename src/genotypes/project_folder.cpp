@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 

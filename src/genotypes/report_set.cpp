@@ -8,7 +8,7 @@
 
 #include <fmt/format.h>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 

@@ -9,7 +9,7 @@
 
 #include <tl/expected.hpp>
 
-#include "genotypes/file_source.h"
+#include "base/file_source.h"
 
 namespace kaldo {
 
@@ -17,14 +17,6 @@ namespace kaldo {
 struct Token {
   std::string_view text;
   std::uint32_t line = 0;  ///< counted from 1
-};
-
-/// What identifies the contents of an input file in a run record.
-struct FileDigest {
-  std::uint64_t bytes = 0;
-  std::string sha256;  ///< 64 hexadecimal digits
-
-  friend bool operator==(const FileDigest&, const FileDigest&) = default;
 };
 
 /// A whole input file cut into words at blanks, tabs and line ends. Line ends carry no meaning for
@@ -56,8 +48,5 @@ class TokenFile {
   std::vector<Token> tokens_;
   FileDigest digest_;
 };
-
-/// Size and SHA-256 of the file, or a Problem as TokenFile::Read has it.
-tl::expected<FileDigest, Problem> DigestOfFile(const std::string& path);
 
 }  // namespace kaldo

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "genotypes/strong_number.h"
+#include "base/strong_number.h"
 
 namespace kaldo {
 

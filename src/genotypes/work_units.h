@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "genotypes/run_observer.h"
+#include "base/run_observer.h"
 
 namespace kaldo {
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string_view>
 
-#include "genotypes/file_source.h"
+#include "base/file_source.h"
 #include "genotypes/run_record.h"
 #include "genotypes/unit_desk.h"
 

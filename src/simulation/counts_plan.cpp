@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-#include "genotypes/byte_packing.h"
+#include "base/byte_packing.h"
 #include "simulation/figures.h"
 #include "simulation/iteration_units.h"
 #include "simulation/subset_statistics.h"

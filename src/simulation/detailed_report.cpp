@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <fmt/format.h>
 
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 #include "simulation/simulation_report_texts.h"
 
 namespace kaldo {

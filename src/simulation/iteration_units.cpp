@@ -2,8 +2,8 @@
 #include "simulation/iteration_units.h"
 
 #include "allocation/matrices_report.h"
-#include "genotypes/byte_packing.h"
-#include "genotypes/problem.h"
+#include "base/byte_packing.h"
+#include "base/problem.h"
 #include "simulation/simulated_iteration.h"
 
 namespace kaldo {

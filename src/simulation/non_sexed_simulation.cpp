@@ -6,7 +6,7 @@
 
 #include <fmt/format.h>
 
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 #include "simulation/figures.h"
 #include "simulation/parameter_block.h"
 #include "simulation/simulation_input.h"

@@ -3,7 +3,7 @@
 
 #include <fmt/format.h>
 
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 #include "simulation/subset_title.h"
 
 namespace kaldo {

@@ -6,8 +6,8 @@
 
 #include "allocation/allocation_decision.h"
 #include "allocation/pair_searcher.h"
+#include "base/run_observer.h"
 #include "genotypes/catalogued_loci.h"
-#include "genotypes/run_observer.h"
 #include "simulation/iteration_counts.h"
 #include "simulation/random_numbers.h"
 #include "simulation/reading_table.h"

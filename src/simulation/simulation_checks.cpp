@@ -5,8 +5,8 @@
 
 #include <fmt/format.h>
 
+#include "base/number_text.h"
 #include "genotypes/capacities.h"
-#include "genotypes/number_text.h"
 
 namespace kaldo {
 

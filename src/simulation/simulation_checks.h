@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "allocation/error_model.h"
-#include "genotypes/problem.h"
+#include "base/problem.h"
 #include "simulation/simulation_settings.h"
 
 namespace kaldo {

@@ -7,7 +7,7 @@
 #include <fmt/format.h>
 
 #include "allocation/error_model_record.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 
 namespace kaldo {
 

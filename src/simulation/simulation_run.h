@@ -7,7 +7,7 @@
 
 #include <tl/expected.hpp>
 
-#include "genotypes/run_observer.h"
+#include "base/run_observer.h"
 #include "genotypes/stepping_condition.h"
 #include "genotypes/workforce.h"
 #include "simulation/figures.h"

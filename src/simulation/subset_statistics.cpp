@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/subset_statistics.h"
 
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 #include "simulation/subset_title.h"
 
 namespace kaldo {

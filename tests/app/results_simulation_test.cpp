@@ -12,7 +12,7 @@
 
 #include "app/results/simulation_window.h"
 #include "app/results/subset_model.h"
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 #include "simulation/subset_title.h"
 #include "tests/app/results_support.h"
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "genotypes/version.h"
+#include "base/version.h"
 #include "tests/cli/command_support.h"
 #include "tests/support/run_support.h"
 #include "tests/support/temp_folder.h"

@@ -9,7 +9,7 @@
 
 #include "allocation/allocation_record.h"
 #include "allocation/allocation_units.h"
-#include "genotypes/byte_packing.h"
+#include "base/byte_packing.h"
 #include "tests/support/temp_folder.h"
 
 namespace kaldo {

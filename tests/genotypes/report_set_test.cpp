@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 #include "tests/support/temp_folder.h"
 
 namespace kaldo {

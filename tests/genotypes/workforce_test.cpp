@@ -10,8 +10,8 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "genotypes/byte_packing.h"
-#include "genotypes/problem.h"
+#include "base/byte_packing.h"
+#include "base/problem.h"
 
 namespace kaldo {
 namespace {

@@ -8,7 +8,7 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 #include "simulation/non_sexed_simulation.h"
 #include "simulation/scoring.h"
 #include "simulation/sexed/sexed_design.h"

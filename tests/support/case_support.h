@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 #include "tests/support/run_support.h"
 #include "tests/support/temp_folder.h"
 

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "genotypes/run_observer.h"
+#include "base/run_observer.h"
 
 namespace kaldo::test {
 

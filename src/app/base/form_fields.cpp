@@ -9,7 +9,7 @@
 #include <fmt/format.h>
 
 #include "app/base/text.h"
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 
 namespace kaldo {
 

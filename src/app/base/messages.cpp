@@ -5,7 +5,7 @@
 #include <QMessageBox>
 
 #include "app/base/text.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 
 namespace kaldo {
 

@@ -4,7 +4,7 @@
 #include <QString>
 #include <string_view>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 class QWidget;
 

@@ -9,7 +9,7 @@
 #include "app/base/text.h"
 #include "app/results/chart_layout.h"
 #include "app/results/chart_view.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 
 namespace kaldo {
 

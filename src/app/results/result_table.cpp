@@ -11,7 +11,7 @@
 
 #include "app/base/text.h"
 #include "app/results/save_file.h"
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 
 namespace kaldo {
 

@@ -14,7 +14,7 @@
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
-#include "genotypes/version.h"
+#include "base/version.h"
 
 namespace kaldo {
 

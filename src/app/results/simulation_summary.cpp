@@ -4,7 +4,7 @@
 #include <fmt/format.h>
 
 #include "app/base/text.h"
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 #include "genotypes/project_folder.h"
 #include "simulation/sexed/simulation_of.h"
 #include "simulation/subset_title.h"

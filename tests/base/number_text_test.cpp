@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "genotypes/number_text.h"
+#include "base/number_text.h"
 
 #include <array>
 #include <bit>

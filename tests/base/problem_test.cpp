@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "genotypes/shell_text.h"
+#include "base/shell_text.h"
 
 #include <algorithm>
 

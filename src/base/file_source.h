@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
 #include <tl/expected.hpp>
 
-#include "genotypes/problem.h"
+#include "base/problem.h"
 
 namespace kaldo {
 
@@ -31,6 +32,24 @@ class DiskFiles final : public FileSource {
  public:
   tl::expected<std::vector<char>, Problem> Read(const std::string& path) override;
 };
+
+/// The bytes of a file that is to be read as text. UTF-16, which some editors call "Unicode text",
+/// is a Problem that says what to do.
+tl::expected<std::vector<char>, Problem> ReadText(const std::string& path, FileSource& source);
+
+/// What identifies the contents of an input file in a run record.
+struct FileDigest {
+  std::uint64_t bytes = 0;
+  std::string sha256;  ///< 64 hexadecimal digits
+
+  friend bool operator==(const FileDigest&, const FileDigest&) = default;
+};
+
+/// Throws RunFailure where this machine has no SHA-256.
+FileDigest DigestOf(const std::vector<char>& bytes);
+
+/// Size and SHA-256 of a file on disk, or a Problem when it cannot be read.
+tl::expected<FileDigest, Problem> DigestOfFile(const std::string& path);
 
 /// `Cannot open file "x"!` and why.
 Problem CannotOpenFile(const std::string& path, std::string reason);
