@@ -10,7 +10,7 @@
 #include "genotypes/catalogued_loci.h"
 #include "genotypes/genotype_table.h"
 #include "genotypes/loci_list.h"
-#include "genotypes/run_record.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 

@@ -4,7 +4,7 @@
 #include <tl/expected.hpp>
 
 #include "allocation/allocation_run.h"
-#include "genotypes/run_record.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "allocation/allocation_reports.h"
 
+#include "allocation/allocation_file_names.h"
 #include "allocation/allocation_record.h"
 #include "allocation/matrices_report.h"
 #include "allocation/max_like_report.h"
@@ -8,6 +9,7 @@
 #include "allocation/results_report.h"
 #include "allocation/sequence_report.h"
 #include "genotypes/allele_listing.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "allocation/allocation_run.h"
-#include "genotypes/report_set.h"
+#include "runs/report_set.h"
 
 namespace kaldo {
 

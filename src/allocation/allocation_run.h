@@ -12,7 +12,7 @@
 #include "allocation/allocation_input.h"
 #include "base/run_observer.h"
 #include "genotypes/stepping_condition.h"
-#include "genotypes/workforce.h"
+#include "runs/workforce.h"
 
 namespace kaldo {
 

@@ -5,7 +5,7 @@
 
 #include "allocation/allocation_run.h"
 #include "allocation/transmission_matrix.h"
-#include "genotypes/work_units.h"
+#include "runs/work_units.h"
 
 namespace kaldo {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "allocation/error_model.h"
-#include "genotypes/run_record.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 

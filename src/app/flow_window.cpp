@@ -17,7 +17,8 @@
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "cli/exit_code.h"
-#include "genotypes/workforce.h"
+#include "runs/workforce.h"
 
 namespace kaldo {
 

@@ -5,8 +5,10 @@
 
 #include <fmt/format.h>
 
+#include "allocation/allocation_file_names.h"
 #include "base/version.h"
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 

@@ -6,7 +6,8 @@
 #include <fmt/format.h>
 
 #include "base/version.h"
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
+#include "simulation/simulation_file_names.h"
 #include "simulation/subset_title.h"
 
 namespace kaldo {

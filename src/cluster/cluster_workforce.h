@@ -3,7 +3,7 @@
 
 #include "cluster/mpi_session.h"
 #include "cluster/sent_part.h"
-#include "genotypes/workforce.h"
+#include "runs/workforce.h"
 
 namespace kaldo {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/file_source.h"
-#include "genotypes/work_units.h"
+#include "runs/work_units.h"
 
 namespace kaldo {
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "cluster/sent_part.h"
-#include "genotypes/unit_desk.h"
+#include "runs/unit_desk.h"
 
 namespace kaldo {
 

@@ -3,7 +3,7 @@
 
 #include <deque>
 
-#include "genotypes/work_units.h"
+#include "runs/work_units.h"
 #include "simulation/iteration_states.h"
 #include "simulation/simulation_run.h"
 

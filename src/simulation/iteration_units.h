@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "genotypes/work_units.h"
+#include "runs/work_units.h"
 #include "simulation/locus_subsets.h"
 #include "simulation/simulation_input.h"
 

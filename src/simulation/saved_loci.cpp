@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/saved_loci.h"
 
-#include "genotypes/report_set.h"
+#include "runs/report_set.h"
+#include "simulation/simulation_file_names.h"
 
 namespace kaldo {
 

@@ -8,7 +8,7 @@
 
 #include "genotypes/genotype_table.h"
 #include "genotypes/loci_list.h"
-#include "genotypes/run_record.h"
+#include "runs/run_record.h"
 #include "simulation/locus_subsets.h"
 #include "simulation/representative_sample.h"
 #include "simulation/simulation_flow.h"

@@ -3,7 +3,7 @@
 
 #include <tl/expected.hpp>
 
-#include "genotypes/run_record.h"
+#include "runs/run_record.h"
 #include "simulation/simulation_run.h"
 
 namespace kaldo {

@@ -4,9 +4,11 @@
 #include <fmt/format.h>
 
 #include "genotypes/allele_listing.h"
+#include "runs/run_record.h"
 #include "simulation/iteration_units.h"
 #include "simulation/saved_loci.h"
 #include "simulation/simulated_individuals.h"
+#include "simulation/simulation_file_names.h"
 #include "simulation/simulation_record.h"
 #include "simulation/simulation_report_texts.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "genotypes/report_set.h"
+#include "runs/report_set.h"
 #include "simulation/simulated_iteration.h"
 #include "simulation/simulation_run.h"
 

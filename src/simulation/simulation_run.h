@@ -9,7 +9,7 @@
 
 #include "base/run_observer.h"
 #include "genotypes/stepping_condition.h"
-#include "genotypes/workforce.h"
+#include "runs/workforce.h"
 #include "simulation/figures.h"
 #include "simulation/simulation_flow.h"
 #include "simulation/simulation_input.h"

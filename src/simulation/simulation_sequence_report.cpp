@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <fmt/format.h>
 
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
+#include "simulation/simulation_file_names.h"
 #include "simulation/simulation_report_texts.h"
 #include "simulation/subset_title.h"
 

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
 #include "tests/support/case_support.h"
 #include "tests/support/run_support.h"
 #include "tests/support/temp_folder.h"

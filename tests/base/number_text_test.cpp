@@ -12,7 +12,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
-#include "genotypes/run_record.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 namespace {

@@ -8,8 +8,9 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
 #include "simulation/sexed/simulation_of.h"
+#include "simulation/simulation_file_names.h"
 #include "simulation/simulation_record.h"
 #include "tests/support/case_support.h"
 #include "tests/support/run_support.h"

@@ -5,9 +5,11 @@
 
 #include <fmt/format.h>
 
+#include "allocation/allocation_file_names.h"
 #include "app/base/text.h"
 #include "app/results/allocation_classes.h"
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 

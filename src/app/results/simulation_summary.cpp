@@ -5,8 +5,10 @@
 
 #include "app/base/text.h"
 #include "base/number_text.h"
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
+#include "runs/run_record.h"
 #include "simulation/sexed/simulation_of.h"
+#include "simulation/simulation_file_names.h"
 #include "simulation/subset_title.h"
 
 namespace kaldo {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "genotypes/workforce.h"
+#include "runs/workforce.h"
 
 #include <chrono>
 #include <deque>

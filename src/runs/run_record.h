@@ -12,7 +12,7 @@
 
 #include <tl/expected.hpp>
 
-#include "genotypes/token_file.h"
+#include "base/file_source.h"
 
 namespace kaldo {
 
@@ -30,6 +30,9 @@ struct RecordedInput {
   std::string path;
   FileDigest digest;
 };
+
+/// Its name in the project folder.
+inline constexpr std::string_view kRunRecordFile = "/Run record.toml";
 
 /// What a reviewer asks for: which program, which settings, which files, which seed. It is written
 /// beside the reports of every run, and `kaldo rerun` repeats the run from it.

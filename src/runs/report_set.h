@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
 
 namespace kaldo {
 
@@ -61,7 +61,7 @@ class ReportSet {
   /// Without a Commit() every trace of the set goes away, a folder made for it included.
   ~ReportSet();
 
-  /// Starts a report, for instance kAllocationResultsFile.
+  /// Starts a report, named with its leading "/": "/Summary.xls".
   ReportFile& Add(std::string_view file);
 
   /// Writes a whole report at once.

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "base/file_source.h"
-#include "genotypes/run_record.h"
-#include "genotypes/unit_desk.h"
+#include "runs/run_record.h"
+#include "runs/unit_desk.h"
 
 namespace kaldo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "genotypes/report_set.h"
+#include "runs/report_set.h"
 
 #include <cerrno>
 #include <filesystem>

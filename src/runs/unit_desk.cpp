@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "genotypes/unit_desk.h"
+#include "runs/unit_desk.h"
 
 #include <algorithm>
 #include <cassert>

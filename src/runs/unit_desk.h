@@ -9,7 +9,7 @@
 #include <mutex>
 #include <optional>
 
-#include "genotypes/work_units.h"
+#include "runs/work_units.h"
 
 namespace kaldo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "genotypes/project_folder.h"
+#include "runs/project_folder.h"
 
 #include <filesystem>
 

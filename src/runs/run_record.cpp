@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "genotypes/run_record.h"
+#include "runs/run_record.h"
 
 #include <fmt/chrono.h>
 #include <fmt/format.h>

@@ -5,7 +5,7 @@
 #include <fmt/format.h>
 #include <toml++/toml.h>
 
-#include "genotypes/run_record.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 
@@ -144,11 +144,12 @@ std::optional<Problem> RecordedSettings::Fault(const std::string& path) const {
 }
 
 tl::expected<RunRecord, Problem> ReadRunRecord(const std::string& path) {
-  const auto file = TokenFile::Read(path);
-  if (!file) {
-    return tl::unexpected(file.error());
+  DiskFiles disk;
+  const auto bytes = ReadText(path, disk);
+  if (!bytes) {
+    return tl::unexpected(bytes.error());
   }
-  return ParseRunRecord(file->Text(), path);
+  return ParseRunRecord({bytes->data(), bytes->size()}, path);
 }
 
 tl::expected<RunRecord, Problem> ParseRunRecord(std::string_view text, const std::string& path) {
