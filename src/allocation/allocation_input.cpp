@@ -6,9 +6,9 @@
 #include <fmt/format.h>
 
 #include "allocation/allocation_files.h"
-#include "allocation/cumulative_sequence.h"
 #include "genotypes/genotype_reader.h"
 #include "genotypes/record_checks.h"
+#include "method/cumulative_sequence.h"
 
 namespace kaldo {
 

@@ -6,10 +6,10 @@
 #include <tl/expected.hpp>
 
 #include "allocation/allocation_settings.h"
-#include "allocation/candidate_groups.h"
 #include "genotypes/catalogued_loci.h"
 #include "genotypes/genotype_table.h"
 #include "genotypes/loci_list.h"
+#include "method/candidate_groups.h"
 #include "runs/run_record.h"
 
 namespace kaldo {

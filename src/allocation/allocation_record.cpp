@@ -6,9 +6,9 @@
 
 #include <fmt/format.h>
 
-#include "allocation/cumulative_sequence.h"
 #include "allocation/error_model_record.h"
 #include "base/version.h"
+#include "method/cumulative_sequence.h"
 
 namespace kaldo {
 

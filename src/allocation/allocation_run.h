@@ -7,11 +7,11 @@
 
 #include <tl/expected.hpp>
 
-#include "allocation/allocation_counters.h"
-#include "allocation/allocation_decision.h"
 #include "allocation/allocation_input.h"
 #include "base/run_observer.h"
 #include "genotypes/stepping_condition.h"
+#include "method/allocation_counters.h"
+#include "method/allocation_decision.h"
 #include "runs/workforce.h"
 
 namespace kaldo {

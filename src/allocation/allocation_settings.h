@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "allocation/error_model.h"
-#include "allocation/flow.h"
-#include "allocation/offset_tolerance.h"
+#include "method/error_model.h"
+#include "method/flow.h"
+#include "method/offset_tolerance.h"
 
 namespace kaldo {
 

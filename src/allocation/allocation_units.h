@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "allocation/allocation_run.h"
-#include "allocation/transmission_matrix.h"
+#include "method/transmission_matrix.h"
 #include "runs/work_units.h"
 
 namespace kaldo {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "allocation/locus_comparison.h"
+#include "method/locus_comparison.h"
 
 namespace kaldo {
 

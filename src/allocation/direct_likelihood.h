@@ -5,8 +5,8 @@
 #include <span>
 #include <vector>
 
-#include "allocation/transmission_matrix.h"
 #include "genotypes/genotype_table.h"
+#include "method/transmission_matrix.h"
 
 namespace kaldo {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "allocation/error_model.h"
+#include "method/error_model.h"
 #include "runs/run_record.h"
 
 namespace kaldo {

@@ -7,8 +7,8 @@
 
 #include "allocation/locus_bounds.h"
 #include "allocation/parent_classes.h"
-#include "allocation/transmission_matrix.h"
 #include "genotypes/genotype_table.h"
+#include "method/transmission_matrix.h"
 
 namespace kaldo {
 

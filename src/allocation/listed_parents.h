@@ -5,9 +5,9 @@
 #include <span>
 #include <vector>
 
-#include "allocation/candidate_groups.h"
 #include "allocation/cost_kernels.h"
 #include "allocation/offspring_bounds.h"
+#include "method/candidate_groups.h"
 
 namespace kaldo {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "allocation/parent_classes.h"
-#include "allocation/transmission_matrix.h"
+#include "method/transmission_matrix.h"
 
 namespace kaldo {
 

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "allocation/allocation_decision.h"
-#include "allocation/flow.h"
+#include "method/allocation_decision.h"
+#include "method/flow.h"
 
 namespace kaldo {
 

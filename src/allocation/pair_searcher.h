@@ -9,8 +9,8 @@
 #include "allocation/direct_likelihood.h"
 #include "allocation/listed_parents.h"
 #include "allocation/offspring_bounds.h"
-#include "allocation/pair_scan.h"
 #include "allocation/possible_parents.h"
+#include "method/pair_scan.h"
 
 namespace kaldo {
 

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "allocation/cost_kernels.h"
-#include "allocation/transmission_matrix.h"
 #include "genotypes/capacities.h"
 #include "genotypes/genotype_table.h"
+#include "method/transmission_matrix.h"
 
 namespace kaldo {
 

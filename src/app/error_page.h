@@ -6,8 +6,8 @@
 
 #include <tl/expected.hpp>
 
-#include "allocation/error_model.h"
 #include "app/flow_window.h"
+#include "method/error_model.h"
 
 class QButtonGroup;
 class QLineEdit;

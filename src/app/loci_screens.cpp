@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/loci_screens.h"
 
-#include "allocation/cumulative_sequence.h"
 #include "app/loci_page.h"
 #include "app/sequence_page.h"
 #include "genotypes/loci_list.h"
+#include "method/cumulative_sequence.h"
 
 namespace kaldo {
 

@@ -7,9 +7,9 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "allocation/cumulative_sequence.h"
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "method/cumulative_sequence.h"
 
 namespace kaldo {
 

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "allocation/offset_tolerance.h"
+#include "method/offset_tolerance.h"
 
 class QFormLayout;
 class QLineEdit;

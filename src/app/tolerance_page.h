@@ -3,9 +3,9 @@
 
 #include <optional>
 
-#include "allocation/flow.h"
 #include "app/flow_window.h"
 #include "app/tolerance_field.h"
+#include "method/flow.h"
 
 namespace kaldo {
 

@@ -5,8 +5,8 @@
 
 #include <fmt/format.h>
 
-#include "allocation/cumulative_sequence.h"
 #include "base/number_text.h"
+#include "method/cumulative_sequence.h"
 
 namespace kaldo {
 

@@ -8,8 +8,8 @@
 
 #include <tl/expected.hpp>
 
-#include "allocation/error_model.h"
 #include "base/problem.h"
+#include "method/error_model.h"
 
 namespace kaldo {
 

@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-#include "allocation/cumulative_sequence.h"
+#include "method/cumulative_sequence.h"
 
 namespace kaldo {
 

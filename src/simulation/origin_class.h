@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "allocation/flow.h"
+#include "method/flow.h"
 
 namespace kaldo {
 

@@ -3,10 +3,10 @@
 
 #include <span>
 
-#include "allocation/kept_pairs.h"
-#include "allocation/transmission_matrix.h"
 #include "genotypes/allele_catalogue.h"
 #include "genotypes/genotype_table.h"
+#include "method/kept_pairs.h"
+#include "method/transmission_matrix.h"
 #include "simulation/random_numbers.h"
 #include "simulation/reading_table.h"
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "allocation/transmission_matrix.h"
+#include "method/transmission_matrix.h"
 #include "simulation/random_numbers.h"
 
 namespace kaldo {

@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "allocation/error_model.h"
 #include "base/problem.h"
+#include "method/error_model.h"
 #include "simulation/simulation_settings.h"
 
 namespace kaldo {

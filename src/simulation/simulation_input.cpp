@@ -7,9 +7,9 @@
 
 #include <fmt/format.h>
 
-#include "allocation/cumulative_sequence.h"
 #include "genotypes/genotype_reader.h"
 #include "genotypes/record_checks.h"
+#include "method/cumulative_sequence.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_files.h"
 

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "allocation/allocation_reports.h"
-#include "allocation/cumulative_sequence.h"
+#include "method/cumulative_sequence.h"
 #include "tests/support/temp_folder.h"
 
 namespace kaldo {

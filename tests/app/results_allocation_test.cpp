@@ -12,11 +12,11 @@
 #include <map>
 #include <set>
 
-#include "allocation/allocation_decision.h"
 #include "app/results/allocation_window.h"
 #include "app/results/comparison_model.h"
 #include "app/results/offspring_model.h"
 #include "app/results/result_table.h"
+#include "method/allocation_decision.h"
 #include "tests/app/results_support.h"
 
 namespace kaldo {

@@ -5,9 +5,9 @@
 
 #include <fmt/format.h>
 
-#include "allocation/candidate_groups.h"
-#include "allocation/transmission_matrix.h"
 #include "genotypes/catalogued_loci.h"
+#include "method/candidate_groups.h"
+#include "method/transmission_matrix.h"
 
 namespace kaldo::test {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "allocation/flow.h"
+#include "method/flow.h"
 
 class QWidget;
 

@@ -4,8 +4,8 @@
 #include <QString>
 #include <vector>
 
-#include "allocation/allocation_counters.h"
-#include "allocation/flow.h"
+#include "method/allocation_counters.h"
+#include "method/flow.h"
 
 namespace kaldo {
 

@@ -5,9 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include "allocation/flow.h"
 #include "app/main_menu.h"
 #include "app/support/script.h"
+#include "method/flow.h"
 #include "tests/support/run_support.h"
 #include "tests/support/temp_folder.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/error_model.h"
+#include "method/error_model.h"
 
 #include <cmath>
 

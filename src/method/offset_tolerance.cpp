@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/offset_tolerance.h"
+#include "method/offset_tolerance.h"
 
 #include <fmt/format.h>
 

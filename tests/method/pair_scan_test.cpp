@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The plain scan against an obvious version of itself, and the rule of the kept pairs step by step.
-#include "allocation/pair_scan.h"
+#include "method/pair_scan.h"
 
 #include <map>
 #include <set>

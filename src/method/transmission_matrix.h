@@ -4,8 +4,8 @@
 #include <span>
 #include <vector>
 
-#include "allocation/error_model.h"
 #include "genotypes/units.h"
+#include "method/error_model.h"
 
 namespace kaldo {
 

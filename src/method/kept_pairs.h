@@ -4,8 +4,8 @@
 #include <array>
 #include <span>
 
-#include "allocation/flow.h"
 #include "genotypes/genotype_table.h"
+#include "method/flow.h"
 
 namespace kaldo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/pair_scan.h"
+#include "method/pair_scan.h"
 
 #include <algorithm>
 #include <array>

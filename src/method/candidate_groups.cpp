@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/candidate_groups.h"
+#include "method/candidate_groups.h"
 
 #include <cassert>
 

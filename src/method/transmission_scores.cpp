@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/transmission_scores.h"
+#include "method/transmission_scores.h"
 
 #include <algorithm>
 #include <array>

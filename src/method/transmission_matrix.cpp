@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/transmission_matrix.h"
+#include "method/transmission_matrix.h"
 
 #include "genotypes/unit_distance.h"
 

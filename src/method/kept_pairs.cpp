@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/kept_pairs.h"
+#include "method/kept_pairs.h"
 
 #include <algorithm>
 

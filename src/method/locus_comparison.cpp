@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/locus_comparison.h"
+#include "method/locus_comparison.h"
 
 #include <algorithm>
 #include <array>

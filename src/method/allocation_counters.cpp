@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/allocation_counters.h"
+#include "method/allocation_counters.h"
 
 namespace kaldo {
 

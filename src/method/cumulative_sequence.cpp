@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/cumulative_sequence.h"
+#include "method/cumulative_sequence.h"
 
 #include <algorithm>
 #include <numeric>

@@ -3,10 +3,10 @@
 
 #include <span>
 
-#include "allocation/allocation_outcome.h"
-#include "allocation/candidate_groups.h"
-#include "allocation/transmission_scores.h"
 #include "base/run_observer.h"
+#include "method/allocation_outcome.h"
+#include "method/candidate_groups.h"
+#include "method/transmission_scores.h"
 
 namespace kaldo {
 

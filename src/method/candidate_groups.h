@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "allocation/flow.h"
 #include "genotypes/genotype_table.h"
+#include "method/flow.h"
 
 namespace kaldo {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/error_model.h"
+#include "method/error_model.h"
 
 #include <cmath>
 #include <limits>
 
 #include <gtest/gtest.h>
 
-#include "allocation/transmission_matrix.h"
+#include "method/transmission_matrix.h"
 
 namespace kaldo {
 namespace {

@@ -4,9 +4,9 @@
 #include <span>
 #include <vector>
 
-#include "allocation/allocation_outcome.h"
-#include "allocation/locus_comparison.h"
-#include "allocation/offset_tolerance.h"
+#include "method/allocation_outcome.h"
+#include "method/locus_comparison.h"
+#include "method/offset_tolerance.h"
 
 namespace kaldo {
 

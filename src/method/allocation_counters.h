@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "allocation/allocation_outcome.h"
+#include "method/allocation_outcome.h"
 
 namespace kaldo {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <span>
 
-#include "allocation/kept_pairs.h"
+#include "method/kept_pairs.h"
 
 namespace kaldo {
 
