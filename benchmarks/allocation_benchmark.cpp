@@ -5,8 +5,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include "allocation/pair_searcher.h"
 #include "genotypes/catalogued_loci.h"
+#include "search/pair_searcher.h"
 
 namespace kaldo {
 namespace {

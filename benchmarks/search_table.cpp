@@ -18,9 +18,9 @@
 
 #include <fmt/format.h>
 
-#include "allocation/pair_searcher.h"
 #include "base/number_text.h"
 #include "genotypes/catalogued_loci.h"
+#include "search/pair_searcher.h"
 
 namespace kaldo {
 namespace {

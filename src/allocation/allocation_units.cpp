@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <optional>
 
-#include "allocation/pair_searcher.h"
 #include "base/byte_packing.h"
 #include "genotypes/unit_distance.h"
+#include "search/pair_searcher.h"
 
 namespace kaldo {
 

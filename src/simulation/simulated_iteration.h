@@ -4,10 +4,10 @@
 #include <span>
 #include <vector>
 
-#include "allocation/pair_searcher.h"
 #include "base/run_observer.h"
 #include "genotypes/catalogued_loci.h"
 #include "method/allocation_decision.h"
+#include "search/pair_searcher.h"
 #include "simulation/iteration_counts.h"
 #include "simulation/random_numbers.h"
 #include "simulation/reading_table.h"

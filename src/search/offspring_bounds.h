@@ -6,9 +6,9 @@
 #include <span>
 #include <vector>
 
-#include "allocation/genotype_bounds.h"
-#include "allocation/giving_marks.h"
-#include "allocation/possible_parents.h"
+#include "search/genotype_bounds.h"
+#include "search/giving_marks.h"
+#include "search/possible_parents.h"
 
 namespace kaldo {
 

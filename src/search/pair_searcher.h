@@ -6,11 +6,11 @@
 #include <span>
 #include <vector>
 
-#include "allocation/direct_likelihood.h"
-#include "allocation/listed_parents.h"
-#include "allocation/offspring_bounds.h"
-#include "allocation/possible_parents.h"
 #include "method/pair_scan.h"
+#include "search/direct_likelihood.h"
+#include "search/listed_parents.h"
+#include "search/offspring_bounds.h"
+#include "search/possible_parents.h"
 
 namespace kaldo {
 

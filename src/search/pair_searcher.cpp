@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/pair_searcher.h"
+#include "search/pair_searcher.h"
 
 #include <algorithm>
 #include <bit>
 #include <cmath>
 
-#include "allocation/cost_kernels.h"
 #include "base/problem.h"
+#include "search/cost_kernels.h"
 
 namespace kaldo {
 

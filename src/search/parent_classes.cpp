@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/parent_classes.h"
+#include "search/parent_classes.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The production search against the plain scan, bit for bit, over a hundred thousand searches.
-#include "allocation/pair_searcher.h"
+#include "search/pair_searcher.h"
 
 #include <array>
 #include <bit>
@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "allocation/cost_kernels.h"
+#include "search/cost_kernels.h"
 #include "tests/support/random_study.h"
 
 namespace kaldo {

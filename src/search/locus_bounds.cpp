@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/locus_bounds.h"
+#include "search/locus_bounds.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
 
-#include "allocation/cost_kernels.h"
-#include "allocation/giving_marks.h"
 #include "genotypes/capacities.h"
+#include "search/cost_kernels.h"
+#include "search/giving_marks.h"
 
 namespace kaldo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/genotype_bounds.h"
+#include "search/genotype_bounds.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the marks of two parents promise, against the factors of their likelihood.
-#include "allocation/giving_marks.h"
+#include "search/giving_marks.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "allocation/locus_bounds.h"
+#include "search/locus_bounds.h"
 
 namespace kaldo {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/listed_parents.h"
+#include "search/listed_parents.h"
 
 #include <algorithm>
 #include <bit>

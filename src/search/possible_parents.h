@@ -6,10 +6,10 @@
 #include <span>
 #include <vector>
 
-#include "allocation/cost_kernels.h"
 #include "genotypes/capacities.h"
 #include "genotypes/genotype_table.h"
 #include "method/transmission_matrix.h"
+#include "search/cost_kernels.h"
 
 namespace kaldo {
 

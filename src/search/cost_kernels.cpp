@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // This file is compiled once for every kind of vector; foreach_target.h includes it again and
 // again.
-#include "allocation/cost_kernels.h"
+#include "search/cost_kernels.h"
 
 #undef HWY_TARGET_INCLUDE
-#define HWY_TARGET_INCLUDE "allocation/cost_kernels.cpp"
+#define HWY_TARGET_INCLUDE "search/cost_kernels.cpp"
 #include <hwy/foreach_target.h>
 //
 #include <hwy/highway.h>

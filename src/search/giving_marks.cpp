@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/giving_marks.h"
+#include "search/giving_marks.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
-#include "allocation/locus_bounds.h"
+#include "search/locus_bounds.h"
 
 namespace kaldo {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "allocation/parent_classes.h"
 #include "method/transmission_matrix.h"
+#include "search/parent_classes.h"
 
 namespace kaldo {
 

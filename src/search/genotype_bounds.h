@@ -5,10 +5,10 @@
 #include <span>
 #include <vector>
 
-#include "allocation/locus_bounds.h"
-#include "allocation/parent_classes.h"
 #include "genotypes/genotype_table.h"
 #include "method/transmission_matrix.h"
+#include "search/locus_bounds.h"
+#include "search/parent_classes.h"
 
 namespace kaldo {
 

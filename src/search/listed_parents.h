@@ -5,9 +5,9 @@
 #include <span>
 #include <vector>
 
-#include "allocation/cost_kernels.h"
-#include "allocation/offspring_bounds.h"
 #include "method/candidate_groups.h"
+#include "search/cost_kernels.h"
+#include "search/offspring_bounds.h"
 
 namespace kaldo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/direct_likelihood.h"
+#include "search/direct_likelihood.h"
 
 namespace kaldo {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/offspring_bounds.h"
+#include "search/offspring_bounds.h"
 
 #include <algorithm>
 
-#include "allocation/cost_kernels.h"
+#include "search/cost_kernels.h"
 
 namespace kaldo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/possible_parents.h"
+#include "search/possible_parents.h"
 
 #include <algorithm>
 #include <cassert>
