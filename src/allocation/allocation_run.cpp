@@ -2,8 +2,8 @@
 #include "allocation/allocation_run.h"
 
 #include "allocation/allocation_record.h"
-#include "allocation/allocation_reports.h"
 #include "allocation/allocation_units.h"
+#include "allocation/reports/allocation_reports.h"
 
 namespace kaldo {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/iteration_units.h"
 
-#include "allocation/matrices_report.h"
+#include "allocation/reports/matrices_report.h"
 #include "base/byte_packing.h"
 #include "base/problem.h"
 #include "simulation/simulated_iteration.h"

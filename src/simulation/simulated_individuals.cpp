@@ -3,7 +3,7 @@
 
 #include <fmt/format.h>
 
-#include "allocation/genotype_text.h"
+#include "allocation/reports/genotype_text.h"
 #include "simulation/simulated_parents.h"
 
 namespace kaldo {

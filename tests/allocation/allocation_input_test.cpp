@@ -5,7 +5,7 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include "allocation/allocation_reports.h"
+#include "allocation/reports/allocation_reports.h"
 #include "method/cumulative_sequence.h"
 #include "tests/support/temp_folder.h"
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "allocation/condition_record.h"
+#include "allocation/reports/condition_record.h"
 
 namespace kaldo {
 namespace {

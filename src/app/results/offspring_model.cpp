@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/offspring_model.h"
 
-#include "allocation/result_line.h"
+#include "allocation/reports/result_line.h"
 #include "app/base/text.h"
 #include "app/results/allocation_classes.h"
 #include "app/results/data_table.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/matrices_report.h"
+#include "allocation/reports/matrices_report.h"
 
 #include <fmt/format.h>
 
-#include "allocation/condition_record.h"
-#include "allocation/genotype_text.h"
+#include "allocation/reports/condition_record.h"
+#include "allocation/reports/genotype_text.h"
 
 namespace kaldo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/genotype_text.h"
+#include "allocation/reports/genotype_text.h"
 
 #include <algorithm>
 

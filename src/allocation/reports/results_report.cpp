@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/results_report.h"
+#include "allocation/reports/results_report.h"
 
 #include <fmt/format.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/condition_record.h"
+#include "allocation/reports/condition_record.h"
 
 #include <vector>
 

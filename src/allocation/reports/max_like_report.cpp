@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/max_like_report.h"
+#include "allocation/reports/max_like_report.h"
 
-#include "allocation/genotype_text.h"
+#include "allocation/reports/genotype_text.h"
 
 namespace kaldo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/result_line.h"
+#include "allocation/reports/result_line.h"
 
 #include <utility>
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/allocation_reports.h"
+#include "allocation/reports/allocation_reports.h"
 
 #include "allocation/allocation_file_names.h"
 #include "allocation/allocation_record.h"
-#include "allocation/matrices_report.h"
-#include "allocation/max_like_report.h"
-#include "allocation/result_line.h"
-#include "allocation/results_report.h"
-#include "allocation/sequence_report.h"
+#include "allocation/reports/matrices_report.h"
+#include "allocation/reports/max_like_report.h"
+#include "allocation/reports/result_line.h"
+#include "allocation/reports/results_report.h"
+#include "allocation/reports/sequence_report.h"
 #include "genotypes/allele_listing.h"
 #include "runs/run_record.h"
 
