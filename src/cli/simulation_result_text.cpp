@@ -7,8 +7,8 @@
 
 #include "base/version.h"
 #include "runs/project_folder.h"
+#include "simulation/reports/subset_title.h"
 #include "simulation/simulation_file_names.h"
-#include "simulation/subset_title.h"
 
 namespace kaldo {
 

@@ -8,7 +8,7 @@
 #include "base/byte_packing.h"
 #include "simulation/figures.h"
 #include "simulation/iteration_units.h"
-#include "simulation/subset_statistics.h"
+#include "simulation/reports/subset_statistics.h"
 
 namespace kaldo {
 

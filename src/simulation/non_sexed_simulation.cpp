@@ -8,7 +8,7 @@
 
 #include "base/number_text.h"
 #include "simulation/figures.h"
-#include "simulation/parameter_block.h"
+#include "simulation/reports/parameter_block.h"
 #include "simulation/simulation_input.h"
 
 namespace kaldo {

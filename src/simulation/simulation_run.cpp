@@ -3,9 +3,9 @@
 
 #include "simulation/counts_plan.h"
 #include "simulation/iteration_units.h"
+#include "simulation/reports/simulation_reports.h"
 #include "simulation/simulated_iteration.h"
 #include "simulation/simulation_record.h"
-#include "simulation/simulation_reports.h"
 
 namespace kaldo {
 

@@ -13,7 +13,7 @@
 #include "app/results/simulation_window.h"
 #include "app/results/subset_model.h"
 #include "base/number_text.h"
-#include "simulation/subset_title.h"
+#include "simulation/reports/subset_title.h"
 #include "tests/app/results_support.h"
 
 namespace kaldo {

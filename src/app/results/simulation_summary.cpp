@@ -7,9 +7,9 @@
 #include "base/number_text.h"
 #include "runs/project_folder.h"
 #include "runs/run_record.h"
+#include "simulation/reports/subset_title.h"
 #include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_file_names.h"
-#include "simulation/subset_title.h"
 
 namespace kaldo {
 

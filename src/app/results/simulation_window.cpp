@@ -7,8 +7,8 @@
 #include "app/results/simulation_summary.h"
 #include "app/results/spread_page.h"
 #include "app/results/subset_page.h"
+#include "simulation/reports/subset_title.h"
 #include "simulation/sexed/simulation_of.h"
-#include "simulation/subset_title.h"
 
 namespace kaldo {
 

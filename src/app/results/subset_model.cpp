@@ -7,8 +7,8 @@
 #include "app/base/text.h"
 #include "app/results/data_table.h"
 #include "app/results/simulation_summary.h"
+#include "simulation/reports/subset_title.h"
 #include "simulation/sexed/simulation_of.h"
-#include "simulation/subset_title.h"
 
 namespace kaldo {
 

@@ -12,8 +12,8 @@
 #include "app/results/searchable_table.h"
 #include "app/results/simulation_summary.h"
 #include "app/results/subset_model.h"
+#include "simulation/reports/subset_title.h"
 #include "simulation/sexed/simulation_of.h"
-#include "simulation/subset_title.h"
 
 namespace kaldo {
 

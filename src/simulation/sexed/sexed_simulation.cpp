@@ -5,7 +5,7 @@
 
 #include "base/number_text.h"
 #include "simulation/figures.h"
-#include "simulation/parameter_block.h"
+#include "simulation/reports/parameter_block.h"
 #include "simulation/sexed/sexed_design.h"
 
 namespace kaldo {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "simulation/parameter_block.h"
+#include "simulation/reports/parameter_block.h"
 
 #include <fmt/format.h>
 
 #include "base/number_text.h"
-#include "simulation/subset_title.h"
+#include "simulation/reports/subset_title.h"
 
 namespace kaldo {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "simulation/parameter_block.h"
-#include "simulation/simulation_report_texts.h"
-#include "simulation/subset_statistics.h"
-#include "simulation/subset_title.h"
+#include "simulation/reports/parameter_block.h"
+#include "simulation/reports/simulation_report_texts.h"
+#include "simulation/reports/subset_statistics.h"
+#include "simulation/reports/subset_title.h"
 
 namespace kaldo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "simulation/subset_title.h"
+#include "simulation/reports/subset_title.h"
 
 #include <fmt/format.h>
 

@@ -2,8 +2,8 @@
 #include <fmt/format.h>
 
 #include "base/number_text.h"
-#include "simulation/parameter_block.h"
-#include "simulation/simulation_report_texts.h"
+#include "simulation/reports/parameter_block.h"
+#include "simulation/reports/simulation_report_texts.h"
 
 namespace kaldo {
 

@@ -2,9 +2,9 @@
 #include <fmt/format.h>
 
 #include "runs/project_folder.h"
+#include "simulation/reports/simulation_report_texts.h"
+#include "simulation/reports/subset_title.h"
 #include "simulation/simulation_file_names.h"
-#include "simulation/simulation_report_texts.h"
-#include "simulation/subset_title.h"
 
 namespace kaldo {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "simulation/subset_statistics.h"
+#include "simulation/reports/subset_statistics.h"
 
 #include "base/number_text.h"
-#include "simulation/subset_title.h"
+#include "simulation/reports/subset_title.h"
 
 namespace kaldo {
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "simulation/simulation_reports.h"
+#include "simulation/reports/simulation_reports.h"
 
 #include <fmt/format.h>
 
 #include "genotypes/allele_listing.h"
 #include "runs/run_record.h"
 #include "simulation/iteration_units.h"
+#include "simulation/reports/simulation_report_texts.h"
 #include "simulation/saved_loci.h"
 #include "simulation/simulated_individuals.h"
 #include "simulation/simulation_file_names.h"
 #include "simulation/simulation_record.h"
-#include "simulation/simulation_report_texts.h"
 
 namespace kaldo {
 

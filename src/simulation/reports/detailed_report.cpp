@@ -2,7 +2,7 @@
 #include <fmt/format.h>
 
 #include "base/number_text.h"
-#include "simulation/simulation_report_texts.h"
+#include "simulation/reports/simulation_report_texts.h"
 
 namespace kaldo {
 
