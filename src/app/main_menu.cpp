@@ -15,13 +15,13 @@
 #include <QVBoxLayout>
 
 #include "app/about_box.h"
-#include "app/allocation_flow_window.h"
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
 #include "app/example_data.h"
-#include "app/simulation_flow_window.h"
+#include "app/flows/allocation_flow_window.h"
+#include "app/flows/simulation_flow_window.h"
 #include "base/version.h"
 
 namespace kaldo {

@@ -5,7 +5,7 @@
 #include <array>
 #include <memory>
 
-#include "app/record_opener.h"
+#include "app/flows/record_opener.h"
 
 class QLineEdit;
 class QPushButton;

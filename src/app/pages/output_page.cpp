@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/output_page.h"
+#include "app/pages/output_page.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

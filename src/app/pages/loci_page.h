@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/flow_window.h"
+#include "app/flows/flow_window.h"
 #include "genotypes/capacities.h"
 
 class QCheckBox;

@@ -6,7 +6,7 @@
 
 #include <tl/expected.hpp>
 
-#include "app/flow_window.h"
+#include "app/flows/flow_window.h"
 #include "method/error_model.h"
 
 class QButtonGroup;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/loci_page.h"
+#include "app/pages/loci_page.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

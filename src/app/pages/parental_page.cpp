@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/parental_page.h"
+#include "app/pages/parental_page.h"
 
 #include <QFormLayout>
 #include <QGroupBox>

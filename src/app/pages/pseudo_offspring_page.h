@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "app/error_page.h"
-#include "app/flow_window.h"
+#include "app/flows/flow_window.h"
+#include "app/pages/error_page.h"
 #include "simulation/simulation_settings.h"
 
 class QLineEdit;

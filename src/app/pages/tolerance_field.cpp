@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/tolerance_field.h"
+#include "app/pages/tolerance_field.h"
 
 #include <QLineEdit>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/sequence_page.h"
+#include "app/pages/sequence_page.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

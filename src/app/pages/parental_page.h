@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "app/flow_window.h"
+#include "app/flows/flow_window.h"
 #include "simulation/simulation_settings.h"
 
 class QFormLayout;

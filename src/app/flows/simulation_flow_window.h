@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "app/flow_window.h"
-#include "app/loci_screens.h"
+#include "app/flows/flow_window.h"
+#include "app/flows/loci_screens.h"
 #include "simulation/simulation_flow.h"
 #include "simulation/simulation_settings.h"
 

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "allocation/allocation_settings.h"
-#include "app/flow_window.h"
-#include "app/loci_screens.h"
+#include "app/flows/flow_window.h"
+#include "app/flows/loci_screens.h"
 
 namespace kaldo {
 

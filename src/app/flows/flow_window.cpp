@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/flow_window.h"
+#include "app/flows/flow_window.h"
 
 #include <QClipboard>
 #include <QDateTime>

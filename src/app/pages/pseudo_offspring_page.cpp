@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/pseudo_offspring_page.h"
+#include "app/pages/pseudo_offspring_page.h"
 
 #include <QFormLayout>
 #include <QGroupBox>

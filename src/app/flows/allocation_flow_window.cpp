@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/allocation_flow_window.h"
+#include "app/flows/allocation_flow_window.h"
 
 #include "allocation/allocation_command.h"
 #include "allocation/allocation_files.h"
 #include "allocation/allocation_run.h"
-#include "app/allocation_file_page.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
-#include "app/error_page.h"
-#include "app/loci_page.h"
+#include "app/flows/run_dialog.h"
+#include "app/pages/allocation_file_page.h"
+#include "app/pages/error_page.h"
+#include "app/pages/loci_page.h"
+#include "app/pages/sequence_page.h"
 #include "app/results/allocation_window.h"
-#include "app/run_dialog.h"
-#include "app/sequence_page.h"
 
 namespace kaldo {
 

@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "app/flow_window.h"
-#include "app/tolerance_field.h"
+#include "app/flows/flow_window.h"
+#include "app/pages/tolerance_field.h"
 #include "method/flow.h"
 
 namespace kaldo {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/loci_screens.h"
+#include "app/flows/loci_screens.h"
 
-#include "app/loci_page.h"
-#include "app/sequence_page.h"
+#include "app/pages/loci_page.h"
+#include "app/pages/sequence_page.h"
 #include "genotypes/loci_list.h"
 #include "method/cumulative_sequence.h"
 

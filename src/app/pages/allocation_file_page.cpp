@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/allocation_file_page.h"
+#include "app/pages/allocation_file_page.h"
 
 #include <QFormLayout>
 

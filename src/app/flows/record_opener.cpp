@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/record_opener.h"
+#include "app/flows/record_opener.h"
 
 #include <QDir>
 

@@ -4,7 +4,7 @@
 #include <functional>
 #include <optional>
 
-#include "app/flow_window.h"
+#include "app/flows/flow_window.h"
 #include "simulation/simulation_settings.h"
 
 class QButtonGroup;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/strategy_page.h"
+#include "app/pages/strategy_page.h"
 
 #include <QButtonGroup>
 #include <QFormLayout>

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "app/flow_window.h"
+#include "app/flows/flow_window.h"
 #include "simulation/simulation_settings.h"
 
 class QCheckBox;

@@ -5,8 +5,8 @@
 
 #include "allocation/allocation_settings.h"
 #include "app/base/form_fields.h"
-#include "app/flow_window.h"
-#include "app/tolerance_field.h"
+#include "app/flows/flow_window.h"
+#include "app/pages/tolerance_field.h"
 
 class QFormLayout;
 

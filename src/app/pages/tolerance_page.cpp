@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/tolerance_page.h"
+#include "app/pages/tolerance_page.h"
 
 #include <QFormLayout>
 #include <QGroupBox>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/run_dialog.h"
+#include "app/flows/run_dialog.h"
 
 #include <QCloseEvent>
 #include <QDialog>
