@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a run on a cluster is made of: the time of a unit, what it costs process 0 besides, and the
-// message there and back; and the time of a large run that follows from them (docs/cluster.md).
+// What a run on a cluster is made of: the time of a portion, what it costs process 0 besides, and
+// the message there and back; and the time of a large run that follows from them (docs/cluster.md).
 //
 //   scripts/make-large-example big --parents 1000 --offspring 20000
 //   mpirun -n 2 build/release/benchmarks/kaldo_cluster_costs big simulate 1000000
@@ -17,13 +17,13 @@
 
 #include <fmt/format.h>
 
-#include "allocation/allocation_units.h"
+#include "allocation/allocation_portions.h"
 #include "base/byte_packing.h"
 #include "cli/option_text.h"
 #include "cluster/mpi_session.h"
 #include "cluster/sent_part.h"
 #include "simulation/counts_plan.h"
-#include "simulation/iteration_units.h"
+#include "simulation/iteration_portions.h"
 #include "simulation/sexed/simulation_of.h"
 
 namespace kaldo {
@@ -31,7 +31,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::size_t kUnitsMeasured = 40;
+constexpr std::size_t kPortionsMeasured = 40;
 constexpr std::size_t kMessagesMeasured = 2000;
 
 double SecondsSince(Clock::time_point start) {
@@ -40,31 +40,31 @@ double SecondsSince(Clock::time_point start) {
 
 /// Seconds, each on one thread, and bytes.
 struct Costs {
-  double load = 0;   ///< of the input, at every process
-  double unit = 0;   ///< of a unit of full size, at whoever does it
-  double order = 0;  ///< of its order, at process 0
-  double take = 0;   ///< of taking its result, at process 0
+  double load = 0;     ///< of the input, at every process
+  double portion = 0;  ///< of a portion of full size, at whoever does it
+  double order = 0;    ///< of its order, at process 0
+  double take = 0;     ///< of taking its result, at process 0
   std::size_t items = 0;
   std::size_t order_bytes = 0;
   std::size_t result_bytes = 0;
   std::size_t input_bytes = 0;
 };
 
-void MeasureUnits(const UnitTask& task, UnitPlan& plan, Costs& costs) {
+void MeasurePortions(const PortionTask& task, PortionPlan& plan, Costs& costs) {
   const auto worker = task.MakeWorker();
   RunObserver observer;
-  costs.items = plan.MostItemsPerUnit();
-  for (std::size_t i = 0; i < kUnitsMeasured; ++i) {
-    const WorkUnit unit{0, i * costs.items, (i + 1) * costs.items};
+  costs.items = plan.MostItemsPerPortion();
+  for (std::size_t i = 0; i < kPortionsMeasured; ++i) {
+    const Portion portion{0, i * costs.items, (i + 1) * costs.items};
     const auto start = Clock::now();
-    const std::string order = plan.Order(unit);
-    costs.order += SecondsSince(start) / kUnitsMeasured;
+    const std::string order = plan.Order(portion);
+    costs.order += SecondsSince(start) / kPortionsMeasured;
     const auto order_given = Clock::now();
     const std::string result = worker->Do(order, observer);
-    costs.unit += SecondsSince(order_given) / kUnitsMeasured;
+    costs.portion += SecondsSince(order_given) / kPortionsMeasured;
     const auto done = Clock::now();
-    plan.Take(unit, result);
-    costs.take += SecondsSince(done) / kUnitsMeasured;
+    plan.Take(portion, result);
+    costs.take += SecondsSince(done) / kPortionsMeasured;
     costs.order_bytes = order.size();
     costs.result_bytes = result.size();
   }
@@ -103,8 +103,8 @@ Costs SimulationCosts(const std::filesystem::path& folder, Flow flow_kind) {
   RunObserver observer;
   SimulationResult result;
   CountsPlan plan(settings, input, flow, result, observer);
-  MeasureUnits(IterationTask(settings, input, flow.Design(), IterationProduct::kCounts), plan,
-               costs);
+  MeasurePortions(IterationTask(settings, input, flow.Design(), IterationProduct::kCounts), plan,
+                  costs);
   return costs;
 }
 
@@ -121,11 +121,11 @@ Costs AllocationCosts(const std::filesystem::path& folder) {
   costs.input_bytes = BytesOf(files);
   AllocationResult result;
   AllocationPlan plan(input, result);
-  if (plan.ItemsPerGroup() < kUnitsMeasured * plan.MostItemsPerUnit()) {
-    throw std::runtime_error(
-        fmt::format("at least {} offspring are needed", kUnitsMeasured * plan.MostItemsPerUnit()));
+  if (plan.ItemsPerGroup() < kPortionsMeasured * plan.MostItemsPerPortion()) {
+    throw std::runtime_error(fmt::format("at least {} offspring are needed",
+                                         kPortionsMeasured * plan.MostItemsPerPortion()));
   }
-  MeasureUnits(AllocationTask(settings, input), plan, costs);
+  MeasurePortions(AllocationTask(settings, input), plan, costs);
   return costs;
 }
 
@@ -159,7 +159,7 @@ double MessagePair(MpiSession& session, const Costs& costs, std::size_t at_once)
   std::size_t sent = 0;
   for (std::size_t answered = 0; answered < kMessagesMeasured; ++answered) {
     for (; sent < std::min(answered + at_once, kMessagesMeasured); ++sent) {
-      session.Send(1, MessageKind::kUnit, order);
+      session.Send(1, MessageKind::kPortion, order);
     }
     (void)WaitForMessage(session);
   }
@@ -167,15 +167,17 @@ double MessagePair(MpiSession& session, const Costs& costs, std::size_t at_once)
 }
 
 void PrintModel(const Costs& costs, double pair, double items) {
-  const double units = std::ceil(items / static_cast<double>(costs.items));
+  const double portions = std::ceil(items / static_cast<double>(costs.items));
   const double at_process_0 = costs.order + costs.take + pair;
   fmt::print(
-      "\n{:.0f} items, {:.0f} units: load twice + max(units x unit / p, units x (order + "
-      "take + pair)) + unit\n",
-      items, units);
+      "\n{:.0f} items, {:.0f} portions: load twice + max(portions x portion / p, portions x (order "
+      "+ "
+      "take + pair)) + portion\n",
+      items, portions);
   fmt::print("{:>6} {:>12} {:>10} {:>10}\n", "p", "seconds", "speed-up", "per core");
   const auto time = [&](double p) {
-    return 2 * costs.load + std::max(units * costs.unit / p, units * at_process_0) + costs.unit;
+    return 2 * costs.load + std::max(portions * costs.portion / p, portions * at_process_0) +
+           costs.portion;
   };
   for (const int p : {1, 2, 8, 16, 32, 64, 128, 256, 512}) {
     fmt::print("{:>6} {:>12.1f} {:>10.1f} {:>9.0f}%\n", p, time(p), time(1) / time(p),
@@ -191,7 +193,7 @@ void Report(MpiSession& session, const std::string& folder, const std::string& w
   const double pair = MessagePair(session, costs, 16);
   session.Send(1, MessageKind::kQuit, {});
   fmt::print("load the input        {:10.3f} ms, {} bytes\n", 1e3 * costs.load, costs.input_bytes);
-  fmt::print("unit of {:>5} items   {:10.3f} ms\n", costs.items, 1e3 * costs.unit);
+  fmt::print("portion of {:>5} items   {:10.3f} ms\n", costs.items, 1e3 * costs.portion);
   fmt::print("its order             {:10.3f} ms, {} bytes\n", 1e3 * costs.order, costs.order_bytes);
   fmt::print("taking its result     {:10.3f} ms, {} bytes\n", 1e3 * costs.take, costs.result_bytes);
   fmt::print("message there and back{:10.3f} ms\n", 1e3 * there_and_back);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "allocation/allocation_run.h"
 
+#include "allocation/allocation_portions.h"
 #include "allocation/allocation_record.h"
-#include "allocation/allocation_units.h"
 #include "allocation/reports/allocation_reports.h"
 
 namespace kaldo {

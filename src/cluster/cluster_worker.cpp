@@ -56,7 +56,7 @@ class Worker {
         StartCrew(bytes);
         break;
       }
-      case MessageKind::kUnit: {
+      case MessageKind::kPortion: {
         if (crew_) {
           ByteUnpacker unpacker(message.bytes);
           const auto number = unpacker.Get<std::uint64_t>();
@@ -95,30 +95,30 @@ class Worker {
     }
   }
 
-  /// Waits so long for a finished unit; then sends all there are.
+  /// Waits so long for a finished portion; then sends all there are.
   bool SendFinished(std::chrono::microseconds patience) {
     if (!crew_) {
       std::this_thread::sleep_for(patience);
       return false;
     }
     bool any = false;
-    while (auto unit = crew_->WaitForFinished(any ? std::chrono::microseconds{0} : patience)) {
-      Send(*unit);
+    while (auto portion = crew_->WaitForFinished(any ? std::chrono::microseconds{0} : patience)) {
+      Send(*portion);
       any = true;
     }
     return any;
   }
 
-  void Send(const FinishedUnit& unit) {
-    if (unit.failed) {
+  void Send(const FinishedPortion& portion) {
+    if (portion.failed) {
       session_.Send(0, MessageKind::kFailure,
                     fmt::format("Process {} of {} on {} failed: {}", session_.Rank(),
-                                session_.Size(), MpiSession::MachineName(), unit.bytes));
+                                session_.Size(), MpiSession::MachineName(), portion.bytes));
       return;
     }
     BytePacker packer;
-    packer.Add(unit.number);
-    packer.AddRest(unit.bytes);
+    packer.Add(portion.number);
+    packer.AddRest(portion.bytes);
     session_.Send(0, MessageKind::kResult, packer.Take());
   }
 

@@ -5,7 +5,7 @@
 
 namespace kaldo {
 
-/// What every process but the first does: takes units, gives back results, and writes nothing,
+/// What every process but the first does: takes portions, gives back results, and writes nothing,
 /// neither to files nor to the terminal, until process 0 says that the run has ended. Throws
 /// RunFailure when process 0 has died.
 void WorkForProcess0(MpiSession& session);

@@ -15,9 +15,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// Units that a thread of another process has at hand: the one it works on and the next, so that it
-/// never waits for a message.
-constexpr unsigned kUnitsPerThread = 2;
+/// Portions that a thread of another process has at hand: the one it works on and the next, so that
+/// it never waits for a message.
+constexpr unsigned kPortionsPerThread = 2;
 
 /// Launchers give a run about a second between the signal to stop and the end.
 constexpr auto kPatienceWhenStopped = std::chrono::milliseconds(400);
@@ -28,10 +28,10 @@ unsigned ThreadsPerProcess(unsigned wanted) { return std::max(wanted, 1U); }
 
 /// A part that is being done.
 struct ClusterWorkforce::Part {
-  UnitDesk& desk;
+  PortionDesk& desk;
   RunObserver& observer;
-  std::size_t most_units;          ///< at one process
-  std::vector<std::size_t> units;  ///< now at each process; nothing at process 0
+  std::size_t most_portions;          ///< at one process
+  std::vector<std::size_t> portions;  ///< now at each process; nothing at process 0
 };
 
 unsigned ClusterWorkforce::Threads(unsigned wanted) const {
@@ -46,7 +46,8 @@ void ClusterWorkforce::SendToOthers(MessageKind kind) {
 
 void ClusterWorkforce::Dismiss() { SendToOthers(MessageKind::kQuit); }
 
-void ClusterWorkforce::Announce(const UnitJob& job, unsigned threads, const RunObserver& observer) {
+void ClusterWorkforce::Announce(const PortionJob& job, unsigned threads,
+                                const RunObserver& observer) {
   if (session_.Size() == 1) {
     return;
   }
@@ -59,10 +60,10 @@ void ClusterWorkforce::Announce(const UnitJob& job, unsigned threads, const RunO
   }
 }
 
-void ClusterWorkforce::Do(const UnitJob& job, unsigned wanted, RunObserver& observer) {
+void ClusterWorkforce::Do(const PortionJob& job, unsigned wanted, RunObserver& observer) {
   const unsigned threads = ThreadsPerProcess(wanted);
-  UnitDesk desk(job.plan, Threads(wanted));
-  Part part{desk, observer, std::size_t{kUnitsPerThread} * threads,
+  PortionDesk desk(job.plan, Threads(wanted));
+  Part part{desk, observer, std::size_t{kPortionsPerThread} * threads,
             std::vector<std::size_t>(static_cast<std::size_t>(session_.Size()))};
   Announce(job, threads, observer);
   {
@@ -97,27 +98,27 @@ void ClusterWorkforce::Serve(Part& part) {
 /// Gives every process something to do before any of them gets something in reserve.
 bool ClusterWorkforce::HandOut(Part& part) {
   bool any = false;
-  for (std::size_t units = 1; units <= part.most_units; ++units) {
-    any = HandOutUpTo(units, part) || any;
+  for (std::size_t portions = 1; portions <= part.most_portions; ++portions) {
+    any = HandOutUpTo(portions, part) || any;
   }
   return any;
 }
 
-bool ClusterWorkforce::HandOutUpTo(std::size_t units, Part& part) {
+bool ClusterWorkforce::HandOutUpTo(std::size_t portions, Part& part) {
   bool any = false;
   for (int process = 1; process < session_.Size(); ++process) {
-    std::size_t& at_hand = part.units[static_cast<std::size_t>(process)];
-    if (at_hand >= units) {
+    std::size_t& at_hand = part.portions[static_cast<std::size_t>(process)];
+    if (at_hand >= portions) {
       continue;
     }
-    const auto unit = part.desk.TryNext();
-    if (!unit) {
+    const auto portion = part.desk.TryNext();
+    if (!portion) {
       break;
     }
     BytePacker packer;
-    packer.Add(unit->number);
-    packer.AddRest(unit->order);
-    session_.Send(process, MessageKind::kUnit, packer.Take());
+    packer.Add(portion->number);
+    packer.AddRest(portion->order);
+    session_.Send(process, MessageKind::kPortion, packer.Take());
     ++at_hand;
     any = true;
   }
@@ -133,7 +134,7 @@ bool ClusterWorkforce::TakeMessages(Part& part) {
     }
     ByteUnpacker unpacker(message->bytes);
     const auto number = unpacker.Get<std::uint64_t>();
-    --part.units[static_cast<std::size_t>(message->from)];
+    --part.portions[static_cast<std::size_t>(message->from)];
     part.observer.OnSteps(part.desk.HandIn(number, std::string(unpacker.Rest())));
   }
   return any;

@@ -18,7 +18,7 @@ class ClusterWorkforce final : public Workforce {
   FileSource& Files() override { return files_; }
 
   /// Also throws RunFailure when a process has failed or died.
-  void Do(const UnitJob& job, unsigned wanted, RunObserver& observer) override;
+  void Do(const PortionJob& job, unsigned wanted, RunObserver& observer) override;
 
   /// True after a process has died: those left can no longer end together.
   bool HasLostProcess() const { return has_lost_process_; }
@@ -29,10 +29,10 @@ class ClusterWorkforce final : public Workforce {
  private:
   struct Part;
 
-  void Announce(const UnitJob& job, unsigned threads, const RunObserver& observer);
+  void Announce(const PortionJob& job, unsigned threads, const RunObserver& observer);
   void Serve(Part& part);
   bool HandOut(Part& part);
-  bool HandOutUpTo(std::size_t units, Part& part);
+  bool HandOutUpTo(std::size_t portions, Part& part);
   bool TakeMessages(Part& part);
   void EndPart(const RunObserver& observer);
   void SendToOthers(MessageKind kind);

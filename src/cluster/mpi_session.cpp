@@ -73,7 +73,7 @@ std::string MpiSession::MachineName() {
 
 void MpiSession::Send(int to, MessageKind kind, std::string bytes) {
   if (bytes.size() > INT_MAX) {
-    throw RunFailure(fmt::format("A unit of the run gives {} MB, more than a message can hold.",
+    throw RunFailure(fmt::format("A portion of the run gives {} MB, more than a message can hold.",
                                  bytes.size() / 1024 / 1024));
   }
   DropDelivered();

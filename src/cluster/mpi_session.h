@@ -12,13 +12,13 @@ namespace kaldo {
 enum class MessageKind {
   // From process 0.
   kPart,     ///< a part of the run begins; what it is follows by Broadcast()
-  kUnit,     ///< a unit: its number and its order
-  kEndPart,  ///< no further unit of the part is wanted, nor the results of those under way
+  kPortion,  ///< a portion: its number and its order
+  kEndPart,  ///< no further portion of the part is wanted, nor the results of those under way
   kQuit,     ///< the run has ended
 
   // To process 0.
-  kResult,     ///< of a unit: its number and the bytes
-  kFailure,    ///< a unit could not be done, and why
+  kResult,     ///< of a portion: its number and the bytes
+  kFailure,    ///< a portion could not be done, and why
   kPartEnded,  ///< the answer to kEndPart; no result of the part follows it
 };
 

@@ -3,11 +3,11 @@
 
 #include <fmt/format.h>
 
+#include "allocation/allocation_portions.h"
 #include "allocation/allocation_record.h"
-#include "allocation/allocation_units.h"
 #include "base/byte_packing.h"
 #include "base/version.h"
-#include "simulation/iteration_units.h"
+#include "simulation/iteration_portions.h"
 #include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_record.h"
 
@@ -41,14 +41,14 @@ class SentFiles final : public FileSource {
 };
 
 /// A task together with the settings and the input that it refers to.
-class SentAllocation final : public UnitTask {
+class SentAllocation final : public PortionTask {
  public:
   SentAllocation(const RunRecord& record, FileSource& files)
       : settings_(Expect(SettingsOf(record, {}))),
         input_(Expect(LoadAllocationInput(settings_, files))),
         task_(settings_, input_) {}
 
-  std::unique_ptr<UnitWorker> MakeWorker() const override { return task_.MakeWorker(); }
+  std::unique_ptr<PortionWorker> MakeWorker() const override { return task_.MakeWorker(); }
 
  private:
   AllocationSettings settings_;
@@ -56,14 +56,14 @@ class SentAllocation final : public UnitTask {
   AllocationTask task_;
 };
 
-class SentSimulation final : public UnitTask {
+class SentSimulation final : public PortionTask {
  public:
   SentSimulation(const RunRecord& record, FileSource& files, IterationProduct product)
       : settings_(Expect(SimulationSettingsOf(record, {}))),
         input_(Expect(LoadSimulationInput(settings_, SimulationOf(settings_.flow), files))),
         task_(settings_, input_, SimulationOf(settings_.flow).Design(), product) {}
 
-  std::unique_ptr<UnitWorker> MakeWorker() const override { return task_.MakeWorker(); }
+  std::unique_ptr<PortionWorker> MakeWorker() const override { return task_.MakeWorker(); }
 
  private:
   SimulationSettings settings_;
@@ -99,7 +99,7 @@ SentPart UnpackSentPart(std::string_view bytes) {
   return sent;
 }
 
-std::unique_ptr<UnitTask> MakeTask(const SentPart& sent) {
+std::unique_ptr<PortionTask> MakeTask(const SentPart& sent) {
   const RunRecord record = Expect(ParseRunRecord(sent.record, "the record of process 0"));
   if (record.version != Version()) {
     throw RunFailure(

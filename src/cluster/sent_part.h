@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "base/file_source.h"
-#include "runs/work_units.h"
+#include "runs/portions.h"
 
 namespace kaldo {
 
@@ -28,7 +28,7 @@ SentPart UnpackSentPart(std::string_view bytes);
 
 /// Loads the input from the bytes that were sent and makes the task of the part. Throws RunFailure
 /// when this program is of another version than that of process 0, whose results it might not give.
-std::unique_ptr<UnitTask> MakeTask(const SentPart& sent);
+std::unique_ptr<PortionTask> MakeTask(const SentPart& sent);
 
 /// The files of this machine, with a copy of all that was read.
 class RememberedFiles final : public FileSource {

@@ -9,7 +9,7 @@ namespace kaldo {
 
 namespace {
 
-/// Progress is told by process 0, unit by unit; only the end of the part is heard.
+/// Progress is told by process 0, portion by portion; only the end of the part is heard.
 class CrewObserver final : public RunObserver {
  public:
   explicit CrewObserver(const std::atomic<bool>& ended) : ended_(ended) {}
@@ -32,47 +32,47 @@ WorkerCrew::~WorkerCrew() {
     const std::lock_guard lock(mutex_);
     ended_ = true;
   }
-  has_unit_.notify_all();
+  has_portion_.notify_all();
 }
 
-void WorkerCrew::Add(HandedUnit unit) {
+void WorkerCrew::Add(HandedPortion portion) {
   {
     const std::lock_guard lock(mutex_);
-    units_.push_back(std::move(unit));
+    portions_.push_back(std::move(portion));
   }
-  has_unit_.notify_one();
+  has_portion_.notify_one();
 }
 
-std::optional<HandedUnit> WorkerCrew::WaitForUnit() {
+std::optional<HandedPortion> WorkerCrew::WaitForPortion() {
   std::unique_lock lock(mutex_);
-  has_unit_.wait(lock, [this] { return ended_ || !units_.empty(); });
+  has_portion_.wait(lock, [this] { return ended_ || !portions_.empty(); });
   if (ended_) {
     return std::nullopt;
   }
-  HandedUnit unit = std::move(units_.front());
-  units_.pop_front();
-  return unit;
+  HandedPortion portion = std::move(portions_.front());
+  portions_.pop_front();
+  return portion;
 }
 
-void WorkerCrew::Finish(FinishedUnit unit) {
+void WorkerCrew::Finish(FinishedPortion portion) {
   {
     const std::lock_guard lock(mutex_);
-    finished_.push_back(std::move(unit));
+    finished_.push_back(std::move(portion));
   }
   has_finished_.notify_one();
 }
 
-std::optional<FinishedUnit> WorkerCrew::WaitForFinished(std::chrono::microseconds patience) {
+std::optional<FinishedPortion> WorkerCrew::WaitForFinished(std::chrono::microseconds patience) {
   std::unique_lock lock(mutex_);
   if (!has_finished_.wait_for(lock, patience, [this] { return !finished_.empty(); })) {
     return std::nullopt;
   }
-  FinishedUnit unit = std::move(finished_.front());
+  FinishedPortion portion = std::move(finished_.front());
   finished_.pop_front();
-  return unit;
+  return portion;
 }
 
-const UnitTask& WorkerCrew::Task() {
+const PortionTask& WorkerCrew::Task() {
   std::call_once(task_made_, [this] { task_ = MakeTask(sent_); });
   return *task_;
 }
@@ -82,9 +82,9 @@ void WorkerCrew::Work() {
   std::uint64_t number = 0;
   try {
     const auto worker = Task().MakeWorker();
-    while (const auto unit = WaitForUnit()) {
-      number = unit->number;
-      Finish({number, false, worker->Do(unit->order, observer)});
+    while (const auto portion = WaitForPortion()) {
+      number = portion->number;
+      Finish({number, false, worker->Do(portion->order, observer)});
     }
   } catch (const RunStopped&) {
     return;  // nobody waits for the result

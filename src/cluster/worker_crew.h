@@ -10,12 +10,12 @@
 #include <vector>
 
 #include "cluster/sent_part.h"
-#include "runs/unit_desk.h"
+#include "runs/portion_desk.h"
 
 namespace kaldo {
 
-/// What became of a unit. After a failure its thread takes no further one.
-struct FinishedUnit {
+/// What became of a portion. After a failure its thread takes no further one.
+struct FinishedPortion {
   std::uint64_t number = 0;
   bool failed = false;
   std::string bytes;  ///< the result, or why it failed
@@ -31,30 +31,30 @@ class WorkerCrew {
   WorkerCrew(WorkerCrew&&) = delete;
   WorkerCrew& operator=(WorkerCrew&&) = delete;
 
-  /// Breaks off the units under way, which takes a moment.
+  /// Breaks off the portions under way, which takes a moment.
   ~WorkerCrew();
 
-  void Add(HandedUnit unit);
+  void Add(HandedPortion portion);
 
-  /// The next finished unit; nothing when there is none within `patience`.
-  std::optional<FinishedUnit> WaitForFinished(std::chrono::microseconds patience);
+  /// The next finished portion; nothing when there is none within `patience`.
+  std::optional<FinishedPortion> WaitForFinished(std::chrono::microseconds patience);
 
  private:
   void Work();
-  const UnitTask& Task();
-  std::optional<HandedUnit> WaitForUnit();
-  void Finish(FinishedUnit unit);
+  const PortionTask& Task();
+  std::optional<HandedPortion> WaitForPortion();
+  void Finish(FinishedPortion portion);
 
   const SentPart sent_;
   std::once_flag task_made_;
-  std::unique_ptr<UnitTask> task_;
+  std::unique_ptr<PortionTask> task_;
   std::atomic<bool> ended_{false};
 
   std::mutex mutex_;  // guards what follows
-  std::condition_variable has_unit_;
+  std::condition_variable has_portion_;
   std::condition_variable has_finished_;
-  std::deque<HandedUnit> units_;
-  std::deque<FinishedUnit> finished_;
+  std::deque<HandedPortion> portions_;
+  std::deque<FinishedPortion> finished_;
 
   std::vector<std::jthread> threads_;  // last: they use all of the above
 };

@@ -9,30 +9,30 @@ namespace kaldo {
 
 namespace {
 
-/// Has a worker stop, too, when its unit is no longer wanted.
+/// Has a worker stop, too, when its portion is no longer wanted.
 class DeskObserver final : public RunObserver {
  public:
-  DeskObserver(const UnitDesk& desk, RunObserver& run) : desk_(desk), run_(run) {}
+  DeskObserver(const PortionDesk& desk, RunObserver& run) : desk_(desk), run_(run) {}
 
   void OnSteps(std::uint64_t steps) override { run_.OnSteps(steps); }
   bool StopRequested() const override { return desk_.Ended() || run_.StopRequested(); }
 
  private:
-  const UnitDesk& desk_;
+  const PortionDesk& desk_;
   RunObserver& run_;
 };
 
 }  // namespace
 
-void WorkAtDesk(const UnitTask& task, UnitDesk& desk, RunObserver& observer) {
+void WorkAtDesk(const PortionTask& task, PortionDesk& desk, RunObserver& observer) {
   DeskObserver desk_observer(desk, observer);
   try {
-    std::unique_ptr<UnitWorker> worker;
-    while (auto unit = desk.WaitForNext()) {
+    std::unique_ptr<PortionWorker> worker;
+    while (auto portion = desk.WaitForNext()) {
       if (!worker) {
         worker = task.MakeWorker();
       }
-      desk.HandIn(unit->number, worker->Do(unit->order, desk_observer));
+      desk.HandIn(portion->number, worker->Do(portion->order, desk_observer));
     }
   } catch (...) {
     desk.Fail(std::current_exception());
@@ -44,10 +44,10 @@ unsigned LocalThreads::Threads(unsigned wanted) const {
   return wanted != 0 ? wanted : std::max(cores, 1U);
 }
 
-void LocalThreads::Do(const UnitJob& job, unsigned wanted, RunObserver& observer) {
+void LocalThreads::Do(const PortionJob& job, unsigned wanted, RunObserver& observer) {
   const std::size_t items = job.plan.Groups() * job.plan.ItemsPerGroup();
   const std::size_t threads = std::min<std::size_t>(Threads(wanted), items);
-  UnitDesk desk(job.plan, threads);
+  PortionDesk desk(job.plan, threads);
   {
     std::vector<std::jthread> others;
     for (std::size_t thread = 1; thread < threads; ++thread) {

@@ -5,22 +5,22 @@
 #include <string_view>
 
 #include "base/file_source.h"
+#include "runs/portion_desk.h"
 #include "runs/run_record.h"
-#include "runs/unit_desk.h"
 
 namespace kaldo {
 
 /// The long part of a run.
-struct UnitJob {
+struct PortionJob {
   std::string_view part;  ///< its name, which also tells other processes what the orders mean
-  const UnitTask& task;
-  UnitPlan& plan;
+  const PortionTask& task;
+  PortionPlan& plan;
 
   /// The settings and files of the run: another process makes the same task from them.
   std::function<RunRecord()> record;
 };
 
-/// Who does the units of a run: the threads of this process, or those of many processes.
+/// Who does the portions of a run: the threads of this process, or those of many processes.
 class Workforce {
  public:
   Workforce() = default;
@@ -36,9 +36,10 @@ class Workforce {
   /// Where the run takes its input files from.
   virtual FileSource& Files() = 0;
 
-  /// Has the units done, until all results have been taken or the plan wants no more. Throws what a
-  /// unit threw, or RunStopped when the observer asks. The results do not depend on who did what.
-  virtual void Do(const UnitJob& job, unsigned wanted, RunObserver& observer) = 0;
+  /// Has the portions done, until all results have been taken or the plan wants no more. Throws
+  /// what a portion threw, or RunStopped when the observer asks. The results do not depend on who
+  /// did what.
+  virtual void Do(const PortionJob& job, unsigned wanted, RunObserver& observer) = 0;
 };
 
 /// The threads of this process.
@@ -47,13 +48,13 @@ class LocalThreads final : public Workforce {
   /// `wanted`, or as many as the machine has cores when that is 0.
   unsigned Threads(unsigned wanted) const override;
   FileSource& Files() override { return files_; }
-  void Do(const UnitJob& job, unsigned wanted, RunObserver& observer) override;
+  void Do(const PortionJob& job, unsigned wanted, RunObserver& observer) override;
 
  private:
   DiskFiles files_;
 };
 
-/// What one thread does: units from the desk until there are no more. A failure ends the part.
-void WorkAtDesk(const UnitTask& task, UnitDesk& desk, RunObserver& observer);
+/// What one thread does: portions from the desk until there are no more. A failure ends the part.
+void WorkAtDesk(const PortionTask& task, PortionDesk& desk, RunObserver& observer);
 
 }  // namespace kaldo

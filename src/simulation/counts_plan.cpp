@@ -7,15 +7,16 @@
 
 #include "base/byte_packing.h"
 #include "simulation/figures.h"
-#include "simulation/iteration_units.h"
+#include "simulation/iteration_portions.h"
 #include "simulation/reports/subset_statistics.h"
 
 namespace kaldo {
 
 namespace {
 
-/// A unit of so many pseudo-offspring takes some hundredths of a second among a thousand parents.
-constexpr std::size_t kMostOffspringPerUnit = 16'384;
+/// A portion of so many pseudo-offspring takes some hundredths of a second among a thousand
+/// parents.
+constexpr std::size_t kMostOffspringPerPortion = 16'384;
 
 }  // namespace
 
@@ -32,19 +33,19 @@ std::size_t CountsPlan::ItemsPerGroup() const {
   return static_cast<std::size_t>(settings_.iterations);
 }
 
-std::size_t CountsPlan::MostItemsPerUnit() const {
+std::size_t CountsPlan::MostItemsPerPortion() const {
   const std::size_t offspring = std::max(input_.OffspringPerIteration(), 1U);
-  return std::max<std::size_t>(kMostOffspringPerUnit / offspring, 1);
+  return std::max<std::size_t>(kMostOffspringPerPortion / offspring, 1);
 }
 
-std::string CountsPlan::Order(const WorkUnit& unit) {
-  ordered_.push_back(stream_.Next(unit.Size()));
-  return PackOrder(input_.subsets.At(unit.group), ordered_.back());
+std::string CountsPlan::Order(const Portion& portion) {
+  ordered_.push_back(stream_.Next(portion.Size()));
+  return PackOrder(input_.subsets.At(portion.group), ordered_.back());
 }
 
-bool CountsPlan::Take(const WorkUnit& unit, std::string_view result) {
-  if (unit.begin == 0) {
-    BeginSubset(unit.group);
+bool CountsPlan::Take(const Portion& portion, std::string_view result) {
+  if (portion.begin == 0) {
+    BeginSubset(portion.group);
   }
   ByteUnpacker unpacker(result);
   for (const std::uint32_t state : ordered_.front()) {
@@ -52,8 +53,8 @@ bool CountsPlan::Take(const WorkUnit& unit, std::string_view result) {
     result_.iterations.push_back(unpacker.Get<IterationCounts>());
   }
   ordered_.pop_front();
-  if (unit.end == ItemsPerGroup()) {
-    EndSubset(unit.group);
+  if (portion.end == ItemsPerGroup()) {
+    EndSubset(portion.group);
   }
   return !result_.criterion_reached;
 }

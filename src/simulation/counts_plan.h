@@ -3,7 +3,7 @@
 
 #include <deque>
 
-#include "runs/work_units.h"
+#include "runs/portions.h"
 #include "simulation/iteration_states.h"
 #include "simulation/simulation_run.h"
 
@@ -12,17 +12,17 @@ namespace kaldo {
 /// Subset by subset, its iterations: finds where each iteration starts, and fills the subsets, the
 /// counts, the states and the statistics of a result. Ends with the first subset that reaches the
 /// criterion where the strategy asks for that.
-class CountsPlan final : public UnitPlan {
+class CountsPlan final : public PortionPlan {
  public:
   CountsPlan(const SimulationSettings& settings, const SimulationInput& input,
              const SimulationFlow& flow, SimulationResult& result, RunObserver& observer);
 
   std::size_t Groups() const override { return input_.subsets.Count(); }
   std::size_t ItemsPerGroup() const override;
-  std::size_t MostItemsPerUnit() const override;
+  std::size_t MostItemsPerPortion() const override;
   bool MayEndEarly() const override { return settings_.strategy == LociStrategy::kMinimal; }
-  std::string Order(const WorkUnit& unit) override;
-  bool Take(const WorkUnit& unit, std::string_view result) override;
+  std::string Order(const Portion& portion) override;
+  bool Take(const Portion& portion, std::string_view result) override;
 
  private:
   void BeginSubset(std::size_t subset);
@@ -35,7 +35,7 @@ class CountsPlan final : public UnitPlan {
   RunObserver& observer_;
 
   IterationStates stream_;
-  std::deque<std::vector<std::uint32_t>> ordered_;  ///< the states of units not yet taken
+  std::deque<std::vector<std::uint32_t>> ordered_;  ///< the states of portions not yet taken
 };
 
 }  // namespace kaldo

@@ -2,7 +2,7 @@
 #include "simulation/simulation_run.h"
 
 #include "simulation/counts_plan.h"
-#include "simulation/iteration_units.h"
+#include "simulation/iteration_portions.h"
 #include "simulation/reports/simulation_reports.h"
 #include "simulation/simulated_iteration.h"
 #include "simulation/simulation_record.h"

@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include "allocation/allocation_portions.h"
 #include "allocation/allocation_record.h"
-#include "allocation/allocation_units.h"
 #include "base/byte_packing.h"
 #include "tests/support/temp_folder.h"
 
@@ -38,17 +38,17 @@ class WorkerCrewTest : public ::testing::Test {
     sent_.files = files.Files();
   }
 
-  static HandedUnit Unit(std::uint64_t offspring) {
+  static HandedPortion PortionOf(std::uint64_t offspring) {
     BytePacker packer;
-    packer.Add(WorkUnit{0, offspring, offspring + 1});
+    packer.Add(Portion{0, offspring, offspring + 1});
     return {offspring, packer.Take()};
   }
 
-  /// What a crew says to a single unit, as a failure.
+  /// What a crew says to a single portion, as a failure.
   static std::string FailureOf(SentPart sent) {
     sent.threads = 1;
     WorkerCrew crew(std::move(sent));
-    crew.Add(Unit(0));
+    crew.Add(PortionOf(0));
     const auto finished = crew.WaitForFinished(kLong);
     return finished && finished->failed ? finished->bytes : "no failure";
   }
@@ -59,7 +59,7 @@ class WorkerCrewTest : public ::testing::Test {
   SentPart sent_;
 };
 
-TEST_F(WorkerCrewTest, DoesUnitsFromWhatWasSentAlone) {
+TEST_F(WorkerCrewTest, DoesPortionsFromWhatWasSentAlone) {
   const std::string bytes = Pack(sent_);
   for (const char* file : {"loci.txt", "parents.txt", "offspring.txt"}) {
     std::filesystem::remove(folder_.Path(file));
@@ -67,7 +67,7 @@ TEST_F(WorkerCrewTest, DoesUnitsFromWhatWasSentAlone) {
   WorkerCrew crew(UnpackSentPart(bytes));
   std::map<std::uint64_t, std::string> results;
   for (const std::uint64_t offspring : {2U, 0U, 1U}) {
-    crew.Add(Unit(offspring));
+    crew.Add(PortionOf(offspring));
   }
   while (results.size() < 3) {
     const auto finished = crew.WaitForFinished(kLong);
@@ -101,10 +101,10 @@ TEST_F(WorkerCrewTest, TellsWhyItCannotWork) {
   EXPECT_NE(FailureOf(of_other_version).find("but process 0 is KALDO 9"), std::string::npos);
 }
 
-TEST_F(WorkerCrewTest, LeavesUnfinishedUnitsWhenItEnds) {
+TEST_F(WorkerCrewTest, LeavesUnfinishedPortionsWhenItEnds) {
   WorkerCrew crew(sent_);
   for (int i = 0; i < 100'000; ++i) {
-    crew.Add(Unit(0));
+    crew.Add(PortionOf(0));
   }
   EXPECT_TRUE(crew.WaitForFinished(kLong));
 }

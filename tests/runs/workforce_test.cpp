@@ -21,36 +21,37 @@ using namespace std::chrono_literals;
 std::uint64_t Expected(std::size_t group, std::size_t item) { return group * 1'000'003 + item; }
 
 /// One number per item. One item may be told to fail, and one group to go on until stopped.
-class NumbersTask final : public UnitTask {
+class NumbersTask final : public PortionTask {
  public:
-  std::optional<WorkUnit> failing;
+  std::optional<Portion> failing;
   std::optional<std::size_t> endless_group;
   mutable std::atomic<std::size_t> workers{0};
 
-  std::unique_ptr<UnitWorker> MakeWorker() const override {
+  std::unique_ptr<PortionWorker> MakeWorker() const override {
     ++workers;
     return std::make_unique<Worker>(*this);
   }
 
  private:
-  class Worker final : public UnitWorker {
+  class Worker final : public PortionWorker {
    public:
     explicit Worker(const NumbersTask& task) : task_(task) {}
 
     std::string Do(std::string_view order, RunObserver& observer) override {
-      const auto unit = ByteUnpacker(order).Get<WorkUnit>();
-      while (task_.endless_group == unit.group) {
+      const auto portion = ByteUnpacker(order).Get<Portion>();
+      while (task_.endless_group == portion.group) {
         if (observer.StopRequested()) {
           throw RunStopped();
         }
         std::this_thread::sleep_for(1ms);
       }
       BytePacker packer;
-      for (std::size_t item = unit.begin; item < unit.end; ++item) {
-        if (task_.failing && task_.failing->group == unit.group && task_.failing->begin == item) {
+      for (std::size_t item = portion.begin; item < portion.end; ++item) {
+        if (task_.failing && task_.failing->group == portion.group &&
+            task_.failing->begin == item) {
           throw std::runtime_error("this item");
         }
-        packer.Add(Expected(unit.group, item));
+        packer.Add(Expected(portion.group, item));
         observer.OnSteps(1);
       }
       return packer.Take();
@@ -62,35 +63,35 @@ class NumbersTask final : public UnitTask {
 };
 
 /// Puts all numbers behind each other, as they are taken.
-class NumbersPlan final : public UnitPlan {
+class NumbersPlan final : public PortionPlan {
  public:
   NumbersPlan(std::size_t groups, std::size_t items) : groups_(groups), items_(items) {}
 
-  std::size_t most_per_unit = 1000;
+  std::size_t most_per_portion = 1000;
   std::optional<std::size_t> last_group;     ///< ends early behind it
   std::optional<std::size_t> failing_group;  ///< of which a result cannot be taken
   std::vector<std::uint64_t> taken;
 
   std::size_t Groups() const override { return groups_; }
   std::size_t ItemsPerGroup() const override { return items_; }
-  std::size_t MostItemsPerUnit() const override { return most_per_unit; }
+  std::size_t MostItemsPerPortion() const override { return most_per_portion; }
   bool MayEndEarly() const override { return last_group.has_value(); }
 
-  std::string Order(const WorkUnit& unit) override {
+  std::string Order(const Portion& portion) override {
     BytePacker packer;
-    packer.Add(unit);
+    packer.Add(portion);
     return packer.Take();
   }
 
-  bool Take(const WorkUnit& unit, std::string_view result) override {
-    if (failing_group == unit.group) {
+  bool Take(const Portion& portion, std::string_view result) override {
+    if (failing_group == portion.group) {
       throw RunFailure("disk full");
     }
     ByteUnpacker unpacker(result);
-    for (std::size_t item = unit.begin; item < unit.end; ++item) {
+    for (std::size_t item = portion.begin; item < portion.end; ++item) {
       taken.push_back(unpacker.Get<std::uint64_t>());
     }
-    return !(last_group == unit.group && unit.end == items_);
+    return !(last_group == portion.group && portion.end == items_);
   }
 
   /// The numbers of the first so many items of all groups.
@@ -154,13 +155,13 @@ TEST(LocalThreads, EndEarlyBehindAGroupAndBreakOffThoseBehindIt) {
   }
 }
 
-TEST(LocalThreads, ThrowWhatAUnitThrewAndTakeNoneFromThereOn) {
+TEST(LocalThreads, ThrowWhatAPortionThrewAndTakeNoneFromThereOn) {
   for (const unsigned threads : {1U, 4U}) {
     NumbersTask task;
-    task.failing = WorkUnit{2, 17, 18};
+    task.failing = Portion{2, 17, 18};
     task.endless_group = 3;
     NumbersPlan plan(1000, 50);
-    plan.most_per_unit = 5;
+    plan.most_per_portion = 5;
     CountingObserver observer;
     try {
       Do(task, plan, threads, observer);
@@ -195,37 +196,37 @@ TEST(LocalThreads, StopWhenAsked) {
   EXPECT_TRUE(plan.taken.empty());
 }
 
-/// All units that the desk hands out when nothing comes back.
-std::deque<std::pair<HandedUnit, WorkUnit>> HandOutAll(UnitDesk& desk) {
-  std::deque<std::pair<HandedUnit, WorkUnit>> units;
-  while (auto unit = desk.TryNext()) {
-    const auto stretch = ByteUnpacker(unit->order).Get<WorkUnit>();
-    units.emplace_back(std::move(*unit), stretch);
+/// All portions that the desk hands out when nothing comes back.
+std::deque<std::pair<HandedPortion, Portion>> HandOutAll(PortionDesk& desk) {
+  std::deque<std::pair<HandedPortion, Portion>> portions;
+  while (auto portion = desk.TryNext()) {
+    const auto stretch = ByteUnpacker(portion->order).Get<Portion>();
+    portions.emplace_back(std::move(*portion), stretch);
   }
-  return units;
+  return portions;
 }
 
-std::string ResultOf(const WorkUnit& unit) {
+std::string ResultOf(const Portion& portion) {
   BytePacker packer;
-  for (std::size_t item = unit.begin; item < unit.end; ++item) {
-    packer.Add(Expected(unit.group, item));
+  for (std::size_t item = portion.begin; item < portion.end; ++item) {
+    packer.Add(Expected(portion.group, item));
   }
   return packer.Take();
 }
 
-RC_GTEST_PROP(UnitDesk, TakesResultsInOrderInWhateverOrderTheyCome, ()) {
+RC_GTEST_PROP(PortionDesk, TakesResultsInOrderInWhateverOrderTheyCome, ()) {
   NumbersPlan plan(*rc::gen::inRange<std::size_t>(1, 9), *rc::gen::inRange<std::size_t>(1, 200));
-  plan.most_per_unit = *rc::gen::inRange<std::size_t>(1, 100);
-  UnitDesk desk(plan, *rc::gen::inRange<std::size_t>(1, 9));
-  auto units = HandOutAll(desk);
+  plan.most_per_portion = *rc::gen::inRange<std::size_t>(1, 100);
+  PortionDesk desk(plan, *rc::gen::inRange<std::size_t>(1, 9));
+  auto portions = HandOutAll(desk);
   std::size_t items = 0;
-  while (!units.empty()) {
-    const auto chosen = units.begin() + *rc::gen::inRange<std::ptrdiff_t>(
-                                            0, static_cast<std::ptrdiff_t>(units.size()));
+  while (!portions.empty()) {
+    const auto chosen = portions.begin() + *rc::gen::inRange<std::ptrdiff_t>(
+                                               0, static_cast<std::ptrdiff_t>(portions.size()));
     items += desk.HandIn(chosen->first.number, ResultOf(chosen->second));
-    units.erase(chosen);
-    for (auto& unit : HandOutAll(desk)) {
-      units.push_back(std::move(unit));
+    portions.erase(chosen);
+    for (auto& portion : HandOutAll(desk)) {
+      portions.push_back(std::move(portion));
     }
   }
   RC_ASSERT(desk.Ended());
@@ -233,31 +234,31 @@ RC_GTEST_PROP(UnitDesk, TakesResultsInOrderInWhateverOrderTheyCome, ()) {
   RC_ASSERT(plan.taken == plan.Prefix(items));
 }
 
-TEST(UnitDesk, HandsOutNoMoreWhileTooManyResultsWaitForAnEarlierOne) {
+TEST(PortionDesk, HandsOutNoMoreWhileTooManyResultsWaitForAnEarlierOne) {
   NumbersPlan plan(1'000'000, 1);
-  UnitDesk desk(plan, 4);
-  const auto units = HandOutAll(desk);
-  ASSERT_GT(units.size(), 8U);
-  ASSERT_LT(units.size(), 1000U);
-  for (std::size_t i = 1; i < units.size(); ++i) {
-    desk.HandIn(units[i].first.number, ResultOf(units[i].second));
+  PortionDesk desk(plan, 4);
+  const auto portions = HandOutAll(desk);
+  ASSERT_GT(portions.size(), 8U);
+  ASSERT_LT(portions.size(), 1000U);
+  for (std::size_t i = 1; i < portions.size(); ++i) {
+    desk.HandIn(portions[i].first.number, ResultOf(portions[i].second));
   }
-  EXPECT_FALSE(desk.TryNext()) << "units count until they are taken";
+  EXPECT_FALSE(desk.TryNext()) << "portions count until they are taken";
   EXPECT_TRUE(plan.taken.empty());
-  desk.HandIn(units[0].first.number, ResultOf(units[0].second));
-  EXPECT_EQ(plan.taken, plan.Prefix(units.size()));
+  desk.HandIn(portions[0].first.number, ResultOf(portions[0].second));
+  EXPECT_EQ(plan.taken, plan.Prefix(portions.size()));
   EXPECT_TRUE(desk.TryNext());
 }
 
-TEST(UnitDesk, HandsOutNoMoreWhileResultsWaitThatFillTheMemory) {
+TEST(PortionDesk, HandsOutNoMoreWhileResultsWaitThatFillTheMemory) {
   NumbersPlan plan(1'000'000, 1);
-  UnitDesk desk(plan, 4);
+  PortionDesk desk(plan, 4);
   const auto first = desk.TryNext();
   std::size_t waiting = 0;
-  while (const auto unit = desk.TryNext()) {
-    std::string result = ResultOf(ByteUnpacker(unit->order).Get<WorkUnit>());
+  while (const auto portion = desk.TryNext()) {
+    std::string result = ResultOf(ByteUnpacker(portion->order).Get<Portion>());
     result.resize(std::size_t{20} * 1024 * 1024);
-    desk.HandIn(unit->number, std::move(result));
+    desk.HandIn(portion->number, std::move(result));
     ++waiting;
   }
   EXPECT_GE(waiting, 2U);
@@ -267,24 +268,24 @@ TEST(UnitDesk, HandsOutNoMoreWhileResultsWaitThatFillTheMemory) {
   EXPECT_TRUE(desk.TryNext());
 }
 
-TEST(UnitDesk, GivesAllWorkersAShareOfTheFirstGroupWhereItMayBeTheLast) {
+TEST(PortionDesk, GivesAllWorkersAShareOfTheFirstGroupWhereItMayBeTheLast) {
   NumbersPlan plan(1000, 64);
   plan.last_group = 5;
-  UnitDesk desk(plan, 8);
+  PortionDesk desk(plan, 8);
   for (int worker = 0; worker < 8; ++worker) {
-    EXPECT_EQ(ByteUnpacker(desk.TryNext()->order).Get<WorkUnit>().group, 0U);
+    EXPECT_EQ(ByteUnpacker(desk.TryNext()->order).Get<Portion>().group, 0U);
   }
 }
 
-TEST(UnitDesk, PassesOverWhatComesAfterTheEnd) {
+TEST(PortionDesk, PassesOverWhatComesAfterTheEnd) {
   NumbersPlan plan(10, 1);
   plan.last_group = 0;
-  UnitDesk desk(plan, 2);
-  const auto units = HandOutAll(desk);
-  desk.HandIn(units[0].first.number, ResultOf(units[0].second));
+  PortionDesk desk(plan, 2);
+  const auto portions = HandOutAll(desk);
+  desk.HandIn(portions[0].first.number, ResultOf(portions[0].second));
   EXPECT_TRUE(desk.Ended());
   EXPECT_FALSE(desk.WaitForNext());
-  EXPECT_EQ(desk.HandIn(units[1].first.number, ResultOf(units[1].second)), 0U);
+  EXPECT_EQ(desk.HandIn(portions[1].first.number, ResultOf(portions[1].second)), 0U);
   desk.Fail(std::make_exception_ptr(RunStopped()));
   EXPECT_NO_THROW(desk.ThrowFailure());
   EXPECT_EQ(plan.taken, plan.Prefix(1));

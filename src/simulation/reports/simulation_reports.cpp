@@ -5,7 +5,7 @@
 
 #include "genotypes/allele_listing.h"
 #include "runs/run_record.h"
-#include "simulation/iteration_units.h"
+#include "simulation/iteration_portions.h"
 #include "simulation/reports/simulation_report_texts.h"
 #include "simulation/saved_loci.h"
 #include "simulation/simulated_individuals.h"
@@ -17,21 +17,21 @@ namespace kaldo {
 namespace {
 
 /// Appends the listings of the iterations to their file, one iteration after the other.
-class MatricesPlan final : public UnitPlan {
+class MatricesPlan final : public PortionPlan {
  public:
   MatricesPlan(const SimulationResult& result, ReportFile& file) : result_(result), file_(file) {}
 
   std::size_t Groups() const override { return 1; }
   std::size_t ItemsPerGroup() const override { return result_.states.size(); }
-  /// A listing takes up to some megabytes: larger units would only wait in memory.
-  std::size_t MostItemsPerUnit() const override { return 1; }
+  /// A listing takes up to some megabytes: larger portions would only wait in memory.
+  std::size_t MostItemsPerPortion() const override { return 1; }
 
-  std::string Order(const WorkUnit& unit) override {
+  std::string Order(const Portion& portion) override {
     return PackOrder(result_.LastSubset().loci,
-                     std::span(result_.states).subspan(unit.begin, unit.Size()));
+                     std::span(result_.states).subspan(portion.begin, portion.Size()));
   }
 
-  bool Take(const WorkUnit& /*unit*/, std::string_view text) override {
+  bool Take(const Portion& /*portion*/, std::string_view text) override {
     file_.Append(text);
     return true;
   }

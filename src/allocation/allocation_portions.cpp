@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "allocation/allocation_units.h"
+#include "allocation/allocation_portions.h"
 
 #include <algorithm>
 #include <optional>
@@ -12,8 +12,8 @@ namespace kaldo {
 
 namespace {
 
-/// A unit among 50,000 parents takes up to a tenth of a second.
-constexpr std::size_t kMostOffspringPerUnit = 256;
+/// A portion among 50,000 parents takes up to a tenth of a second.
+constexpr std::size_t kMostOffspringPerPortion = 256;
 
 LociOfRun LociOfCombination(const AllocationInput& input, std::vector<LocusIndex> loci) {
   std::sort(loci.begin(), loci.end());
@@ -33,18 +33,18 @@ std::vector<TransmissionMatrix> BuildMatrices(const ErrorModel& model,
   return matrices;
 }
 
-class AllocationWorker final : public UnitWorker {
+class AllocationWorker final : public PortionWorker {
  public:
   AllocationWorker(const AllocationSettings& settings, const AllocationInput& input,
                    std::span<const TransmissionMatrix> matrices)
       : settings_(settings), input_(input), matrices_(matrices) {}
 
   std::string Do(std::string_view order, RunObserver& observer) override {
-    const auto unit = ByteUnpacker(order).Get<WorkUnit>();
-    UseCombination(unit.group);
+    const auto portion = ByteUnpacker(order).Get<Portion>();
+    UseCombination(portion.group);
     std::vector<AllocationOutcome> outcomes;
-    outcomes.reserve(unit.Size());
-    for (std::size_t i = unit.begin; i < unit.end; ++i) {
+    outcomes.reserve(portion.Size());
+    for (std::size_t i = portion.begin; i < portion.end; ++i) {
       const Slot offspring{input_.offspring.begin + static_cast<std::uint32_t>(i)};
       outcomes.push_back(searcher_.Search(offspring, observer));
       DecideSides(input_.table, offspring, loci_, settings_.tolerance, outcomes.back());
@@ -79,27 +79,27 @@ class AllocationWorker final : public UnitWorker {
 AllocationTask::AllocationTask(const AllocationSettings& settings, const AllocationInput& input)
     : settings_(settings), input_(input), matrices_(BuildMatrices(settings.error_model, input)) {}
 
-std::unique_ptr<UnitWorker> AllocationTask::MakeWorker() const {
+std::unique_ptr<PortionWorker> AllocationTask::MakeWorker() const {
   return std::make_unique<AllocationWorker>(settings_, input_, matrices_);
 }
 
-std::size_t AllocationPlan::MostItemsPerUnit() const { return kMostOffspringPerUnit; }
+std::size_t AllocationPlan::MostItemsPerPortion() const { return kMostOffspringPerPortion; }
 
-std::string AllocationPlan::Order(const WorkUnit& unit) {
+std::string AllocationPlan::Order(const Portion& portion) {
   BytePacker packer;
-  packer.Add(unit);
+  packer.Add(portion);
   return packer.Take();
 }
 
-bool AllocationPlan::Take(const WorkUnit& unit, std::string_view result) {
-  if (unit.begin == 0) {
-    result_.loci = LociOfCombination(input_, input_.combinations[unit.group]);
+bool AllocationPlan::Take(const Portion& portion, std::string_view result) {
+  if (portion.begin == 0) {
+    result_.loci = LociOfCombination(input_, input_.combinations[portion.group]);
     result_.outcomes.resize(input_.NumberOfOffspring());
     result_.counters.emplace_back();
   }
   const auto outcomes = ByteUnpacker(result).GetAll<AllocationOutcome>();
-  for (std::size_t i = unit.begin; i < unit.end; ++i) {
-    result_.outcomes[i] = outcomes.at(i - unit.begin);
+  for (std::size_t i = portion.begin; i < portion.end; ++i) {
+    result_.outcomes[i] = outcomes.at(i - portion.begin);
     result_.counters.back().Count(result_.outcomes[i]);
   }
   return true;

@@ -9,37 +9,37 @@
 #include <mutex>
 #include <optional>
 
-#include "runs/work_units.h"
+#include "runs/portions.h"
 
 namespace kaldo {
 
-/// A unit on its way to a worker.
-struct HandedUnit {
+/// A portion on its way to a worker.
+struct HandedPortion {
   std::uint64_t number = 0;
   std::string order;
 };
 
-/// Hands out the units of a part of a run to whoever is free and puts their results in order.
+/// Hands out the portions of a part of a run to whoever is free and puts their results in order.
 ///
-/// Units are large at first and small near the end, so that all workers finish at about the same
-/// time. Units of later groups are handed out while earlier ones are still being worked on: nobody
-/// waits for the slowest item of a group. Results that came too early wait here; while they are
-/// many, nothing further is handed out, so that memory stays bounded.
+/// Portions are large at first and small near the end, so that all workers finish at about the same
+/// time. Portions of later groups are handed out while earlier ones are still being worked on:
+/// nobody waits for the slowest item of a group. Results that came too early wait here; while they
+/// are many, nothing further is handed out, so that memory stays bounded.
 ///
 /// All functions may be called from any thread.
-class UnitDesk {
+class PortionDesk {
  public:
-  /// `workers` threads will do the units, in all processes together.
-  UnitDesk(UnitPlan& plan, std::size_t workers);
+  /// `workers` threads will do the portions, in all processes together.
+  PortionDesk(PortionPlan& plan, std::size_t workers);
 
-  /// The next unit; nothing when there is none, or none for now.
-  std::optional<HandedUnit> TryNext();
+  /// The next portion; nothing when there is none, or none for now.
+  std::optional<HandedPortion> TryNext();
 
-  /// The next unit, as soon as there is one; nothing once the part has ended.
-  std::optional<HandedUnit> WaitForNext();
+  /// The next portion, as soon as there is one; nothing once the part has ended.
+  std::optional<HandedPortion> WaitForNext();
 
-  /// Takes the result of a unit, and tells how many items it had. After the end of the part results
-  /// are thrown away.
+  /// Takes the result of a portion, and tells how many items it had. After the end of the part
+  /// results are thrown away.
   std::size_t HandIn(std::uint64_t number, std::string result);
 
   /// Ends the part with a failure. Later ones are only consequences and are passed over.
@@ -52,13 +52,13 @@ class UnitDesk {
   void ThrowFailure() const;
 
  private:
-  std::optional<HandedUnit> NextLocked();
-  std::size_t UnitSize() const;
+  std::optional<HandedPortion> NextLocked();
+  std::size_t PortionSize() const;
   std::size_t LeftInAll() const;
   void TakeInOrder();
   void End() { ended_ = true; }
 
-  UnitPlan& plan_;
+  PortionPlan& plan_;
   const std::size_t groups_;
   const std::size_t items_;
   const std::size_t workers_;
@@ -68,7 +68,7 @@ class UnitDesk {
   std::size_t next_group_ = 0;
   std::size_t next_item_ = 0;
   std::uint64_t first_number_ = 0;              ///< of those in handed_
-  std::deque<WorkUnit> handed_;                 ///< not yet taken, in order
+  std::deque<Portion> handed_;                  ///< not yet taken, in order
   std::map<std::uint64_t, std::string> early_;  ///< results that wait for those before them
   std::size_t early_bytes_ = 0;
   std::exception_ptr failure_;

@@ -5,16 +5,16 @@
 
 #include "allocation/allocation_run.h"
 #include "method/transmission_matrix.h"
-#include "runs/work_units.h"
+#include "runs/portions.h"
 
 namespace kaldo {
 
 /// The allocation of stretches of offspring, each with the loci of one combination.
-class AllocationTask final : public UnitTask {
+class AllocationTask final : public PortionTask {
  public:
   AllocationTask(const AllocationSettings& settings, const AllocationInput& input);
 
-  std::unique_ptr<UnitWorker> MakeWorker() const override;
+  std::unique_ptr<PortionWorker> MakeWorker() const override;
 
  private:
   const AllocationSettings& settings_;
@@ -24,16 +24,16 @@ class AllocationTask final : public UnitTask {
 
 /// Combination by combination, its offspring in file order: fills the counters, the loci and the
 /// outcomes of a result.
-class AllocationPlan final : public UnitPlan {
+class AllocationPlan final : public PortionPlan {
  public:
   AllocationPlan(const AllocationInput& input, AllocationResult& result)
       : input_(input), result_(result) {}
 
   std::size_t Groups() const override { return input_.combinations.size(); }
   std::size_t ItemsPerGroup() const override { return input_.NumberOfOffspring(); }
-  std::size_t MostItemsPerUnit() const override;
-  std::string Order(const WorkUnit& unit) override;
-  bool Take(const WorkUnit& unit, std::string_view result) override;
+  std::size_t MostItemsPerPortion() const override;
+  std::string Order(const Portion& portion) override;
+  bool Take(const Portion& portion, std::string_view result) override;
 
  private:
   const AllocationInput& input_;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "runs/unit_desk.h"
+#include "runs/portion_desk.h"
 
 #include <algorithm>
 #include <cassert>
@@ -8,17 +8,17 @@ namespace kaldo {
 
 namespace {
 
-/// A unit is this part of what every worker would get of the rest: late units are small.
-constexpr std::size_t kUnitsPerWorker = 4;
+/// A portion is this part of what every worker would get of the rest: late portions are small.
+constexpr std::size_t kPortionsPerWorker = 4;
 
-// Handing out ends for a while with so many units per worker on their way, or so many bytes of
+// Handing out ends for a while with so many portions per worker on their way, or so many bytes of
 // results that came early.
-constexpr std::size_t kMostUnitsPerWorker = 32;
+constexpr std::size_t kMostPortionsPerWorker = 32;
 constexpr std::size_t kMostEarlyBytes = std::size_t{64} * 1024 * 1024;
 
 }  // namespace
 
-UnitDesk::UnitDesk(UnitPlan& plan, std::size_t workers)
+PortionDesk::PortionDesk(PortionPlan& plan, std::size_t workers)
     : plan_(plan),
       groups_(plan.Groups()),
       items_(plan.ItemsPerGroup()),
@@ -28,26 +28,26 @@ UnitDesk::UnitDesk(UnitPlan& plan, std::size_t workers)
   }
 }
 
-std::size_t UnitDesk::LeftInAll() const {
+std::size_t PortionDesk::LeftInAll() const {
   return next_group_ == groups_ ? 0 : (groups_ - next_group_) * items_ - next_item_;
 }
 
-std::size_t UnitDesk::UnitSize() const {
+std::size_t PortionDesk::PortionSize() const {
   const std::size_t left_in_group = items_ - next_item_;
   const std::size_t left = plan_.MayEndEarly() ? left_in_group : LeftInAll();
-  const std::size_t wanted = std::max<std::size_t>(left / (kUnitsPerWorker * workers_), 1);
-  return std::min({wanted, plan_.MostItemsPerUnit(), left_in_group});
+  const std::size_t wanted = std::max<std::size_t>(left / (kPortionsPerWorker * workers_), 1);
+  return std::min({wanted, plan_.MostItemsPerPortion(), left_in_group});
 }
 
-std::optional<HandedUnit> UnitDesk::NextLocked() {
-  if (ended_ || next_group_ == groups_ || handed_.size() >= kMostUnitsPerWorker * workers_ ||
+std::optional<HandedPortion> PortionDesk::NextLocked() {
+  if (ended_ || next_group_ == groups_ || handed_.size() >= kMostPortionsPerWorker * workers_ ||
       early_bytes_ >= kMostEarlyBytes) {
     return std::nullopt;
   }
-  const WorkUnit unit{next_group_, next_item_, next_item_ + UnitSize()};
-  HandedUnit handed{first_number_ + handed_.size(), plan_.Order(unit)};
-  handed_.push_back(unit);
-  next_item_ = unit.end;
+  const Portion portion{next_group_, next_item_, next_item_ + PortionSize()};
+  HandedPortion handed{first_number_ + handed_.size(), plan_.Order(portion)};
+  handed_.push_back(portion);
+  next_item_ = portion.end;
   if (next_item_ == items_) {
     next_item_ = 0;
     ++next_group_;
@@ -55,35 +55,35 @@ std::optional<HandedUnit> UnitDesk::NextLocked() {
   return handed;
 }
 
-std::optional<HandedUnit> UnitDesk::TryNext() {
+std::optional<HandedPortion> PortionDesk::TryNext() {
   const std::lock_guard lock(mutex_);
   return NextLocked();
 }
 
-std::optional<HandedUnit> UnitDesk::WaitForNext() {
+std::optional<HandedPortion> PortionDesk::WaitForNext() {
   std::unique_lock lock(mutex_);
-  std::optional<HandedUnit> handed;
+  std::optional<HandedPortion> handed;
   changed_.wait(lock, [&] { return ended_ || (handed = NextLocked()).has_value(); });
   return handed;
 }
 
-void UnitDesk::TakeInOrder() {
+void PortionDesk::TakeInOrder() {
   for (auto first = early_.begin();
        !ended_ && first != early_.end() && first->first == first_number_; first = early_.begin()) {
     const std::string result = std::move(first->second);
     early_bytes_ -= result.size();
     early_.erase(first);
-    const WorkUnit unit = handed_.front();
+    const Portion portion = handed_.front();
     handed_.pop_front();
     ++first_number_;
-    const bool go_on = plan_.Take(unit, result);
+    const bool go_on = plan_.Take(portion, result);
     if (!go_on || (handed_.empty() && next_group_ == groups_)) {
       End();
     }
   }
 }
 
-std::size_t UnitDesk::HandIn(std::uint64_t number, std::string result) {
+std::size_t PortionDesk::HandIn(std::uint64_t number, std::string result) {
   std::size_t items = 0;
   {
     const std::lock_guard lock(mutex_);
@@ -105,7 +105,7 @@ std::size_t UnitDesk::HandIn(std::uint64_t number, std::string result) {
   return items;
 }
 
-void UnitDesk::Fail(std::exception_ptr failure) {
+void PortionDesk::Fail(std::exception_ptr failure) {
   {
     const std::lock_guard lock(mutex_);
     if (!ended_) {
@@ -116,7 +116,7 @@ void UnitDesk::Fail(std::exception_ptr failure) {
   changed_.notify_all();
 }
 
-void UnitDesk::ThrowFailure() const {
+void PortionDesk::ThrowFailure() const {
   const std::lock_guard lock(mutex_);
   if (failure_) {
     std::rethrow_exception(failure_);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "simulation/iteration_units.h"
+#include "simulation/iteration_portions.h"
 
 #include "allocation/reports/matrices_report.h"
 #include "base/byte_packing.h"
@@ -21,7 +21,7 @@ std::string MatricesOf(const SimulationSettings& settings, const SimulationInput
   return text;
 }
 
-class IterationWorker final : public UnitWorker {
+class IterationWorker final : public PortionWorker {
  public:
   IterationWorker(const SimulationSettings& settings, const SimulationInput& input,
                   const SimulationDesign& design, IterationProduct product)
@@ -75,7 +75,7 @@ std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> st
   return packer.Take();
 }
 
-std::unique_ptr<UnitWorker> IterationTask::MakeWorker() const {
+std::unique_ptr<PortionWorker> IterationTask::MakeWorker() const {
   return std::make_unique<IterationWorker>(settings_, input_, design_, product_);
 }
 

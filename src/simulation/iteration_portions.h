@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "runs/work_units.h"
+#include "runs/portions.h"
 #include "simulation/locus_subsets.h"
 #include "simulation/simulation_input.h"
 
@@ -24,13 +24,13 @@ enum class IterationProduct {
 std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> states);
 
 /// The simulation of stretches of iterations.
-class IterationTask final : public UnitTask {
+class IterationTask final : public PortionTask {
  public:
   IterationTask(const SimulationSettings& settings, const SimulationInput& input,
                 const SimulationDesign& design, IterationProduct product)
       : settings_(settings), input_(input), design_(design), product_(product) {}
 
-  std::unique_ptr<UnitWorker> MakeWorker() const override;
+  std::unique_ptr<PortionWorker> MakeWorker() const override;
 
  private:
   const SimulationSettings& settings_;
