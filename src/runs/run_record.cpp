@@ -1,31 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runs/run_record.h"
 
+#include <utf8.h>
+
 #include <fmt/chrono.h>
 #include <fmt/format.h>
 
 namespace kaldo {
 
 namespace {
-
-/// True for well-formed UTF-8, which is all that TOML can hold.
-bool IsUtf8(std::string_view text) {
-  std::size_t at = 0;
-  while (at < text.size()) {
-    const auto lead = static_cast<unsigned char>(text[at]);
-    const std::size_t more = lead < 0x80 ? 0 : lead >= 0xf0 ? 3 : lead >= 0xe0 ? 2 : 1;
-    if ((lead >= 0x80 && lead < 0xc2) || lead > 0xf4 || at + more >= text.size()) {
-      return false;
-    }
-    for (std::size_t i = 1; i <= more; ++i) {
-      if ((static_cast<unsigned char>(text[at + i]) & 0xc0U) != 0x80U) {
-        return false;
-      }
-    }
-    at += more + 1;
-  }
-  return true;
-}
 
 std::string Hexadecimal(std::string_view text) {
   std::string digits(kHexadecimalMark);
@@ -36,7 +19,8 @@ std::string Hexadecimal(std::string_view text) {
 }
 
 std::string TomlText(std::string_view text) {
-  if (!IsUtf8(text) || text.starts_with(kHexadecimalMark)) {
+  // TOML holds well-formed UTF-8 only: no surrogates, no overlong forms.
+  if (!utf8::is_valid(text.begin(), text.end()) || text.starts_with(kHexadecimalMark)) {
     return '"' + Hexadecimal(text) + '"';
   }
   std::string quoted = "\"";

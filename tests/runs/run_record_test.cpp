@@ -16,13 +16,15 @@ namespace {
 
 using test::TempFolder;
 
-/// Texts that a path or a name may be: quotes, backslashes, control characters, other alphabets.
+/// Texts that a path or a name may be: any bytes, quotes, backslashes, control characters, other
+/// alphabets, and what looks like UTF-8 and is not: a surrogate, an overlong "/", one past the last
+/// character.
 rc::Gen<std::string> AnyText() {
-  const auto piece =
-      rc::gen::oneOf(rc::gen::map(rc::gen::inRange(0, 128),
-                                  [](int byte) { return std::string(1, static_cast<char>(byte)); }),
-                     rc::gen::element<std::string>("\"", "\\", "\\u", "'", "\"\"\"", "\n", "é",
-                                                   "鯉", "𝛼", "#", " "));
+  const auto piece = rc::gen::oneOf(
+      rc::gen::map(rc::gen::inRange(0, 256),
+                   [](int byte) { return std::string(1, static_cast<char>(byte)); }),
+      rc::gen::element<std::string>("\"", "\\", "\\u", "'", "\"\"\"", "\n", "é", "鯉", "𝛼", "#",
+                                    " ", "\xed\xa0\x80", "\xc0\xaf", "\xf4\x90\x80\x80"));
   return rc::gen::map(rc::gen::container<std::vector<std::string>>(piece),
                       [](const std::vector<std::string>& pieces) {
                         std::string text;
