@@ -11,45 +11,36 @@ namespace kaldo {
 
 namespace {
 
-constexpr AllocationFileRole kParents{
-    &AllocationSettings::parents_file,
-    "collected parents",
-    "Parent file name is missing!",
-    "Some parental loci are represented with an odd number of digits!",
-    "Parental loci should not contain undefined alleles i.e. represented by a string of 0s!",
-    true};
+constexpr AllocationFileRole kParents{.path = &AllocationSettings::parents_file,
+                                      .name = "collected parents",
+                                      .no_name = ProblemKind::kNoParentsFile,
+                                      .odd_digits = ProblemKind::kOddDigitsInParents,
+                                      .undefined = ProblemKind::kUndefinedInParents,
+                                      .holds_parents = true};
 
-constexpr AllocationFileRole kMales{
-    &AllocationSettings::males_file,
-    "collected males",
-    "Male parent file name is missing!",
-    "Some male parental loci are represented with an odd number of digits!",
-    "Male parental loci should not contain undefined alleles i.e. represented by a string of 0s!",
-    true};
+constexpr AllocationFileRole kMales{.path = &AllocationSettings::males_file,
+                                    .name = "collected males",
+                                    .no_name = ProblemKind::kNoMalesFile,
+                                    .odd_digits = ProblemKind::kOddDigitsInMales,
+                                    .undefined = ProblemKind::kUndefinedInMales,
+                                    .holds_parents = true};
 
-constexpr AllocationFileRole kFemales{
-    &AllocationSettings::females_file,
-    "collected females",
-    "Female parent file name is missing!",
-    "Some female parental loci are represented with an odd number of digits!",
-    "Female parental loci should not contain undefined alleles i.e. represented by a string of 0s!",
-    true};
+constexpr AllocationFileRole kFemales{.path = &AllocationSettings::females_file,
+                                      .name = "collected females",
+                                      .no_name = ProblemKind::kNoFemalesFile,
+                                      .odd_digits = ProblemKind::kOddDigitsInFemales,
+                                      .undefined = ProblemKind::kUndefinedInFemales,
+                                      .holds_parents = true};
 
-constexpr AllocationFileRole kOffspring{
-    &AllocationSettings::offspring_file,
-    "offspring",
-    "Offspring file name is missing!",
-    "Some offspring loci are represented with an odd number of digits!",
-    "Offspring loci should contain totally defined alleles(no string of 0s) or totally undefined "
-    "alleles (two strings of 0s)!",
-    false};
+constexpr AllocationFileRole kOffspring{.path = &AllocationSettings::offspring_file,
+                                        .name = "offspring",
+                                        .no_name = ProblemKind::kNoOffspringFile,
+                                        .odd_digits = ProblemKind::kOddDigitsInOffspring,
+                                        .undefined = ProblemKind::kHalfDefinedInOffspring};
 
-constexpr AllocationFileRole kLoci{&AllocationSettings::loci_file,
-                                   "names of loci",
-                                   "Names of loci file name is missing!",
-                                   {},
-                                   {},
-                                   false};
+constexpr AllocationFileRole kLoci{.path = &AllocationSettings::loci_file,
+                                   .name = "names of loci",
+                                   .no_name = ProblemKind::kNoLociFile};
 
 std::vector<AllocationFileRole> GenotypeRoles(Flow flow) {
   if (flow == Flow::kSexed) {
@@ -62,14 +53,6 @@ RecordLayout LayoutOf(const AllocationFile& file, const LociList& loci) {
   return {loci.Count(), file.SeparatorsHere()};
 }
 
-Problem ProblemWith(const TokenFile& file, std::string sentence, std::string found) {
-  Problem problem;
-  problem.sentence = std::move(sentence);
-  problem.file = file.Path();
-  problem.found = std::move(found);
-  return problem;
-}
-
 /// Males of one group can only meet females of the group of the same number.
 std::optional<Problem> CheckEqualSeparators(const AllocationFiles& files, const LociList& loci) {
   const AllocationFile& males = files.genotypes[0];
@@ -79,21 +62,22 @@ std::optional<Problem> CheckEqualSeparators(const AllocationFiles& files, const 
   if (in_males == in_females) {
     return std::nullopt;
   }
-  Problem problem = ProblemWith(
-      females.tokens, "The male and the female file hold different numbers of separators!",
-      fmt::format("{} separators here, {} in {}; group k of the males meets group k of the females",
-                  in_females, in_males, males.tokens.Path()));
-  problem.silent_in_windows = true;
-  return problem;
+  return Problem{
+      .kind = ProblemKind::kSeparatorsDiffer,
+      .file = females.tokens.Path(),
+      .found = fmt::format(
+          "{} separators here, {} in {}; group k of the males meets group k of the females",
+          in_females, in_males, males.tokens.Path())};
 }
 
 std::optional<Problem> CheckNotEmpty(const AllocationFile& file, const LociList& loci) {
   if (CountIndividuals(file.tokens, LayoutOf(file, loci)) > 0) {
     return std::nullopt;
   }
-  return ProblemWith(file.tokens,
-                     fmt::format("The file of {} holds no individual!", file.role.name),
-                     file.tokens.Tokens().empty() ? "the file is empty" : "");
+  return Problem{.kind = ProblemKind::kNoIndividual,
+                 .subject = std::string(file.role.name),
+                 .file = file.tokens.Path(),
+                 .found = file.tokens.Tokens().empty() ? "the file is empty" : ""};
 }
 
 /// Parents share one table, whatever files they come from; so do the offspring.
@@ -104,9 +88,11 @@ std::optional<Problem> CheckCapacity(const AllocationFiles& files, const LociLis
     parents += file.role.holds_parents ? records : 0;
     const std::size_t in_table = file.role.holds_parents ? parents : records;
     if (in_table > kMaxIndividuals) {
-      return ProblemWith(file.tokens, fmt::format("More than {} individuals!", kMaxIndividuals),
-                         fmt::format("{} records of {}, separators included", in_table,
-                                     file.role.holds_parents ? "parents" : "offspring"));
+      return Problem{.kind = ProblemKind::kTooManyIndividuals,
+                     .subject = fmt::format("{}", kMaxIndividuals),
+                     .file = file.tokens.Path(),
+                     .found = fmt::format("{} records of {}, separators included", in_table,
+                                          file.role.holds_parents ? "parents" : "offspring")};
     }
   }
   return std::nullopt;
@@ -125,9 +111,7 @@ tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSetti
   roles.push_back(kLoci);
   for (const AllocationFileRole& role : roles) {
     if ((settings.*role.path).empty()) {
-      Problem problem;
-      problem.sentence = role.missing_sentence;
-      return tl::unexpected(std::move(problem));
+      return tl::unexpected(Problem{.kind = role.no_name});
     }
   }
   AllocationFiles files;
@@ -153,7 +137,7 @@ std::optional<Problem> CheckAllocationFiles(const AllocationFiles& files, const 
     checks.push_back(
         {&file.tokens, file.SeparatorsHere(),
          file.role.holds_parents ? UndefinedAlleles::kNone : UndefinedAlleles::kWholeLoci,
-         file.role.odd_digits_sentence, file.role.undefined_sentence, !file.role.holds_parents});
+         file.role.odd_digits, file.role.undefined, !file.role.holds_parents});
   }
   return CheckFilesWide(checks, loci, std::move(problem));
 }

@@ -13,13 +13,13 @@
 
 namespace kaldo {
 
-/// What an input file is for, with the sentences that belong to it.
+/// What an input file is for, with the problems that it may have.
 struct AllocationFileRole {
   std::string AllocationSettings::*path = nullptr;
   std::string_view name;  ///< as in messages and run records: "collected males"
-  std::string_view missing_sentence;
-  std::string_view odd_digits_sentence;
-  std::string_view undefined_sentence;
+  ProblemKind no_name = ProblemKind::kNoParentsFile;
+  ProblemKind odd_digits = ProblemKind::kOddDigitsInParents;
+  ProblemKind undefined = ProblemKind::kUndefinedInParents;
   bool holds_parents = false;
 };
 

@@ -72,19 +72,21 @@ Problem TooManyAllelesProblem(const AllocationFiles& files, const AllocationInpu
   const AllocationFile& file = in_first       ? files.genotypes.front()
                                : in_offspring ? files.genotypes.back()
                                               : files.genotypes[1];
-  Problem problem;
-  problem.sentence = fmt::format("More than {} alleles at a locus!", kMaxAlleles);
-  problem.file = file.tokens.Path();
-  problem.record = slot - range.begin + 1;
-  problem.individual = input.table.Name(at.slot).Text();
+  const std::uint32_t record = slot - range.begin + 1;
   RecordCursor cursor(file.tokens.Tokens(), {input.loci.Count(), file.SeparatorsHere()});
-  while (cursor.Record() < problem.record) {
+  while (cursor.Record() < record) {
     cursor.Next();
   }
-  problem.line = cursor.Name().line;
-  problem.locus = input.loci.Name(at.locus);
-  problem.found = "this individual brings the first size too many, parents and offspring together";
-  return problem;
+  return {.kind = ProblemKind::kTooManyAlleles,
+          .subject = fmt::format("{}", kMaxAlleles),
+          .file = file.tokens.Path(),
+          .line = cursor.Name().line,
+          .record = record,
+          .individual = std::string(input.table.Name(at.slot).Text()),
+          .locus = input.loci.Name(at.locus),
+          .found =
+              "this individual brings the first size too many, parents and offspring "
+              "together"};
 }
 
 }  // namespace

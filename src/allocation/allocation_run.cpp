@@ -37,9 +37,7 @@ tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& set
 tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& settings,
                                                    RunObserver& observer, Workforce& workforce) {
   if (settings.project.empty()) {
-    Problem problem;
-    problem.sentence = "Please enter name of project!";
-    return tl::unexpected(std::move(problem));
+    return tl::unexpected(Problem{.kind = ProblemKind::kNoProject});
   }
   auto input = LoadAllocationInput(settings, workforce.Files());
   if (!input) {

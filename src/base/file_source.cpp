@@ -20,11 +20,10 @@ constexpr std::size_t kBlockBytes = std::size_t{1} << 16U;
 }  // namespace
 
 Problem CannotOpenFile(const std::string& path, std::string reason) {
-  Problem problem;
-  problem.sentence = fmt::format("Cannot open file \"{}\"!", path);
-  problem.file = path;
-  problem.found = std::move(reason);
-  return problem;
+  return {.kind = ProblemKind::kCannotOpenFile,
+          .subject = path,
+          .file = path,
+          .found = std::move(reason)};
 }
 
 tl::expected<std::vector<char>, Problem> DiskFiles::Read(const std::string& path) {

@@ -11,7 +11,27 @@ namespace {
 
 constexpr std::size_t kQuotedBytes = 40;
 
+constexpr bool TableFollowsTheKinds() {
+  for (std::size_t kind = 0; kind < kProblemSentences.size(); ++kind) {
+    if (kProblemSentences.at(kind).kind != static_cast<ProblemKind>(kind)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+static_assert(TableFollowsTheKinds(), "a kind has no sentence, or stands at another place");
+
 }  // namespace
+
+std::string SentenceOf(const Problem& problem) {
+  constexpr std::string_view kPlace = "{}";
+  std::string sentence(kProblemSentences.at(static_cast<std::size_t>(problem.kind)).text);
+  if (const auto place = sentence.find(kPlace); place != std::string::npos) {
+    sentence.replace(place, kPlace.size(), problem.subject);
+  }
+  return sentence;
+}
 
 std::string Escaped(std::string_view text) {
   std::string shown;

@@ -6,27 +6,32 @@
 #include <string>
 #include <string_view>
 
+#include "base/problem_kind.h"
+
 namespace kaldo {
 
-/// What is wrong with the files or the choices of a user, as a value: one sentence that never
-/// changes, and where to look. A run does not start while there is a Problem.
+/// What is wrong with the files or the choices of a user, as a value: its kind, and where to look.
+/// A run does not start while there is a Problem. Made with designated initializers:
+/// `Problem{.kind = ProblemKind::kNoLocus, .file = path}`.
 struct Problem {
-  /// The sentence shown first, for instance "Offspring file name is missing!".
-  std::string sentence;
+  ProblemKind kind;  ///< no default: compilers warn of a Problem made without one
+
+  /// What stands for "{}" in the sentence of the kind, for instance the path of a file.
+  std::string subject = {};
 
   // Where it is; empty or 0 where it does not apply.
-  std::string file;
-  std::uint32_t line = 0;    ///< counted from 1
-  std::string individual;    ///< the name at the head of the record
-  std::uint32_t record = 0;  ///< counted from 1, separators included
-  std::string locus;
+  std::string file = {};
+  std::uint32_t line = 0;       ///< counted from 1
+  std::uint32_t record = 0;     ///< counted from 1, separators included
+  std::string individual = {};  ///< the name at the head of the record
+  std::string locus = {};
 
   /// What was found there and what to do, in plain words.
-  std::string found;
-
-  /// True where the windows close without a message (unequal numbers of separators).
-  bool silent_in_windows = false;
+  std::string found = {};
 };
+
+/// The sentence shown first, for instance "Offspring file name is missing!".
+std::string SentenceOf(const Problem& problem);
 
 /// One line of detail below the sentence: `offspring.txt, line 12, record 11 (B07), locus Ssa85:
 /// "95100" has 5 digits ...`. Control characters are shown escaped. Empty when there is nothing to

@@ -48,10 +48,8 @@ std::optional<Problem> CheckParentOptions(const AllocationOptions& options) {
   if (!options.parents || !(options.males || options.females)) {
     return std::nullopt;
   }
-  Problem problem;
-  problem.sentence = "Choose one file of parents, or one of males and one of females!";
-  problem.found = "--parents goes without --males and --females";
-  return problem;
+  return Problem{.kind = ProblemKind::kParentsAndSexes,
+                 .found = "--parents goes without --males and --females"};
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ constexpr std::string_view kExamples =
     "Exit codes: 0 done, 1 failed while running, 2 bad input or usage, 130 stopped by Ctrl-C.";
 
 ExitCode Tell(const Problem& problem, const CommandLineStreams& streams) {
-  streams.err << problem.sentence << '\n';
+  streams.err << SentenceOf(problem) << '\n';
   if (const std::string detail = DetailLine(problem); !detail.empty()) {
     streams.err << detail << '\n';
   }
@@ -152,11 +152,10 @@ ExitCode RunRerun(const std::string& path, const std::optional<std::string>& thr
     return Repeat(SimulationSettingsOf(*record, path), threads, streams, workforce,
                   SimulateAndTell);
   }
-  Problem problem;
-  problem.sentence = "This run record cannot be used!";
-  problem.file = path;
-  problem.found = fmt::format("the flow {} is not known", Quoted(flow));
-  return Tell(problem, streams);
+  return Tell({.kind = ProblemKind::kUnusableRunRecord,
+               .file = path,
+               .found = fmt::format("the flow {} is not known", Quoted(flow))},
+              streams);
 }
 
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }

@@ -14,11 +14,8 @@ namespace {
 
 constexpr unsigned kMostThreads = 1024;
 
-tl::unexpected<Problem> Fault(std::string_view sentence, std::string found) {
-  Problem problem;
-  problem.sentence = sentence;
-  problem.found = std::move(found);
-  return tl::unexpected(std::move(problem));
+tl::unexpected<Problem> Fault(ProblemKind kind, std::string found) {
+  return tl::unexpected(Problem{.kind = kind, .found = std::move(found)});
 }
 
 std::string_view Trimmed(std::string_view text) {
@@ -34,7 +31,7 @@ tl::expected<std::vector<double>, Problem> ParseProbabilities(std::string_view t
   for (const std::string& part : ParseNames(text)) {
     const auto value = ParseDouble(part);
     if (!value) {
-      return Fault("A probability is not understood!",
+      return Fault(ProblemKind::kNotAProbability,
                    fmt::format("--error: {} is not a number such as 0.008", Quoted(part)));
     }
     values.push_back(*value);
@@ -48,7 +45,7 @@ tl::expected<std::int32_t, Problem> ParseWholeOption(std::string_view option,
                                                      std::string_view text) {
   const auto value = ParseInteger(text);
   if (!value) {
-    return Fault("A whole number is wanted!",
+    return Fault(ProblemKind::kNotWhole,
                  fmt::format("{}: {} is not a whole number", option, Quoted(text)));
   }
   return *value;
@@ -57,7 +54,7 @@ tl::expected<std::int32_t, Problem> ParseWholeOption(std::string_view option,
 tl::expected<double, Problem> ParseRealOption(std::string_view option, std::string_view text) {
   const auto value = ParseDouble(text);
   if (!value) {
-    return Fault("A number is wanted!",
+    return Fault(ProblemKind::kNotANumber,
                  fmt::format("{}: {} is not a number such as 10.5", option, Quoted(text)));
   }
   return *value;
@@ -92,7 +89,7 @@ tl::expected<ErrorModel, Problem> ParseErrorModel(std::string_view text) {
     model.plus2 = (*values)[4];
     return model;
   }
-  return Fault("Choose a model of error",
+  return Fault(ProblemKind::kNoErrorModel,
                fmt::format("--error: {} is none of: none, uniform=EPS, nonuniform, "
                            "nonuniform=M2,M1,FOCAL,P1,P2 (probabilities with a decimal point)",
                            Quoted(text)));
@@ -117,7 +114,7 @@ tl::expected<std::vector<std::int32_t>, Problem> ParseSequence(std::string_view 
   for (const std::string& part : ParseNames(text)) {
     const auto index = ParseInteger(part);
     if (!index) {
-      return Fault(kSequenceHasZero,
+      return Fault(ProblemKind::kSequenceHasZero,
                    fmt::format("--sequence: {} is not a whole number", Quoted(part)));
     }
     indices.push_back(*index);
@@ -129,7 +126,7 @@ tl::expected<std::uint32_t, Problem> ParseSeed(std::string_view text) {
   const auto seed = ParseSeedNumber(text);
   if (!seed) {
     return Fault(
-        "That seed is not possible!",
+        ProblemKind::kNotASeed,
         fmt::format("--seed: {} is not a whole number from 0 to 4294967295", Quoted(text)));
   }
   return *seed;
@@ -141,7 +138,7 @@ tl::expected<unsigned, Problem> ParseThreads(std::string_view text) {
     return tl::unexpected(threads.error());
   }
   if (*threads < 1 || *threads > static_cast<std::int32_t>(kMostThreads)) {
-    return Fault("That number of threads is not possible!",
+    return Fault(ProblemKind::kNotAThreadCount,
                  fmt::format("--threads: {} is not between 1 and {}", *threads, kMostThreads));
   }
   return static_cast<unsigned>(*threads);

@@ -96,11 +96,8 @@ void AddOutput(CLI::App& command, SimulationOptions& options) {
       "Threads; default: all cores (kaldo-mpi: 1 per process). The results never depend on it");
 }
 
-tl::unexpected<Problem> Usage(std::string sentence, std::string found) {
-  Problem problem;
-  problem.sentence = std::move(sentence);
-  problem.found = std::move(found);
-  return tl::unexpected(std::move(problem));
+tl::unexpected<Problem> Usage(ProblemKind kind, std::string found) {
+  return tl::unexpected(Problem{.kind = kind, .found = std::move(found)});
 }
 
 bool AnyGiven(const ParentalSetOptions& set) {
@@ -138,7 +135,7 @@ class OptionReader {
  private:
   template <typename Number>
   static tl::expected<Number, Problem> MissingNumber(const std::string& option) {
-    return Usage("A number is missing!", fmt::format("{} is needed", option));
+    return Usage(ProblemKind::kNumberMissing, fmt::format("{} is needed", option));
   }
 
   std::optional<Problem> fault_;
@@ -184,7 +181,7 @@ tl::expected<LociStrategy, Problem> StrategyFrom(std::string_view name) {
     return LociStrategy::kCumulative;
   }
   return Usage(
-      "Please, choose a procedure to run with !",
+      ProblemKind::kNoStrategy,
       fmt::format("--strategy: {} is none of: choice, all, minimal, cumulative", Quoted(name)));
 }
 
@@ -204,7 +201,7 @@ tl::expected<KeptFiles, Problem> KeptFrom(std::string_view text) {
       kept.matrices = true;
     }
     if (name != "parents" && name != "offspring" && name != "matrices" && name != "all") {
-      return Usage("There is no such kind of file to keep!",
+      return Usage(ProblemKind::kUnknownKeptFile,
                    fmt::format("--keep: {} is none of: parents, offspring, matrices, all, none",
                                Quoted(name)));
     }
@@ -216,14 +213,14 @@ tl::expected<KeptFiles, Problem> KeptFrom(std::string_view text) {
 std::optional<Problem> CheckParents(const SimulationOptions& options) {
   if (options.sexed ? AnyGiven(options.parents)
                     : AnyGiven(options.males) || AnyGiven(options.females)) {
-    return Usage("Choose options for parents, or with --sexed for males and females!",
+    return Usage(ProblemKind::kOptionsOfOtherFlow,
                  options.sexed ? "--sexed goes with the options of males and females"
                                : "the options of males and females go with --sexed")
         .value();
   }
   for (const ParentalSetOptions* set : {&options.parents, &options.males, &options.females}) {
     if (set->collected && (set->pseudo_collected_sample || set->pseudo_collected)) {
-      return Usage("Choose collected or pseudo-collected parents!",
+      return Usage(ProblemKind::kCollectedAndPseudoCollected,
                    "collected parents are read, pseudo-collected ones are drawn from a sample")
           .value();
     }
@@ -231,7 +228,7 @@ std::optional<Problem> CheckParents(const SimulationOptions& options) {
   if (options.sexed &&
       options.males.collected.has_value() != options.females.collected.has_value() &&
       (options.males.pseudo_collected_sample || options.females.pseudo_collected_sample)) {
-    return Usage("Choose collected or pseudo-collected parents!",
+    return Usage(ProblemKind::kCollectedAndPseudoCollected,
                  "males and females come from files of parents, or both from samples")
         .value();
   }

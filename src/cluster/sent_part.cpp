@@ -19,7 +19,7 @@ namespace {
 template <typename Value>
 Value Expect(tl::expected<Value, Problem> value) {
   if (!value) {
-    throw RunFailure(fmt::format("{} {}", value.error().sentence, DetailLine(value.error())));
+    throw RunFailure(fmt::format("{} {}", SentenceOf(value.error()), DetailLine(value.error())));
   }
   return std::move(*value);
 }

@@ -90,7 +90,7 @@ FileSummary Summarize(const TokenFile& file, RecordLayout layout) {
   summary.leftover_words = (counts.tokens - counts.separators) % (layout.number_of_loci + 1);
   SummarizeRecords(file.Tokens(), layout, summary);
   if (summary.leftover_words != 0 || summary.not_digits.count != 0) {
-    if (const auto problem = FindMisshapenRecord(file, layout)) {
+    if (const auto problem = FindMisshapenRecord(file, layout, ProblemKind::kWrongFieldCount)) {
       summary.misshapen = FilePlace{{}, problem->individual, problem->line};
     }
   }

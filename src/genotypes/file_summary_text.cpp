@@ -182,8 +182,7 @@ std::string DescribeLociFile(const std::string& path) {
   }
   const auto tokens = file->Tokens();
   if (const auto problem = CheckLoci(*file)) {
-    // The sentence with a colon for its exclamation mark.
-    return problem->sentence.substr(0, problem->sentence.size() - 1) + ": " + problem->found;
+    return SentenceOf(*problem) + ' ' + problem->found;
   }
   std::vector<std::string> names;
   for (const Token& token : tokens.first(std::min(tokens.size(), kShownLoci))) {

@@ -44,16 +44,14 @@ void ForEachField(std::span<const Token> tokens, RecordLayout layout, std::size_
 }
 
 Problem ProblemAt(const FieldPlace& place, const FileWideCheck& check, const LociList& loci,
-                  std::string_view sentence, std::string found) {
-  Problem problem;
-  problem.sentence = sentence;
-  problem.file = check.file->Path();
-  problem.line = place.field.line;
-  problem.individual = place.name.text;
-  problem.record = place.record;
-  problem.locus = loci.Names()[place.locus];
-  problem.found = std::move(found);
-  return problem;
+                  ProblemKind kind, std::string found) {
+  return {.kind = kind,
+          .file = check.file->Path(),
+          .line = place.field.line,
+          .record = place.record,
+          .individual = std::string(place.name.text),
+          .locus = loci.Names()[place.locus],
+          .found = std::move(found)};
 }
 
 Problem OddDigits(const FileWideCheck& check, const LociList& loci, RecordLayout layout,
@@ -61,27 +59,24 @@ Problem OddDigits(const FileWideCheck& check, const LociList& loci, RecordLayout
   const auto tokens = check.file->Tokens();
   const bool torn = (counts.tokens - counts.separators) % (layout.number_of_loci + 1) != 0;
   if (torn || !odd || !IsAllDigits(odd->field.text)) {
-    if (auto problem = FindMisshapenRecord(*check.file, layout)) {
-      problem->sentence = check.odd_digits_sentence;
+    if (auto problem = FindMisshapenRecord(*check.file, layout, check.odd_digits)) {
       return *problem;
     }
   }
   if (odd) {
     if (IsEven(odd->field.text)) {
-      return ProblemAt(*odd, check, loci, check.odd_digits_sentence,
+      return ProblemAt(*odd, check, loci, check.odd_digits,
                        fmt::format("{} stands where a genotype should", Quoted(odd->field.text)));
     }
     return ProblemAt(
-        *odd, check, loci, check.odd_digits_sentence,
+        *odd, check, loci, check.odd_digits,
         fmt::format("{} has {} characters; both alleles need the same number of digits",
                     Quoted(odd->field.text), odd->field.text.size()));
   }
-  Problem problem;
-  problem.sentence = check.odd_digits_sentence;
-  problem.file = check.file->Path();
-  problem.found = fmt::format("{} words do not make whole records of a name and {} fields",
-                              tokens.size(), layout.number_of_loci);
-  return problem;
+  return {.kind = check.odd_digits,
+          .file = check.file->Path(),
+          .found = fmt::format("{} words do not make whole records of a name and {} fields",
+                               tokens.size(), layout.number_of_loci)};
 }
 
 }  // namespace
@@ -115,7 +110,7 @@ std::optional<Problem> CheckFileWide(const FileWideCheck& check, const LociList&
   }
   if (first_undefined) {
     return ProblemAt(
-        *first_undefined, check, loci, check.undefined_sentence,
+        *first_undefined, check, loci, check.undefined,
         fmt::format("{} holds an undefined allele", Quoted(first_undefined->field.text)));
   }
   return std::nullopt;
@@ -128,7 +123,7 @@ std::optional<Problem> CheckFilesWide(std::span<const FileWideCheck> checks, con
     if (!problem) {
       continue;
     }
-    if (check.odd_digits_ends_checks && problem->sentence == check.odd_digits_sentence) {
+    if (check.odd_digits_ends_checks && problem->kind == check.odd_digits) {
       return problem;
     }
     earlier = std::move(problem);

@@ -3,7 +3,6 @@
 
 #include <optional>
 #include <span>
-#include <string_view>
 
 #include "genotypes/loci_list.h"
 #include "genotypes/record_cursor.h"
@@ -16,13 +15,13 @@ enum class UndefinedAlleles {
   kWholeLoci,  ///< offspring and samples: both alleles of a locus or neither
 };
 
-/// What one genotype file of a screen is tested for, and the sentences that tell its faults.
+/// What one genotype file of a screen is tested for, and the kinds of problem that tell its faults.
 struct FileWideCheck {
   const TokenFile* file = nullptr;
   Separators separators = Separators::kNone;
   UndefinedAlleles undefined_alleles = UndefinedAlleles::kNone;
-  std::string_view odd_digits_sentence;
-  std::string_view undefined_sentence;
+  ProblemKind odd_digits = ProblemKind::kOddDigitsInParents;
+  ProblemKind undefined = ProblemKind::kUndefinedInParents;
   /// True where an odd number of digits is told at once, whatever was found before.
   bool odd_digits_ends_checks = false;
 };

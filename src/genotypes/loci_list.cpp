@@ -32,65 +32,57 @@ std::optional<Problem> LociList::Use(const std::vector<std::string>& names) {
   for (const std::string& name : names) {
     const auto found = std::find(names_.begin(), names_.end(), name);
     if (found == names_.end()) {
-      Problem problem;
-      problem.sentence = "There is no locus of that name!";
-      problem.found =
-          fmt::format("{} is none of the {} names of the names-of-loci file: {}", Quoted(name),
-                      names_.size(), Escaped(fmt::format("{}", fmt::join(names_, " "))));
-      return problem;
+      return Problem{.kind = ProblemKind::kUnknownLocus,
+                     .found = fmt::format(
+                         "{} is none of the {} names of the names-of-loci file: {}", Quoted(name),
+                         names_.size(), Escaped(fmt::format("{}", fmt::join(names_, " "))))};
     }
     in_use[static_cast<std::size_t>(found - names_.begin())] = true;
   }
   if (names.empty()) {
-    Problem problem;
-    problem.sentence = kNoLocusInUse;
-    return problem;
+    return Problem{.kind = ProblemKind::kNoLocusInUse};
   }
   in_use_ = std::move(in_use);
   return std::nullopt;
 }
 
-namespace {
-
-Problem LociProblem(const TokenFile& file, const Token& token, std::string sentence,
-                    std::string found) {
-  Problem problem;
-  problem.sentence = std::move(sentence);
-  problem.file = file.Path();
-  problem.line = token.line;
-  problem.locus = std::string(token.text.substr(0, kMaxLocusNameLength));
-  problem.found = std::move(found);
-  return problem;
-}
-
-}  // namespace
-
 std::optional<Problem> CheckLoci(const TokenFile& file) {
   const auto tokens = file.Tokens();
   if (tokens.empty()) {
-    Problem problem;
-    problem.sentence = "The names of loci file holds no locus!";
-    problem.file = file.Path();
-    problem.found = "the file is empty; write one name per locus";
-    return problem;
+    return Problem{.kind = ProblemKind::kNoLocus,
+                   .file = file.Path(),
+                   .found = "the file is empty; write one name per locus"};
   }
+  const auto shown = [](const Token& token) {
+    return std::string(token.text.substr(0, kMaxLocusNameLength));
+  };
   if (tokens.size() > kMaxLoci) {
-    return LociProblem(file, tokens[kMaxLoci], fmt::format("More than {} loci!", kMaxLoci),
-                       fmt::format("the file names {} loci", tokens.size()));
+    return Problem{.kind = ProblemKind::kTooManyLoci,
+                   .subject = fmt::format("{}", kMaxLoci),
+                   .file = file.Path(),
+                   .line = tokens[kMaxLoci].line,
+                   .locus = shown(tokens[kMaxLoci]),
+                   .found = fmt::format("the file names {} loci", tokens.size())};
   }
   std::unordered_map<std::string_view, std::uint32_t> line_of;
   for (const Token& token : tokens) {
     if (token.text.size() > kMaxLocusNameLength) {
-      return LociProblem(
-          file, token,
-          fmt::format("A locus name has more than {} characters!", kMaxLocusNameLength),
-          fmt::format("{} has {} characters", Quoted(token.text), token.text.size()));
+      return Problem{
+          .kind = ProblemKind::kLocusNameTooLong,
+          .subject = fmt::format("{}", kMaxLocusNameLength),
+          .file = file.Path(),
+          .line = token.line,
+          .locus = shown(token),
+          .found = fmt::format("{} has {} characters", Quoted(token.text), token.text.size())};
     }
     const auto [earlier, is_new] = line_of.emplace(token.text, token.line);
     if (!is_new) {
-      return LociProblem(
-          file, token, "Two loci have the same name!",
-          fmt::format("{} stands in line {} already", Quoted(token.text), earlier->second));
+      return Problem{.kind = ProblemKind::kLocusNameTwice,
+                     .file = file.Path(),
+                     .line = token.line,
+                     .locus = shown(token),
+                     .found = fmt::format("{} stands in line {} already", Quoted(token.text),
+                                          earlier->second)};
     }
   }
   return std::nullopt;

@@ -3,7 +3,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "genotypes/token_file.h"
@@ -36,9 +35,6 @@ class LociList {
   std::vector<std::string> names_;
   std::vector<bool> in_use_;
 };
-
-/// Told when no locus is left in use.
-inline constexpr std::string_view kNoLocusInUse = "Choose at least one locus!";
 
 /// What no names-of-loci file may have: no name, more than 50, a name over 14 bytes, a name twice.
 std::optional<Problem> CheckLoci(const TokenFile& file);

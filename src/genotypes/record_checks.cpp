@@ -31,18 +31,6 @@ bool IsOneRecord(Line line, RecordLayout layout) {
                                                : line.size() == layout.number_of_loci + 1;
 }
 
-Problem ProblemOf(const TokenFile& file, std::uint32_t line, std::uint32_t record,
-                  std::string_view individual, std::string sentence, std::string found) {
-  Problem problem;
-  problem.sentence = std::move(sentence);
-  problem.file = file.Path();
-  problem.line = line;
-  problem.record = record;
-  problem.individual = individual;
-  problem.found = std::move(found);
-  return problem;
-}
-
 std::string FieldCountText(Line line, RecordLayout layout) {
   std::string text = fmt::format("fields after the name: {}, loci named: {}", line.size() - 1,
                                  layout.number_of_loci);
@@ -55,45 +43,45 @@ std::string FieldCountText(Line line, RecordLayout layout) {
 }
 
 Problem WrongFieldCount(const TokenFile& file, RecordLayout layout) {
-  if (auto problem = FindMisshapenRecord(file, layout)) {
-    problem->sentence = "A record has a wrong number of fields!";
+  if (auto problem = FindMisshapenRecord(file, layout, ProblemKind::kWrongFieldCount)) {
     return *problem;
   }
   RecordCursor cursor(file.Tokens(), layout);
   do {
     cursor.Next();
   } while (!cursor.AtEnd());
-  return ProblemOf(file, cursor.Name().line, cursor.Record(), cursor.Name().text,
-                   "A record has a wrong number of fields!",
-                   fmt::format("the file ends after {} of its {} fields", cursor.Fields().size(),
-                               layout.number_of_loci));
+  return {.kind = ProblemKind::kWrongFieldCount,
+          .file = file.Path(),
+          .line = cursor.Name().line,
+          .record = cursor.Record(),
+          .individual = std::string(cursor.Name().text),
+          .found = fmt::format("the file ends after {} of its {} fields", cursor.Fields().size(),
+                               layout.number_of_loci)};
 }
 
-/// What is wrong with one genotype field by itself; empty when nothing is.
-struct FieldFault {
-  std::string sentence;
-  std::string found;
-};
-
-FieldFault FaultOfField(std::string_view field, std::size_t digits_per_field) {
+/// What is wrong with one genotype field by itself, without its place.
+std::optional<Problem> FaultOfField(std::string_view field, std::size_t digits_per_field) {
   if (!IsAllDigits(field)) {
-    return {"A genotype field is not all digits!",
-            fmt::format("{} should be both allele sizes as digits side by side", Quoted(field))};
+    return Problem{.kind = ProblemKind::kFieldNotDigits,
+                   .found = fmt::format("{} should be both allele sizes as digits side by side",
+                                        Quoted(field))};
   }
   if (field.size() != digits_per_field) {
     std::string advice;
     if (field.size() < digits_per_field) {
       advice = "; spreadsheets drop leading zeros: write them again or correct the field";
     }
-    return {"A genotype field has another number of digits!",
-            fmt::format("{} has {} digits, the first parents file uses {}{}", Quoted(field),
-                        field.size(), digits_per_field, advice)};
+    return Problem{.kind = ProblemKind::kFieldOfOtherWidth,
+                   .found = fmt::format("{} has {} digits, the first parents file uses {}{}",
+                                        Quoted(field), field.size(), digits_per_field, advice)};
   }
   if (field.size() > 2 * kMaxAlleleDigits || field.size() % 2 != 0) {
-    return {fmt::format("An allele has more than {} digits!", kMaxAlleleDigits),
-            fmt::format("{} has {} digits for both alleles", Quoted(field), field.size())};
+    return Problem{
+        .kind = ProblemKind::kAlleleTooLong,
+        .subject = fmt::format("{}", kMaxAlleleDigits),
+        .found = fmt::format("{} has {} digits for both alleles", Quoted(field), field.size())};
   }
-  return {};
+  return std::nullopt;
 }
 
 }  // namespace
@@ -111,7 +99,8 @@ ZeroHalves ZeroHalvesOf(std::string_view field) {
   return {zeros(field.substr(0, half)), zeros(field.substr(half))};
 }
 
-std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout) {
+std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout,
+                                           ProblemKind kind) {
   const auto lines = LinesOf(file.Tokens());
   const auto regular = std::count_if(lines.begin(), lines.end(),
                                      [layout](Line line) { return IsOneRecord(line, layout); });
@@ -123,9 +112,12 @@ std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout l
   if (odd_one == lines.end()) {
     return std::nullopt;
   }
-  return ProblemOf(file, odd_one->front().line,
-                   static_cast<std::uint32_t>(odd_one - lines.begin()) + 1, odd_one->front().text,
-                   "", FieldCountText(*odd_one, layout));
+  return Problem{.kind = kind,
+                 .file = file.Path(),
+                 .line = odd_one->front().line,
+                 .record = static_cast<std::uint32_t>(odd_one - lines.begin()) + 1,
+                 .individual = std::string(odd_one->front().text),
+                 .found = FieldCountText(*odd_one, layout)};
 }
 
 std::size_t DigitsPerField(const TokenFile& first_parents_file, RecordLayout layout) {
@@ -151,23 +143,32 @@ std::optional<Problem> CheckRecords(const TokenFile& file, RecordLayout layout,
     const Token& name = cursor.Name();
     for (std::size_t locus = 0; locus < cursor.Fields().size(); ++locus) {
       const Token& field = cursor.Fields()[locus];
-      FieldFault fault = FaultOfField(field.text, digits_per_field);
-      if (fault.sentence.empty()) {
+      auto fault = FaultOfField(field.text, digits_per_field);
+      if (!fault) {
         continue;
       }
       // A name where a genotype should be means that an earlier record lost or gained a field.
-      if (!IsAllDigits(field.text) && FindMisshapenRecord(file, layout)) {
-        return WrongFieldCount(file, layout);
+      if (fault->kind == ProblemKind::kFieldNotDigits) {
+        if (auto torn = FindMisshapenRecord(file, layout, ProblemKind::kWrongFieldCount)) {
+          return torn;
+        }
       }
-      Problem problem = ProblemOf(file, field.line, cursor.Record(), name.text,
-                                  std::move(fault.sentence), std::move(fault.found));
-      problem.locus = loci.Names()[locus];
-      return problem;
+      fault->file = file.Path();
+      fault->line = field.line;
+      fault->record = cursor.Record();
+      fault->individual = name.text;
+      fault->locus = loci.Names()[locus];
+      return fault;
     }
     if (!cursor.IsSeparator() && name.text.size() > kMaxNameLength) {
-      return ProblemOf(file, name.line, cursor.Record(), name.text,
-                       fmt::format("A name has more than {} characters!", kMaxNameLength),
-                       fmt::format("{} has {} characters", Quoted(name.text), name.text.size()));
+      return Problem{
+          .kind = ProblemKind::kNameTooLong,
+          .subject = fmt::format("{}", kMaxNameLength),
+          .file = file.Path(),
+          .line = name.line,
+          .record = cursor.Record(),
+          .individual = std::string(name.text),
+          .found = fmt::format("{} has {} characters", Quoted(name.text), name.text.size())};
     }
   }
   return std::nullopt;

@@ -20,8 +20,9 @@ struct ZeroHalves {
 ZeroHalves ZeroHalvesOf(std::string_view field);
 
 /// Looks for a line with too few or too many fields in a file that otherwise has one record a line.
-/// The Problem found has no sentence yet. Nothing is found in files laid out in another way.
-std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout);
+/// It is told as a Problem of that kind. Nothing is found in files laid out in another way.
+std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout,
+                                           ProblemKind kind);
 
 /// The number of digits of a genotype field (both alleles) of a run: that of the first field of the
 /// first parents file. 0 when the file has no individual.

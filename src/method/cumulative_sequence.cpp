@@ -8,17 +8,6 @@
 
 namespace kaldo {
 
-namespace {
-
-Problem Fault(std::string_view sentence, std::string found) {
-  Problem problem;
-  problem.sentence = sentence;
-  problem.found = std::move(found);
-  return problem;
-}
-
-}  // namespace
-
 std::vector<std::int32_t> FileOrderSequence(std::size_t number_of_loci) {
   std::vector<std::int32_t> indices(number_of_loci);
   std::iota(indices.begin(), indices.end(), 1);
@@ -29,20 +18,22 @@ std::optional<Problem> CheckSequence(std::span<const std::int32_t> indices,
                                      std::size_t number_of_loci) {
   const auto n = static_cast<std::int64_t>(number_of_loci);
   if (const auto zero = std::find(indices.begin(), indices.end(), 0); zero != indices.end()) {
-    return Fault(kSequenceHasZero, fmt::format("index {} is 0", zero - indices.begin() + 1));
+    return Problem{.kind = ProblemKind::kSequenceHasZero,
+                   .found = fmt::format("index {} is 0", zero - indices.begin() + 1)};
   }
   const auto too_large =
       std::find_if(indices.begin(), indices.end(), [n](std::int32_t index) { return index > n; });
   if (too_large != indices.end()) {
-    return Fault("Set of indices has to run from 1 to the total number of loci. Not farther!",
-                 fmt::format("index {} is {}, there are {} loci", too_large - indices.begin() + 1,
-                             *too_large, n));
+    return Problem{.kind = ProblemKind::kSequenceIndexTooLarge,
+                   .found = fmt::format("index {} is {}, there are {} loci",
+                                        too_large - indices.begin() + 1, *too_large, n)};
   }
   const std::int64_t sum = std::accumulate(indices.begin(), indices.end(), std::int64_t{0});
   if (indices.size() != number_of_loci || sum != n * (n + 1) / 2) {
-    return Fault("Set of indices has to run from 1 to the total number of loci.",
-                 fmt::format("{} indices sum to {}; {} loci need {} indices with the sum {}",
-                             indices.size(), sum, n, n, n * (n + 1) / 2));
+    return Problem{
+        .kind = ProblemKind::kSequenceSum,
+        .found = fmt::format("{} indices sum to {}; {} loci need {} indices with the sum {}",
+                             indices.size(), sum, n, n, n * (n + 1) / 2)};
   }
   return std::nullopt;
 }

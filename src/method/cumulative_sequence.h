@@ -4,17 +4,12 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <string_view>
 #include <vector>
 
 #include "base/problem.h"
 #include "genotypes/units.h"
 
 namespace kaldo {
-
-/// Told when a field of the sequence is 0 or no whole number.
-inline constexpr std::string_view kSequenceHasZero =
-    "Set of indices has to run from 1 to the total number of loci. No zero! Only integers!";
 
 /// The indices 1, 2, ..., n: the loci enter in file order.
 std::vector<std::int32_t> FileOrderSequence(std::size_t number_of_loci);

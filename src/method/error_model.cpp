@@ -14,13 +14,6 @@ namespace {
 constexpr double kLargestEpsilon = 0.1;
 constexpr double kSmallestFocal = 0.9;
 
-Problem Fault(std::string sentence, std::string found) {
-  Problem problem;
-  problem.sentence = std::move(sentence);
-  problem.found = std::move(found);
-  return problem;
-}
-
 std::string FiveValues(const ErrorModel& model, std::string_view separator) {
   return fmt::format("{1}{0}{2}{0}{3}{0}{4}{0}{5}", separator, FormatDouble(model.minus2),
                      FormatDouble(model.minus1), FormatDouble(model.focal),
@@ -31,20 +24,20 @@ std::optional<Problem> ValidateUniform(const ErrorModel& model) {
   if (model.epsilon <= kLargestEpsilon && std::isfinite(model.epsilon)) {
     return std::nullopt;
   }
-  return Fault("Espilon should be between 0 and 0.1",
-               fmt::format("epsilon is {}", FormatDouble(model.epsilon)));
+  return Problem{.kind = ProblemKind::kEpsilonOutOfRange,
+                 .found = fmt::format("epsilon is {}", FormatDouble(model.epsilon))};
 }
 
 std::optional<Problem> ValidateNonUniform(const ErrorModel& model) {
   const double sum = model.minus2 + model.minus1 + model.focal + model.plus1 + model.plus2;
   if (sum != 1.0) {
-    return Fault("Sum of probability must be 1 ! ",
-                 fmt::format("{} sum to {}", FiveValues(model, " + "), fmt::format("{}", sum)));
+    return Problem{.kind = ProblemKind::kProbabilitySum,
+                   .found = fmt::format("{} sum to {}", FiveValues(model, " + "), sum)};
   }
   if (!(model.focal >= kSmallestFocal && model.focal <= 1.0)) {
-    return Fault("Error sum should not exceed 0.1!",
-                 fmt::format("the focal probability is {}, at least 0.9 is wanted",
-                             FormatDouble(model.focal)));
+    return Problem{.kind = ProblemKind::kErrorSumTooLarge,
+                   .found = fmt::format("the focal probability is {}, at least 0.9 is wanted",
+                                        FormatDouble(model.focal))};
   }
   return std::nullopt;
 }
@@ -62,7 +55,7 @@ std::optional<Problem> ValidateForAllocation(const ErrorModel& model) {
     case ErrorKind::kNotChosen:
       break;
   }
-  return Fault("Choose a model of error", "");
+  return Problem{.kind = ProblemKind::kNoErrorModel};
 }
 
 std::string Describe(const ErrorModel& model) {

@@ -9,10 +9,8 @@ std::optional<Problem> ValidateTolerance(OffsetTolerance tolerance) {
   if (tolerance.Value() >= 0) {
     return std::nullopt;
   }
-  Problem problem;
-  problem.sentence = "Enter a positive number";
-  problem.found = fmt::format("the maximal offset tolerance is {}", tolerance.Value());
-  return problem;
+  return Problem{.kind = ProblemKind::kNegativeTolerance,
+                 .found = fmt::format("the maximal offset tolerance is {}", tolerance.Value())};
 }
 
 ToleranceVerdict CheckTolerance(std::span<const UnitDistances> offsets, OffsetTolerance tolerance) {

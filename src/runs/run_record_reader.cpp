@@ -11,15 +11,6 @@ namespace kaldo {
 
 namespace {
 
-Problem NotARecord(const std::string& path, std::string found, std::uint32_t line = 0) {
-  Problem problem;
-  problem.sentence = "This is not a run record!";
-  problem.file = path;
-  problem.line = line;
-  problem.found = std::move(found);
-  return problem;
-}
-
 std::string Decoded(std::string text) {
   if (!text.starts_with(kHexadecimalMark)) {
     return text;
@@ -136,11 +127,7 @@ std::optional<Problem> RecordedSettings::Fault(const std::string& path) const {
   if (fault_.empty()) {
     return std::nullopt;
   }
-  Problem problem;
-  problem.sentence = "This run record cannot be used!";
-  problem.file = path;
-  problem.found = fault_;
-  return problem;
+  return Problem{.kind = ProblemKind::kUnusableRunRecord, .file = path, .found = fault_};
 }
 
 tl::expected<RunRecord, Problem> ReadRunRecord(const std::string& path) {
@@ -157,12 +144,16 @@ tl::expected<RunRecord, Problem> ParseRunRecord(std::string_view text, const std
   try {
     table = toml::parse(text, path);
   } catch (const toml::parse_error& error) {
-    return tl::unexpected(
-        NotARecord(path, std::string(error.description()), error.source().begin.line));
+    return tl::unexpected(Problem{.kind = ProblemKind::kNotARunRecord,
+                                  .file = path,
+                                  .line = error.source().begin.line,
+                                  .found = std::string(error.description())});
   }
   const toml::table* settings = table["settings"].as_table();
   if (TextOf(table, "program") != "KALDO" || settings == nullptr) {
-    return tl::unexpected(NotARecord(path, "program = \"KALDO\" and [settings] are missing"));
+    return tl::unexpected(Problem{.kind = ProblemKind::kNotARunRecord,
+                                  .file = path,
+                                  .found = "program = \"KALDO\" and [settings] are missing"});
   }
   RunRecord record;
   record.version = TextOf(table, "version");
@@ -176,9 +167,12 @@ tl::expected<RunRecord, Problem> ParseRunRecord(std::string_view text, const std
   for (const auto& [key, node] : *settings) {
     const auto value = ValueOf(node);
     if (!value) {
-      return tl::unexpected(NotARecord(
-          path, fmt::format("the setting {} has no value of a known kind", std::string(key.str())),
-          node.source().begin.line));
+      return tl::unexpected(Problem{
+          .kind = ProblemKind::kNotARunRecord,
+          .file = path,
+          .line = node.source().begin.line,
+          .found =
+              fmt::format("the setting {} has no value of a known kind", std::string(key.str()))});
     }
     record.settings.emplace_back(std::string(key.str()), *value);
   }

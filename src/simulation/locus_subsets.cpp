@@ -52,13 +52,6 @@ void AppendChoices(std::size_t count, std::size_t size, std::vector<std::uint64_
   }
 }
 
-Problem Fault(std::string sentence, std::string found) {
-  Problem problem;
-  problem.sentence = std::move(sentence);
-  problem.found = std::move(found);
-  return problem;
-}
-
 }  // namespace
 
 tl::expected<LocusSubsets, Problem> LocusSubsets::Of(const SimulationSettings& settings,
@@ -72,9 +65,9 @@ tl::expected<LocusSubsets, Problem> LocusSubsets::Of(const SimulationSettings& s
     return subsets;
   }
   if (start_with > count) {
-    return tl::unexpected(
-        Fault("Fewer loci are in use than the number of loci to start with!",
-              fmt::format("{} loci in use, the subsets start with {}", count, start_with)));
+    return tl::unexpected(Problem{
+        .kind = ProblemKind::kTooFewLociInUse,
+        .found = fmt::format("{} loci in use, the subsets start with {}", count, start_with)});
   }
   if (settings.strategy == LociStrategy::kCumulative) {
     subsets.first_prefix_ = start_with;
@@ -85,10 +78,11 @@ tl::expected<LocusSubsets, Problem> LocusSubsets::Of(const SimulationSettings& s
   }
   const std::uint64_t wanted = SubsetsFrom(count, start_with);
   if (wanted > kMostSubsets) {
-    return tl::unexpected(
-        Fault(fmt::format("There would be {} subsets of loci!", wanted),
-              fmt::format("at most {} are run; use fewer loci or start with more of them",
-                          kMostSubsets)));
+    return tl::unexpected(Problem{
+        .kind = ProblemKind::kTooManySubsets,
+        .subject = fmt::format("{}", wanted),
+        .found = fmt::format("at most {} are run; use fewer loci or start with more of them",
+                             kMostSubsets)});
   }
   for (std::size_t size = start_with; size <= count; ++size) {
     AppendChoices(count, size, subsets.choices_);

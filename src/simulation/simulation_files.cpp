@@ -13,31 +13,13 @@ namespace kaldo {
 
 namespace {
 
-constexpr std::string_view kNoLociFile = "Names of loci file name is missing!";
-constexpr std::string_view kOddSentence =
-    "Some parental loci are represented with an odd number of digits!";
-constexpr std::string_view kUndefinedSentence =
-    "Parental loci should not contain undefined alleles i.e. represented by a string of 0s!";
-constexpr std::string_view kHalfSentence =
-    "Loci should contain totally defined alleles(no string of 0s) or totally undefined alleles "
-    "(two "
-    "strings of 0s)!";
-constexpr std::string_view kMaleHalfSentence =
-    "Male loci should contain totally defined alleles(no string of 0s) or totally undefined "
-    "alleles "
-    "(two strings of 0s)!";
-// Spelt as users know it.
-constexpr std::string_view kFemaleHalfSentence =
-    "Femele loci should contain totally defined alleles(no string of 0s) or totally undefined "
-    "alleles (two strings of 0s)!";
-
 /// What is known of a group's file before it is opened.
 struct GroupPath {
   const std::string* path = nullptr;
-  std::string_view missing_sentence;
+  ProblemKind no_name = ProblemKind::kNoSampleFile;
   std::string role;
   bool holds_parents = false;
-  std::string_view half_sentence;
+  ProblemKind half_defined = ProblemKind::kHalfDefinedInSample;
 };
 
 std::string RoleOf(Flow flow, const GroupDesign& group, bool holds_parents) {
@@ -57,26 +39,19 @@ GroupPath PathOf(const SimulationSettings& settings, const GroupDesign& group) {
   path.path = !group.collected     ? &set.uncollected_sample
               : path.holds_parents ? &set.collected_file
                                    : &set.pseudo_collected_sample;
-  path.missing_sentence =
-      path.holds_parents ? "Parent file name is missing!" : "File name is missing!";
+  path.no_name = path.holds_parents ? ProblemKind::kNoParentsFile : ProblemKind::kNoSampleFile;
   path.role = RoleOf(settings.flow, group, path.holds_parents);
-  path.half_sentence = settings.flow == Flow::kNonSexed ? kHalfSentence
-                       : group.set == 0                 ? kMaleHalfSentence
-                                                        : kFemaleHalfSentence;
+  path.half_defined = settings.flow == Flow::kNonSexed ? ProblemKind::kHalfDefinedInSample
+                      : group.set == 0                 ? ProblemKind::kHalfDefinedInMaleSample
+                                                       : ProblemKind::kHalfDefinedInFemaleSample;
   return path;
-}
-
-Problem Missing(std::string_view sentence) {
-  Problem problem;
-  problem.sentence = sentence;
-  return problem;
 }
 
 /// One allele of two is told first in the sexed flow, also for collected parents; then, for
 /// collected parents, any undefined allele.
 std::optional<Problem> CheckGroup(const GroupFile& group, const LociList& loci, bool tells_halves) {
-  FileWideCheck check{&group.tokens, Separators::kNone, UndefinedAlleles::kWholeLoci, kOddSentence,
-                      group.half_sentence};
+  FileWideCheck check{&group.tokens, Separators::kNone, UndefinedAlleles::kWholeLoci,
+                      ProblemKind::kOddDigitsInParents, group.half_defined};
   if (!group.holds_parents || tells_halves) {
     if (auto problem = CheckFileWide(check, loci)) {
       return problem;
@@ -86,7 +61,7 @@ std::optional<Problem> CheckGroup(const GroupFile& group, const LociList& loci, 
     return std::nullopt;
   }
   check.undefined_alleles = UndefinedAlleles::kNone;
-  check.undefined_sentence = kUndefinedSentence;
+  check.undefined = ProblemKind::kUndefinedInParents;
   return CheckFileWide(check, loci);
 }
 
@@ -97,19 +72,17 @@ std::optional<Problem> CheckNoSeparators(const GroupFile& group) {
   if (separator == tokens.end()) {
     return std::nullopt;
   }
-  Problem problem;
-  problem.sentence = "Simulation files have no separators!";
-  problem.file = group.tokens.Path();
-  problem.line = separator->line;
-  problem.found = "simulated parents form one group; leave the \"*\" out";
-  return problem;
+  return Problem{.kind = ProblemKind::kSeparatorInSimulation,
+                 .file = group.tokens.Path(),
+                 .line = separator->line,
+                 .found = "simulated parents form one group; leave the \"*\" out"};
 }
 
 }  // namespace
 
 tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& settings) {
   if (settings.loci_file.empty()) {
-    return tl::unexpected(Missing(kNoLociFile));
+    return tl::unexpected(Problem{.kind = ProblemKind::kNoLociFile});
   }
   return TokenFile::Read(settings.loci_file);
 }
@@ -124,13 +97,13 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
                                                            const SimulationDesign& design,
                                                            FileSource& source) {
   if (settings.loci_file.empty()) {
-    return tl::unexpected(Missing(kNoLociFile));
+    return tl::unexpected(Problem{.kind = ProblemKind::kNoLociFile});
   }
   std::vector<GroupPath> paths;
   for (const GroupDesign& group : design.groups) {
     paths.push_back(PathOf(settings, group));
     if (paths.back().path->empty()) {
-      return tl::unexpected(Missing(paths.back().missing_sentence));
+      return tl::unexpected(Problem{.kind = paths.back().no_name});
     }
   }
   SimulationFiles files;
@@ -145,7 +118,7 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
       return tl::unexpected(std::move(tokens.error()));
     }
     files.groups.push_back(
-        {std::move(*tokens), std::move(path.role), path.holds_parents, path.half_sentence});
+        {std::move(*tokens), std::move(path.role), path.holds_parents, path.half_defined});
   }
   return files;
 }
@@ -169,13 +142,11 @@ std::optional<Problem> CheckSimulationRecords(const SimulationFiles& files, cons
     }
     const std::size_t individuals = CountIndividuals(group.tokens, layout);
     if (individuals == 0 || individuals > kMaxIndividuals) {
-      Problem problem;
-      problem.sentence = individuals == 0
-                             ? fmt::format("The file of {} holds no individual!", group.role)
-                             : fmt::format("More than {} individuals!", kMaxIndividuals);
-      problem.file = group.tokens.Path();
-      problem.found = fmt::format("{} records", individuals);
-      return problem;
+      const bool none = individuals == 0;
+      return Problem{.kind = none ? ProblemKind::kNoIndividual : ProblemKind::kTooManyIndividuals,
+                     .subject = none ? group.role : fmt::format("{}", kMaxIndividuals),
+                     .file = group.tokens.Path(),
+                     .found = fmt::format("{} records", individuals)};
     }
     if (auto problem = CheckRecords(group.tokens, layout, loci, digits_per_field)) {
       return problem;

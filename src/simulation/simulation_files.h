@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string_view>
 #include <vector>
 
 #include <tl/expected.hpp>
@@ -11,12 +10,13 @@
 
 namespace kaldo {
 
-/// The file behind a parental group, with the sentences that belong to it.
+/// The file behind a parental group.
 struct GroupFile {
   TokenFile tokens;
-  std::string role;                ///< as in messages and run records
-  bool holds_parents = false;      ///< collected parents, not a sample to draw from
-  std::string_view half_sentence;  ///< told for a locus with one allele of two
+  std::string role;            ///< as in messages and run records
+  bool holds_parents = false;  ///< collected parents, not a sample to draw from
+  /// Told for a locus with one allele of two.
+  ProblemKind half_defined = ProblemKind::kHalfDefinedInSample;
 };
 
 /// The open files of a simulation.

@@ -20,13 +20,6 @@ namespace {
 /// Offspring of two collected parents need two of them, whatever was typed.
 constexpr std::uint32_t kFewestPseudoCollected = 2;
 
-Problem Fault(std::string sentence, std::string found) {
-  Problem problem;
-  problem.sentence = std::move(sentence);
-  problem.found = std::move(found);
-  return problem;
-}
-
 std::optional<Problem> ApplyChoices(const SimulationSettings& settings, SimulationInput& input) {
   if (auto problem = ValidateForSimulation(settings.error_model)) {
     return problem;
@@ -66,14 +59,17 @@ tl::expected<RepresentativeSample, Problem> LoadSample(const GroupFile& file,
   std::vector<AlleleCatalogue> catalogues(loci.Count());
   for (const LocusIndex locus : loci.LociInUse()) {
     auto catalogue = AlleleCatalogue::Build(table.Locus(locus));
-    if (!catalogue || catalogue->Sizes().empty()) {
-      Problem problem =
-          catalogue ? Fault("A sample has no defined allele at a locus!",
-                            "nothing can be drawn from it; leave the locus out")
-                    : Fault(fmt::format("More than {} alleles at a locus!", kMaxAlleles), "");
-      problem.file = file.tokens.Path();
-      problem.locus = loci.Name(locus);
-      return tl::unexpected(std::move(problem));
+    if (!catalogue) {
+      return tl::unexpected(Problem{.kind = ProblemKind::kTooManyAlleles,
+                                    .subject = fmt::format("{}", kMaxAlleles),
+                                    .file = file.tokens.Path(),
+                                    .locus = loci.Name(locus)});
+    }
+    if (catalogue->Sizes().empty()) {
+      return tl::unexpected(Problem{.kind = ProblemKind::kNoAlleleInSample,
+                                    .file = file.tokens.Path(),
+                                    .locus = loci.Name(locus),
+                                    .found = "nothing can be drawn from it; leave the locus out"});
     }
     catalogues[locus.Value()] = *catalogue;
   }
@@ -128,10 +124,10 @@ std::optional<Problem> CheckAlleles(const SimulationInput& input) {
       }
     }
     if (sizes.size() > kMaxAlleles) {
-      Problem problem = Fault(fmt::format("More than {} alleles at a locus!", kMaxAlleles),
-                              fmt::format("the files together have {} sizes there", sizes.size()));
-      problem.locus = input.loci.Name(locus);
-      return problem;
+      return Problem{.kind = ProblemKind::kTooManyAlleles,
+                     .subject = fmt::format("{}", kMaxAlleles),
+                     .locus = input.loci.Name(locus),
+                     .found = fmt::format("the files together have {} sizes there", sizes.size())};
     }
   }
   return std::nullopt;
@@ -142,8 +138,9 @@ std::optional<Problem> CheckAlleles(const SimulationInput& input) {
 std::optional<Problem> CheckGroupSizes(const SimulationDesign& design,
                                        const SimulationInput& input) {
   if (input.NumberOfParents() > kMaxIndividuals) {
-    return Fault(fmt::format("More than {} individuals!", kMaxIndividuals),
-                 fmt::format("{} parents in an iteration", input.NumberOfParents()));
+    return Problem{.kind = ProblemKind::kTooManyIndividuals,
+                   .subject = fmt::format("{}", kMaxIndividuals),
+                   .found = fmt::format("{} parents in an iteration", input.NumberOfParents())};
   }
   for (std::size_t k = 0; k < design.classes.size(); ++k) {
     const OriginClass& origin = design.classes[k];
@@ -151,12 +148,12 @@ std::optional<Problem> CheckGroupSizes(const SimulationDesign& design,
     const std::size_t second = input.groups[origin.second_group].slots.Size();
     const std::size_t needed = origin.SameGroup() ? 2 : 1;
     if (input.class_sizes[k] > 0 && (first < needed || second < needed)) {
-      return Fault(
-          "There are too few parents for the pseudo-offspring!",
-          fmt::format("{} pseudo-offspring of origin {} need {} true parents, of which {} "
-                      "and {} are there",
-                      input.class_sizes[k], origin.texts.label,
-                      origin.SameGroup() ? "two different" : "one and one", first, second));
+      return Problem{.kind = ProblemKind::kTooFewParents,
+                     .found = fmt::format(
+                         "{} pseudo-offspring of origin {} need {} true parents, of which {} "
+                         "and {} are there",
+                         input.class_sizes[k], origin.texts.label,
+                         origin.SameGroup() ? "two different" : "one and one", first, second)};
     }
   }
   return std::nullopt;

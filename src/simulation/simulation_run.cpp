@@ -59,9 +59,7 @@ tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& set
                                                    const SimulationFlow& flow,
                                                    RunObserver& observer, Workforce& workforce) {
   if (settings.project.empty()) {
-    Problem problem;
-    problem.sentence = "Please enter name of project!";
-    return tl::unexpected(std::move(problem));
+    return tl::unexpected(Problem{.kind = ProblemKind::kNoProject});
   }
   auto input = LoadSimulationInput(settings, flow, workforce.Files());
   if (!input) {

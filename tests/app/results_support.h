@@ -127,7 +127,7 @@ inline AllocationRun Run(const AllocationSettings& settings) {
   RunObserver observer;
   auto run = RunAllocation(settings, observer);
   if (!run) {
-    throw std::runtime_error(run.error().sentence);
+    throw std::runtime_error(SentenceOf(run.error()));
   }
   return std::move(*run);
 }
@@ -160,7 +160,7 @@ inline SimulationRun Run(const SimulationSettings& settings) {
   RunObserver observer;
   auto run = RunSimulation(settings, SimulationOf(settings.flow), observer);
   if (!run) {
-    throw std::runtime_error(run.error().sentence);
+    throw std::runtime_error(SentenceOf(run.error()));
   }
   return std::move(*run);
 }

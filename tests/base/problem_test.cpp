@@ -1,14 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/problem.h"
 
+#include <algorithm>
+#include <set>
+
 #include <gtest/gtest.h>
+
+#include "tests/support/temp_folder.h"
 
 namespace kaldo {
 namespace {
 
+TEST(SentenceOf, PutsTheValueInItsPlace) {
+  EXPECT_EQ(SentenceOf({.kind = ProblemKind::kCannotOpenFile, .subject = "a{}b"}),
+            "Cannot open file \"a{}b\"!");
+  EXPECT_EQ(SentenceOf({.kind = ProblemKind::kNoLocusInUse}), "Choose at least one locus!");
+}
+
+// Users search for a sentence: each stands for one kind, and the manual has all of them.
+TEST(ProblemSentences, AreDifferentAndInTheManual) {
+  const std::string manual = test::ReadFile(std::string(KALDO_ROOT) + "/docs/file-formats.md");
+  std::set<std::string_view> sentences;
+  for (const auto& [kind, sentence] : kProblemSentences) {
+    EXPECT_TRUE(sentences.insert(sentence).second) << sentence;
+    const std::size_t value = std::min(sentence.find("{}"), sentence.size());
+    const std::string begin = '"' + std::string(sentence.substr(0, value));
+    const std::string end =
+        std::string(sentence.substr(std::min(value + 2, sentence.size()))) + '"';
+    const std::size_t place = manual.find(value == sentence.size() ? begin + '"' : begin);
+    EXPECT_LT(manual.find(end, place), place + 200) << sentence;
+  }
+}
+
 TEST(DetailLine, NamesThePlaceAndWhatWasFoundThere) {
-  Problem problem;
-  problem.sentence = "Something is wrong!";
+  Problem problem{.kind = ProblemKind::kNoLocus};
   EXPECT_EQ(DetailLine(problem), "");
   problem.found = "two words";
   EXPECT_EQ(DetailLine(problem), "two words");
@@ -26,12 +51,12 @@ TEST(DetailLine, NamesThePlaceAndWhatWasFoundThere) {
 
 // A hostile or broken file must not be able to drive the user's terminal.
 TEST(DetailLine, EscapesWhatATerminalObeys) {
-  Problem problem;
-  problem.file = "a\nb";
-  problem.record = 1;
-  problem.individual = "\033[2J";
-  problem.locus = "L1\x07";
-  problem.found = Quoted("\033]0;\x7f");
+  const Problem problem{.kind = ProblemKind::kNoLocus,
+                        .file = "a\nb",
+                        .record = 1,
+                        .individual = "\033[2J",
+                        .locus = "L1\x07",
+                        .found = Quoted("\033]0;\x7f")};
   EXPECT_EQ(DetailLine(problem), "a\\x0ab, record 1 (\\x1b[2J), locus L1\\x07: \"\\x1b]0;\\x7f\"");
   const std::string forty = "0123456789012345678901234567890123456789";
   EXPECT_EQ(Quoted(forty), "\"" + forty + "\"");

@@ -27,7 +27,7 @@ TEST(ParseSequence, TakesWholeNumbersOnly) {
   for (const std::string text : {"1,2.0", "1;2", "1,,3", "a", "1 2", "1,2,", "1,4294967298"}) {
     const auto indices = ParseSequence(text);
     ASSERT_FALSE(indices.has_value()) << text;
-    EXPECT_EQ(indices.error().sentence,
+    EXPECT_EQ(SentenceOf(indices.error()),
               "Set of indices has to run from 1 to the total number of loci. No zero! Only "
               "integers!");
   }

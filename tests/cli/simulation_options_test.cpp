@@ -2,17 +2,12 @@
 // What the options of `kaldo simulate` stand for.
 #include "cli/simulation_options.h"
 
-#include <functional>
-#include <gmock/gmock.h>
-
 #include <gtest/gtest.h>
 
 #include "cli/option_text.h"
 
 namespace kaldo {
 namespace {
-
-using testing::StartsWith;
 
 SimulationOptions NonSexedOptions() {
   SimulationOptions options;
@@ -35,7 +30,7 @@ SimulationOptions SexedOptions() {
 
 TEST(SimulationOptions, StandForTheSettingsOfTheirFlowAndProcedure) {
   const auto settings = SettingsFrom(NonSexedOptions());
-  ASSERT_TRUE(settings) << settings.error().sentence;
+  ASSERT_TRUE(settings) << SentenceOf(settings.error());
   EXPECT_EQ(settings->procedure, Procedure::kParental);
   EXPECT_EQ(settings->sets[0].uncollected, 10.5);
   EXPECT_EQ(settings->offspring_per_iteration, 300) << "leading zeros mean nothing";
@@ -43,7 +38,7 @@ TEST(SimulationOptions, StandForTheSettingsOfTheirFlowAndProcedure) {
   EXPECT_FALSE(settings->keep) << "as the flow has it";
 
   const auto sexed = SettingsFrom(SexedOptions());
-  ASSERT_TRUE(sexed) << sexed.error().sentence;
+  ASSERT_TRUE(sexed) << SentenceOf(sexed.error());
   EXPECT_EQ(sexed->flow, Flow::kSexed);
   EXPECT_EQ(sexed->procedure, Procedure::kPreParental);
   std::vector<double> numbers;
@@ -72,90 +67,6 @@ TEST(SimulationOptions, ReadKeptFilesAndSeeds) {
     options.seed = text;
     EXPECT_EQ(SettingsFrom(options)->seed, seed) << text;
   }
-}
-
-struct Refused {
-  std::function<void(SimulationOptions&)> make;
-  std::string sentence;
-  std::string found;  ///< how it begins
-};
-
-void ExpectRefusals(const SimulationOptions& sound, const std::vector<Refused>& cases) {
-  for (const Refused& each : cases) {
-    SimulationOptions options = sound;
-    each.make(options);
-    const auto settings = SettingsFrom(options);
-    ASSERT_FALSE(settings) << each.found;
-    EXPECT_EQ(settings.error().sentence, each.sentence);
-    EXPECT_THAT(settings.error().found, StartsWith(each.found));
-  }
-}
-
-TEST(SimulationOptions, TellTheNumberThatIsMissing) {
-  const std::string missing = "A number is missing!";
-  ExpectRefusals(
-      NonSexedOptions(),
-      {{[](auto& o) { o.iterations.reset(); }, missing, "--iterations is needed"},
-       {[](auto& o) { o.offspring_per_iteration.reset(); }, missing, "--offspring-per-iteration "},
-       {[](auto& o) { o.parents.uncollected.reset(); }, missing, "--uncollected is needed"},
-       {[](auto& o) {
-          o.parents.collected.reset();
-          o.parents.pseudo_collected_sample = "sample";
-        },
-        missing, "--pseudo-collected is needed"}});
-  ExpectRefusals(
-      SexedOptions(),
-      {{[](auto& o) { o.males.pseudo_collected.reset(); }, missing, "--pseudo-collected-males "},
-       {[](auto& o) { o.females.pseudo_collected.reset(); }, missing,
-        "--pseudo-collected-females "},
-       {[](auto& o) { o.males.uncollected.reset(); }, missing, "--uncollected-males "},
-       {[](auto& o) { o.females.estimated_collected.reset(); }, missing,
-        "--estimated-collected-females "},
-       {[](auto& o) { o.females.estimated_uncollected.reset(); }, missing,
-        "--estimated-uncollected-females "}});
-}
-
-TEST(SimulationOptions, RefuseTextsThatStandForNothing) {
-  const std::string whole = "A whole number is wanted!";
-  const std::string procedure = "Please, choose a procedure to run with !";
-  const std::string kept = "There is no such kind of file to keep!";
-  const std::string seed = "That seed is not possible!";
-  ExpectRefusals(
-      NonSexedOptions(),
-      {{[](auto& o) { o.iterations = "2.5"; }, whole, "--iterations: \"2.5\""},
-       {[](auto& o) { o.parents.uncollected = "10,5"; }, "A number is wanted!", "--uncollected: "},
-       {[](auto& o) { o.criterion = "95%"; }, "A number is wanted!", "--criterion: "},
-       {[](auto& o) { o.start_with = ""; }, whole, "--start-with: "},
-       {[](auto& o) { o.strategy = "All"; }, procedure, "--strategy: \"All\" is none of: choice"},
-       {[](auto& o) { o.strategy = ""; }, procedure, "--strategy: \"\""},
-       {[](auto& o) { o.keep = "parents,pets"; }, kept, "--keep: \"pets\" is none of: parents"},
-       {[](auto& o) { o.keep = "parents,none"; }, kept, "--keep: \"none\""},
-       {[](auto& o) { o.seed = "4294967296"; }, seed, "--seed: \"4294967296\""},
-       {[](auto& o) { o.seed = "-1"; }, seed, "--seed: \"-1\""},
-       {[](auto& o) { o.seed = "1.0"; }, seed, "--seed: \"1.0\""},
-       {[](auto& o) { o.threads = "0"; }, "That number of threads is not possible!", "--threads"},
-       {[](auto& o) { o.error = "often"; }, "Choose a model of error", "--error: \"often\""}});
-  ExpectRefusals(SexedOptions(),
-                 {{[](auto& o) { o.males.uncollected = "2.5"; }, whole, "--uncollected-males: "}});
-}
-
-TEST(SimulationOptions, RefuseTheOtherFlowAndBothProcedures) {
-  const std::string flow = "Choose options for parents, or with --sexed for males and females!";
-  const std::string procedure = "Choose collected or pseudo-collected parents!";
-  ExpectRefusals(NonSexedOptions(),
-                 {{[](auto& o) { o.sexed = true; }, flow, "--sexed goes with"},
-                  {[](auto& o) { o.males.collected = "males"; }, flow, "the options of males"},
-                  {[](auto& o) { o.females.uncollected = "1"; }, flow, "the options of males"},
-                  {[](auto& o) { o.females.estimated_uncollected = "1"; }, flow, "the options"},
-                  {[](auto& o) { o.parents.pseudo_collected_sample = "s"; }, procedure, ""},
-                  {[](auto& o) { o.parents.pseudo_collected = "3"; }, procedure, ""}});
-  ExpectRefusals(SexedOptions(),
-                 {{[](auto& o) { o.sexed = false; }, flow, "the options of males"},
-                  {[](auto& o) { o.parents.uncollected = "1"; }, flow, "--sexed goes with"},
-                  {[](auto& o) { o.males.collected = "males"; }, procedure, ""},
-                  {[](auto& o) { o.females.collected = "females"; }, procedure, ""},
-                  {[](auto& o) { o.males = {"males", {}, {}, "wild males", "5", "6", "7"}; },
-                   procedure, "males and females come from"}});
 }
 
 }  // namespace

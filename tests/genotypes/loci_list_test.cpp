@@ -22,7 +22,8 @@ class LociListTest : public testing::Test {
     if (!problem) {
       return "";
     }
-    return problem->sentence + '\n' + DetailLine(*problem).substr(folder_.Path("loci.txt").size());
+    return SentenceOf(*problem) + '\n' +
+           DetailLine(*problem).substr(folder_.Path("loci.txt").size());
   }
 
   static std::vector<std::string> NamesInUse(const LociList& loci) {
@@ -72,12 +73,12 @@ TEST_F(LociListTest, UsesTheNamedLociInFileOrder) {
 
   const auto unknown = loci.Use({"B", "b"});
   ASSERT_TRUE(unknown);
-  EXPECT_EQ(unknown->sentence, "There is no locus of that name!");
+  EXPECT_EQ(SentenceOf(*unknown), "There is no locus of that name!");
   EXPECT_EQ(DetailLine(*unknown),
             "\"b\" is none of the 4 names of the names-of-loci file: A B C D");
   const auto none = loci.Use({});
   ASSERT_TRUE(none);
-  EXPECT_EQ(none->sentence, "Choose at least one locus!");
+  EXPECT_EQ(SentenceOf(*none), "Choose at least one locus!");
   EXPECT_EQ(NamesInUse(loci), (Names{"A"})) << "a refused choice changes nothing";
 }
 

@@ -25,7 +25,7 @@ std::string Check(const std::string& text, RecordLayout layout, std::size_t digi
   if (!problem) {
     return "";
   }
-  return problem->sentence + '\n' + DetailLine(*problem).substr(folder.Path("f.txt").size());
+  return SentenceOf(*problem) + '\n' + DetailLine(*problem).substr(folder.Path("f.txt").size());
 }
 
 TEST(CheckRecords, AcceptsGoodFiles) {

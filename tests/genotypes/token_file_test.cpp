@@ -108,7 +108,7 @@ TEST(TokenFile, TellsWhyAFileCannotBeRead) {
     const std::string path = folder.Path(name);
     const auto file = TokenFile::Read(path);
     ASSERT_FALSE(file.has_value()) << name;
-    EXPECT_EQ(file.error().sentence, "Cannot open file \"" + path + "\"!");
+    EXPECT_EQ(SentenceOf(file.error()), "Cannot open file \"" + path + "\"!");
     EXPECT_EQ(file.error().file, path);
     EXPECT_EQ(file.error().found.substr(0, reason.size()), reason);
   }

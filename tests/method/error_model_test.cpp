@@ -13,7 +13,7 @@ namespace {
 
 std::string SentenceFor(const ErrorModel& model) {
   const auto problem = ValidateForAllocation(model);
-  return problem ? problem->sentence : "accepted";
+  return problem ? SentenceOf(*problem) : "accepted";
 }
 
 ErrorModel Uniform(double epsilon) {

@@ -134,13 +134,13 @@ TEST(RunRecord, RefusesWhatIsNoRecord) {
     const std::string path = folder.Write("r.toml", text);
     const auto record = ReadRunRecord(path);
     ASSERT_FALSE(record.has_value()) << text;
-    EXPECT_EQ(record.error().sentence, "This is not a run record!");
+    EXPECT_EQ(SentenceOf(record.error()), "This is not a run record!");
     EXPECT_EQ(DetailLine(record.error()).substr(0, (path + detail).size()), path + detail) << text;
   }
   const std::string missing = folder.Path("missing.toml");
   const auto record = ReadRunRecord(missing);
   ASSERT_FALSE(record.has_value());
-  EXPECT_EQ(record.error().sentence, "Cannot open file \"" + missing + "\"!");
+  EXPECT_EQ(SentenceOf(record.error()), "Cannot open file \"" + missing + "\"!");
 }
 
 TEST(ChangedInputs, TellsOtherContentsEvenOfTheSameSize) {

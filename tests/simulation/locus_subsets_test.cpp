@@ -111,7 +111,7 @@ TEST(LocusSubsets, OfAChoiceAreTheLociInUseWhateverTheOtherFields) {
 TEST(LocusSubsets, TooManyOrTooFewAreRefusedWithTheNumber) {
   const auto sentence = [](std::int32_t start_with, std::uint32_t loci) {
     const auto subsets = LocusSubsets::Of(Wanted(LociStrategy::kAll, start_with), LociOf(loci));
-    return subsets ? fmt::format("{} subsets", subsets->Count()) : subsets.error().sentence;
+    return subsets ? fmt::format("{} subsets", subsets->Count()) : SentenceOf(subsets.error());
   };
   EXPECT_EQ(sentence(1, 20), "1048575 subsets");
   EXPECT_EQ(sentence(1, 21), "There would be 2097151 subsets of loci!");
@@ -126,7 +126,7 @@ TEST(LocusSubsets, TooManyOrTooFewAreRefusedWithTheNumber) {
        {LociStrategy::kAll, LociStrategy::kMinimal, LociStrategy::kCumulative}) {
     const auto subsets = LocusSubsets::Of(Wanted(strategy, 3), LociOf(5, Places{0, 4}));
     ASSERT_FALSE(subsets);
-    EXPECT_EQ(subsets.error().sentence,
+    EXPECT_EQ(SentenceOf(subsets.error()),
               "Fewer loci are in use than the number of loci to start with!");
     EXPECT_EQ(subsets.error().found, "2 loci in use, the subsets start with 3");
   }

@@ -51,7 +51,7 @@ class SimulationInputTest : public testing::Test {
   auto Load() const { return LoadSimulationInput(settings_, SimulationOf(settings_.flow)); }
   std::string Sentence() const {
     const auto input = Load();
-    return input ? "ok" : input.error().sentence;
+    return input ? "ok" : SentenceOf(input.error());
   }
 
   /// The sentence when one file has other contents; the file is sound again afterwards.
@@ -72,7 +72,7 @@ class SimulationInputTest : public testing::Test {
 TEST_F(SimulationInputTest, LaysOutTheParentTable) {
   settings_.sets[0].uncollected = 10.5;
   auto input = Load();
-  ASSERT_TRUE(input) << input.error().sentence;
+  ASSERT_TRUE(input) << SentenceOf(input.error());
   EXPECT_EQ(input->groups[0].slots, (SlotRange{0, 2}));
   EXPECT_EQ(input->groups[1].slots, (SlotRange{2, 13})) << "half a parent is one more";
   EXPECT_FALSE(input->groups[0].sample);
@@ -85,7 +85,7 @@ TEST_F(SimulationInputTest, LaysOutTheParentTable) {
   settings_.sets[0].uncollected = 1;
   settings_.offspring_per_iteration = 3;
   input = Load();
-  ASSERT_TRUE(input) << input.error().sentence;
+  ASSERT_TRUE(input) << SentenceOf(input.error());
   EXPECT_EQ(input->groups[0].slots, (SlotRange{0, 2})) << "a pair takes two";
   EXPECT_EQ(input->class_sizes, (std::vector<std::int32_t>{0, 1, 0})) << "C is 1 as typed";
   EXPECT_EQ(input->weights, (std::vector<double>{0.25, 0.5, 0.25}));
@@ -94,7 +94,7 @@ TEST_F(SimulationInputTest, LaysOutTheParentTable) {
   settings_.sets[0].pseudo_collected = 1;
   settings_.sets[1].uncollected = 4;
   input = Load();
-  ASSERT_TRUE(input) << input.error().sentence;
+  ASSERT_TRUE(input) << SentenceOf(input.error());
   std::vector<SlotRange> slots;
   for (const ParentalGroup& group : input->groups) {
     slots.push_back(group.slots);

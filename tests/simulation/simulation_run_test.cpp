@@ -119,7 +119,7 @@ class ExampleSimulation : public testing::Test {
   void RunWell(const SimulationSettings& settings) const {
     RunObserver observer;
     const auto run = RunFiles(settings, observer);
-    ASSERT_TRUE(run) << run.error().sentence << ' ' << DetailLine(run.error());
+    ASSERT_TRUE(run) << SentenceOf(run.error()) << ' ' << DetailLine(run.error());
   }
 
   /// Every file but the run record, which tells the time; those of the working folder too.
@@ -256,7 +256,7 @@ TEST_F(ExampleSimulation, AStoppedRunLeavesEarlierResultsAsTheyWere) {
   settings.project.clear();
   settings.loci_file.clear();
   RunObserver observer;
-  EXPECT_EQ(RunFiles(settings, observer).error().sentence, "Please enter name of project!");
+  EXPECT_EQ(RunFiles(settings, observer).error().kind, ProblemKind::kNoProject);
 }
 
 // What is printed or kept must not take a single number out of the stream.

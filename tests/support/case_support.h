@@ -22,7 +22,7 @@ void ExpectCase(const std::string& name, Run run, Further further) {
                         std::filesystem::copy_options::recursive);
   const WorkingFolder here(folder.Path(""));
   const auto done = run();
-  ASSERT_TRUE(done) << done.error().sentence << ' ' << DetailLine(done.error());
+  ASSERT_TRUE(done) << SentenceOf(done.error()) << ' ' << DetailLine(done.error());
 
   auto expected = folder.FilesIn("expected");
   for (const std::string& file : expected) {

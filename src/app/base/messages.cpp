@@ -34,7 +34,7 @@ void ShowSentence(QWidget* parent, std::string_view sentence) {
 }
 
 void ShowProblem(QWidget* parent, const Problem& problem) {
-  Show(parent, QMessageBox::Warning, Text(problem.sentence), Text(DetailLine(problem)));
+  Show(parent, QMessageBox::Warning, Text(SentenceOf(problem)), Text(DetailLine(problem)));
 }
 
 void ShowFailure(QWidget* parent, const QString& text) {

@@ -74,7 +74,7 @@ void AllocationFlowWindow::ConfirmFiles() {
   }
   const LociList loci(files->loci.tokens);
   if (const auto fault = CheckAllocationFiles(*files, loci)) {
-    if (!fault->silent_in_windows) {
+    if (fault->kind != ProblemKind::kSeparatorsDiffer) {  // the screen closes without a message
       Refuse(*fault);
     }
     return reject();  // files at fault end the flow; what was typed stays for the next time
@@ -141,7 +141,7 @@ void AllocationFlowWindow::Run() {
   if (!settings) {
     return;
   }
-  tl::expected<AllocationRun, Problem> run = tl::unexpected(Problem{});
+  tl::expected<AllocationRun, Problem> run;
   if (!RunWithProgress(this, windowTitle(),
                        [&](RunObserver& observer) { run = RunAllocation(*settings, observer); })) {
     return;

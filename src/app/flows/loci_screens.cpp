@@ -36,9 +36,7 @@ std::optional<Problem> LociScreens::ChoiceFault() const {
   if (!in_use || !in_use->empty()) {
     return std::nullopt;
   }
-  Problem problem;
-  problem.sentence = kNoLocusInUse;
-  return problem;
+  return Problem{.kind = ProblemKind::kNoLocusInUse};
 }
 
 std::optional<Problem> LociScreens::SequenceFault() const {

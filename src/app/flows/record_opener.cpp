@@ -36,12 +36,8 @@ void TellChanges(QWidget* parent, const RunRecord& record) {
   if (changes.empty()) {
     return;
   }
-  Problem problem;
-  problem.sentence = "The run may differ from the recorded one.";
-  for (const std::string& change : changes) {
-    problem.found += (problem.found.empty() ? "" : " ") + change;
-  }
-  ShowProblem(parent, problem);
+  ShowProblem(parent, {.kind = ProblemKind::kRunMayDiffer,
+                       .found = fmt::format("{}", fmt::join(changes, " "))});
 }
 
 /// Takes what `read` found, or tells its fault.
@@ -68,11 +64,9 @@ std::optional<RunSettings> OpenRunRecord(QWidget* parent, const std::string& pat
   } else if (record->flow == kNonSexedSimulationFlow || record->flow == kSexedSimulationFlow) {
     settings = TakeOrTell(parent, SimulationSettingsOf(*record, path));
   } else {
-    Problem problem;
-    problem.sentence = "This run record cannot be used!";
-    problem.file = path;
-    problem.found = fmt::format("the flow {} is not known", Quoted(record->flow));
-    ShowProblem(parent, problem);
+    ShowProblem(parent, {.kind = ProblemKind::kUnusableRunRecord,
+                         .file = path,
+                         .found = fmt::format("the flow {} is not known", Quoted(record->flow))});
   }
   if (settings) {
     OfferFolder(parent, *record);

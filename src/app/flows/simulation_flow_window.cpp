@@ -23,16 +23,6 @@
 
 namespace kaldo {
 
-namespace {
-
-Problem NoStrategy() {
-  Problem problem;
-  problem.sentence = "Please, choose a procedure to run with !";
-  return problem;
-}
-
-}  // namespace
-
 SimulationFlowWindow::SimulationFlowWindow(Flow flow, QWidget* parent)
     : FlowWindow(parent),
       flow_(flow),
@@ -218,7 +208,7 @@ void SimulationFlowWindow::ConfirmTolerance() {
 
 void SimulationFlowWindow::ConfirmStrategy() {
   if (!strategy_->Strategy()) {
-    return Refuse(NoStrategy());
+    return Refuse({.kind = ProblemKind::kNoStrategy});
   }
   SimulationSettings settings = SettingsUpTo(Known::kStrategy);
   if (settings.strategy == LociStrategy::kChoice) {
@@ -240,7 +230,7 @@ void SimulationFlowWindow::ConfirmStrategy() {
 
 void SimulationFlowWindow::ChooseLoci() {
   if (!strategy_->Strategy()) {
-    return Refuse(NoStrategy());
+    return Refuse({.kind = ProblemKind::kNoStrategy});
   }
   ShowPage(loci_.Choice());
 }
@@ -283,7 +273,7 @@ std::string SimulationFlowWindow::Command() {
 
 void SimulationFlowWindow::Run() {
   SimulationSettings settings = SettingsUpTo(Known::kAll);
-  tl::expected<SimulationRun, Problem> run = tl::unexpected(Problem{});
+  tl::expected<SimulationRun, Problem> run;
   if (!RunWithProgress(this, windowTitle(), [&](RunObserver& observer) {
         run = RunSimulation(settings, rules_, observer);
       })) {

@@ -76,11 +76,9 @@ QLineEdit* NewShortField(const FieldText& text, std::string_view value) {
 }
 
 Problem NoNumber(const QLineEdit& field) {
-  Problem problem;
-  problem.sentence = "Enter numbers with a decimal point!";
-  problem.found = fmt::format("{}: {} is not a number", Bytes(field.accessibleName()),
-                              Quoted(Bytes(field.text())));
-  return problem;
+  return {.kind = ProblemKind::kNotADecimal,
+          .found = fmt::format("{}: {} is not a number", Bytes(field.accessibleName()),
+                               Quoted(Bytes(field.text())))};
 }
 
 }  // namespace

@@ -93,10 +93,9 @@ std::optional<Problem> OutputPage::SeedFault() const {
   if (typed.empty() || ParseSeedNumber(typed)) {
     return std::nullopt;
   }
-  Problem problem;
-  problem.sentence = "That seed is not possible!";
-  problem.found = fmt::format("{} is not a whole number from 0 to 4294967295", Quoted(typed));
-  return problem;
+  return Problem{
+      .kind = ProblemKind::kNotASeed,
+      .found = fmt::format("{} is not a whole number from 0 to 4294967295", Quoted(typed))};
 }
 
 }  // namespace kaldo

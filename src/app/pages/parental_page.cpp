@@ -196,11 +196,9 @@ void ParentalPage::FillIn(SimulationSettings& settings) const {
 
 std::optional<Problem> ParentalPage::NumberFault() const {
   const auto fault = [](const QLineEdit& field, std::string_view wanted) {
-    Problem problem;
-    problem.sentence = "That number of parents is not possible!";
-    problem.found = fmt::format("{}: {} is not {}", Bytes(field.accessibleName()),
-                                Quoted(Bytes(field.text())), wanted);
-    return problem;
+    return Problem{.kind = ProblemKind::kImpossibleNumberOfParents,
+                   .found = fmt::format("{}: {} is not {}", Bytes(field.accessibleName()),
+                                        Quoted(Bytes(field.text())), wanted)};
   };
   for (const SetFields& fields : Sets()) {
     if (procedure_ == Procedure::kPreParental && !WholeNumberIn(*fields.pseudo_collected)) {

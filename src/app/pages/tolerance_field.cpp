@@ -38,11 +38,10 @@ std::optional<Problem> ToleranceField::Fault() const {
   if (WholeNumberIn(*field_)) {
     return ValidateTolerance(Value());
   }
-  Problem problem;
-  problem.sentence = "Enter a positive number";
-  problem.found = fmt::format("the maximal offset tolerance is {}, which is no whole number",
-                              Quoted(Bytes(field_->text())));
-  return problem;
+  return Problem{
+      .kind = ProblemKind::kNegativeTolerance,
+      .found = fmt::format("the maximal offset tolerance is {}, which is no whole number",
+                           Quoted(Bytes(field_->text())))};
 }
 
 }  // namespace kaldo

@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Every kind of problem, provoked by the smallest mistake in a command or a file.
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <map>
+#include <set>
+
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+#include "base/problem.h"
+#include "tests/cli/command_support.h"
+#include "tests/support/temp_folder.h"
+
+namespace kaldo {
+namespace {
+
+using enum ProblemKind;
+using test::Arguments;
+
+/// Sound commands by their names.
+const std::map<std::string, std::string> kSound = {
+    {"pond", "check loci=loci parents=parents offspring=young"},
+    {"couple", "check loci=loci males=males females=females offspring=young"},
+    {"parental",
+     "simulate project=results loci=loci iterations=1 offspring-per-iteration=4 strategy=all "
+     "collected-parents=parents uncollected-sample=sample uncollected=2"},
+    {"preparental",
+     "simulate project=results loci=loci iterations=1 offspring-per-iteration=4 strategy=all "
+     "pseudo-collected-sample=sample pseudo-collected=2 uncollected-sample=sample uncollected=2"},
+    {"sexed",
+     "simulate sexed project=results loci=loci iterations=1 offspring-per-iteration=4 strategy=all "
+     "collected-males=males uncollected-male-sample=sample uncollected-males=2 "
+     "estimated-collected-males=1 estimated-uncollected-males=1 "
+     "collected-females=females uncollected-female-sample=sample uncollected-females=2 "
+     "estimated-collected-females=1 estimated-uncollected-females=1"},
+};
+
+/// The words of a command: that of a name above, with options given ("use=A"), given alone
+/// ("sexed") or left out ("-loci") behind it.
+Arguments CommandOf(const std::string& text) {
+  std::istringstream words(text);
+  std::string first;
+  words >> first;
+  const auto sound = kSound.find(first);
+  if (sound != kSound.end()) {
+    words = std::istringstream(sound->second + text.substr(first.size()));
+    words >> first;
+  }
+  Arguments command = {first};
+  std::map<std::string, std::string> options;
+  for (std::string word; words >> word;) {
+    if (sound == kSound.end()) {
+      command.push_back(word);
+    } else if (word.starts_with('-')) {
+      options.erase(word.substr(1));
+    } else {
+      options[word.substr(0, word.find('='))] = word;
+    }
+  }
+  for (const auto& [name, word] : options) {
+    command.push_back("--" + name);
+    if (word.size() > name.size()) {
+      command.push_back(word.substr(name.size() + 1));
+    }
+  }
+  return command;
+}
+
+/// So many names, or fields, behind one another.
+std::string Repeated(std::string_view text, int times) {
+  std::string all;
+  for (int k = 1; k <= times; ++k) {
+    all += fmt::format(fmt::runtime(text), k);
+  }
+  return all;
+}
+
+struct Refusal {
+  ProblemKind kind;
+  std::string command;
+  std::string detail;     ///< how the line of detail begins
+  std::string file = {};  ///< the one with another text
+  std::string text = {};
+  int loci = 2;
+};
+
+const std::string kOdd = "X1 150152 20020";
+const std::string kGap = "X1 150152 000000";
+const std::string kHalf = "X1 150152 200000";
+const std::string kPlace = ", line 1, record 1 (X1), locus L2: ";
+const std::string kRows = "X1 1112 1314\nX2 1112 1314\n";
+const std::string kManySizes = Repeated("X {0:03}{0:03} 200204\n", 101);
+const std::string kDance = "program = \"KALDO\"\nflow = \"a dance\"\n[settings]\n";
+
+const std::vector<Refusal> kRefusals = {
+    {kNoProject, "allocate", ""},
+    {kNoProject, "parental -project", ""},
+    {kNoParentsFile, "pond parents= offspring=nowhere", ""},
+    {kNoMalesFile, "couple -males", ""},
+    {kNoFemalesFile, "couple -females", ""},
+    {kNoOffspringFile, "pond parents=nowhere -offspring", ""},
+    {kNoLociFile, "pond -loci", ""},
+    {kNoLociFile, "parental -loci", ""},
+    {kNoSampleFile, "parental -uncollected-sample", ""},
+    {kCannotOpenFile, "pond offspring=nowhere tolerance=-1", "nowhere: No such file or directory"},
+    {kNoLocus, "pond", "loci: the file is empty", "loci", " \n"},
+    {kTooManyLoci, "pond", "loci, line 1, locus L51: the file names 51 loci", "", "", 51},
+    {kLocusNameTooLong, "pond", "loci, line 1, locus A23456", "loci", "A23456789012345 B"},
+    {kLocusNameTwice, "pond", "loci, line 2, locus A: \"A\" stands in line 1", "loci", "A\nA"},
+    {kNoIndividual, "pond", "parents: the file is empty", "parents", ""},
+    {kNoIndividual, "parental", "sample: 0 records", "sample", ""},
+    {kTooManyIndividuals, "parental uncollected=50000", "50002 parents in an iteration"},
+    {kTooManyAlleles, "pond", "parents, line 101, record 101 (X), locus", "parents", kManySizes},
+    {kTooManyAlleles, "parental", "sample, locus L1", "sample", kManySizes},
+    {kNoAlleleInSample, "parental", "sample, locus L2: nothing can be drawn", "sample", kGap},
+    {kSeparatorsDiffer, "couple", "females: 0 separators here, 1 in males", "males", "*\n" + kRows},
+    {kSeparatorInSimulation, "parental", "parents, line 3", "parents", kRows + "*X 11 22"},
+    {kOddDigitsInParents, "pond", "parents" + kPlace, "parents", kOdd},
+    {kOddDigitsInMales, "couple", "males" + kPlace, "males", kOdd},
+    {kOddDigitsInFemales, "couple", "females" + kPlace, "females", kOdd},
+    {kOddDigitsInOffspring, "pond", "young" + kPlace, "young", kOdd},
+    {kUndefinedInParents, "pond", "parents" + kPlace, "parents", kGap},
+    {kUndefinedInMales, "couple", "males" + kPlace, "males", kGap},
+    {kUndefinedInFemales, "couple", "females" + kPlace, "females", kGap},
+    {kHalfDefinedInOffspring, "pond", "young" + kPlace, "young", kHalf},
+    {kHalfDefinedInSample, "parental", "sample" + kPlace, "sample", kHalf},
+    {kHalfDefinedInMaleSample, "sexed", "males" + kPlace, "males", kHalf},
+    {kHalfDefinedInFemaleSample, "sexed", "females" + kPlace, "females", kHalf},
+    {kWrongFieldCount, "pond", "parents, line 3, record 3", "parents", kRows + "X3 1112 1314 1516"},
+    {kFieldNotDigits, "pond", "young" + kPlace + "\"NA\" should be", "young", "X1 150152 NA"},
+    {kFieldOfOtherWidth, "pond", "young" + kPlace + "\"2004\" has", "young", "X1 150152 2004"},
+    {kAlleleTooLong, "pond", "parents, line 1", "parents", "X1 0015000152 0020000204"},
+    {kNameTooLong, "pond", "young, line 1", "young", "X234567890123456 150152 200204"},
+    {kNotARunRecord, "rerun parents", "parents, line 1"},
+    {kUnusableRunRecord, "rerun record", "record: the flow \"a dance\"", "record", kDance},
+    {kNoErrorModel, "pond error=uniform=0,1", "--error: \"uniform=0,1\" is none of"},
+    {kNoErrorModel, "parental error=nonuniform=", "--error: "},
+    {kNotAProbability, "pond error=uniform=ten", "--error: \"ten\" is not a number"},
+    {kEpsilonOutOfRange, "pond error=uniform=nan", "epsilon is "},
+    {kProbabilitySum, "pond error=nonuniform=0,0,0.9,0,0", "0 + 0 + 0.9 + 0 + 0 sum to 0.9"},
+    {kErrorSumTooLarge, "couple error=nonuniform=-0.25,0,1.25,0,0", "the focal probability is"},
+    {kSimulatedFocalOutOfRange, "parental error=nonuniform=0.1,0,0.5,0,0", "it is 0.5"},
+    {kSimulatedProbabilitySum, "sexed error=nonuniform=0,0,0.9,0,0", "they sum to 0.9"},
+    {kUnknownLocus, "pond use=L1,", "\"\" is none of the 2 names"},
+    {kNoLocusInUse, "pond use=", ""},
+    {kSequenceHasZero, "pond sequence=0,3", "index 1 is 0"},
+    {kSequenceHasZero, "pond sequence=1,2.0", "--sequence: \"2.0\" is not a whole number"},
+    {kSequenceIndexTooLarge, "pond sequence=3,1", "index 1 is 3, there are 2 loci"},
+    {kSequenceSum, "pond sequence=-1", "1 indices sum to -1; 2 loci need 2 indices with the sum 3"},
+    {kTooFewLociInUse, "parental start-with=3", "2 loci in use, the subsets start with 3"},
+    {kTooManySubsets, "parental", "at most 1048576 are run", "", "", 21},
+    {kNegativeTolerance, "pond tolerance=-1", "the maximal offset tolerance", "parents", kOdd},
+    {kTooManyIterations, "parental iterations=1000", "it is 1000"},
+    {kNoIteration, "sexed iterations=0", "it is 0"},
+    {kCriterionOutOfRange, "parental criterion=1.01", "the correctness criterion is 1.01"},
+    {kStartWithTooSmall, "sexed start-with=0", "it is 0"},
+    {kNoPseudoOffspring, "parental offspring-per-iteration=0", "it is 0; at most 50000"},
+    {kNoPseudoCollected, "preparental pseudo-collected=0", "it is 0"},
+    {kImpossibleNumberOfParents, "parental uncollected=-0.5", "0 pseudo-collected and -0.5"},
+    {kImpossibleEstimate, "sexed estimated-collected-males=-1", "-1 collected and 1 uncollected"},
+    {kTooFewParents, "sexed uncollected-males=0", "1 pseudo-offspring of origin"},
+    {kNumberMissing, "parental -iterations", "--iterations is needed"},
+    {kNumberMissing, "parental -offspring-per-iteration", "--offspring-per-iteration is needed"},
+    {kNumberMissing, "parental -uncollected", "--uncollected is needed"},
+    {kNumberMissing, "preparental -pseudo-collected", "--pseudo-collected is needed"},
+    {kNumberMissing, "sexed -uncollected-males", "--uncollected-males is needed"},
+    {kNumberMissing, "sexed -estimated-collected-females", "--estimated-collected-females is"},
+    {kNotWhole, "parental iterations=2.5", "--iterations: \"2.5\" is not a whole number"},
+    {kNotWhole, "parental start-with=", "--start-with: \"\""},
+    {kNotWhole, "sexed uncollected-males=2.5", "--uncollected-males: \"2.5\""},
+    {kNotANumber, "parental uncollected=10,5", "--uncollected: \"10,5\" is not a number"},
+    {kNotANumber, "parental criterion=95%", "--criterion: \"95%\""},
+    {kNotASeed, "parental seed=4294967296", "--seed: \"4294967296\" is not a whole number from"},
+    {kNotASeed, "parental seed=-1", "--seed: \"-1\""},
+    {kNotAThreadCount, "pond threads=0", "--threads: 0 is not between 1 and"},
+    {kNoStrategy, "parental strategy=All", "--strategy: \"All\" is none of: choice"},
+    {kUnknownKeptFile, "parental keep=parents,pets", "--keep: \"pets\" is none of: parents"},
+    {kUnknownKeptFile, "parental keep=parents,none", "--keep: \"none\""},
+    {kParentsAndSexes, "pond females=females", "--parents goes without --males and --females"},
+    {kOptionsOfOtherFlow, "parental sexed", "--sexed goes with"},
+    {kOptionsOfOtherFlow, "parental collected-males=males", "the options of males"},
+    {kOptionsOfOtherFlow, "sexed -sexed", "the options of males"},
+    {kOptionsOfOtherFlow, "sexed uncollected=1", "--sexed goes with"},
+    {kCollectedAndPseudoCollected, "parental pseudo-collected=3", "collected parents are read"},
+    {kCollectedAndPseudoCollected, "preparental collected-parents=parents", "collected parents"},
+    {kCollectedAndPseudoCollected, "sexed -collected-males pseudo-collected-male-sample=sample",
+     "males and females come from"},
+};
+
+class RefusalsTest : public testing::Test {
+ protected:
+  RefusalsTest() { std::filesystem::current_path(folder_.Path(".")); }
+  void TearDown() override { std::filesystem::current_path(before_); }
+
+  void WriteStudy(int loci) const {
+    folder_.Write("loci", Repeated("L{} ", loci));
+    const std::string fields = Repeated(" 150152", loci) + '\n';
+    for (const char* file : {"parents", "males", "females", "young", "sample"}) {
+      folder_.Write(file, "X1" + fields + "X2" + fields);
+    }
+  }
+
+  test::TempFolder folder_;  // NOLINT(misc-non-private-member-variables-in-classes)
+
+ private:
+  std::filesystem::path before_ = std::filesystem::current_path();
+};
+
+TEST_F(RefusalsTest, SoundCommandsRun) {
+  WriteStudy(2);
+  for (const auto& [name, command] : kSound) {
+    const auto outcome = test::RunCommand(CommandOf(name));
+    EXPECT_EQ(outcome.code, ExitCode::kDone) << name << ": " << outcome.err;
+  }
+}
+
+TEST_F(RefusalsTest, EveryKindIsToldWithItsPlaceBeforeAnythingIsWritten) {
+  std::set<ProblemKind> told = {kNotADecimal, kRunMayDiffer};  // by windows alone
+  for (const Refusal& refusal : kRefusals) {
+    SCOPED_TRACE(refusal.command + ", " + refusal.file);
+    WriteStudy(refusal.loci);
+    if (!refusal.file.empty()) {
+      folder_.Write(refusal.file, refusal.text);
+    }
+    const auto outcome = test::RunCommand(CommandOf(refusal.command));
+    EXPECT_EQ(outcome.code, ExitCode::kBadInput);
+    EXPECT_THAT(outcome.out, testing::IsEmpty());
+    EXPECT_FALSE(std::filesystem::exists("results"));
+    const std::string_view sentence =
+        kProblemSentences.at(static_cast<std::size_t>(refusal.kind)).text;
+    const std::size_t line_end = outcome.err.find('\n');
+    const std::string first_line = outcome.err.substr(0, line_end);
+    const std::size_t value = sentence.find("{}");
+    if (value == std::string_view::npos) {
+      EXPECT_EQ(first_line, sentence);
+    } else {
+      EXPECT_THAT(first_line, testing::StartsWith(std::string(sentence.substr(0, value))));
+      EXPECT_THAT(first_line, testing::EndsWith(std::string(sentence.substr(value + 2))));
+    }
+    EXPECT_THAT(outcome.err.substr(line_end + 1), testing::StartsWith(refusal.detail));
+    told.insert(refusal.kind);
+  }
+  for (const auto& [kind, sentence] : kProblemSentences) {
+    EXPECT_TRUE(told.contains(kind)) << sentence;
+  }
+}
+
+}  // namespace
+}  // namespace kaldo
