@@ -149,31 +149,6 @@ TEST_F(MessagesTest, FaultyFilesEndANonSexedAllocation) {
         ", line 1, record 1 (O1), locus B: "}});
 }
 
-TEST_F(MessagesTest, FaultyFilesEndASexedAllocation) {
-  OpenFlow(script_, "ALLOCATIONSEXED");
-  TypeAllocationFiles(script_, Flow::kSexed, Text("data"));
-  script_.Click("Back");
-  ExpectTold({});
-  const std::string odd = "X1 10010 200204 150150 120124\n";
-  const std::string undefined = "X1 100102 000000 150150 120124\n";
-  ExpectToldAtFiles(
-      "ALLOCATIONSEXED", 0,
-      {{"data/males.txt", odd,
-        "Some male parental loci are represented with an odd number of digits!", ", line 1"},
-       {"data/males.txt", undefined,
-        "Male parental loci should not contain undefined alleles i.e. represented by a string of "
-        "0s!",
-        ", line 1, record 1 (X1), locus B: "},
-       {"data/females.txt", odd,
-        "Some female parental loci are represented with an odd number of digits!", ", line 1"},
-       {"data/females.txt", undefined,
-        "Female parental loci should not contain undefined alleles i.e. represented by a string of "
-        "0s!",
-        ", line 1, record 1 (X1), locus B: "},
-       {"data/offspring.txt", odd,
-        "Some offspring loci are represented with an odd number of digits!", ", line 1"}});
-}
-
 TEST_F(MessagesTest, UnequalGroupsCloseTheFlowWithoutAWord) {
   folder_.Write("data/males.txt",
                 "M1 100102 200204 150150 120124\n*\nM2 100102 200204 150150 120124\n");

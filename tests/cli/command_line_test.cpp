@@ -158,33 +158,6 @@ TEST_F(CommandLineTest, ReadsTheToleranceAsDecimal) {
   ExpectRefusal(Check({"--tolerance=-1"}), "Enter a positive number\n");
 }
 
-TEST_F(CommandLineTest, ReadsTheErrorModel) {
-  // 0.0625 + 0.0625 + 0.875 is exactly 1, and 0.875 is too little for the focal allele.
-  const std::vector<std::pair<std::string, std::string>> cases = {
-      {"none", ""},
-      {"uniform=0.1", ""},
-      {"uniform=0", ""},
-      {"uniform=-0.5", ""},
-      {"nonuniform", ""},
-      {"nonuniform=0.002,0.008,0.980,0.008,0.002", ""},
-      {"nonuniform=0,0,1,0,0", ""},
-      {"nonuniform=0,0.0625,0.875,0.0625,0", "Error sum should not exceed 0.1!\n"},
-      {"nonuniform=0,0,1,0", "Choose a model of error\n"},
-      {"uniform", "Choose a model of error\n"},
-      {"none=0", "Choose a model of error\n"},
-      {"Uniform=0.1", "Choose a model of error\n"},
-      {"", "Choose a model of error\n"},
-  };
-  for (const auto& [model, sentence] : cases) {
-    if (sentence.empty()) {
-      EXPECT_EQ(RunCommand(Check({"--error", model})).code, ExitCode::kDone) << model;
-    } else {
-      SCOPED_TRACE(model);
-      ExpectRefusal(Check({"--error", model}), sentence);
-    }
-  }
-}
-
 TEST_F(CommandLineTest, ABareSequenceIsFileOrder) {
   ASSERT_EQ(RunCommand(Allocate({"--sequence", "1,2,3,4"})).code, ExitCode::kDone);
   const auto typed = TakeReports();

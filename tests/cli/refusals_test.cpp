@@ -129,7 +129,11 @@ const std::vector<Refusal> kRefusals = {
     {kHalfDefinedInFemaleSample, "sexed", "females" + kPlace, "females", kHalf},
     {kWrongFieldCount, "pond", "parents, line 3, record 3", "parents", kRows + "X3 1112 1314 1516"},
     {kFieldNotDigits, "pond", "young" + kPlace + "\"NA\" should be", "young", "X1 150152 NA"},
-    {kFieldOfOtherWidth, "pond", "young" + kPlace + "\"2004\" has", "young", "X1 150152 2004"},
+    {kFieldOfOtherWidth, "pond",
+     "young" + kPlace +
+         "\"2004\" has 4 digits, the first parents file uses 6; spreadsheets drop leading zeros: "
+         "write them again or correct the field",
+     "young", "X1 150152 2004"},
     {kAlleleTooLong, "pond", "parents, line 1", "parents", "X1 0015000152 0020000204"},
     {kNameTooLong, "pond", "young, line 1", "young", "X234567890123456 150152 200204"},
     {kNotARunRecord, "rerun parents", "parents, line 1"},
@@ -158,7 +162,10 @@ const std::vector<Refusal> kRefusals = {
     {kNoPseudoOffspring, "parental offspring-per-iteration=0", "it is 0; at most 50000"},
     {kNoPseudoCollected, "preparental pseudo-collected=0", "it is 0"},
     {kImpossibleNumberOfParents, "parental uncollected=-0.5", "0 pseudo-collected and -0.5"},
+    {kImpossibleNumberOfParents, "parental uncollected=nan", "0 pseudo-collected and nan"},
     {kImpossibleEstimate, "sexed estimated-collected-males=-1", "-1 collected and 1 uncollected"},
+    {kImpossibleEstimate, "sexed estimated-collected-females=0 estimated-uncollected-females=0",
+     ""},
     {kTooFewParents, "sexed uncollected-males=0", "1 pseudo-offspring of origin"},
     {kNumberMissing, "parental -iterations", "--iterations is needed"},
     {kNumberMissing, "parental -offspring-per-iteration", "--offspring-per-iteration is needed"},

@@ -88,9 +88,9 @@ TEST(FileSummary, OfLociNamesThemOrTellsTheFault) {
   EXPECT_EQ(describe("Ssa85"), "1 locus: Ssa85");
   EXPECT_EQ(describe("A B\nC D\nE"), "5 loci: A, B, C, D, E");
   EXPECT_EQ(describe("A B C D E F"), "6 loci: A, B, C, D, E, ...");
-  EXPECT_EQ(describe("A\nB\nA"), "Two loci have the same name: \"A\" stands in line 1 already");
+  EXPECT_EQ(describe("A\nB\nA"), "Two loci have the same name! \"A\" stands in line 1 already");
   EXPECT_EQ(describe(""),
-            "The names of loci file holds no locus: the file is empty; write one name per locus");
+            "The names of loci file holds no locus! the file is empty; write one name per locus");
   EXPECT_EQ(DescribeLociFile(folder.Path("")), "cannot be read: Is a directory");
 }
 
@@ -151,7 +151,7 @@ RC_GTEST_PROP(FileSummary, TellsAFaultExactlyWhereARunFindsOne, ()) {
   const auto file = TokenFile::Read(folder.Write("f.txt", text));
   const LociList loci(*TokenFile::Read(folder.Write("loci.txt", "L1 L2")));
   const RecordLayout layout{2, *rc::gen::element(Separators::kNone, Separators::kAllowed)};
-  FileWideCheck check{&*file, layout.separators, UndefinedAlleles::kWholeLoci, "odd", "undefined"};
+  const FileWideCheck check{&*file, layout.separators, UndefinedAlleles::kWholeLoci};
   const bool refused = CheckFileWide(check, loci) ||
                        CheckRecords(*file, layout, loci, DigitsPerField(*file, layout)) ||
                        CountIndividuals(*file, layout) == 0;

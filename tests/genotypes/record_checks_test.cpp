@@ -57,28 +57,6 @@ TEST(CheckRecords, TellsALostOrGainedField) {
             sentence + ", line 4, record 2 (A2): the file ends after 1 of its 2 fields");
 }
 
-TEST(CheckRecords, TellsABadFieldOrName) {
-  EXPECT_EQ(Check("A1 100102 10O104", kParentsOfTwoLoci),
-            "A genotype field is not all digits!\n, line 1, record 1 (A1), locus L2: \"10O104\" "
-            "should be both allele sizes as digits side by side");
-  EXPECT_EQ(Check("A1 -10102 100104", kParentsOfTwoLoci),
-            "A genotype field is not all digits!\n, line 1, record 1 (A1), locus L1: \"-10102\" "
-            "should be both allele sizes as digits side by side");
-  EXPECT_EQ(Check("*\nA1 100102\n9598", kParentsOfTwoLoci),
-            "A genotype field has another number of digits!\n, line 3, record 2 (A1), locus L2: "
-            "\"9598\" has 4 digits, the first parents file uses 6; spreadsheets drop leading "
-            "zeros: write them again or correct the field");
-  EXPECT_EQ(Check("A1 01000102 100104", kParentsOfTwoLoci),
-            "A genotype field has another number of digits!\n, line 1, record 1 (A1), locus L1: "
-            "\"01000102\" has 8 digits, the first parents file uses 6");
-  EXPECT_EQ(Check("A1 1000010002 1000010002", kParentsOfTwoLoci, 10),
-            "An allele has more than 4 digits!\n, line 1, record 1 (A1), locus L1: "
-            "\"1000010002\" has 10 digits for both alleles");
-  EXPECT_EQ(Check("A1 100102 100104\nB123456789012345 100102 100104", kParentsOfTwoLoci),
-            "A name has more than 15 characters!\n, line 2, record 2 (B123456789012345): "
-            "\"B123456789012345\" has 16 characters");
-}
-
 TEST(DigitsPerField, AreThoseOfTheFirstIndividual) {
   const TempFolder folder;
   const auto digits = [&folder](const std::string& text, RecordLayout layout) {

@@ -2,7 +2,6 @@
 // Which sentence a user of the simulations reads for which fault, and in which order.
 #include "simulation/simulation_input.h"
 
-#include <cmath>
 #include <functional>
 
 #include <fmt/format.h>
@@ -165,39 +164,6 @@ TEST_F(SimulationInputTest, NeedsTheParentsOfEveryClassWithOffspring) {
             "are there");
   settings_.sets[1].estimated_uncollected = 0;
   EXPECT_EQ(Sentence(), "ok") << "no class draws an uncollected female";
-}
-
-TEST_F(SimulationInputTest, RefusesNumbersThatLeaveNothingToSimulate) {
-  const std::string impossible = "That number of parents is not possible!";
-  const std::string estimated =
-      "The estimated numbers of parents must not be negative, and not all 0!";
-  struct Case {
-    std::string sentence;
-    std::string sexed_sentence;
-    std::function<void(SimulationSettings&)> make;
-  };
-  const std::vector<Case> cases = {
-      {impossible, impossible, [](auto& s) { s.sets[0].uncollected = -0.5; }},
-      {impossible, impossible, [](auto& s) { s.sets[0].uncollected = NAN; }},
-      {"More than 50000 individuals!", "More than 50000 individuals!",
-       [](auto& s) { s.sets[0].uncollected = 50000; }},
-      {"The number of pseudo-collected parents must be above 0!",
-       "The number of pseudo-collected parents must be above 0!",
-       [](auto& s) { s.sets[0].pseudo_collected = 0; }},
-      {"ok", "The number of pseudo-collected parents must be above 0!",
-       [](auto& s) { s.sets[1].pseudo_collected = 0; }},
-      {"ok", estimated, [](auto& s) { s.sets[0].estimated_collected = -1; }},
-      {"ok", estimated,
-       [](auto& s) { s.sets[1].estimated_uncollected = s.sets[1].estimated_collected = 0; }},
-      {"Number of iterations must be inferior to 1000", "ok", [](auto& s) { s.iterations = 1001; }},
-  };
-  for (const Case& each : cases) {
-    for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
-      Start(flow, Procedure::kPreParental);
-      each.make(settings_);
-      EXPECT_EQ(Sentence(), flow == Flow::kSexed ? each.sexed_sentence : each.sentence);
-    }
-  }
 }
 
 /// All faults at once; each sentence is followed by what mends its fault.
