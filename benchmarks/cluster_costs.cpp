@@ -24,7 +24,6 @@
 #include "cluster/sent_part.h"
 #include "simulation/counts_plan.h"
 #include "simulation/iteration_portions.h"
-#include "simulation/sexed/simulation_of.h"
 
 namespace kaldo {
 namespace {
@@ -79,9 +78,9 @@ std::size_t BytesOf(const RememberedFiles& files) {
 }
 
 /// The quickest simulation, whose allocation has no errors, or a slower one.
-Costs SimulationCosts(const std::filesystem::path& folder, Flow flow_kind) {
+Costs SimulationCosts(const std::filesystem::path& folder, Flow flow) {
   SimulationSettings settings;
-  settings.flow = flow_kind;
+  settings.flow = flow;
   settings.error_model.kind = ErrorKind::kUniform;
   settings.loci_file = (folder / "loci.txt").string();
   for (ParentalSet& set : settings.sets) {
@@ -93,18 +92,16 @@ Costs SimulationCosts(const std::filesystem::path& folder, Flow flow_kind) {
   }
   settings.iterations = 999;
   settings.offspring_per_iteration = 1000;
-  const SimulationFlow& flow = SimulationOf(flow_kind);
   Costs costs;
   RememberedFiles files;
   const auto start = Clock::now();
-  const SimulationInput input = LoadSimulationInput(settings, flow, files).value();
+  const SimulationInput input = LoadSimulationInput(settings, files).value();
   costs.load = SecondsSince(start);
   costs.input_bytes = BytesOf(files);
   RunObserver observer;
   SimulationResult result;
-  CountsPlan plan(settings, input, flow, result, observer);
-  MeasurePortions(IterationTask(settings, input, flow.Design(), IterationProduct::kCounts), plan,
-                  costs);
+  CountsPlan plan(settings, input, result, observer);
+  MeasurePortions(IterationTask(settings, input, IterationProduct::kCounts), plan, costs);
   return costs;
 }
 

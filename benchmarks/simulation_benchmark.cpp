@@ -9,7 +9,6 @@
 #include <fmt/format.h>
 
 #include "simulation/iteration_states.h"
-#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulated_iteration.h"
 
 namespace kaldo {
@@ -48,8 +47,7 @@ class Study {
   }
 
   const SimulationSettings& Settings() const { return settings_; }
-  const SimulationFlow& SimulatedFlow() const { return SimulationOf(settings_.flow); }
-  SimulationInput Load() const { return LoadSimulationInput(settings_, SimulatedFlow()).value(); }
+  SimulationInput Load() const { return LoadSimulationInput(settings_).value(); }
 
  private:
   std::string WriteLoci() const {
@@ -82,7 +80,7 @@ class Study {
 void JumpOverIteration(benchmark::State& state) {
   const Study study(Flow::kNonSexed, 200, 1000);
   const SimulationInput input = study.Load();
-  IterationStates states(input, study.SimulatedFlow().Design(), 1);
+  IterationStates states(study.Settings().flow, input, 1);
   for (auto _ : state) {
     benchmark::DoNotOptimize(states.Next(1));
   }
@@ -93,7 +91,7 @@ void JumpOverIteration(benchmark::State& state) {
 void ProduceIteration(benchmark::State& state) {
   const Study study(Flow::kNonSexed, 2, 1000);
   const SimulationInput input = study.Load();
-  SimulatedIteration iteration(study.Settings(), input, study.SimulatedFlow().Design());
+  SimulatedIteration iteration(study.Settings(), input);
   iteration.UseLoci(input.subsets.At(0));
   const RunObserver observer;
   std::uint32_t seed = 0;
@@ -107,7 +105,7 @@ void ProduceIteration(benchmark::State& state) {
 void WholeIteration(benchmark::State& state, Flow flow) {
   const Study study(flow, static_cast<std::int32_t>(state.range(0)), 1000);
   const SimulationInput input = study.Load();
-  SimulatedIteration iteration(study.Settings(), input, study.SimulatedFlow().Design());
+  SimulatedIteration iteration(study.Settings(), input);
   iteration.UseLoci(input.subsets.At(0));
   const RunObserver observer;
   std::uint32_t seed = 0;

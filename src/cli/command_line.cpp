@@ -17,7 +17,6 @@
 #include "cli/simulation_options.h"
 #include "cli/simulation_result_text.h"
 #include "cli/terminal_progress.h"
-#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_record.h"
 
@@ -73,12 +72,12 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
   }
   const auto run = [&] {
     TerminalProgress progress(streams.err, streams.err_is_terminal);
-    return RunSimulation(settings, SimulationOf(settings.flow), progress, workforce);
+    return RunSimulation(settings, progress, workforce);
   }();
   if (!run) {
     return Tell(run.error(), streams);
   }
-  streams.out << ShortResult(settings, SimulationOf(settings.flow), *run);
+  streams.out << ShortResult(settings, *run);
   return ExitCode::kDone;
 }
 

@@ -7,15 +7,16 @@
 
 #include "base/version.h"
 #include "runs/project_folder.h"
+#include "simulation/reports/parameter_block.h"
+#include "simulation/reports/simulation_file_names.h"
+#include "simulation/reports/simulation_texts.h"
 #include "simulation/reports/subset_title.h"
-#include "simulation/simulation_file_names.h"
 
 namespace kaldo {
 
 namespace {
 
-std::string ParametersText(const SimulationSettings& settings, const SimulationFlow& flow,
-                           const SimulationRun& run) {
+std::string ParametersText(const SimulationSettings& settings, const SimulationRun& run) {
   const SimulationInput& input = run.input;
   const SimulationResult& result = run.result;
   return fmt::format(
@@ -23,7 +24,7 @@ std::string ParametersText(const SimulationSettings& settings, const SimulationF
       "  {} candidate parents, {} true parents in all, {} pseudo-offspring x {} iterations\n"
       "  {} of {} loci in use, error model {}, maximum offset tolerance {}\n"
       "  seed {}\n\n",
-      Version(), flow.TypeLine(settings.procedure), input.Candidates(flow.Design()).Size(),
+      Version(), TypeLine(settings), input.candidates.Size(),
       input.NumberOfParents(), input.OffspringPerIteration(), settings.iterations,
       input.loci.LociInUse().size(), input.loci.Count(), ShortDescription(settings.error_model),
       settings.tolerance.Value(), result.seed);
@@ -34,42 +35,23 @@ std::string Decimals(double value) {
   return std::isnan(value) ? "nan" : fmt::format("{:.4f}", value);
 }
 
-std::string CorrectRow(std::string_view label, std::int32_t offspring, const Spread& spread) {
-  return fmt::format("  {:<12}{:>10}{:>12}{:>12}\n", label, offspring, Decimals(spread.mean),
-                     Decimals(spread.deviation));
-}
-
 /// Per class and globally, from the last subset of loci.
-std::string CorrectRows(const SimulationFlow& flow, const SimulationRun& run) {
-  const SimulationDesign& design = flow.Design();
-  const SimulationInput& input = run.input;
-  const SimulationResult& result = run.result;
-  std::string text =
-      fmt::format("  {:<12}{:>10}{:>12}{:>12}\n", "true parents", "offspring", "correct", "sd");
-  for (std::size_t k = 0; k < design.classes.size(); ++k) {
-    const OriginClass& origin = design.classes[k];
-    if (input.class_sizes[k] == 0) {
-      text += fmt::format("  {:<12}{:>10}{:>12}{:>12}\n", origin.texts.label, 0, "NA", "NA");
-      continue;
-    }
-    text += CorrectRow(
-        origin.texts.label, input.class_sizes[k],
-        SpreadOver(result.iterations, design.row_spread, [&](const IterationCounts& counts) {
-          return CorrectFrequency(origin, counts.at(k));
-        }));
+std::string CorrectRows(const SimulationTexts& texts, const SimulationResult& result) {
+  constexpr std::string_view kRow = "  {:<12}{:>10}{:>12}{:>12}\n";
+  std::string text = fmt::format(kRow, "true parents", "offspring", "correct", "sd");
+  for (std::size_t k = 0; k < result.origins.size(); ++k) {
+    const OriginStatistics& origin = result.origins[k];
+    const Spread& correct = origin.correct.spread;
+    text += fmt::format(kRow, texts.origins[k].label, origin.offspring,
+                        origin.is_empty ? "NA" : Decimals(correct.mean),
+                        origin.is_empty ? "NA" : Decimals(correct.deviation));
   }
-  text += CorrectRow(
-      "GLOBAL", static_cast<std::int32_t>(input.OffspringPerIteration()),
-      SpreadOver(result.iterations, design.row_spread, [&](const IterationCounts& counts) {
-        return GlobalCorrectFrequency(design, input, counts);
-      }));
   return text + fmt::format("\n  estimated probability that any allocation is correct: {:.4f}\n",
-                            result.LastSubset().figures[design.any_correct_figure]);
+                            result.LastSubset().probabilities.any);
 }
 
 /// The subsets that a strategy ran through; of very many only the last.
-std::string SubsetRows(const SimulationSettings& settings, const SimulationFlow& flow,
-                       const SimulationRun& run) {
+std::string SubsetRows(const SimulationSettings& settings, const SimulationRun& run) {
   constexpr std::size_t kMostRows = 50;
   const SimulationInput& input = run.input;
   const SimulationResult& result = run.result;
@@ -84,9 +66,8 @@ std::string SubsetRows(const SimulationSettings& settings, const SimulationFlow&
     text += "  ...\n";
   }
   for (std::size_t j = first; j < result.subsets.size(); ++j) {
-    text +=
-        fmt::format("  {:.4f}  {}\n", result.subsets[j].figures[flow.Design().any_correct_figure],
-                    NamesOf(input.loci, result.subsets[j].loci));
+    text += fmt::format("  {:.4f}  {}\n", result.subsets[j].probabilities.any,
+                        NamesOf(input.loci, result.subsets[j].loci));
   }
   if (result.criterion_reached) {
     text += fmt::format("The criterion {} has been reached with {} loci.\n", settings.criterion,
@@ -99,16 +80,15 @@ std::string SubsetRows(const SimulationSettings& settings, const SimulationFlow&
 
 }  // namespace
 
-std::string ShortResult(const SimulationSettings& settings, const SimulationFlow& flow,
-                        const SimulationRun& run) {
-  std::string text = ParametersText(settings, flow, run) + SubsetRows(settings, flow, run) +
-                     CorrectRows(flow, run);
+std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run) {
+  std::string text = ParametersText(settings, run) + SubsetRows(settings, run) +
+                     CorrectRows(TextsOf(settings.flow), run.result);
   text += fmt::format("\nFiles in \"{}\", first of all {}\n\n", settings.project,
                       kSummaryFile.substr(1));
   if (run.result.stepping.any_out_of_step) {
     text.append(kSteppingSentence).append("\n");
   }
-  return text.append(flow.Design().closing_sentence).append("\n");
+  return text.append(TextsOf(settings.flow).closing_sentence).append("\n");
 }
 
 }  // namespace kaldo

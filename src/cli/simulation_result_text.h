@@ -9,7 +9,6 @@ namespace kaldo {
 
 /// The result of a simulation as a user reads it first on standard output: per origin class and
 /// globally the estimated probability of a correct allocation, ending with the closing sentences.
-std::string ShortResult(const SimulationSettings& settings, const SimulationFlow& flow,
-                        const SimulationRun& run);
+std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run);
 
 }  // namespace kaldo

@@ -8,7 +8,6 @@
 #include "base/byte_packing.h"
 #include "base/version.h"
 #include "simulation/iteration_portions.h"
-#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_record.h"
 
 namespace kaldo {
@@ -60,8 +59,8 @@ class SentSimulation final : public PortionTask {
  public:
   SentSimulation(const RunRecord& record, FileSource& files, IterationProduct product)
       : settings_(Expect(SimulationSettingsOf(record, {}))),
-        input_(Expect(LoadSimulationInput(settings_, SimulationOf(settings_.flow), files))),
-        task_(settings_, input_, SimulationOf(settings_.flow).Design(), product) {}
+        input_(Expect(LoadSimulationInput(settings_, files))),
+        task_(settings_, input_, product) {}
 
   std::unique_ptr<PortionWorker> MakeWorker() const override { return task_.MakeWorker(); }
 

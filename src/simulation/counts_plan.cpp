@@ -6,9 +6,7 @@
 #include <fmt/format.h>
 
 #include "base/byte_packing.h"
-#include "simulation/figures.h"
 #include "simulation/iteration_portions.h"
-#include "simulation/reports/subset_statistics.h"
 
 namespace kaldo {
 
@@ -21,13 +19,13 @@ constexpr std::size_t kMostOffspringPerPortion = 16'384;
 }  // namespace
 
 CountsPlan::CountsPlan(const SimulationSettings& settings, const SimulationInput& input,
-                       const SimulationFlow& flow, SimulationResult& result, RunObserver& observer)
+                       SimulationResult& result, RunObserver& observer)
     : settings_(settings),
       input_(input),
-      flow_(flow),
+      design_(DesignOf(settings.flow)),
       result_(result),
       observer_(observer),
-      stream_(input, flow.Design(), result.seed) {}
+      stream_(settings.flow, input, result.seed) {}
 
 std::size_t CountsPlan::ItemsPerGroup() const {
   return static_cast<std::size_t>(settings_.iterations);
@@ -50,7 +48,7 @@ bool CountsPlan::Take(const Portion& portion, std::string_view result) {
   ByteUnpacker unpacker(result);
   for (const std::uint32_t state : ordered_.front()) {
     result_.states.push_back(state);
-    result_.iterations.push_back(unpacker.Get<IterationCounts>());
+    iterations_.push_back(unpacker.Get<IterationCounts>());
   }
   ordered_.pop_front();
   if (portion.end == ItemsPerGroup()) {
@@ -64,18 +62,22 @@ void CountsPlan::BeginSubset(std::size_t subset) {
     observer_.OnNote(fmt::format("subset {} of {}", subset + 1, Groups()));
   }
   result_.states.clear();
-  result_.iterations.clear();
+  iterations_.clear();
 }
 
 void CountsPlan::EndSubset(std::size_t subset) {
-  const LocusSubset loci = input_.subsets.At(subset);
-  result_.subsets.push_back({loci, WeightedFigures(flow_, input_, result_.iterations)});
+  SubsetFigures figures;
+  figures.loci = input_.subsets.At(subset);
+  figures.average = AverageFigures(design_, input_.weights, iterations_);
+  figures.probabilities = EstimateProbabilities(figures.average);
   if (settings_.print_subset_statistics) {
-    result_.subset_statistics += SubsetStatistics(flow_, input_, loci, result_.iterations);
+    for (const IterationTable& table : TablesByOrigin(design_, input_.weights, iterations_)) {
+      figures.tables.push_back(SpreadsOf(table));
+    }
   }
-  result_.criterion_reached =
-      settings_.strategy == LociStrategy::kMinimal &&
-      result_.LastSubset().figures[flow_.Design().any_correct_figure] >= settings_.criterion;
+  result_.criterion_reached = settings_.strategy == LociStrategy::kMinimal &&
+                              figures.probabilities.any >= settings_.criterion;
+  result_.subsets.push_back(std::move(figures));
 }
 
 }  // namespace kaldo

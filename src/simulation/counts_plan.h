@@ -9,13 +9,17 @@
 
 namespace kaldo {
 
-/// Subset by subset, its iterations: finds where each iteration starts, and fills the subsets, the
-/// counts, the states and the statistics of a result. Ends with the first subset that reaches the
-/// criterion where the strategy asks for that.
+/// Subset by subset, its iterations: finds where each iteration starts, and fills the figures of
+/// the subsets and the states of a result. Ends with the first subset that reaches the criterion
+/// where the strategy asks for that. The subsets share one stream of random numbers: each starts
+/// where the one before it ended.
 class CountsPlan final : public PortionPlan {
  public:
   CountsPlan(const SimulationSettings& settings, const SimulationInput& input,
-             const SimulationFlow& flow, SimulationResult& result, RunObserver& observer);
+             SimulationResult& result, RunObserver& observer);
+
+  /// The counts of the subset taken last.
+  Iterations LastIterations() const { return iterations_; }
 
   std::size_t Groups() const override { return input_.subsets.Count(); }
   std::size_t ItemsPerGroup() const override;
@@ -30,11 +34,12 @@ class CountsPlan final : public PortionPlan {
 
   const SimulationSettings& settings_;
   const SimulationInput& input_;
-  const SimulationFlow& flow_;
+  const SimulationDesign& design_;
   SimulationResult& result_;
   RunObserver& observer_;
 
   IterationStates stream_;
+  std::vector<IterationCounts> iterations_;
   std::deque<std::vector<std::uint32_t>> ordered_;  ///< the states of portions not yet taken
 };
 

@@ -24,11 +24,8 @@ std::string MatricesOf(const SimulationSettings& settings, const SimulationInput
 class IterationWorker final : public PortionWorker {
  public:
   IterationWorker(const SimulationSettings& settings, const SimulationInput& input,
-                  const SimulationDesign& design, IterationProduct product)
-      : settings_(settings),
-        input_(input),
-        product_(product),
-        iteration_(settings, input, design) {}
+                  IterationProduct product)
+      : settings_(settings), input_(input), product_(product), iteration_(settings, input) {}
 
   std::string Do(std::string_view order, RunObserver& observer) override {
     ByteUnpacker unpacker(order);
@@ -76,7 +73,7 @@ std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> st
 }
 
 std::unique_ptr<PortionWorker> IterationTask::MakeWorker() const {
-  return std::make_unique<IterationWorker>(settings_, input_, design_, product_);
+  return std::make_unique<IterationWorker>(settings_, input_, product_);
 }
 
 }  // namespace kaldo

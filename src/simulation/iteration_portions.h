@@ -27,15 +27,14 @@ std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> st
 class IterationTask final : public PortionTask {
  public:
   IterationTask(const SimulationSettings& settings, const SimulationInput& input,
-                const SimulationDesign& design, IterationProduct product)
-      : settings_(settings), input_(input), design_(design), product_(product) {}
+                IterationProduct product)
+      : settings_(settings), input_(input), product_(product) {}
 
   std::unique_ptr<PortionWorker> MakeWorker() const override;
 
  private:
   const SimulationSettings& settings_;
   const SimulationInput& input_;
-  const SimulationDesign& design_;
   IterationProduct product_;
 };
 

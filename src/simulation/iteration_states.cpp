@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/iteration_states.h"
 
+#include "simulation/flows/simulation_design.h"
 #include "simulation/simulated_parents.h"
 
 namespace kaldo {
@@ -22,13 +23,13 @@ TrueParentRanges RangesOf(const OriginClass& origin, const SimulationInput& inpu
           origin.SameGroup()};
 }
 
-IterationStates::IterationStates(const SimulationInput& input, const SimulationDesign& design,
-                                 std::uint32_t seed)
+IterationStates::IterationStates(Flow flow, const SimulationInput& input, std::uint32_t seed)
     : random_(seed),
       parents_(SimulatedParentsOf(input) * DrawsPerParent(input.loci.Count())),
       offspring_(DrawsPerPseudoOffspring(input.loci.Count())) {
-  for (std::size_t k = 0; k < design.classes.size(); ++k) {
-    classes_.push_back({RangesOf(design.classes[k], input), input.class_sizes[k]});
+  const std::vector<OriginClass>& classes = DesignOf(flow).classes;
+  for (std::size_t k = 0; k < classes.size(); ++k) {
+    classes_.push_back({RangesOf(classes[k], input), input.class_sizes[k]});
   }
 }
 

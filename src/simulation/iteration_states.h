@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "simulation/flows/origin_class.h"
 #include "simulation/pseudo_offspring.h"
 #include "simulation/simulation_input.h"
 
@@ -14,7 +15,7 @@ namespace kaldo {
 /// Iterations can then run in any order and on any thread.
 class IterationStates {
  public:
-  IterationStates(const SimulationInput& input, const SimulationDesign& design, std::uint32_t seed);
+  IterationStates(Flow flow, const SimulationInput& input, std::uint32_t seed);
 
   /// The states at the start of the next so many iterations.
   std::vector<std::uint32_t> Next(std::size_t iterations);

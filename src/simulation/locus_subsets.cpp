@@ -12,7 +12,7 @@ namespace kaldo {
 namespace {
 
 /// Ways to choose so many of `count` loci; exact, since 50 over 25 fits.
-std::uint64_t Choose(std::size_t count, std::size_t chosen) {
+std::uint64_t WaysToChoose(std::size_t count, std::size_t chosen) {
   std::uint64_t ways = 1;
   for (std::size_t i = 0; i < chosen; ++i) {
     ways = ways * (count - i) / (i + 1);
@@ -23,7 +23,7 @@ std::uint64_t Choose(std::size_t count, std::size_t chosen) {
 std::uint64_t SubsetsFrom(std::size_t count, std::size_t start_with) {
   std::uint64_t subsets = 0;
   for (std::size_t size = start_with; size <= count; ++size) {
-    subsets += Choose(count, size);
+    subsets += WaysToChoose(count, size);
   }
   return subsets;
 }
@@ -54,8 +54,8 @@ void AppendChoices(std::size_t count, std::size_t size, std::vector<std::uint64_
 
 }  // namespace
 
-tl::expected<LocusSubsets, Problem> LocusSubsets::Of(const SimulationSettings& settings,
-                                                     const LociList& loci) {
+tl::expected<LocusSubsets, Problem> LocusSubsets::Choose(const SimulationSettings& settings,
+                                                         const LociList& loci) {
   LocusSubsets subsets;
   subsets.loci_ = loci.LociInUse();
   const std::size_t count = subsets.loci_.size();

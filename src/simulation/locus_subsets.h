@@ -28,8 +28,8 @@ class LocusSubsets {
   /// All subsets of `loci` with at least `start_with` of them, by growing size and inside a size in
   /// lexicographic order of positions; the first k of `order_of_entry` for the cumulative strategy;
   /// or `loci` once. More than kMostSubsets, or none, is a Problem.
-  static tl::expected<LocusSubsets, Problem> Of(const SimulationSettings& settings,
-                                                const LociList& loci);
+  static tl::expected<LocusSubsets, Problem> Choose(const SimulationSettings& settings,
+                                                    const LociList& loci);
 
   std::size_t Count() const;
   LocusSubset At(std::size_t subset) const;

@@ -2,7 +2,7 @@
 #include "simulation/saved_loci.h"
 
 #include "runs/report_set.h"
-#include "simulation/simulation_file_names.h"
+#include "simulation/reports/simulation_file_names.h"
 
 namespace kaldo {
 

@@ -3,11 +3,6 @@
 
 namespace kaldo {
 
-SideCode CodeOfSides(Flow flow, bool first_side, bool second_side) {
-  const int second_weight = flow == Flow::kSexed ? 2 : 1;
-  return static_cast<SideCode>((first_side ? 1 : 0) + (second_side ? second_weight : 0));
-}
-
 SideCode CodeOfTrueParents(Flow flow, ParentPair pair, ParentPair truth, bool first_accepted,
                            bool second_accepted) {
   const auto is_true = [flow, truth](Slot parent, Slot of_its_side) {

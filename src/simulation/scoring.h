@@ -3,12 +3,9 @@
 
 #include "method/allocation_outcome.h"
 #include "simulation/iteration_counts.h"
-#include "simulation/origin_class.h"
+#include "simulation/flows/origin_class.h"
 
 namespace kaldo {
-
-/// The sides of `accepted` as the flow codes them.
-SideCode CodeOfSides(Flow flow, bool first_side, bool second_side);
 
 /// Which sides of `pair`, as far as they are accepted, are true parents. Sexed: the male must be
 /// the true father, the female the true mother. Non-sexed: either true parent will do for either

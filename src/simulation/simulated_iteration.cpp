@@ -12,33 +12,31 @@ namespace kaldo {
 
 namespace {
 
-/// The non-sexed flow lets errors act in the production only and allocates without any.
+/// A flow may let errors act in the production only and allocate without any.
 ErrorModel AllocationModel(const SimulationSettings& settings) {
   ErrorModel model = settings.error_model;
-  if (settings.flow == Flow::kNonSexed) {
+  if (!DesignOf(settings.flow).allocates_with_errors) {
     model.kind = ErrorKind::kNoError;
   }
   return model;
 }
 
 CandidateGroup CandidatesOf(const SimulationInput& input, const SimulationDesign& design) {
-  if (design.flow == Flow::kSexed) {
-    return {input.groups[0].slots, input.groups[1].slots};
-  }
-  return {input.groups[0].slots, input.groups[0].slots};
+  return {input.groups[design.candidate_groups[0]].slots,
+          input.groups[design.candidate_groups[1]].slots};
 }
 
 }  // namespace
 
 SimulatedIteration::SimulatedIteration(const SimulationSettings& settings,
-                                       const SimulationInput& input, const SimulationDesign& design)
+                                       const SimulationInput& input)
     : settings_(settings),
       input_(input),
-      design_(design),
+      design_(DesignOf(settings.flow)),
       draw_(input.digits_per_field / 2),
       allocation_model_(AllocationModel(settings)),
       offspring_{input.NumberOfParents(), input.NumberOfParents() + input.OffspringPerIteration()},
-      candidates_{CandidatesOf(input, design)},
+      candidates_{CandidatesOf(input, design_)},
       in_use_(input.loci.Count()),
       table_(input.loci.Count()),
       catalogues_(input.loci.Count()),
@@ -128,7 +126,7 @@ IterationCounts SimulatedIteration::Run(std::uint32_t state, const RunObserver& 
   DrawAllParents(random);
   CatalogueParents();
   Produce(random);
-  searcher_.Prepare(table_, input_.Candidates(design_).Size(), loci_.loci, allocation_matrices_,
+  searcher_.Prepare(table_, input_.candidates.Size(), loci_.loci, allocation_matrices_,
                     {settings_.flow, candidates_, {}});
   IterationCounts counts{};
   std::uint32_t next = 0;

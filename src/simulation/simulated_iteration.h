@@ -8,6 +8,7 @@
 #include "genotypes/catalogued_loci.h"
 #include "method/allocation_decision.h"
 #include "search/pair_searcher.h"
+#include "simulation/flows/simulation_design.h"
 #include "simulation/iteration_counts.h"
 #include "simulation/random_numbers.h"
 #include "simulation/reading_table.h"
@@ -20,8 +21,7 @@ namespace kaldo {
 /// has one of its own.
 class SimulatedIteration {
  public:
-  SimulatedIteration(const SimulationSettings& settings, const SimulationInput& input,
-                     const SimulationDesign& design);
+  SimulatedIteration(const SimulationSettings& settings, const SimulationInput& input);
 
   /// Chooses the loci of the iterations that follow.
   void UseLoci(const LocusSubset& loci);

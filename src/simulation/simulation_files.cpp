@@ -8,6 +8,7 @@
 #include "genotypes/capacities.h"
 #include "genotypes/file_wide_checks.h"
 #include "genotypes/record_checks.h"
+#include "simulation/flows/simulation_design.h"
 
 namespace kaldo {
 
@@ -87,20 +88,18 @@ tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& se
   return TokenFile::Read(settings.loci_file);
 }
 
-tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
-                                                           const SimulationDesign& design) {
+tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings) {
   DiskFiles disk;
-  return OpenSimulationFiles(settings, design, disk);
+  return OpenSimulationFiles(settings, disk);
 }
 
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
-                                                           const SimulationDesign& design,
                                                            FileSource& source) {
   if (settings.loci_file.empty()) {
     return tl::unexpected(Problem{.kind = ProblemKind::kNoLociFile});
   }
   std::vector<GroupPath> paths;
-  for (const GroupDesign& group : design.groups) {
+  for (const GroupDesign& group : DesignOf(settings.flow).groups) {
     paths.push_back(PathOf(settings, group));
     if (paths.back().path->empty()) {
       return tl::unexpected(Problem{.kind = paths.back().no_name});

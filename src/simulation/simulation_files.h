@@ -6,7 +6,7 @@
 #include <tl/expected.hpp>
 
 #include "genotypes/loci_list.h"
-#include "simulation/simulation_flow.h"
+#include "simulation/simulation_settings.h"
 
 namespace kaldo {
 
@@ -22,17 +22,15 @@ struct GroupFile {
 /// The open files of a simulation.
 struct SimulationFiles {
   TokenFile loci;
-  std::vector<GroupFile> groups;  ///< as in the design of the flow
+  std::vector<GroupFile> groups;  ///< as in SimulationDesign::groups
 };
 
 /// Opens the names-of-loci file alone, which must be given.
 tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& settings);
 
 /// Opens the files: first every name must be given, then every file must open.
+tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings);
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
-                                                           const SimulationDesign& design);
-tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
-                                                           const SimulationDesign& design,
                                                            FileSource& source);
 
 /// The tests of the file screens, group after group; each screen tells its own fault at once.

@@ -10,15 +10,16 @@
 #include "genotypes/genotype_reader.h"
 #include "genotypes/record_checks.h"
 #include "method/cumulative_sequence.h"
+#include "simulation/figures/class_sizes.h"
+#include "simulation/figures/class_weights.h"
+#include "simulation/flows/simulation_design.h"
+#include "simulation/reports/simulation_texts.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_files.h"
 
 namespace kaldo {
 
 namespace {
-
-/// Offspring of two collected parents need two of them, whatever was typed.
-constexpr std::uint32_t kFewestPseudoCollected = 2;
 
 std::optional<Problem> ApplyChoices(const SimulationSettings& settings, SimulationInput& input) {
   if (auto problem = ValidateForSimulation(settings.error_model)) {
@@ -34,7 +35,7 @@ std::optional<Problem> ApplyChoices(const SimulationSettings& settings, Simulati
       return problem;
     }
   }
-  auto subsets = LocusSubsets::Of(settings, input.loci);
+  auto subsets = LocusSubsets::Choose(settings, input.loci);
   if (!subsets) {
     return std::move(subsets.error());
   }
@@ -48,8 +49,8 @@ std::uint32_t SimulatedParents(const SimulationSettings& settings, const GroupDe
   if (!group.collected) {
     return static_cast<std::uint32_t>(std::ceil(set.uncollected));
   }
-  const auto wanted = static_cast<std::uint32_t>(set.pseudo_collected);
-  return settings.flow == Flow::kNonSexed ? std::max(wanted, kFewestPseudoCollected) : wanted;
+  return std::max(static_cast<std::uint32_t>(set.pseudo_collected),
+                  DesignOf(settings.flow).fewest_pseudo_collected);
 }
 
 tl::expected<RepresentativeSample, Problem> LoadSample(const GroupFile& file,
@@ -77,9 +78,9 @@ tl::expected<RepresentativeSample, Problem> LoadSample(const GroupFile& file,
 }
 
 /// Loads the groups in the order of the parent table.
-std::optional<Problem> LoadGroups(const SimulationSettings& settings,
-                                  const SimulationDesign& design, const SimulationFiles& files,
+std::optional<Problem> LoadGroups(const SimulationSettings& settings, const SimulationFiles& files,
                                   SimulationInput& input) {
+  const SimulationDesign& design = DesignOf(settings.flow);
   input.collected = GenotypeTable(input.loci.Count());
   std::uint32_t begin = 0;
   for (std::size_t k = 0; k < design.groups.size(); ++k) {
@@ -103,6 +104,7 @@ std::optional<Problem> LoadGroups(const SimulationSettings& settings,
       input.collected_numbers.push_back(file.holds_parents
                                             ? static_cast<double>(group.slots.Size())
                                             : static_cast<double>(set.pseudo_collected));
+      input.candidates = {0, group.slots.end};
     }
     input.groups.push_back(std::move(group));
     input.files.push_back({file.role, file.tokens.Path(), file.tokens.Digest()});
@@ -135,8 +137,8 @@ std::optional<Problem> CheckAlleles(const SimulationInput& input) {
 
 /// A class with pseudo-offspring needs a true parent in each of its groups, and two if both come
 /// from one group.
-std::optional<Problem> CheckGroupSizes(const SimulationDesign& design,
-                                       const SimulationInput& input) {
+std::optional<Problem> CheckGroupSizes(Flow flow, const SimulationInput& input) {
+  const SimulationDesign& design = DesignOf(flow);
   if (input.NumberOfParents() > kMaxIndividuals) {
     return Problem{.kind = ProblemKind::kTooManyIndividuals,
                    .subject = fmt::format("{}", kMaxIndividuals),
@@ -152,7 +154,7 @@ std::optional<Problem> CheckGroupSizes(const SimulationDesign& design,
                      .found = fmt::format(
                          "{} pseudo-offspring of origin {} need {} true parents, of which {} "
                          "and {} are there",
-                         input.class_sizes[k], origin.texts.label,
+                         input.class_sizes[k], TextsOf(flow).origins[k].label,
                          origin.SameGroup() ? "two different" : "one and one", first, second)};
     }
   }
@@ -161,30 +163,19 @@ std::optional<Problem> CheckGroupSizes(const SimulationDesign& design,
 
 }  // namespace
 
-SlotRange SimulationInput::Candidates(const SimulationDesign& design) const {
-  std::uint32_t end = 0;
-  for (std::size_t k = 0; k < groups.size(); ++k) {
-    end = design.groups[k].collected ? groups[k].slots.end : end;
-  }
-  return {0, end};
-}
-
 std::uint32_t SimulationInput::OffspringPerIteration() const {
   return static_cast<std::uint32_t>(
       std::accumulate(class_sizes.begin(), class_sizes.end(), std::int32_t{0}));
 }
 
-tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
-                                                           const SimulationFlow& flow) {
+tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings) {
   DiskFiles disk;
-  return LoadSimulationInput(settings, flow, disk);
+  return LoadSimulationInput(settings, disk);
 }
 
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
-                                                           const SimulationFlow& flow,
                                                            FileSource& source) {
-  const SimulationDesign& design = flow.Design();
-  auto files = OpenSimulationFiles(settings, design, source);
+  auto files = OpenSimulationFiles(settings, source);
   if (!files) {
     return tl::unexpected(std::move(files.error()));
   }
@@ -207,15 +198,16 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
   if (auto problem = ApplyChoices(settings, input)) {
     return tl::unexpected(std::move(*problem));
   }
-  if (auto problem = LoadGroups(settings, design, *files, input)) {
+  if (auto problem = LoadGroups(settings, *files, input)) {
     return tl::unexpected(std::move(*problem));
   }
   if (auto problem = CheckAlleles(input)) {
     return tl::unexpected(std::move(*problem));
   }
-  input.weights = flow.Weights(settings, input.collected_numbers);
-  input.class_sizes = flow.ClassSizes(settings, input.collected_numbers);
-  if (auto problem = CheckGroupSizes(design, input)) {
+  input.collected_shares = CollectedShares(settings, input.collected_numbers);
+  input.weights = ClassWeights(settings, input.collected_numbers);
+  input.class_sizes = ClassSizes(settings, input.collected_numbers);
+  if (auto problem = CheckGroupSizes(settings.flow, input)) {
     return tl::unexpected(std::move(*problem));
   }
   return input;

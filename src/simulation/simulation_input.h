@@ -11,7 +11,7 @@
 #include "runs/run_record.h"
 #include "simulation/locus_subsets.h"
 #include "simulation/representative_sample.h"
-#include "simulation/simulation_flow.h"
+#include "simulation/simulation_settings.h"
 
 namespace kaldo {
 
@@ -26,10 +26,12 @@ struct SimulationInput {
   LociList loci;
   std::size_t digits_per_field = 0;
 
-  std::vector<ParentalGroup> groups;  ///< as in the design of the flow
+  std::vector<ParentalGroup> groups;  ///< as in SimulationDesign::groups
+  SlotRange candidates;               ///< of the allocation: the collected groups, which come first
   GenotypeTable collected;            ///< PARENTAL: the parents of the collected groups, in slots
 
   std::vector<double> collected_numbers;  ///< per set: parents collected, or to be drawn, as typed
+  std::vector<double> collected_shares;   ///< per set: proportion collected, see CollectedShares
   std::vector<double> weights;            ///< per class: its share in the population
   std::vector<std::int32_t> class_sizes;  ///< per class: its pseudo-offspring in an iteration
   LocusSubsets subsets;
@@ -38,18 +40,13 @@ struct SimulationInput {
 
   std::uint32_t NumberOfParents() const { return groups.back().slots.end; }
 
-  /// The candidates of the allocation: the collected groups, which come first.
-  SlotRange Candidates(const SimulationDesign& design) const;
-
   std::uint32_t OffspringPerIteration() const;
 };
 
 /// Tests the settings and the files of a simulation in the order of its screens, then each record
 /// for itself and the group sizes, and loads them. Nothing is written.
+tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings);
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
-                                                           const SimulationFlow& flow);
-tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
-                                                           const SimulationFlow& flow,
                                                            FileSource& source);
 
 }  // namespace kaldo

@@ -16,58 +16,52 @@ std::uint32_t TimeSeed(std::chrono::system_clock::time_point time) {
   return static_cast<std::uint32_t>(std::chrono::system_clock::to_time_t(time));
 }
 
-/// The alleles of the last iteration, which the stepping report looks at.
-SteppingReport SteppingOfLastIteration(const SimulationSettings& settings,
-                                       const SimulationInput& input, const SimulationDesign& design,
-                                       const SimulationResult& result,
-                                       const RunObserver& observer) {
-  SimulatedIteration iteration(settings, input, design);
-  iteration.UseLoci(result.LastSubset().loci);
-  iteration.Run(result.states.back(), observer);
-  return CheckStepping(input.loci, iteration.CataloguesOfAll());
-}
-
-}  // namespace
-
+/// Runs all subsets and iterations. Leaves the last iteration as it was made in `last`: the workers
+/// only tell their counts, so it is made once more.
 SimulationResult Simulate(const SimulationSettings& settings, const SimulationInput& input,
-                          const SimulationFlow& flow, RunObserver& observer, Workforce& workforce) {
-  const SimulationDesign& design = flow.Design();
+                          SimulatedIteration& last, RunObserver& observer, Workforce& workforce) {
   SimulationResult result;
   result.started = std::chrono::system_clock::now();
   const auto clock_start = std::chrono::steady_clock::now();
   result.seed = settings.seed.value_or(TimeSeed(result.started));
   result.threads = workforce.Threads(settings.threads);
 
-  const IterationTask task(settings, input, design, IterationProduct::kCounts);
-  CountsPlan plan(settings, input, flow, result, observer);
+  const IterationTask task(settings, input, IterationProduct::kCounts);
+  CountsPlan plan(settings, input, result, observer);
   observer.OnPart(kSimulatingPart, plan.Groups() * plan.ItemsPerGroup());
   workforce.Do({kSimulatingPart, task, plan, [&] { return RecordOf(settings, input, result); }},
                settings.threads, observer);
-  result.stepping = SteppingOfLastIteration(settings, input, design, result, observer);
+  result.origins =
+      StatisticsByOrigin(DesignOf(settings.flow), input.weights, plan.LastIterations());
+
+  last.UseLoci(result.LastSubset().loci);
+  last.Run(result.states.back(), observer);
+  result.stepping = CheckStepping(input.loci, last.CataloguesOfAll());
   result.duration = std::chrono::steady_clock::now() - clock_start;
   return result;
 }
 
+}  // namespace
+
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
-                                                   const SimulationFlow& flow,
                                                    RunObserver& observer) {
   LocalThreads threads;
-  return RunSimulation(settings, flow, observer, threads);
+  return RunSimulation(settings, observer, threads);
 }
 
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
-                                                   const SimulationFlow& flow,
                                                    RunObserver& observer, Workforce& workforce) {
   if (settings.project.empty()) {
     return tl::unexpected(Problem{.kind = ProblemKind::kNoProject});
   }
-  auto input = LoadSimulationInput(settings, flow, workforce.Files());
+  auto input = LoadSimulationInput(settings, workforce.Files());
   if (!input) {
     return tl::unexpected(std::move(input.error()));
   }
-  SimulationReports reports(settings, flow);
-  SimulationResult result = Simulate(settings, *input, flow, observer, workforce);
-  reports.Write(settings, *input, result, observer, workforce);
+  SimulationReports reports(settings);
+  SimulatedIteration last(settings, *input);
+  SimulationResult result = Simulate(settings, *input, last, observer, workforce);
+  reports.Write(settings, *input, result, last, observer, workforce);
   return SimulationRun{std::move(*input), std::move(result)};
 }
 

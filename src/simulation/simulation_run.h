@@ -10,30 +10,24 @@
 #include "base/run_observer.h"
 #include "genotypes/stepping_condition.h"
 #include "runs/workforce.h"
-#include "simulation/figures.h"
-#include "simulation/simulation_flow.h"
+#include "simulation/figures/origin_statistics.h"
+#include "simulation/figures/subset_figures.h"
 #include "simulation/simulation_input.h"
 
 namespace kaldo {
 
-/// What a simulation found with one subset of loci.
-struct SubsetFigures {
-  LocusSubset loci;             ///< in order of entry
-  std::vector<double> figures;  ///< weighted and averaged, as the flow orders them
-};
-
-/// What a simulation found.
+/// What a simulation found. All figures are shares from 0 to 1; whoever shows them only writes.
 struct SimulationResult {
   std::uint32_t seed = 0;  ///< drawn from the calendar time unless it was given
 
   std::vector<SubsetFigures> subsets;  ///< in the order in which they ran
   bool criterion_reached = false;      ///< by the last of them
 
-  // Of the last subset: the counts of every iteration and where each starts in the stream.
-  std::vector<IterationCounts> iterations;
-  std::vector<std::uint32_t> states;
+  /// Of the last subset: class of origin by class, and behind them all classes together.
+  std::vector<OriginStatistics> origins;
 
-  std::string subset_statistics;  ///< their tables, where wanted
+  /// Of the last subset: where in the stream of random numbers each iteration starts.
+  std::vector<std::uint32_t> states;
 
   SteppingReport stepping;  ///< of the last iteration
 
@@ -42,12 +36,8 @@ struct SimulationResult {
   std::chrono::duration<double> duration{};
 
   const SubsetFigures& LastSubset() const { return subsets.back(); }
+  const OriginStatistics& Global() const { return origins.back(); }
 };
-
-/// Runs all subsets and iterations. Iterations run in parallel: each starts at a state of the
-/// random numbers known beforehand, so that the result is the same for any workforce.
-SimulationResult Simulate(const SimulationSettings& settings, const SimulationInput& input,
-                          const SimulationFlow& flow, RunObserver& observer, Workforce& workforce);
 
 /// A finished simulation.
 struct SimulationRun {
@@ -56,12 +46,12 @@ struct SimulationRun {
 };
 
 /// The whole run: checks, simulates, and writes all reports and the run record, each whole or not
-/// at all. Problems, failures, stops and the workforce are as in RunAllocation.
+/// at all. Whether it is sexed is told by the settings. Iterations run in parallel: each starts at a
+/// state of the random numbers known beforehand, so that the result is the same for any workforce.
+/// Problems, failures, stops and the workforce are as in RunAllocation.
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
-                                                   const SimulationFlow& flow,
                                                    RunObserver& observer);
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
-                                                   const SimulationFlow& flow,
                                                    RunObserver& observer, Workforce& workforce);
 
 }  // namespace kaldo

@@ -102,7 +102,6 @@ class ResultsLargeTest : public QObject {
     auto tokens = TokenFile::Read(PathBytes(file.fileName()));
     QVERIFY(tokens.has_value());
     made.run.input.loci = LociList(*tokens);
-    const std::size_t figure = SimulationOf(made.settings.flow).Design().any_correct_figure;
     std::mt19937 random(7);
     std::size_t with_both = 0;
     for (std::uint32_t choice = 1; choice < 1U << kLoci; ++choice) {
@@ -112,7 +111,7 @@ class ResultsLargeTest : public QObject {
           subset.loci.push_back(LocusIndex{k});
         }
       }
-      subset.figures.assign(figure + 1, static_cast<double>(random() % 1000) / 1000);
+      subset.probabilities.any = static_cast<double>(random() % 1000) / 1000;
       with_both += (choice & 0b11U) == 0b11U ? 1 : 0;
       made.run.result.subsets.push_back(std::move(subset));
     }
@@ -122,10 +121,10 @@ class ResultsLargeTest : public QObject {
     for (std::uint32_t size = 1; size <= kLoci; ++size) {
       double highest = -1;
       for (const SubsetFigures& subset : subsets) {
-        highest = subset.loci.size() == size ? std::max(highest, subset.figures[figure]) : highest;
+        highest = subset.loci.size() == size ? std::max(highest, subset.probabilities.any) : highest;
       }
       const auto first = std::find_if(subsets.begin(), subsets.end(), [&](const auto& subset) {
-        return subset.loci.size() == size && subset.figures[figure] == highest;
+        return subset.loci.size() == size && subset.probabilities.any == highest;
       });
       first_of_best += QString::number(first - subsets.begin() + 1);
     }

@@ -138,12 +138,11 @@ class ResultsSimulationTest : public QObject {
     shown.Run();
     const auto& subsets = shown.run.result.subsets;
     QCOMPARE(subsets.size(), std::size_t{15});
-    const std::size_t figure = SimulationOf(Flow::kNonSexed).Design().any_correct_figure;
     const QAbstractItemModel& model = ModelOf(*shown.window, "SubsetsTable");
     for (std::size_t k = 0; k < subsets.size(); ++k) {
       bool is_best = true;  // better than all before, as good as all behind
       for (std::size_t other = 0; other < subsets.size(); ++other) {
-        const double difference = subsets[other].figures[figure] - subsets[k].figures[figure];
+        const double difference = subsets[other].probabilities.any - subsets[k].probabilities.any;
         const bool beaten = difference > 0 || (difference == 0 && other < k);
         is_best = is_best && !(subsets[other].loci.size() == subsets[k].loci.size() && beaten);
       }
@@ -151,7 +150,7 @@ class ResultsSimulationTest : public QObject {
         return model.index(static_cast<int>(k), Place(column)).data().toString();
       };
       QCOMPARE(cell(SubsetColumn::kNames), Text(NamesOf(shown.run.input.loci, subsets[k].loci)));
-      QCOMPARE(cell(SubsetColumn::kAnyCorrect), Text(FormatDouble(subsets[k].figures[figure])));
+      QCOMPARE(cell(SubsetColumn::kAnyCorrect), Text(FormatDouble(subsets[k].probabilities.any)));
       QCOMPARE(cell(SubsetColumn::kBest),
                is_best ? Text("★ best of %1").arg(subsets[k].loci.size()) : QString());
     }

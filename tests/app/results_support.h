@@ -11,7 +11,6 @@
 #include "allocation/allocation_run.h"
 #include "app/base/text.h"
 #include "app/results/chart_view.h"
-#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_run.h"
 
 namespace kaldo::test {
@@ -158,7 +157,7 @@ inline SimulationSettings ExampleSimulation(Flow flow, const QTemporaryDir& fold
 /// A simulation leaves a file in the working folder, which therefore is one of the test.
 inline SimulationRun Run(const SimulationSettings& settings) {
   RunObserver observer;
-  auto run = RunSimulation(settings, SimulationOf(settings.flow), observer);
+  auto run = RunSimulation(settings, observer);
   if (!run) {
     throw std::runtime_error(SentenceOf(run.error()));
   }

@@ -9,7 +9,6 @@
 
 #include "simulation/non_sexed_simulation.h"
 #include "simulation/sexed/sexed_simulation.h"
-#include "simulation/sexed/simulation_of.h"
 #include "tests/support/temp_folder.h"
 
 namespace kaldo {

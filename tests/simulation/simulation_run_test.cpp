@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include "runs/project_folder.h"
-#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_file_names.h"
 #include "simulation/simulation_record.h"
 #include "tests/support/case_support.h"

@@ -14,8 +14,10 @@
 #include "app/pages/tolerance_page.h"
 #include "app/results/simulation_window.h"
 #include "genotypes/stepping_condition.h"
+#include "simulation/figures/class_sizes.h"
+#include "simulation/figures/class_weights.h"
+#include "simulation/reports/simulation_texts.h"
 #include "simulation/saved_loci.h"
-#include "simulation/sexed/simulation_of.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_command.h"
 #include "simulation/simulation_files.h"
@@ -26,7 +28,6 @@ namespace kaldo {
 SimulationFlowWindow::SimulationFlowWindow(Flow flow, QWidget* parent)
     : FlowWindow(parent),
       flow_(flow),
-      rules_(SimulationOf(flow)),
       start_(Own(new SimulationStartPage(flow))),
       parents_(Own(new ParentalPage(flow))),
       offspring_(Own(new PseudoOffspringPage(flow))),
@@ -115,7 +116,7 @@ SimulationSettings SimulationFlowWindow::SettingsUpTo(Known known) const {
 }
 
 bool SimulationFlowWindow::Passes(const SimulationSettings& settings) {
-  const auto input = LoadSimulationInput(settings, rules_);
+  const auto input = LoadSimulationInput(settings);
   if (!input) {
     Refuse(input.error());
   }
@@ -153,7 +154,7 @@ void SimulationFlowWindow::ConfirmStart() {
 
 void SimulationFlowWindow::ConfirmParents() {
   const SimulationSettings settings = SettingsUpTo(Known::kParents);
-  const auto files = OpenSimulationFiles(settings, rules_.Design());
+  const auto files = OpenSimulationFiles(settings);
   if (!files) {
     return Refuse(files.error());
   }
@@ -164,7 +165,7 @@ void SimulationFlowWindow::ConfirmParents() {
     Refuse(*fault);
     return reject();  // files at fault end the flow; what was typed stays for the next time
   }
-  const auto input = LoadSimulationInput(settings, rules_);
+  const auto input = LoadSimulationInput(settings);
   if (!input) {
     return Refuse(input.error());
   }
@@ -176,11 +177,11 @@ void SimulationFlowWindow::ShowShares(const std::vector<double>& collected_numbe
   offspring_->SetShares([this, collected_numbers](std::int32_t number) {
     SimulationSettings settings = SettingsUpTo(Known::kParents);
     settings.offspring_per_iteration = number;
-    const auto weights = rules_.Weights(settings, collected_numbers);
-    const auto sizes = rules_.ClassSizes(settings, collected_numbers);
+    const auto weights = ClassWeights(settings, collected_numbers);
+    const auto sizes = ClassSizes(settings, collected_numbers);
     std::vector<OriginShare> shares;
     for (std::size_t k = 0; k < weights.size(); ++k) {
-      shares.push_back({std::string(rules_.Design().classes[k].texts.label), weights[k], sizes[k]});
+      shares.push_back({std::string(TextsOf(flow_).origins[k].label), weights[k], sizes[k]});
     }
     return shares;
   });
@@ -275,7 +276,7 @@ void SimulationFlowWindow::Run() {
   SimulationSettings settings = SettingsUpTo(Known::kAll);
   tl::expected<SimulationRun, Problem> run;
   if (!RunWithProgress(this, windowTitle(), [&](RunObserver& observer) {
-        run = RunSimulation(settings, rules_, observer);
+        run = RunSimulation(settings, observer);
       })) {
     return;
   }
@@ -291,7 +292,7 @@ void SimulationFlowWindow::Run() {
   if (out_of_step) {
     ShowSentence(results, kSteppingSentence);
   }
-  ShowSentence(results, rules_.Design().closing_sentence);
+  ShowSentence(results, TextsOf(flow_).closing_sentence);
   results->raise();
   results->activateWindow();
 }

@@ -5,7 +5,6 @@
 
 #include "app/flows/flow_window.h"
 #include "app/flows/loci_screens.h"
-#include "simulation/simulation_flow.h"
 #include "simulation/simulation_settings.h"
 
 namespace kaldo {
@@ -58,7 +57,6 @@ class SimulationFlowWindow : public FlowWindow {
   void Run();
 
   Flow flow_;
-  const SimulationFlow& rules_;
   SimulationStartPage* start_;
   ParentalPage* parents_;
   PseudoOffspringPage* offspring_;

@@ -7,46 +7,21 @@
 #include "base/number_text.h"
 #include "runs/project_folder.h"
 #include "runs/run_record.h"
+#include "simulation/reports/simulation_file_names.h"
+#include "simulation/reports/simulation_texts.h"
 #include "simulation/reports/subset_title.h"
-#include "simulation/sexed/simulation_of.h"
-#include "simulation/simulation_file_names.h"
 
 namespace kaldo {
 
 namespace {
 
 /// A title of the reports as the name of a class: "C X U :" is "C X U".
-QString ClassName(const OriginClass& origin) {
-  QString name = Text(origin.texts.label).trimmed();
+QString ClassName(const OriginTexts& texts) {
+  QString name = Text(texts.label).trimmed();
   if (name.endsWith(QLatin1Char(':'))) {
     name.chop(1);
   }
   return name.trimmed();
-}
-
-template <typename ValueOf>
-Correctness Collect(const SimulationRun& run, SpreadKind kind, ValueOf value_of) {
-  Correctness correctness;
-  for (const IterationCounts& counts : run.result.iterations) {
-    correctness.values.push_back(value_of(counts));
-  }
-  correctness.spread = SpreadOf(correctness.values, kind);
-  return correctness;
-}
-
-Correctness OfClass(const SimulationFlow& flow, const SimulationRun& run, std::size_t k) {
-  const SimulationDesign& design = flow.Design();
-  const OriginClass& origin = design.classes[k];
-  Correctness correctness;
-  if (run.input.class_sizes[k] != 0) {
-    correctness = Collect(run, design.row_spread, [&](const IterationCounts& counts) {
-      return CorrectFrequency(origin, counts.at(k));
-    });
-  }
-  correctness.name = ClassName(origin);
-  correctness.text = Text(origin.texts.label_text);
-  correctness.offspring = run.input.class_sizes[k];
-  return correctness;
 }
 
 void AddParents(const SimulationSettings& settings, Summary& summary) {
@@ -75,9 +50,8 @@ void AddFigures(const SimulationSettings& settings, const SimulationRun& run, Su
   const auto add = [&summary](std::string_view label, const std::string& text) {
     summary.lines.emplace_back(Text(label), Text(text));
   };
-  const SimulationFlow& flow = SimulationOf(settings.flow);
-  add("true parents", fmt::format("{} candidates, {} in all",
-                                  input.Candidates(flow.Design()).Size(), input.NumberOfParents()));
+  add("true parents", fmt::format("{} candidates, {} in all", input.candidates.Size(),
+                                  input.NumberOfParents()));
   add("pseudo-offspring",
       fmt::format("{} x {} iterations", input.OffspringPerIteration(), settings.iterations));
   add("loci in use", fmt::format("{} of {}", input.loci.LociInUse().size(), input.loci.Count()));
@@ -86,7 +60,7 @@ void AddFigures(const SimulationSettings& settings, const SimulationRun& run, Su
   add("seed", std::to_string(result.seed));
   add("last loci run", NamesOf(input.loci, result.LastSubset().loci));
   add("any allocation correct", fmt::format("{} (estimated probability)",
-                                            FormatDouble(AnyCorrect(flow, result.LastSubset()))));
+                                            FormatDouble(result.LastSubset().probabilities.any)));
 }
 
 void AddSubsets(const SimulationSettings& settings, const SimulationResult& result,
@@ -106,47 +80,39 @@ void AddSubsets(const SimulationSettings& settings, const SimulationResult& resu
 }
 
 /// All files that a simulation of this flow may write.
-std::vector<std::string_view> FilesOf(const SimulationDesign& design) {
-  std::vector<std::string_view> files = {kSummaryFile, design.global_file};
-  for (const OriginClass& origin : design.classes) {
-    files.push_back(origin.texts.table_file);
+std::vector<std::string_view> FilesOf(const SimulationTexts& texts) {
+  std::vector<std::string_view> files = {kSummaryFile, texts.origins.back().table_file};
+  for (std::size_t k = 0; k + 1 < texts.origins.size(); ++k) {
+    files.push_back(texts.origins[k].table_file);
   }
-  files.insert(files.end(), {design.detailed_file, kSequenceResultsFile, kSteppingErrorFile,
-                             kServiceFile, design.matrices_file});
-  for (const GroupDesign& group : design.groups) {
-    files.push_back(group.file);
-  }
+  files.insert(files.end(), {texts.detailed_file, kSequenceResultsFile, kSteppingErrorFile,
+                             kServiceFile, texts.matrices_file});
+  files.insert(files.end(), texts.group_files.begin(), texts.group_files.end());
   files.insert(files.end(), {kPseudoOffspringFile, kRunRecordFile});
   return files;
 }
 
 }  // namespace
 
-double AnyCorrect(const SimulationFlow& flow, const SubsetFigures& subset) {
-  return subset.figures[flow.Design().any_correct_figure];
-}
-
-std::vector<Correctness> CorrectnessOf(const SimulationFlow& flow, const SimulationRun& run) {
-  const SimulationDesign& design = flow.Design();
+std::vector<Correctness> CorrectnessOf(Flow flow, const SimulationResult& result) {
   std::vector<Correctness> classes;
-  for (std::size_t k = 0; k < design.classes.size(); ++k) {
-    classes.push_back(OfClass(flow, run, k));
+  for (std::size_t k = 0; k < result.origins.size(); ++k) {
+    const OriginTexts& texts = TextsOf(flow).origins[k];
+    const OriginStatistics& origin = result.origins[k];
+    Correctness& correctness = classes.emplace_back();
+    correctness.name = ClassName(texts);
+    correctness.text = Text(texts.label_text);
+    correctness.offspring = origin.offspring;
+    if (!origin.is_empty) {
+      correctness.values = origin.correct.values;
+      correctness.spread = origin.correct.spread;
+    }
   }
-  Correctness global = Collect(run, design.row_spread, [&](const IterationCounts& counts) {
-    return GlobalCorrectFrequency(design, run.input, counts);
-  });
-  global.name = Text("GLOBAL");
-  global.text = design.global_rows == GlobalRows::kPooled
-                    ? Text("all pseudo-offspring together")
-                    : Text("the classes weighed by their share in the population");
-  global.offspring = static_cast<std::int32_t>(run.input.OffspringPerIteration());
-  classes.push_back(std::move(global));
   return classes;
 }
 
 Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
                   const QString& folder) {
-  const SimulationFlow& flow = SimulationOf(settings.flow);
   Summary summary;
   summary.title =
       Text(fmt::format("{} simulation, {}{}", settings.flow == Flow::kSexed ? "Sexed" : "Non-sexed",
@@ -159,7 +125,7 @@ Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
   }
   AddSubsets(settings, run.result, summary);
   summary.files_title = Text("Files in \"%1\"").arg(folder);
-  summary.files = FilesPresent(folder, FilesOf(flow.Design()));
+  summary.files = FilesPresent(folder, FilesOf(TextsOf(settings.flow)));
   return summary;
 }
 
@@ -197,7 +163,7 @@ DataTable CorrectnessTable(const std::vector<Correctness>& classes) {
   return table;
 }
 
-LineChart SequenceChart(const SimulationFlow& flow, const SimulationRun& run) {
+LineChart SequenceChart(const SimulationRun& run) {
   LineChart chart;
   chart.texts = {Text("Any allocation correct, by number of loci"), Text("loci"),
                  Text("estimated probability"), true};
@@ -207,7 +173,7 @@ LineChart SequenceChart(const SimulationFlow& flow, const SimulationRun& run) {
     const SubsetFigures& subset = run.result.subsets[k];
     chart.positions.push_back(static_cast<double>(subset.loci.size()));
     chart.labels.push_back(Text("+ ") + Text(run.input.loci.Name(subset.loci.back())));
-    series.values.push_back({AnyCorrect(flow, subset), {}});
+    series.values.push_back({subset.probabilities.any, {}});
   }
   chart.series.push_back(std::move(series));
   return chart;

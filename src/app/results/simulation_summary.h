@@ -17,10 +17,7 @@ struct Correctness {
 };
 
 /// All classes in their order, and GLOBAL behind them.
-std::vector<Correctness> CorrectnessOf(const SimulationFlow& flow, const SimulationRun& run);
-
-/// The estimated probability that any allocation is correct, with one of the subsets of loci.
-double AnyCorrect(const SimulationFlow& flow, const SubsetFigures& subset);
+std::vector<Correctness> CorrectnessOf(Flow flow, const SimulationResult& result);
 
 /// What was simulated, what came out, and the files in `folder`.
 Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
@@ -31,6 +28,6 @@ BarChart CorrectnessChart(const SimulationSettings& settings,
 DataTable CorrectnessTable(const std::vector<Correctness>& classes);
 
 /// The probability of a correct allocation after each locus of a cumulative sequence.
-LineChart SequenceChart(const SimulationFlow& flow, const SimulationRun& run);
+LineChart SequenceChart(const SimulationRun& run);
 
 }  // namespace kaldo

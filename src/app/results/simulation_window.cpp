@@ -8,7 +8,6 @@
 #include "app/results/spread_page.h"
 #include "app/results/subset_page.h"
 #include "simulation/reports/subset_title.h"
-#include "simulation/sexed/simulation_of.h"
 
 namespace kaldo {
 
@@ -17,9 +16,8 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
     : ResultsWindow(settings.project, std::move(folder), parent) {
   const SharedSimulation shared = std::make_shared<const FinishedSimulation>(
       FinishedSimulation{std::move(settings), std::move(run)});
-  const SimulationFlow& flow = SimulationOf(shared->settings.flow);
   const LociStrategy strategy = shared->settings.strategy;
-  const std::vector<Correctness> classes = CorrectnessOf(flow, shared->run);
+  const std::vector<Correctness> classes = CorrectnessOf(shared->settings.flow, shared->run.result);
   AddTab(new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
                          CorrectnessChart(shared->settings, classes), CorrectnessTable(classes),
                          Folder()),
@@ -28,7 +26,7 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
          Text("How much the share of correct decisions varies between iterations."));
   if (strategy == LociStrategy::kCumulative) {
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Horizontal, Folder(), nullptr);
-    sequence->Show(SequenceChart(flow, shared->run));
+    sequence->Show(SequenceChart(shared->run));
     AddTab(sequence, Text("Se&quence"), Text("What each further locus adds."));
   }
   if (strategy == LociStrategy::kAll || strategy == LociStrategy::kMinimal) {

@@ -8,7 +8,6 @@
 #include "app/results/data_table.h"
 #include "app/results/simulation_summary.h"
 #include "simulation/reports/subset_title.h"
-#include "simulation/sexed/simulation_of.h"
 
 namespace kaldo {
 
@@ -37,12 +36,12 @@ bool HasAll(const LocusSubset& subset, const std::vector<std::vector<bool>>& of_
 
 }  // namespace
 
-std::map<std::size_t, std::size_t> BestSubsets(const SimulationFlow& flow,
-                                               std::span<const SubsetFigures> subsets) {
+std::map<std::size_t, std::size_t> BestSubsets(std::span<const SubsetFigures> subsets) {
   std::map<std::size_t, std::size_t> best;
   for (std::size_t place = 0; place < subsets.size(); ++place) {
     const auto [entry, is_first] = best.try_emplace(subsets[place].loci.size(), place);
-    if (!is_first && AnyCorrect(flow, subsets[place]) > AnyCorrect(flow, subsets[entry->second])) {
+    if (!is_first &&
+        subsets[place].probabilities.any > subsets[entry->second].probabilities.any) {
       entry->second = place;
     }
   }
@@ -52,12 +51,8 @@ std::map<std::size_t, std::size_t> BestSubsets(const SimulationFlow& flow,
 SubsetModel::SubsetModel(SharedSimulation simulation, QObject* parent)
     : QAbstractTableModel(parent),
       simulation_(std::move(simulation)),
-      best_(BestSubsets(SimulationOf(simulation_->settings.flow), Subsets())) {
+      best_(BestSubsets(Subsets())) {
   Arrange();
-}
-
-double SubsetModel::AnyCorrectOf(std::size_t subset) const {
-  return AnyCorrect(SimulationOf(simulation_->settings.flow), Subsets()[subset]);
 }
 
 bool SubsetModel::IsBest(std::size_t subset) const {
@@ -99,7 +94,7 @@ void SubsetModel::Arrange() {
       sort_by([this](std::size_t subset) { return Subsets()[subset].loci.size(); });
       break;
     case Column::kAnyCorrect:
-      sort_by([this](std::size_t subset) { return AnyCorrectOf(subset); });
+      sort_by([this](std::size_t subset) { return Subsets()[subset].probabilities.any; });
       break;
     case Column::kBest:
       sort_by([this](std::size_t subset) { return !IsBest(subset); });
@@ -130,7 +125,7 @@ QString SubsetModel::CellText(Column column, std::size_t subset) const {
     case Column::kLoci:
       return QString::number(loci.size());
     case Column::kAnyCorrect:
-      return ShortNumber(AnyCorrectOf(subset));
+      return ShortNumber(Subsets()[subset].probabilities.any);
     case Column::kBest:
       return IsBest(subset) ? Text("\u2605 best of %1").arg(loci.size()) : QString();
     default:

@@ -14,8 +14,7 @@ enum class SubsetColumn { kPlace, kLoci, kAnyCorrect, kBest, kNames, kCount };
 
 /// The subset of each size with which an allocation is most often correct, the first of equals:
 /// number of loci -> place among the subsets.
-std::map<std::size_t, std::size_t> BestSubsets(const SimulationFlow& flow,
-                                               std::span<const SubsetFigures> subsets);
+std::map<std::size_t, std::size_t> BestSubsets(std::span<const SubsetFigures> subsets);
 
 /// Which subsets are shown.
 struct SubsetChoice {
@@ -43,7 +42,6 @@ class SubsetModel : public QAbstractTableModel {
 
  private:
   const std::vector<SubsetFigures>& Subsets() const { return simulation_->run.result.subsets; }
-  double AnyCorrectOf(std::size_t subset) const;
   bool IsBest(std::size_t subset) const;
   void Arrange();
   QString CellText(SubsetColumn column, std::size_t subset) const;

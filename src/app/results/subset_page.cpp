@@ -13,7 +13,6 @@
 #include "app/results/simulation_summary.h"
 #include "app/results/subset_model.h"
 #include "simulation/reports/subset_title.h"
-#include "simulation/sexed/simulation_of.h"
 
 namespace kaldo {
 
@@ -33,7 +32,6 @@ constexpr SearchableTexts kTexts{
 
 ChartPanel* BestPanel(const FinishedSimulation& simulation, const SubsetModel& model,
                       const QString& folder) {
-  const SimulationFlow& flow = SimulationOf(simulation.settings.flow);
   LineChart chart;
   chart.texts = {Text("Any allocation correct, best subset of each size"), Text("loci"),
                  Text("estimated probability"), true};
@@ -41,7 +39,7 @@ ChartPanel* BestPanel(const FinishedSimulation& simulation, const SubsetModel& m
   DataTable table{{Text("loci"), Text("any correct"), Text("best subset")}, {}};
   for (const auto& [size, place] : model.Best()) {
     const SubsetFigures& best = simulation.run.result.subsets[place];
-    const double correct = AnyCorrect(flow, best);
+    const double correct = best.probabilities.any;
     chart.positions.push_back(static_cast<double>(size));
     series.values.push_back({correct, {}});
     table.rows.push_back({QString::number(size), ShortNumber(correct),

@@ -6,31 +6,32 @@
 
 namespace kaldo {
 
+namespace {
+
+std::vector<double> ValuesIn(const std::vector<IterationSeries>& columns, std::size_t iteration) {
+  std::vector<double> values;
+  for (const IterationSeries& column : columns) {
+    values.push_back(column.values[iteration]);
+  }
+  return values;
+}
+
+}  // namespace
+
 std::string IterationTableReport(const SimulationSettings& settings, const SimulationInput& input,
-                                 const SimulationFlow& flow, const SimulationResult& result,
-                                 std::size_t table_number) {
-  const SimulationDesign& design = flow.Design();
-  const bool is_global = table_number == design.classes.size();
-  std::string title(design.global_title);
-  std::string_view word = design.global_word;
-  std::string_view deviation = design.global_deviation;
-  if (!is_global) {
-    const OriginTexts& texts = design.classes[table_number].texts;
-    title = std::string(texts.table_title) + std::string(LastCombinationNote(settings.strategy));
-    word = texts.table_word;
-    deviation = texts.table_deviation;
+                                 const SimulationResult& result, std::size_t origin) {
+  const SimulationTexts& texts = TextsOf(settings.flow);
+  const OriginTexts& of_origin = texts.origins[origin];
+  const IterationTable& table = result.origins[origin].table;
+  const bool is_global = origin + 1 == result.origins.size();
+  std::string text = ParameterBlock(settings, input, result).append(of_origin.table_title);
+  text.append(is_global ? "" : LastCombinationNote(settings.strategy)).append("\n\n");
+  text += TableHeads(of_origin.table_word, texts.columns, texts.ratio_columns,
+                     !table.ratios.empty());
+  for (std::size_t i = 0; i < table.columns.front().values.size(); ++i) {
+    text += TableRow(std::to_string(i + 1), ValuesIn(table.columns, i), ValuesIn(table.ratios, i));
   }
-  const IterationTable table = is_global ? GlobalTable(flow, input, result.iterations)
-                                         : TableOfClass(flow, result.iterations, table_number);
-  const bool has_ratios = is_global || design.classes_have_ratios;
-  std::string text = ParameterBlock(settings, input, flow, result) + title + "\n\n" +
-                     TableHeads(word, design.columns,
-                                has_ratios ? std::span(design.ratio_columns)
-                                           : std::span<const std::string_view>{});
-  for (std::size_t i = 0; i < table.rows.size(); ++i) {
-    text += TableRow(std::to_string(i + 1), table.rows[i], table.columns);
-  }
-  return text + SpreadRows(table, deviation);
+  return text + SpreadRows(SpreadsOf(table), of_origin.table_spread);
 }
 
 }  // namespace kaldo

@@ -4,11 +4,58 @@
 #include <fmt/format.h>
 
 #include "base/number_text.h"
+#include "simulation/reports/simulation_texts.h"
 #include "simulation/reports/subset_title.h"
 
 namespace kaldo {
 
 namespace {
+
+std::string LabelLine(std::string_view label, std::string_view value) {
+  return fmt::format("{}\t{}\n", label, value);
+}
+
+/// A line for each set of parents: its label, and what `value_of` tells of the set.
+template <typename ValueOf>
+std::string SetLines(const SimulationSettings& settings, std::string_view SetTexts::*label,
+                     ValueOf value_of) {
+  const SimulationTexts& texts = TextsOf(settings.flow);
+  std::string lines;
+  for (std::size_t set = 0; set < texts.sets.size(); ++set) {
+    lines += LabelLine(texts.sets[set].*label, value_of(set));
+  }
+  return lines;
+}
+
+/// The lines from the files to the proportions.
+std::string HeadLines(const SimulationSettings& settings, const SimulationInput& input) {
+  const auto number = [&](std::size_t set) { return FormatDouble(input.collected_numbers[set]); };
+  const auto set_of = [&](std::size_t set) -> const ParentalSet& { return settings.sets.at(set); };
+  const bool parental = settings.procedure == Procedure::kParental;
+  std::string lines;
+  if (parental) {
+    lines += SetLines(settings, &SetTexts::collected_file,
+                      [&](std::size_t set) { return set_of(set).collected_file; });
+  } else {
+    lines += SetLines(settings, &SetTexts::pseudo_collected_sample,
+                      [&](std::size_t set) { return set_of(set).pseudo_collected_sample; });
+    lines += SetLines(settings, &SetTexts::pseudo_collected_number, number);
+  }
+  lines += SetLines(settings, &SetTexts::uncollected_sample,
+                    [&](std::size_t set) { return set_of(set).uncollected_sample; });
+  lines += LabelLine("Name of loci file :", settings.loci_file);
+  if (parental) {
+    lines += SetLines(settings, &SetTexts::collected_number, number);
+  }
+  lines += SetLines(settings, &SetTexts::uncollected_number,
+                    [&](std::size_t set) { return FormatDouble(set_of(set).uncollected); });
+  lines += LabelLine(TextsOf(settings.flow).iterations, std::to_string(settings.iterations));
+  lines += LabelLine("Number of pseudo-offspring generated at each iteration :",
+                     std::to_string(settings.offspring_per_iteration));
+  return lines + SetLines(settings, &SetTexts::collected_share, [&](std::size_t set) {
+           return FormatDouble(input.collected_shares[set]);
+         });
+}
 
 std::string LociLines(const SimulationSettings& settings, const SimulationInput& input,
                       const SimulationResult& result) {
@@ -31,10 +78,10 @@ std::string LociLines(const SimulationSettings& settings, const SimulationInput&
   return lines + SubsetTitle(input.loci, last);
 }
 
-std::string DistributionLines(const SimulationInput& input, const SimulationDesign& design) {
+std::string DistributionLines(const SimulationSettings& settings, const SimulationInput& input) {
   std::string lines = "DISTRIBUTION OF PSEUDO-OFFSPRING ACCORDING TO PARENTAL ORIGIN :\n";
-  for (std::size_t k = 0; k < design.classes.size(); ++k) {
-    const OriginTexts& texts = design.classes[k].texts;
+  for (std::size_t k = 0; k < input.class_sizes.size(); ++k) {
+    const OriginTexts& texts = TextsOf(settings.flow).origins[k];
     lines += fmt::format("{}\t{}\t{}\n", texts.label, input.class_sizes[k], texts.label_text);
   }
   return lines;
@@ -42,17 +89,18 @@ std::string DistributionLines(const SimulationInput& input, const SimulationDesi
 
 }  // namespace
 
-std::string LabelLine(std::string_view label, std::string_view value) {
-  return fmt::format("{}\t{}\n", label, value);
+std::string_view TypeLine(const SimulationSettings& settings) {
+  const SimulationTexts& texts = TextsOf(settings.flow);
+  return settings.procedure == Procedure::kParental ? texts.parental_type : texts.pre_parental_type;
 }
 
 std::string ParameterBlock(const SimulationSettings& settings, const SimulationInput& input,
-                           const SimulationFlow& flow, const SimulationResult& result) {
+                           const SimulationResult& result) {
   return fmt::format("PARAMETERS{}\n{}\n{}", LastCombinationNote(settings.strategy),
-                     flow.TypeLine(settings.procedure), flow.ParameterHead(settings, input)) +
+                     TypeLine(settings), HeadLines(settings, input)) +
          LabelLine("Error model", Describe(settings.error_model)) +
          LabelLine("Maximum offset tolerance :", std::to_string(settings.tolerance.Value())) +
-         LociLines(settings, input, result) + DistributionLines(input, flow.Design());
+         LociLines(settings, input, result) + DistributionLines(settings, input);
 }
 
 }  // namespace kaldo

@@ -10,9 +10,9 @@ namespace kaldo {
 /// The head of the summary and of the per-iteration tables: every setting, the loci, and how many
 /// pseudo-offspring each class has.
 std::string ParameterBlock(const SimulationSettings& settings, const SimulationInput& input,
-                           const SimulationFlow& flow, const SimulationResult& result);
+                           const SimulationResult& result);
 
-/// A label, a tab, a value and a line end.
-std::string LabelLine(std::string_view label, std::string_view value);
+/// "Type of simulations : sexed parental", without line end.
+std::string_view TypeLine(const SimulationSettings& settings);
 
 }  // namespace kaldo

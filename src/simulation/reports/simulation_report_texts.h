@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "simulation/reports/simulation_texts.h"
 #include "simulation/simulation_run.h"
 
 namespace kaldo {
@@ -10,24 +11,21 @@ namespace kaldo {
 /// "/Summary.xls": parameters, averages, correct frequencies of every iteration, statistics of
 /// every class, and the statistics of every subset where they were wanted.
 std::string SummaryReport(const SimulationSettings& settings, const SimulationInput& input,
-                          const SimulationFlow& flow, const SimulationResult& result);
+                          const SimulationResult& result);
 
 /// The detailed file: for every iteration, the frequency of each kind of decision and how the
 /// frequency of correct ones follows from them.
-std::string DetailedReport(const SimulationInput& input, const SimulationFlow& flow,
-                           const SimulationResult& result);
+std::string DetailedReport(const SimulationTexts& texts, const SimulationResult& result);
 
 /// The per-iteration table of one class, or, with the number behind the last class, the global one.
 std::string IterationTableReport(const SimulationSettings& settings, const SimulationInput& input,
-                                 const SimulationFlow& flow, const SimulationResult& result,
-                                 std::size_t table_number);
+                                 const SimulationResult& result, std::size_t origin);
 
 /// "/Sequence results.xls": the averages of each combination of a cumulative sequence.
 std::string SimulationSequenceReport(const SimulationSettings& settings,
-                                     const SimulationInput& input, const SimulationFlow& flow,
-                                     const SimulationResult& result);
+                                     const SimulationInput& input, const SimulationResult& result);
 
-/// Stands for every figure of a class without pseudo-offspring.
-inline constexpr std::string_view kNotAvailable = "       NA";
+/// A figure; of a class without pseudo-offspring "NA".
+std::string FigureText(double value, bool is_empty);
 
 }  // namespace kaldo

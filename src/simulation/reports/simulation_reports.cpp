@@ -9,7 +9,7 @@
 #include "simulation/reports/simulation_report_texts.h"
 #include "simulation/saved_loci.h"
 #include "simulation/simulated_individuals.h"
-#include "simulation/simulation_file_names.h"
+#include "simulation/reports/simulation_file_names.h"
 #include "simulation/simulation_record.h"
 
 namespace kaldo {
@@ -43,8 +43,8 @@ class MatricesPlan final : public PortionPlan {
 
 }  // namespace
 
-SimulationReports::SimulationReports(const SimulationSettings& settings, const SimulationFlow& flow)
-    : flow_(flow),
+SimulationReports::SimulationReports(const SimulationSettings& settings)
+    : texts_(TextsOf(settings.flow)),
       reports_(ProjectFolder(settings.project)),
       summary_(reports_.Add(kSummaryFile)) {}
 
@@ -58,18 +58,15 @@ void SimulationReports::AddOrRemove(std::string_view file, std::string_view text
 
 void SimulationReports::WriteTables(const SimulationSettings& settings,
                                     const SimulationInput& input, const SimulationResult& result) {
-  const SimulationDesign& design = flow_.Design();
-  summary_.Append(SummaryReport(settings, input, flow_, result));
-  for (std::size_t table = 0; table <= design.classes.size(); ++table) {
-    const std::string_view file = table == design.classes.size()
-                                      ? design.global_file
-                                      : design.classes[table].texts.table_file;
-    reports_.Add(file, IterationTableReport(settings, input, flow_, result, table));
+  summary_.Append(SummaryReport(settings, input, result));
+  for (std::size_t origin = 0; origin < result.origins.size(); ++origin) {
+    reports_.Add(texts_.origins[origin].table_file,
+                 IterationTableReport(settings, input, result, origin));
   }
-  AddOrRemove(design.detailed_file,
-              settings.print_iterations ? DetailedReport(input, flow_, result) : "");
+  AddOrRemove(texts_.detailed_file,
+              settings.print_iterations ? DetailedReport(texts_, result) : "");
   AddOrRemove(kSequenceResultsFile, settings.strategy == LociStrategy::kCumulative
-                                        ? SimulationSequenceReport(settings, input, flow_, result)
+                                        ? SimulationSequenceReport(settings, input, result)
                                         : "");
   AddOrRemove(kSteppingErrorFile, result.stepping.any_out_of_step ? result.stepping.text : "");
 }
@@ -81,7 +78,7 @@ void SimulationReports::WriteIndividuals(const SimulationSettings& settings,
   const KeptFiles kept = KeptFilesOf(settings);
   for (std::size_t k = 0; k < input.groups.size(); ++k) {
     const bool is_written = kept.parents && input.groups[k].sample;
-    AddOrRemove(flow_.Design().groups[k].file,
+    AddOrRemove(texts_.group_files[k],
                 is_written ? ParentsText(last, input.groups[k].slots, input.digits_per_field)
                            : std::string());
   }
@@ -102,24 +99,20 @@ void SimulationReports::WriteMatrices(const SimulationSettings& settings,
                                       const SimulationInput& input, const SimulationResult& result,
                                       RunObserver& observer, Workforce& workforce) {
   if (!KeptFilesOf(settings).matrices || input.OffspringPerIteration() == 0) {
-    reports_.Remove(flow_.Design().matrices_file);
+    reports_.Remove(texts_.matrices_file);
     return;
   }
   // The iterations run once more, so that their listings need not stay in memory.
-  const IterationTask task(settings, input, flow_.Design(), IterationProduct::kMatrices);
-  MatricesPlan plan(result, reports_.Add(flow_.Design().matrices_file));
+  const IterationTask task(settings, input, IterationProduct::kMatrices);
+  MatricesPlan plan(result, reports_.Add(texts_.matrices_file));
   observer.OnPart(kMatricesPart, result.states.size());
   workforce.Do({kMatricesPart, task, plan, [&] { return RecordOf(settings, input, result); }},
                settings.threads, observer);
 }
 
 void SimulationReports::Write(const SimulationSettings& settings, const SimulationInput& input,
-                              const SimulationResult& result, RunObserver& observer,
-                              Workforce& workforce) {
-  SimulatedIteration last(settings, input, flow_.Design());
-  last.UseLoci(result.LastSubset().loci);
-  last.Run(result.states.back(), observer);
-
+                              const SimulationResult& result, const SimulatedIteration& last,
+                              RunObserver& observer, Workforce& workforce) {
   WriteTables(settings, input, result);
   WriteIndividuals(settings, input, result, last);
   WriteMatrices(settings, input, result, observer, workforce);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "runs/report_set.h"
+#include "simulation/reports/simulation_texts.h"
 #include "simulation/simulated_iteration.h"
 #include "simulation/simulation_run.h"
 
@@ -12,12 +13,13 @@ namespace kaldo {
 class SimulationReports {
  public:
   /// Throws RunFailure when the project folder cannot be written to.
-  SimulationReports(const SimulationSettings& settings, const SimulationFlow& flow);
+  explicit SimulationReports(const SimulationSettings& settings);
 
-  /// Writes every report, the kept individuals of the last iteration, the saved loci and the run
-  /// record. Throws RunFailure or RunStopped.
+  /// Writes every report, the kept individuals, the saved loci and the run record. `last` is the
+  /// last iteration of the run, as it was made. Throws RunFailure or RunStopped.
   void Write(const SimulationSettings& settings, const SimulationInput& input,
-             const SimulationResult& result, RunObserver& observer, Workforce& workforce);
+             const SimulationResult& result, const SimulatedIteration& last, RunObserver& observer,
+             Workforce& workforce);
 
  private:
   void WriteTables(const SimulationSettings& settings, const SimulationInput& input,
@@ -29,7 +31,7 @@ class SimulationReports {
   /// Writes a file, or has one of an earlier run removed when there is nothing to write.
   void AddOrRemove(std::string_view file, std::string_view text);
 
-  const SimulationFlow& flow_;
+  const SimulationTexts& texts_;
   ReportSet reports_;
   ReportFile& summary_;
 };

@@ -8,64 +8,65 @@ namespace kaldo {
 
 namespace {
 
-std::string ClassSection(const SimulationDesign& design, const IterationTable& table,
-                         std::string_view title, std::string_view deviation_word) {
-  const bool has_ratios = table.spreads.size() > table.columns;
-  return std::string(title) + '\n' +
-         TableHeads("", design.short_columns,
-                    has_ratios ? std::span(design.short_ratio_columns)
-                               : std::span<const std::string_view>{}) +
-         SpreadRows(table, deviation_word) + '\n';
+std::vector<double> Collect(const std::vector<Spread>& spreads, double Spread::*value) {
+  std::vector<double> values;
+  for (const Spread& spread : spreads) {
+    values.push_back(spread.*value);
+  }
+  return values;
 }
 
 }  // namespace
 
 std::string TableHeads(std::string_view word, std::span<const std::string_view> columns,
-                       std::span<const std::string_view> ratio_columns) {
+                       std::span<const std::string_view> ratio_columns, bool has_ratios) {
   std::string heads(word);
   for (const std::string_view column : columns) {
     heads.append("\t").append(column);
   }
-  if (!ratio_columns.empty()) {
+  if (has_ratios) {
     heads += "\t       --->";
-  }
-  for (const std::string_view column : ratio_columns) {
-    heads.append("\t").append(column);
+    for (const std::string_view column : ratio_columns) {
+      heads.append("\t").append(column);
+    }
   }
   return heads + '\n';
 }
 
-std::string TableRow(std::string_view word, std::span<const double> values, std::size_t columns) {
+std::string TableRow(std::string_view word, std::span<const double> columns,
+                     std::span<const double> ratios) {
   std::string row(word);
-  for (std::size_t column = 0; column < values.size(); ++column) {
-    row += column == columns ? "\t\t" : "\t";
-    row += FormatDouble(values[column]);
+  for (const double value : columns) {
+    row += '\t' + FormatDouble(value);
+  }
+  row += ratios.empty() ? "" : "\t";
+  for (const double value : ratios) {
+    row += '\t' + FormatDouble(value);
   }
   return row + '\n';
 }
 
-std::string SpreadRows(const IterationTable& table, std::string_view deviation_word) {
-  std::vector<double> means;
-  std::vector<double> deviations;
-  for (const Spread& spread : table.spreads) {
-    means.push_back(spread.mean);
-    deviations.push_back(spread.deviation);
-  }
-  return TableRow("mean", means, table.columns) +
-         TableRow(deviation_word, deviations, table.columns);
+std::string SpreadRows(const TableSpreads& spreads, std::string_view deviation_word) {
+  return TableRow("mean", Collect(spreads.columns, &Spread::mean),
+                  Collect(spreads.ratios, &Spread::mean)) +
+         TableRow(deviation_word, Collect(spreads.columns, &Spread::deviation),
+                  Collect(spreads.ratios, &Spread::deviation));
 }
 
-std::string SubsetStatistics(const SimulationFlow& flow, const SimulationInput& input,
-                             const LocusSubset& loci, Iterations iterations) {
-  const SimulationDesign& design = flow.Design();
-  std::string text = SubsetTitle(input.loci, loci) + '\n';
-  for (std::size_t k = 0; k < design.classes.size(); ++k) {
-    const OriginTexts& texts = design.classes[k].texts;
-    text += ClassSection(design, TableOfClass(flow, iterations, k), texts.table_title,
-                         texts.table_deviation);
+std::string SubsetStatistics(const SimulationTexts& texts, const LociList& loci,
+                             const SubsetFigures& subset) {
+  if (subset.tables.empty()) {
+    return {};
   }
-  return text + ClassSection(design, GlobalTable(flow, input, iterations), design.global_title,
-                             design.global_deviation);
+  std::string text = SubsetTitle(loci, subset.loci) + '\n';
+  for (std::size_t k = 0; k < subset.tables.size(); ++k) {
+    const OriginTexts& origin = texts.origins[k];
+    text.append(origin.table_title).append("\n");
+    text += TableHeads("", texts.short_columns, texts.short_ratio_columns,
+                       !subset.tables[k].ratios.empty());
+    text += SpreadRows(subset.tables[k], origin.table_spread) + '\n';
+  }
+  return text;
 }
 
 }  // namespace kaldo

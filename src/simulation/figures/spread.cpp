@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "simulation/spread.h"
+#include "simulation/figures/spread.h"
 
 #include <cmath>
 
