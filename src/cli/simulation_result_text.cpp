@@ -24,10 +24,10 @@ std::string ParametersText(const SimulationSettings& settings, const SimulationR
       "  {} candidate parents, {} true parents in all, {} pseudo-offspring x {} iterations\n"
       "  {} of {} loci in use, error model {}, maximum offset tolerance {}\n"
       "  seed {}\n\n",
-      Version(), TypeLine(settings), input.candidates.Size(),
-      input.NumberOfParents(), input.OffspringPerIteration(), settings.iterations,
-      input.loci.LociInUse().size(), input.loci.Count(), ShortDescription(settings.error_model),
-      settings.tolerance.Value(), result.seed);
+      Version(), TypeLine(settings), input.candidates.Size(), input.NumberOfParents(),
+      input.OffspringPerIteration(), settings.iterations, input.loci.LociInUse().size(),
+      input.loci.Count(), ShortDescription(settings.error_model), settings.tolerance.Value(),
+      result.seed);
 }
 
 /// Four decimals; "nan" for a deviation that rounding made none, whatever its sign bit.

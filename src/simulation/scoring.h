@@ -2,8 +2,8 @@
 #pragma once
 
 #include "method/allocation_outcome.h"
-#include "simulation/iteration_counts.h"
 #include "simulation/flows/origin_class.h"
+#include "simulation/iteration_counts.h"
 
 namespace kaldo {
 

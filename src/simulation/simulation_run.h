@@ -46,9 +46,9 @@ struct SimulationRun {
 };
 
 /// The whole run: checks, simulates, and writes all reports and the run record, each whole or not
-/// at all. Whether it is sexed is told by the settings. Iterations run in parallel: each starts at a
-/// state of the random numbers known beforehand, so that the result is the same for any workforce.
-/// Problems, failures, stops and the workforce are as in RunAllocation.
+/// at all. Whether it is sexed is told by the settings. Iterations run in parallel: each starts at
+/// a state of the random numbers known beforehand, so that the result is the same for any
+/// workforce. Problems, failures, stops and the workforce are as in RunAllocation.
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
                                                    RunObserver& observer);
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,

@@ -121,7 +121,8 @@ class ResultsLargeTest : public QObject {
     for (std::uint32_t size = 1; size <= kLoci; ++size) {
       double highest = -1;
       for (const SubsetFigures& subset : subsets) {
-        highest = subset.loci.size() == size ? std::max(highest, subset.probabilities.any) : highest;
+        highest =
+            subset.loci.size() == size ? std::max(highest, subset.probabilities.any) : highest;
       }
       const auto first = std::find_if(subsets.begin(), subsets.end(), [&](const auto& subset) {
         return subset.loci.size() == size && subset.probabilities.any == highest;

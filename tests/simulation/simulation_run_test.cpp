@@ -9,7 +9,8 @@
 #include <gtest/gtest.h>
 
 #include "runs/project_folder.h"
-#include "simulation/simulation_file_names.h"
+#include "simulation/reports/simulation_file_names.h"
+#include "simulation/reports/simulation_texts.h"
 #include "simulation/simulation_record.h"
 #include "tests/support/case_support.h"
 #include "tests/support/run_support.h"
@@ -24,10 +25,6 @@ using test::TempFolder;
 using test::WorkingFolder;
 
 using Files = std::vector<std::pair<std::string, std::string>>;
-
-auto RunFiles(const SimulationSettings& settings, RunObserver& observer) {
-  return RunSimulation(settings, SimulationOf(settings.flow), observer);
-}
 
 SimulationSettings CaseSettings() {
   SimulationSettings settings;
@@ -46,7 +43,7 @@ void ExpectCase(const std::string& name, const SimulationSettings& settings,
                 std::string_view saved_loci) {
   RunObserver observer;
   test::ExpectCase(
-      name, [&] { return RunFiles(settings, observer); },
+      name, [&] { return RunSimulation(settings, observer); },
       [&] { EXPECT_EQ(ReadFile("SAUVLOCUSTULM.txt"), saved_loci); });
 }
 
@@ -117,7 +114,7 @@ class ExampleSimulation : public testing::Test {
 
   void RunWell(const SimulationSettings& settings) const {
     RunObserver observer;
-    const auto run = RunFiles(settings, observer);
+    const auto run = RunSimulation(settings, observer);
     ASSERT_TRUE(run) << SentenceOf(run.error()) << ' ' << DetailLine(run.error());
   }
 
@@ -183,18 +180,16 @@ TEST_F(ExampleSimulation, GivesTheSameFilesForAnyNumberOfThreadsAndOthersForAnot
 TEST_F(ExampleSimulation, RemovesFilesThatTheOptionsLeaveWithoutContent) {
   for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
     const bool sexed = flow == Flow::kSexed;
-    const SimulationDesign& design = SimulationOf(sexed ? Flow::kSexed : Flow::kNonSexed).Design();
+    const SimulationTexts& texts = TextsOf(flow);
     SimulationSettings settings = Settings(flow);
     settings.keep = KeptFiles{true, true, true};
     settings.print_iterations = true;
     settings.strategy = LociStrategy::kCumulative;
     settings.start_with = 9;
     RunWell(settings);
-    std::vector<std::string_view> optional = {design.detailed_file, design.matrices_file,
-                                              kPseudoOffspringFile, kSequenceResultsFile};
-    for (const GroupDesign& group : design.groups) {
-      optional.push_back(group.file);
-    }
+    std::vector<std::string_view> optional = texts.group_files;
+    optional.insert(optional.end(), {texts.detailed_file, texts.matrices_file, kPseudoOffspringFile,
+                                     kSequenceResultsFile});
     for (const std::string_view file : optional) {
       EXPECT_TRUE(Has(file)) << file;
     }
@@ -242,35 +237,20 @@ TEST_F(ExampleSimulation, AStoppedRunLeavesEarlierResultsAsTheyWere) {
     for (const std::string_view part : {"Simulating", "Writing the transmission matrices"}) {
       for (const std::uint64_t steps : {0U, 10U}) {
         StoppingObserver stopping(part, steps);
-        EXPECT_THROW((void)RunFiles(settings, stopping), RunStopped) << part << ' ' << steps;
+        EXPECT_THROW((void)RunSimulation(settings, stopping), RunStopped) << part << ' ' << steps;
         EXPECT_EQ(Results(), earlier) << part;
       }
     }
     settings.project = "new";
     StoppingObserver stopping("Simulating", 0);
-    EXPECT_THROW((void)RunFiles(settings, stopping), RunStopped);
+    EXPECT_THROW((void)RunSimulation(settings, stopping), RunStopped);
     EXPECT_FALSE(std::filesystem::exists("new"));
   }
   SimulationSettings settings = Settings(Flow::kSexed);
   settings.project.clear();
   settings.loci_file.clear();
   RunObserver observer;
-  EXPECT_EQ(RunFiles(settings, observer).error().kind, ProblemKind::kNoProject);
-}
-
-// What is printed or kept must not take a single number out of the stream.
-TEST_F(ExampleSimulation, PrintingAndKeepingChangeNoFigure) {
-  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
-    SimulationSettings settings = Settings(flow, Procedure::kParental);
-    RunWell(settings);
-    const std::string summary = ReadFile("project/Summary.xls");
-    settings.print_iterations = true;
-    settings.keep = KeptFiles{true, true, true};
-    RunWell(settings);
-    EXPECT_EQ(ReadFile("project/Summary.xls"), summary);
-    EXPECT_FALSE(Has("/pseudo-collected parents.txt")) << "collected parents are not drawn";
-    EXPECT_FALSE(Has("/pseudo-collected males.txt"));
-  }
+  EXPECT_EQ(SentenceOf(RunSimulation(settings, observer).error()), "Please enter name of project!");
 }
 
 TEST_F(ExampleSimulation, TheRecordOfARunIsItsSettings) {

@@ -275,9 +275,8 @@ std::string SimulationFlowWindow::Command() {
 void SimulationFlowWindow::Run() {
   SimulationSettings settings = SettingsUpTo(Known::kAll);
   tl::expected<SimulationRun, Problem> run;
-  if (!RunWithProgress(this, windowTitle(), [&](RunObserver& observer) {
-        run = RunSimulation(settings, observer);
-      })) {
+  if (!RunWithProgress(this, windowTitle(),
+                       [&](RunObserver& observer) { run = RunSimulation(settings, observer); })) {
     return;
   }
   if (!run) {

@@ -50,8 +50,8 @@ void AddFigures(const SimulationSettings& settings, const SimulationRun& run, Su
   const auto add = [&summary](std::string_view label, const std::string& text) {
     summary.lines.emplace_back(Text(label), Text(text));
   };
-  add("true parents", fmt::format("{} candidates, {} in all", input.candidates.Size(),
-                                  input.NumberOfParents()));
+  add("true parents",
+      fmt::format("{} candidates, {} in all", input.candidates.Size(), input.NumberOfParents()));
   add("pseudo-offspring",
       fmt::format("{} x {} iterations", input.OffspringPerIteration(), settings.iterations));
   add("loci in use", fmt::format("{} of {}", input.loci.LociInUse().size(), input.loci.Count()));

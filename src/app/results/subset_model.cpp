@@ -40,8 +40,7 @@ std::map<std::size_t, std::size_t> BestSubsets(std::span<const SubsetFigures> su
   std::map<std::size_t, std::size_t> best;
   for (std::size_t place = 0; place < subsets.size(); ++place) {
     const auto [entry, is_first] = best.try_emplace(subsets[place].loci.size(), place);
-    if (!is_first &&
-        subsets[place].probabilities.any > subsets[entry->second].probabilities.any) {
+    if (!is_first && subsets[place].probabilities.any > subsets[entry->second].probabilities.any) {
       entry->second = place;
     }
   }

@@ -46,7 +46,8 @@ SideSums SumSexedSides(const OriginClass& origin, const ClassCounts& counts) {
     const std::int32_t count = counts.rows.at(row);
     for (const SideCode sex : {kMale, kFemale}) {
       const bool is_allocated = (kind.allocated & sex) != 0;
-      const bool is_uncollected = sex == kMale ? origin.first_uncollected : origin.second_uncollected;
+      const bool is_uncollected =
+          sex == kMale ? origin.first_uncollected : origin.second_uncollected;
       SideCounts& collected = sums.to_collected.at(sex == kMale ? 0 : 1);
       collected.made += is_allocated ? count : 0;
       collected.right += (kind.correct & sex) != 0 ? count : 0;
@@ -122,10 +123,10 @@ CorrectProbabilities EstimateProbabilities(const AllocationFigures& average) {
   const auto probability = [](const SingleAllocation& single) {
     return Ratio(single.right, single.made);
   };
-  return {.any = average.correct,
-          .to_collected = {probability(average.to_collected[0]),
-                           probability(average.to_collected[1])},
-          .to_uncollected = probability(average.to_uncollected)};
+  return {
+      .any = average.correct,
+      .to_collected = {probability(average.to_collected[0]), probability(average.to_collected[1])},
+      .to_uncollected = probability(average.to_uncollected)};
 }
 
 }  // namespace kaldo

@@ -67,14 +67,12 @@ OriginStatistics StatisticsOfClass(const SimulationDesign& design, Iterations it
          })});
   }
   statistics.correct =
-      Series(iterations, design.frequency_spread, [&](const IterationCounts& counts) {
-        return CorrectFrequency(origin, counts.at(k));
-      });
+      Series(iterations, design.frequency_spread,
+             [&](const IterationCounts& counts) { return CorrectFrequency(origin, counts.at(k)); });
   if (design.tells_first_pairs) {
-    statistics.first_pair =
-        SeriesOfEach(iterations, design.frequency_spread, [&](const IterationCounts& counts) {
-          return FirstPairShares(origin, counts.at(k));
-        });
+    statistics.first_pair = SeriesOfEach(
+        iterations, design.frequency_spread,
+        [&](const IterationCounts& counts) { return FirstPairShares(origin, counts.at(k)); });
   }
   return statistics;
 }
@@ -94,10 +92,9 @@ OriginStatistics StatisticsOfAll(const SimulationDesign& design, std::span<const
         return GlobalCorrectFrequency(design, weights, counts);
       });
   if (design.tells_first_pairs) {
-    statistics.first_pair = {
-        Series(iterations, design.frequency_spread, [&](const IterationCounts& counts) {
-          return CombinedFirstPairShare(design, counts);
-        })};
+    statistics.first_pair = {Series(
+        iterations, design.frequency_spread,
+        [&](const IterationCounts& counts) { return CombinedFirstPairShare(design, counts); })};
   }
   return statistics;
 }

@@ -14,8 +14,8 @@ struct OriginRow {
 
   /// How many of the two sides count as right: those allocated to a true parent, and those left as
   /// UC, as many of them as there are uncollected true parents. (This program's convention: who is
-  /// missing is not looked at. A sexed offspring that is given to a wrong female, with its collected
-  /// father missed and its mother uncollected, is half right.)
+  /// missing is not looked at. A sexed offspring that is given to a wrong female, with its
+  /// collected father missed and its mother uncollected, is half right.)
   int weight = 0;
 };
 

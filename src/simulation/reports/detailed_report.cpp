@@ -10,8 +10,8 @@ namespace {
 /// The rows of one class, or of all classes together, in one iteration.
 class DetailedBlock {
  public:
-  DetailedBlock(const SimulationTexts& texts, std::size_t origin, const OriginStatistics& statistics,
-                std::size_t iteration)
+  DetailedBlock(const SimulationTexts& texts, std::size_t origin,
+                const OriginStatistics& statistics, std::size_t iteration)
       : texts_(texts),
         origin_(texts.origins[origin]),
         statistics_(statistics),
@@ -45,9 +45,8 @@ class DetailedBlock {
       } else {
         lines += "\t\t\t\t";
       }
-      lines +=
-          fmt::format("{}\t{}\t{}\n", repeats ? "" : allocated, texts_.correct.at(kind.correct),
-                      Value(statistics_.rows[row].frequency));
+      lines += fmt::format("{}\t{}\t{}\n", repeats ? "" : allocated,
+                           texts_.correct.at(kind.correct), Value(statistics_.rows[row].frequency));
     }
     return lines;
   }

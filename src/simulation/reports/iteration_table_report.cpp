@@ -26,8 +26,8 @@ std::string IterationTableReport(const SimulationSettings& settings, const Simul
   const bool is_global = origin + 1 == result.origins.size();
   std::string text = ParameterBlock(settings, input, result).append(of_origin.table_title);
   text.append(is_global ? "" : LastCombinationNote(settings.strategy)).append("\n\n");
-  text += TableHeads(of_origin.table_word, texts.columns, texts.ratio_columns,
-                     !table.ratios.empty());
+  text +=
+      TableHeads(of_origin.table_word, texts.columns, texts.ratio_columns, !table.ratios.empty());
   for (std::size_t i = 0; i < table.columns.front().values.size(); ++i) {
     text += TableRow(std::to_string(i + 1), ValuesIn(table.columns, i), ValuesIn(table.ratios, i));
   }

@@ -86,9 +86,9 @@ std::vector<AverageSection> Averages() {
                     {.label = "to coll",
                      .column = "to coll",
                      .value = [](F f) { return f.probabilities.to_collected[0]; }},
-                    {.label = "to uncoll",
-                     .column = "to uncoll",
-                     .value = [](F f) { return f.probabilities.to_uncollected; }}}}};
+                    {.label = "to uncoll", .column = "to uncoll", .value = [](F f) {
+                       return f.probabilities.to_uncollected;
+                     }}}}};
 }
 
 constexpr std::string_view kDefinitions =
@@ -113,35 +113,34 @@ constexpr std::string_view kLegend =
 SimulationTexts NonSexedTexts() {
   const std::vector<std::string_view> ratios = {
       "Corr_2_par/all_assigned", "Corr_1_par/all_assigned", "Corr_0_par/all_assigned"};
-  return {
-      .parental_type = "Type of simulations : non-sexed parental",
-      .pre_parental_type = "Type of simulations : non-sexed preparental",
-      .sets = {{.collected_file = "Collected parents file :",
-                .collected_number = "Size of collected parents group : ",
-                .pseudo_collected_sample = "Sample to generate pseudo-collected parents :",
-                .pseudo_collected_number = "Size of pseudo-collected parents group : ",
-                .uncollected_sample = "Sample to generate uncollected parents :",
-                .uncollected_number = "Estimated number of uncollected parents :",
-                .collected_share = "Proportion of collected or pseudo-collected parents :"}},
-      .iterations = "Number of iterations : ",
-      .group_files = {"/pseudo-collected parents.txt", "/uncollected parents.txt"},
-      .origins = Origins(),
-      .allocated = {"2 UC", "C + UC", "2 C"},
-      .correct = {"0", "1", "2"},
-      .both_correct = "2",
-      .averages_head = kDefinitions,
-      .averages = Averages(),
-      .statistics_legend = kLegend,
-      .statistics_heads = "Allocated\tCorrect\t   Average\t       SD\n",
-      .columns = {"Corr_2_par", "Corr_1_par", "Corr_0_par", "Ambiguous", "Nulls"},
-      .ratio_columns = ratios,
-      .short_columns = {"Corr_2_par", "Corr_1_par", "Corr_0_par", "Amb", "Nulls"},
-      .short_ratio_columns = ratios,
-      .sequence_title = "NON-SEXED SIMULATION RESULTS FOR A CUMULATIVE SEQUENCE OF LOCI",
-      .sequence_legend = "C : Collected  /  UC : Uncollected",
-      .detailed_file = "/Detailled summary.xls",
-      .matrices_file = "/Iterations - transmission matrices.xls",
-      .closing_sentence = "calculations completed!"};
+  return {.parental_type = "Type of simulations : non-sexed parental",
+          .pre_parental_type = "Type of simulations : non-sexed preparental",
+          .sets = {{.collected_file = "Collected parents file :",
+                    .collected_number = "Size of collected parents group : ",
+                    .pseudo_collected_sample = "Sample to generate pseudo-collected parents :",
+                    .pseudo_collected_number = "Size of pseudo-collected parents group : ",
+                    .uncollected_sample = "Sample to generate uncollected parents :",
+                    .uncollected_number = "Estimated number of uncollected parents :",
+                    .collected_share = "Proportion of collected or pseudo-collected parents :"}},
+          .iterations = "Number of iterations : ",
+          .group_files = {"/pseudo-collected parents.txt", "/uncollected parents.txt"},
+          .origins = Origins(),
+          .allocated = {"2 UC", "C + UC", "2 C"},
+          .correct = {"0", "1", "2"},
+          .both_correct = "2",
+          .averages_head = kDefinitions,
+          .averages = Averages(),
+          .statistics_legend = kLegend,
+          .statistics_heads = "Allocated\tCorrect\t   Average\t       SD\n",
+          .columns = {"Corr_2_par", "Corr_1_par", "Corr_0_par", "Ambiguous", "Nulls"},
+          .ratio_columns = ratios,
+          .short_columns = {"Corr_2_par", "Corr_1_par", "Corr_0_par", "Amb", "Nulls"},
+          .short_ratio_columns = ratios,
+          .sequence_title = "NON-SEXED SIMULATION RESULTS FOR A CUMULATIVE SEQUENCE OF LOCI",
+          .sequence_legend = "C : Collected  /  UC : Uncollected",
+          .detailed_file = "/Detailled summary.xls",
+          .matrices_file = "/Iterations - transmission matrices.xls",
+          .closing_sentence = "calculations completed!"};
 }
 
 }  // namespace kaldo

@@ -6,10 +6,10 @@
 #include "genotypes/allele_listing.h"
 #include "runs/run_record.h"
 #include "simulation/iteration_portions.h"
+#include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_report_texts.h"
 #include "simulation/saved_loci.h"
 #include "simulation/simulated_individuals.h"
-#include "simulation/reports/simulation_file_names.h"
 #include "simulation/simulation_record.h"
 
 namespace kaldo {

@@ -20,8 +20,8 @@ std::string AverageLines(const SimulationTexts& texts, const SubsetFigures& subs
   for (const AverageSection& section : texts.averages) {
     lines.append(section.title).append("\n");
     for (const AverageText& average : section.averages) {
-      lines += fmt::format("{}{}{}\n", average.label, section.gap,
-                           FormatDouble(average.value(subset)));
+      lines +=
+          fmt::format("{}{}{}\n", average.label, section.gap, FormatDouble(average.value(subset)));
     }
     lines += "\n\n";
   }
