@@ -20,7 +20,8 @@ enum class IterationProduct {
   kMatrices,  ///< their listings of transmission matrices, as text
 };
 
-/// A stretch of iterations: with which loci, and where in the stream of random numbers each starts.
+/// A stretch of iterations, as bytes: with which loci, and where in the stream of random numbers
+/// each starts. All a worker needs beside settings and input.
 std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> states);
 
 /// The simulation of stretches of iterations.

@@ -17,7 +17,8 @@ class IterationStates {
  public:
   IterationStates(Flow flow, const SimulationInput& input, std::uint32_t seed);
 
-  /// The states at the start of the next so many iterations.
+  /// The states at the start of the next so many iterations, which follow each other in the stream:
+  /// the first one starts at the seed.
   std::vector<std::uint32_t> Next(std::size_t iterations);
 
  private:
@@ -34,7 +35,7 @@ class IterationStates {
   std::vector<ClassDraws> classes_;
 };
 
-/// The ranges of the true parents of a class.
+/// The ranges of the true parents of a class in the parent table.
 TrueParentRanges RangesOf(const OriginClass& origin, const SimulationInput& input);
 
 }  // namespace kaldo

@@ -25,13 +25,19 @@ class LocusSubsets {
  public:
   LocusSubsets() = default;
 
-  /// All subsets of `loci` with at least `start_with` of them, by growing size and inside a size in
-  /// lexicographic order of positions; the first k of `order_of_entry` for the cumulative strategy;
-  /// or `loci` once. More than kMostSubsets, or none, is a Problem.
+  /// The subsets that the strategy of the settings asks for, of the loci in use:
+  /// - all, minimal: every subset with at least `start_with` loci, by growing size and inside a
+  ///   size in lexicographic order of places in the file;
+  /// - cumulative: the first `start_with`, one more, ... loci in the order in which the sequence of
+  ///   the settings lets them enter, or else in file order;
+  /// - choice: all of them, once.
+  /// More subsets than kMostSubsets, or none, is a Problem.
   static tl::expected<LocusSubsets, Problem> Choose(const SimulationSettings& settings,
                                                     const LociList& loci);
 
   std::size_t Count() const;
+
+  /// The subset of that place, counted from 0 in the order of the run.
   LocusSubset At(std::size_t subset) const;
 
   /// All loci that take part, in order of entry.

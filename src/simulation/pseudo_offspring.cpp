@@ -47,6 +47,8 @@ void ProducePseudoOffspring(GenotypeTable& table, Slot offspring, ParentPair par
                             std::span<const ReadingTable> readings,
                             std::span<const AlleleCatalogue> catalogues, const UnitDraw& draw,
                             RandomNumbers& random) {
+  // Four draws per locus, in use or not: which allele of the first parent, which of the second, the
+  // reading of the first, that of the second.
   for (std::uint32_t l = 0; l < in_use.size(); ++l) {
     const LocusIndex locus{l};
     const std::uint32_t choice1 = random.Next();

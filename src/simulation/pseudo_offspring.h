@@ -16,27 +16,33 @@ namespace kaldo {
 /// The others consume their draws all the same, so that the stream does not depend on the choice.
 using LocusFlags = std::span<const std::uint8_t>;
 
-/// The ranges from which the true parents of a class are drawn.
+/// The ranges of the parent table from which the true parents of a class are drawn: all parents of
+/// a group have the same chance, as if all had equally many offspring.
 struct TrueParentRanges {
   SlotRange first;
   SlotRange second;
   bool must_differ = false;  ///< both come from one range: draw both again while they are equal
 };
 
-/// Draws the true parents of one pseudo-offspring, the first one first.
+/// Draws the true parents of one pseudo-offspring: a number of the stream for the first, one for
+/// the second (sexed: father, then mother), each modulo the size of its range; both again, from the
+/// first one on, while they must differ and do not.
 ParentPair DrawTrueParents(const TrueParentRanges& ranges, RandomNumbers& random);
 
 /// The numbers that a pseudo-offspring draws behind its parents: four per locus of the list.
 std::uint64_t DrawsPerPseudoOffspring(std::size_t number_of_loci);
 
-/// The allele that is read in an offspring for a transmitted parental allele: the first of its row
-/// whose running sum is not 0 and reaches `u`, at the latest the last allele of the locus.
+/// The allele that is read in an offspring for a transmitted parental allele, with `u` from 0 to
+/// below 1 drawn: the first of its row of the transmission matrix whose running sum is not 0 and
+/// reaches `u`, at the latest the last allele of the locus. So an allele of probability 0 is never
+/// read for u = 0, and sums a hair below 1 lose nothing (this program's convention).
 AlleleIndex Transmit(const TransmissionMatrix& matrix, AlleleIndex parental, double u);
 
-/// Makes one pseudo-offspring from its true parents, which must be indexed. Per locus the draws
-/// are: which allele of the first parent, which of the second, the reading of the first, that of
-/// the second. The first parent's allele comes first. `matrices` and `readings` have one per locus
-/// of the list; where a table of readings is empty the matrix is walked along.
+/// Makes one pseudo-offspring from its true parents, which must be indexed: Mendelian segregation,
+/// each allele of a parent with chance 1/2 and independently between loci, and then the
+/// transmission error. The first parent's allele comes first. `in_use`, `matrices`, `readings` and
+/// `catalogues` have one entry per locus of the names-of-loci file; where a table of readings is
+/// empty the matrix is walked along. Loci not in use are undefined in the offspring.
 void ProducePseudoOffspring(GenotypeTable& table, Slot offspring, ParentPair parents,
                             LocusFlags in_use, std::span<const TransmissionMatrix> matrices,
                             std::span<const ReadingTable> readings,

@@ -5,12 +5,15 @@
 
 namespace kaldo {
 
-/// Many steps of the generator at once.
+/// Many steps of the generator at once: the map state -> a state + c of one step, applied n times,
+/// is such a map again (Knuth, The Art of Computer Programming vol. 2, 3.2.1). So a simulation
+/// knows where in the stream each iteration starts before any of them has run.
 class RandomJump {
  public:
-  /// A jump over so many draws.
+  /// A jump over so many draws, found in about log2(draws) multiplications.
   explicit RandomJump(std::uint64_t draws);
 
+  /// The state that is reached from `state` by as many calls of RandomNumbers::Next().
   std::uint32_t From(std::uint32_t state) const { return state * multiplier_ + increment_; }
 
  private:
@@ -18,30 +21,41 @@ class RandomJump {
   std::uint32_t increment_ = 0;
 };
 
-/// The stream of random numbers of a simulation: a linear-congruential generator with values from 0
-/// to 32767 (state = state * 214013 + 2531011 modulo 2^32, of which bits 16 to 30 are shown; Knuth,
-/// The Art of Computer Programming vol. 2, 3.2.1, this program's convention for the constants). The
-/// same seed gives the same stream on every machine. Its 15 bits set the resolution of all draws;
-/// frequencies below 1/32768 cannot be told apart.
+/// The stream of random numbers of a simulation: a linear congruential generator (Knuth, The Art of
+/// Computer Programming vol. 2, 3.2.1) with values from 0 to 32767:
+///
+///     state = (214013 state + 2531011) modulo 2^32,  value = bits 16 to 30 of the state
+///
+/// The constants are this program's convention; the increment is odd and the multiplier one more
+/// than a multiple of 4, so that the stream comes round only after 2^32 draws, whatever the seed
+/// (there, theorem A of 3.2.1.2). The upper bits are shown since the lower ones come round sooner.
+/// The same seed gives the same stream on every machine. Its 15 bits set the resolution of all
+/// draws; frequencies below 1/32768 cannot be told apart.
 class RandomNumbers {
  public:
   explicit RandomNumbers(std::uint32_t seed) : state_(seed) {}
 
+  /// The next value of the stream, 0 to 32767.
   std::uint32_t Next() {
     state_ = state_ * 214013U + 2531011U;
     return (state_ >> 16U) & 0x7fffU;
   }
 
+  /// Leaves out as many values as the jump is long.
   void Skip(const RandomJump& jump) { state_ = jump.From(state_); }
 
+  /// What a stream that goes on from here is made of.
   std::uint32_t State() const { return state_; }
 
  private:
   std::uint32_t state_;
 };
 
-/// Draws from 0 to just below 1 on a grid of 1/modulus. The modulus is 10 to the power of the
-/// digits of an allele: 1000 for sizes of three digits (this program's convention).
+/// Draws from 0 to just below 1 on a grid of 1/modulus: a value of the stream modulo the modulus,
+/// which is 10 to the power of the digits of an allele: 1000 for sizes of three digits. So a
+/// frequency is told as finely as an allele size is written (this program's convention). Values
+/// from 0 to 32767 do not fill all places of the grid equally often: with three digits 0 to 0.767
+/// come up in 33 of 32768 draws, the others in 32.
 class UnitDraw {
  public:
   explicit UnitDraw(std::size_t digits_per_allele);

@@ -9,12 +9,14 @@
 
 namespace kaldo {
 
-/// Running sums of the allele frequencies of a sample at one locus, in single precision; behind the
-/// last allele they repeat the total, about 1.
+/// Running sums of the allele frequencies of a sample at one locus, in the order in which the
+/// alleles first appear in the file; behind the last allele they repeat the total, about 1. Single
+/// precision: a sum may lie a hair above or below a place of the grid of the draws (see UnitDraw),
+/// and which it is decides a draw (this program's convention).
 using CumulativeFrequencies = std::array<float, kMaxAlleles>;
 
 /// Sums count / (2 x individuals) over the places of a catalogue. The sum runs in double precision
-/// and each entry is rounded to single precision.
+/// and each entry is rounded to single precision. Undefined alleles count on the first place.
 CumulativeFrequencies ComputeCumulativeFrequencies(const AlleleCatalogue& catalogue,
                                                    std::size_t individuals);
 

@@ -7,13 +7,14 @@
 
 namespace kaldo {
 
-/// Which sides of `pair`, as far as they are accepted, are true parents. Sexed: the male must be
-/// the true father, the female the true mother. Non-sexed: either true parent will do for either
-/// side.
+/// Which sides of `pair`, as far as they are accepted, are true parents (see SideCode). Sexed: the
+/// male must be the true father, the female the true mother. Non-sexed: either true parent will do
+/// for either side.
 SideCode CodeOfTrueParents(Flow flow, ParentPair pair, ParentPair truth, bool first_accepted,
                            bool second_accepted);
 
-/// Counts one pseudo-offspring of a class whose true parents are known.
+/// Counts one pseudo-offspring of a class whose true parents are known: the decision on its sides,
+/// which is what a user would believe, and apart from it the best pair as it was found.
 void Score(Flow flow, const OriginClass& origin, const AllocationOutcome& outcome, ParentPair truth,
            ClassCounts& counts);
 

@@ -122,6 +122,8 @@ void SimulatedIteration::Produce(RandomNumbers& random) {
 }
 
 IterationCounts SimulatedIteration::Run(std::uint32_t state, const RunObserver& observer) {
+  // The draws of an iteration: the parents, group after group; then the pseudo-offspring, class
+  // after class, each its true parents and its genotype. Nothing else draws.
   RandomNumbers random(state);
   DrawAllParents(random);
   CatalogueParents();

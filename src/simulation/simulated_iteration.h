@@ -16,9 +16,10 @@
 
 namespace kaldo {
 
-/// One iteration of a simulation, start to end: parents, pseudo-offspring, allocation, scores. The
+/// One iteration of a simulation, start to end: the parents that are not read from a file are
+/// drawn, pseudo-offspring made, allocated to the candidates, and compared with the truth. The
 /// object keeps its tables between iterations, so that none of them allocates memory; each thread
-/// has one of its own.
+/// has one of its own. Settings and input must outlive it.
 class SimulatedIteration {
  public:
   SimulatedIteration(const SimulationSettings& settings, const SimulationInput& input);
@@ -26,7 +27,8 @@ class SimulatedIteration {
   /// Chooses the loci of the iterations that follow.
   void UseLoci(const LocusSubset& loci);
 
-  /// Runs the iteration that starts at `state` of the random numbers, and counts.
+  /// Runs the iteration that starts at `state` of the random numbers, and counts. Throws RunStopped
+  /// when the observer asks.
   IterationCounts Run(std::uint32_t state, const RunObserver& observer);
 
   // What the last Run() made: the parent table with the pseudo-offspring behind it, per

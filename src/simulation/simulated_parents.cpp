@@ -13,6 +13,7 @@ std::uint64_t DrawsPerParent(std::size_t number_of_loci) { return kDrawsPerLocus
 
 void DrawParents(GenotypeTable& table, SlotRange slots, const RepresentativeSample& sample,
                  LocusFlags in_use, const UnitDraw& draw, RandomNumbers& random) {
+  // Parent after parent, locus after locus, in use or not: two draws, one per allele.
   for (std::uint32_t slot = slots.begin; slot < slots.end; ++slot) {
     for (std::uint32_t l = 0; l < in_use.size(); ++l) {
       const double u1 = draw(random);

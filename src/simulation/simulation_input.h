@@ -32,14 +32,16 @@ struct SimulationInput {
 
   std::vector<double> collected_numbers;  ///< per set: parents collected, or to be drawn, as typed
   std::vector<double> collected_shares;   ///< per set: proportion collected, see CollectedShares
-  std::vector<double> weights;            ///< per class: its share in the population
+  std::vector<double> weights;            ///< per class: its share in the population, 0 to 1
   std::vector<std::int32_t> class_sizes;  ///< per class: its pseudo-offspring in an iteration
   LocusSubsets subsets;
 
   std::vector<RecordedInput> files;
 
+  /// Collected, pseudo-collected and uncollected ones: the slots of the parent table.
   std::uint32_t NumberOfParents() const { return groups.back().slots.end; }
 
+  /// Of all classes together: less than typed, by what truncation cuts off (see ClassSizes).
   std::uint32_t OffspringPerIteration() const;
 };
 

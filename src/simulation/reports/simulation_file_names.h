@@ -8,7 +8,7 @@
 namespace kaldo {
 
 // The names of the files of a simulation that both flows have, beside those that an allocation
-// writes, too. The others stand in the design of their flow.
+// writes, too. The others stand in SimulationTexts.
 inline constexpr std::string_view kSummaryFile = "/Summary.xls";
 inline constexpr std::string_view kPseudoOffspringFile = "/pseudo-offspring.txt";
 
