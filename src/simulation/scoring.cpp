@@ -5,12 +5,12 @@ namespace kaldo {
 
 SideCode CodeOfTrueParents(Flow flow, ParentPair pair, ParentPair truth, bool first_accepted,
                            bool second_accepted) {
-  const auto is_true = [flow, truth](Slot parent, Slot of_its_side) {
-    return flow == Flow::kSexed ? parent == of_its_side
-                                : parent == truth.parent1 || parent == truth.parent2;
+  // One question for both flows: no male can be the true mother, and no female the true father.
+  const auto is_true = [truth](Slot parent) {
+    return parent == truth.parent1 || parent == truth.parent2;
   };
-  return CodeOfSides(flow, first_accepted && is_true(pair.parent1, truth.parent1),
-                     second_accepted && is_true(pair.parent2, truth.parent2));
+  return CodeOfSides(flow, first_accepted && is_true(pair.parent1),
+                     second_accepted && is_true(pair.parent2));
 }
 
 void Score(Flow flow, const OriginClass& origin, const AllocationOutcome& outcome, ParentPair truth,

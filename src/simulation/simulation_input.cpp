@@ -21,6 +21,20 @@ namespace kaldo {
 
 namespace {
 
+/// The tests of the file screens, then the stricter ones of each record.
+std::optional<Problem> CheckFiles(const SimulationFiles& files, SimulationInput& input) {
+  input.loci = LociList(files.loci);
+  if (auto problem = CheckSimulationFiles(files, input.loci)) {
+    return problem;
+  }
+  if (auto problem = CheckLoci(files.loci)) {
+    return problem;
+  }
+  input.digits_per_field =
+      DigitsPerField(files.groups.front().tokens, {input.loci.Count(), Separators::kNone});
+  return CheckSimulationRecords(files, input.loci, input.digits_per_field);
+}
+
 std::optional<Problem> ApplyChoices(const SimulationSettings& settings, SimulationInput& input) {
   if (auto problem = ValidateForSimulation(settings.error_model)) {
     return problem;
@@ -175,6 +189,7 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
 
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
                                                            FileSource& source) {
+  SimulationInput input;
   auto files = OpenSimulationFiles(settings, source);
   if (!files) {
     return tl::unexpected(std::move(files.error()));
@@ -182,17 +197,7 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
   if (auto problem = CheckSimulationNumbers(settings)) {
     return tl::unexpected(std::move(*problem));
   }
-  SimulationInput input;
-  input.loci = LociList(files->loci);
-  if (auto problem = CheckSimulationFiles(*files, input.loci)) {
-    return tl::unexpected(std::move(*problem));
-  }
-  if (auto problem = CheckLoci(files->loci)) {
-    return tl::unexpected(std::move(*problem));
-  }
-  input.digits_per_field =
-      DigitsPerField(files->groups.front().tokens, {input.loci.Count(), Separators::kNone});
-  if (auto problem = CheckSimulationRecords(*files, input.loci, input.digits_per_field)) {
+  if (auto problem = CheckFiles(*files, input)) {
     return tl::unexpected(std::move(*problem));
   }
   if (auto problem = ApplyChoices(settings, input)) {

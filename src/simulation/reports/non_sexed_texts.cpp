@@ -8,51 +8,64 @@ namespace {
 constexpr std::string_view kDeviation = "standard deviation";
 constexpr std::string_view kWeightedResults = "GLOBAL RESULTS AFTER WEIGHING OF 3 PARTIAL RESULTS ";
 
+OriginTexts TwoCollected() {
+  return {.label = "C X C :",
+          .label_text = "TWO COLLECTED OR PSEUDO-COLLECTED PARENTS",
+          .column = "   C X C",
+          .block_title = "C X C :\tTWO COLLECTED OR PSEUDO-COLLECTED PARENTS",
+          .detailed = "C X C : TWO COLLECTED OR PSEUDO-COLLECTED PARENTS",
+          .size_row = 4,
+          .table_file = "/Iterations - results_2collpar.xls",
+          .table_title = "TWO COLLECTED OR PSEUDO-COLLECTED PARENTS",
+          .table_word = "Iteration",
+          .table_spread = kDeviation,
+          .first_pair_labels = {"2 correct", "1 correct", "0 correct"}};
+}
+
+OriginTexts OneCollected() {
+  return {.label = "C X U :",
+          .label_text = "ONE COLLECTED OR PSEUDO-COLLECTED PARENT",
+          .column = "   C X U",
+          .block_title = "C X U :\tONE COLLECTED OR PSEUDO-COLLECTED PARENT",
+          .detailed = "C X U : ONE COLLECTED OR PSEUDO-COLLECTED PARENT",
+          .size_row = 3,
+          .table_file = "/Iterations - results_1collpar.xls",
+          .table_title = "ONE COLLECTED OR PSEUDO-COLLECTED PARENT",
+          .table_word = "Iteration",
+          .table_spread = kDeviation,
+          .first_pair_labels = {"correct", "incorrect"}};
+}
+
+OriginTexts ZeroCollected() {
+  return {.label = "U X U :",
+          .label_text = "ZERO COLLECTED OR PSEUDO-COLLECTED PARENT",
+          .column = "   U X U",
+          .block_title = "U X U :\tZERO COLLECTED OR PSEUDO-COLLECTED PARENT",
+          .detailed = "U X U : ZERO COLLECTED OR PSEUDO-COLLECTED PARENT",
+          .size_row = 2,
+          .table_file = "/Iterations - results_0collpar.xls",
+          .table_title = "ZERO COLLECTED OR PSEUDO-COLLECTED PARENT",
+          .table_word = "Iteration",
+          .table_spread = kDeviation,
+          .first_pair_labels = {"counted"}};
+}
+
+OriginTexts AllTogether() {
+  return {.label = "GLOBAL",
+          .label_text = "the classes weighed by their share in the population",
+          .column = "   GLOBAL",
+          .block_title = kWeightedResults,
+          .detailed = kWeightedResults,
+          .size_row = 4,
+          .table_file = "/Iterations - global results.xls",
+          .table_title = "GLOBAL RESULTS (AFTER WEIGHING OF 3 PARTIAL RESULTS)",
+          .table_word = "Iteration",
+          .table_spread = kDeviation,
+          .first_pair_labels = {"combined"}};
+}
+
 std::vector<OriginTexts> Origins() {
-  return {{.label = "C X C :",
-           .label_text = "TWO COLLECTED OR PSEUDO-COLLECTED PARENTS",
-           .column = "   C X C",
-           .block_title = "C X C :\tTWO COLLECTED OR PSEUDO-COLLECTED PARENTS",
-           .detailed = "C X C : TWO COLLECTED OR PSEUDO-COLLECTED PARENTS",
-           .size_row = 4,
-           .table_file = "/Iterations - results_2collpar.xls",
-           .table_title = "TWO COLLECTED OR PSEUDO-COLLECTED PARENTS",
-           .table_word = "Iteration",
-           .table_spread = kDeviation,
-           .first_pair_labels = {"2 correct", "1 correct", "0 correct"}},
-          {.label = "C X U :",
-           .label_text = "ONE COLLECTED OR PSEUDO-COLLECTED PARENT",
-           .column = "   C X U",
-           .block_title = "C X U :\tONE COLLECTED OR PSEUDO-COLLECTED PARENT",
-           .detailed = "C X U : ONE COLLECTED OR PSEUDO-COLLECTED PARENT",
-           .size_row = 3,
-           .table_file = "/Iterations - results_1collpar.xls",
-           .table_title = "ONE COLLECTED OR PSEUDO-COLLECTED PARENT",
-           .table_word = "Iteration",
-           .table_spread = kDeviation,
-           .first_pair_labels = {"correct", "incorrect"}},
-          {.label = "U X U :",
-           .label_text = "ZERO COLLECTED OR PSEUDO-COLLECTED PARENT",
-           .column = "   U X U",
-           .block_title = "U X U :\tZERO COLLECTED OR PSEUDO-COLLECTED PARENT",
-           .detailed = "U X U : ZERO COLLECTED OR PSEUDO-COLLECTED PARENT",
-           .size_row = 2,
-           .table_file = "/Iterations - results_0collpar.xls",
-           .table_title = "ZERO COLLECTED OR PSEUDO-COLLECTED PARENT",
-           .table_word = "Iteration",
-           .table_spread = kDeviation,
-           .first_pair_labels = {"counted"}},
-          {.label = "GLOBAL",
-           .label_text = "the classes weighed by their share in the population",
-           .column = "   GLOBAL",
-           .block_title = kWeightedResults,
-           .detailed = kWeightedResults,
-           .size_row = 4,
-           .table_file = "/Iterations - global results.xls",
-           .table_title = "GLOBAL RESULTS (AFTER WEIGHING OF 3 PARTIAL RESULTS)",
-           .table_word = "Iteration",
-           .table_spread = kDeviation,
-           .first_pair_labels = {"combined"}}};
+  return {TwoCollected(), OneCollected(), ZeroCollected(), AllTogether()};
 }
 
 std::vector<AverageSection> Averages() {

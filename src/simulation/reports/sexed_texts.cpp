@@ -6,68 +6,88 @@ namespace kaldo {
 namespace {
 
 // The words of single files differ in spelling; they are fixed like the names of the files.
-std::vector<OriginTexts> Origins() {
+OriginTexts MaleAndFemaleCollected() {
   return {
-      {.label = "MC x FC",
-       .label_text =
-           "pseudo-offspring from a (pseudo)collected male and a (pseudo)collected female",
-       .column = "   MC X FC",
-       .block_title = "1 ) MC X FC\tpseudo-offspring from a (pseudo)collected male and a "
-                      "(pseudo)collected female",
-       .detailed = "1 / (pseudo)collected male X (pseudo)collected female",
-       .size_row = 5,
-       .table_file = "/Iterations-results_coll_m_coll_f.xls",
-       .table_title = "COLLECTED OR PSEUDO-COLLECTED MALE + COLLECTED OR PSEUDO-COLLECTED FEMALE",
-       .table_word = "Iteration",
-       .table_spread = "standard deviation",
-       .first_pair_labels = {}},
-      {.label = "MC x FU",
-       .label_text = "pseudo-offspring from a (pseudo)collected male and a uncollected female",
-       .column = "   MC X FU",
-       .block_title = "2 ) MC X FU\tpseudo-offspring from a (pseudo)collected male and an "
-                      "uncollected female",
-       .detailed = "2 / (pseudo)collected male X uncollected female",
-       .size_row = 4,
-       .table_file = "/Iterations-results_coll_m_unc_f.xls",
-       .table_title = "COLLECTED OR PSEUDO-COLLECTED MALE + UNCOLLECTED FEMALE",
-       .table_word = "Itération",
-       .table_spread = "std deviation",
-       .first_pair_labels = {}},
-      {.label = "MU x FC",
-       .label_text = "pseudo-offspring from an uncollected male and a (pseudo)collected female",
-       .column = "   MU X FC",
-       .block_title = "3 ) MU X FC\tpseudo-offspring from an uncollected male and a "
-                      "(pseudo)collected female",
-       .detailed = "3 / uncollected male X (pseudo)collected female",
-       .size_row = 4,
-       .table_file = "/Iterations-results_unc_m_coll_f.xls",
-       .table_title = "UNCOLLECTED MALE + COLLECTED OR PSEUDO-COLLECTED FEMALE",
-       .table_word = "iteration",
-       .table_spread = "standard deviation",
-       .first_pair_labels = {}},
-      {.label = "MU x FU",
-       .label_text = "pseudo-offspring from an uncollected male and an uncollected female",
-       .column = "   MU X FU",
-       .block_title = "4 ) MU X FU\tpseudo-offspring from an uncollected male and an uncollected "
-                      "female",
-       .detailed = "4 / uncollected male parent X uncollected female parent",
-       .size_row = 3,
-       .table_file = "/Iterations-results_unc_m_unc_f.xls",
-       .table_title = "UNCOLLECTED MALE + UNCOLLECTED FEMALE",
-       .table_word = "iteration",
-       .table_spread = "std deviation",
-       .first_pair_labels = {}},
-      {.label = "GLOBAL",
-       .label_text = "all pseudo-offspring together",
-       .column = "   GLOBAL",
-       .block_title = "GLOBAL :\tall offspring",
-       .detailed = "GLOBAL : all offspring",
-       .size_row = 5,
-       .table_file = "/Iterations-global results.xls",
-       .table_title = "GLOBAL RESULTS (after weighing of 4 cases)",
-       .table_word = "Iteration",
-       .table_spread = "std deviation",
-       .first_pair_labels = {}}};
+      .label = "MC x FC",
+      .label_text = "pseudo-offspring from a (pseudo)collected male and a (pseudo)collected female",
+      .column = "   MC X FC",
+      .block_title =
+          "1 ) MC X FC\tpseudo-offspring from a (pseudo)collected male and a "
+          "(pseudo)collected female",
+      .detailed = "1 / (pseudo)collected male X (pseudo)collected female",
+      .size_row = 5,
+      .table_file = "/Iterations-results_coll_m_coll_f.xls",
+      .table_title = "COLLECTED OR PSEUDO-COLLECTED MALE + COLLECTED OR PSEUDO-COLLECTED FEMALE",
+      .table_word = "Iteration",
+      .table_spread = "standard deviation",
+      .first_pair_labels = {}};
+}
+
+OriginTexts MaleCollected() {
+  return {.label = "MC x FU",
+          .label_text = "pseudo-offspring from a (pseudo)collected male and a uncollected female",
+          .column = "   MC X FU",
+          .block_title =
+              "2 ) MC X FU\tpseudo-offspring from a (pseudo)collected male and an "
+              "uncollected female",
+          .detailed = "2 / (pseudo)collected male X uncollected female",
+          .size_row = 4,
+          .table_file = "/Iterations-results_coll_m_unc_f.xls",
+          .table_title = "COLLECTED OR PSEUDO-COLLECTED MALE + UNCOLLECTED FEMALE",
+          .table_word = "Itération",
+          .table_spread = "std deviation",
+          .first_pair_labels = {}};
+}
+
+OriginTexts FemaleCollected() {
+  return {.label = "MU x FC",
+          .label_text = "pseudo-offspring from an uncollected male and a (pseudo)collected female",
+          .column = "   MU X FC",
+          .block_title =
+              "3 ) MU X FC\tpseudo-offspring from an uncollected male and a "
+              "(pseudo)collected female",
+          .detailed = "3 / uncollected male X (pseudo)collected female",
+          .size_row = 4,
+          .table_file = "/Iterations-results_unc_m_coll_f.xls",
+          .table_title = "UNCOLLECTED MALE + COLLECTED OR PSEUDO-COLLECTED FEMALE",
+          .table_word = "iteration",
+          .table_spread = "standard deviation",
+          .first_pair_labels = {}};
+}
+
+OriginTexts NoneCollected() {
+  return {.label = "MU x FU",
+          .label_text = "pseudo-offspring from an uncollected male and an uncollected female",
+          .column = "   MU X FU",
+          .block_title =
+              "4 ) MU X FU\tpseudo-offspring from an uncollected male and an uncollected "
+              "female",
+          .detailed = "4 / uncollected male parent X uncollected female parent",
+          .size_row = 3,
+          .table_file = "/Iterations-results_unc_m_unc_f.xls",
+          .table_title = "UNCOLLECTED MALE + UNCOLLECTED FEMALE",
+          .table_word = "iteration",
+          .table_spread = "std deviation",
+          .first_pair_labels = {}};
+}
+
+OriginTexts AllTogether() {
+  return {.label = "GLOBAL",
+          .label_text = "all pseudo-offspring together",
+          .column = "   GLOBAL",
+          .block_title = "GLOBAL :\tall offspring",
+          .detailed = "GLOBAL : all offspring",
+          .size_row = 5,
+          .table_file = "/Iterations-global results.xls",
+          .table_title = "GLOBAL RESULTS (after weighing of 4 cases)",
+          .table_word = "Iteration",
+          .table_spread = "std deviation",
+          .first_pair_labels = {}};
+}
+
+std::vector<OriginTexts> Origins() {
+  return {MaleAndFemaleCollected(), MaleCollected(), FemaleCollected(), NoneCollected(),
+          AllTogether()};
 }
 
 using F = const SubsetFigures&;
