@@ -19,7 +19,6 @@
 
 #include "allocation/allocation_portions.h"
 #include "base/byte_packing.h"
-#include "cli/option_text.h"
 #include "cluster/mpi_session.h"
 #include "cluster/sent_part.h"
 #include "simulation/counts_plan.h"

@@ -9,11 +9,13 @@
 #include "method/error_model.h"
 #include "method/flow.h"
 #include "method/offset_tolerance.h"
+#include "runs/setting.h"
 
 namespace kaldo {
 
 /// Everything a user chooses for an allocation. The command line and the windows fill it; no rule
-/// of the method is theirs.
+/// of the method is theirs. Each member but `flow`, which follows from the files, is declared in
+/// the table below.
 struct AllocationSettings {
   Flow flow = Flow::kNonSexed;
 
@@ -40,5 +42,11 @@ struct AllocationSettings {
 
   friend bool operator==(const AllocationSettings&, const AllocationSettings&) = default;
 };
+
+/// The declarations of all settings, in allocation_settings.cpp.
+SettingTable<AllocationSettings> AllocationSettingTable();
+
+/// What the windows show before anything is typed.
+AllocationSettings FirstShownAllocation(Flow flow);
 
 }  // namespace kaldo

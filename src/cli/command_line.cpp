@@ -8,17 +8,17 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include "allocation/allocation_record.h"
+#include "allocation/allocation_command.h"
 #include "allocation/allocation_run.h"
 #include "base/version.h"
-#include "cli/allocation_options.h"
-#include "cli/option_text.h"
 #include "cli/short_result.h"
-#include "cli/simulation_options.h"
 #include "cli/simulation_result_text.h"
 #include "cli/terminal_progress.h"
+#include "cli/typed_options.h"
+#include "runs/value_kinds.h"
+#include "simulation/run_settings.h"
 #include "simulation/simulation_checks.h"
-#include "simulation/simulation_record.h"
+#include "simulation/simulation_command.h"
 
 namespace kaldo {
 
@@ -58,13 +58,6 @@ ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineSt
   return ExitCode::kDone;
 }
 
-ExitCode RunAllocate(const AllocationOptions& options, const CommandLineStreams& streams,
-                     Workforce& workforce) {
-  const auto settings = SettingsFrom(options);
-  return settings ? AllocateAndTell(*settings, streams, workforce)
-                  : Tell(settings.error(), streams);
-}
-
 ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineStreams& streams,
                          Workforce& workforce) {
   if (WarnsOfManyIterations(settings.flow, settings.iterations)) {
@@ -81,15 +74,16 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
   return ExitCode::kDone;
 }
 
-ExitCode RunSimulate(const SimulationOptions& options, const CommandLineStreams& streams,
-                     Workforce& workforce) {
-  const auto settings = SettingsFrom(options);
-  return settings ? SimulateAndTell(*settings, streams, workforce)
-                  : Tell(settings.error(), streams);
+ExitCode RunAndTell(const RunSettings& settings, const CommandLineStreams& streams,
+                    Workforce& workforce) {
+  if (const auto* allocation = std::get_if<AllocationSettings>(&settings)) {
+    return AllocateAndTell(*allocation, streams, workforce);
+  }
+  return SimulateAndTell(std::get<SimulationSettings>(settings), streams, workforce);
 }
 
-ExitCode RunCheck(const AllocationOptions& options, const CommandLineStreams& streams) {
-  const auto settings = SettingsFrom(options);
+ExitCode RunCheck(const TypedSettings& typed, const CommandLineStreams& streams) {
+  const auto settings = AllocationFrom(typed);
   if (!settings) {
     return Tell(settings.error(), streams);
   }
@@ -100,23 +94,6 @@ ExitCode RunCheck(const AllocationOptions& options, const CommandLineStreams& st
   streams.err << InputSummary(settings->flow, *input) << '\n';
   streams.out << "ok\n";
   return ExitCode::kDone;
-}
-
-/// Runs again with the settings of a record; `settings` are those of its flow.
-template <typename Settings, typename RunAndTell>
-ExitCode Repeat(tl::expected<Settings, Problem> settings, const std::optional<std::string>& threads,
-                const CommandLineStreams& streams, Workforce& workforce, RunAndTell run_and_tell) {
-  if (!settings) {
-    return Tell(settings.error(), streams);
-  }
-  if (threads) {
-    const auto number = ParseThreads(*threads);
-    if (!number) {
-      return Tell(number.error(), streams);
-    }
-    settings->threads = *number;
-  }
-  return run_and_tell(*settings, streams, workforce);
 }
 
 /// What may make a repeated run differ, or its files be missing.
@@ -141,20 +118,18 @@ ExitCode RunRerun(const std::string& path, const std::optional<std::string>& thr
   if (!record) {
     return Tell(record.error(), streams);
   }
-  const std::string& flow = record->flow;
-  if (flow == kNonSexedAllocationFlow || flow == kSexedAllocationFlow) {
+  auto settings = RunSettingsOf(*record, path);
+  if (HasKnownFlow(*record)) {
     TellChanges(*record, streams);
-    return Repeat(SettingsOf(*record, path), threads, streams, workforce, AllocateAndTell);
   }
-  if (flow == kNonSexedSimulationFlow || flow == kSexedSimulationFlow) {
-    TellChanges(*record, streams);
-    return Repeat(SimulationSettingsOf(*record, path), threads, streams, workforce,
-                  SimulateAndTell);
+  if (settings && threads) {
+    const auto number = ParseThreads("--threads", *threads);
+    if (!number) {
+      return Tell(number.error(), streams);
+    }
+    std::visit([&](auto& each) { each.threads = *number; }, *settings);
   }
-  return Tell({.kind = ProblemKind::kUnusableRunRecord,
-               .file = path,
-               .found = fmt::format("the flow {} is not known", Quoted(flow))},
-              streams);
+  return settings ? RunAndTell(*settings, streams, workforce) : Tell(settings.error(), streams);
 }
 
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
@@ -169,17 +144,17 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
   app.footer(std::string(kExamples));
   app.require_subcommand(0, 1);
 
-  AllocationOptions options;
+  TypedOptions allocation;
   CLI::App* const allocate =
       app.add_subcommand("allocate", "Allocate every offspring to its most likely pair of parents");
   CLI::App* const check = app.add_subcommand("check", "Check files and choices; write nothing");
   for (CLI::App* const command : {allocate, check}) {
-    AddAllocationOptions(*command, options);
+    allocation.AddTo(*command, AllocationSettingTable());
   }
-  SimulationOptions simulation_options;
+  TypedOptions simulation;
   CLI::App* const simulate =
       app.add_subcommand("simulate", "Estimate how far allocations with these loci can be trusted");
-  AddSimulationOptions(*simulate, simulation_options);
+  simulation.AddTo(*simulate, SimulationSettingTable());
   std::string record;
   std::optional<std::string> rerun_threads;
   CLI::App* const rerun = app.add_subcommand("rerun", "Repeat a run from its run record");
@@ -203,13 +178,17 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
     return code == 0 ? ExitCode::kDone : ExitCode::kBadInput;
   }
   if (allocate->parsed()) {
-    return RunAllocate(options, streams, workforce);
+    const auto settings = AllocationFrom(allocation.Given());
+    return settings ? AllocateAndTell(*settings, streams, workforce)
+                    : Tell(settings.error(), streams);
   }
   if (simulate->parsed()) {
-    return RunSimulate(simulation_options, streams, workforce);
+    const auto settings = SimulationFrom(simulation.Given());
+    return settings ? SimulateAndTell(*settings, streams, workforce)
+                    : Tell(settings.error(), streams);
   }
   if (check->parsed()) {
-    return RunCheck(options, streams);
+    return RunCheck(allocation.Given(), streams);
   }
   if (rerun->parsed()) {
     return RunRerun(record, rerun_threads, streams, workforce);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "method/error_model.h"
 
+#include <array>
 #include <cmath>
 
 #include <fmt/format.h>
@@ -13,6 +14,20 @@ namespace {
 
 constexpr double kLargestEpsilon = 0.1;
 constexpr double kSmallestFocal = 0.9;
+
+constexpr std::array<ErrorProbability, 1> kUniformProbabilities{
+    {{"EPS", &ErrorModel::epsilon, "0.02"}}};
+constexpr std::array<ErrorProbability, 5> kNonUniformProbabilities{
+    {{"M2", &ErrorModel::minus2, "0.002"},
+     {"M1", &ErrorModel::minus1, "0.008"},
+     {"FOCAL", &ErrorModel::focal, "0.980"},
+     {"P1", &ErrorModel::plus1, "0.008"},
+     {"P2", &ErrorModel::plus2, "0.002"}}};
+
+constexpr std::array<NamedErrorModel, 3> kModels{
+    {{ErrorKind::kNoError, "none", {}, "", true},
+     {ErrorKind::kUniform, "uniform", kUniformProbabilities, "epsilon", false},
+     {ErrorKind::kNonUniform, "nonuniform", kNonUniformProbabilities, "error_values", true}}};
 
 std::string FiveValues(const ErrorModel& model, std::string_view separator) {
   return fmt::format("{1}{0}{2}{0}{3}{0}{4}{0}{5}", separator, FormatDouble(model.minus2),
@@ -43,6 +58,8 @@ std::optional<Problem> ValidateNonUniform(const ErrorModel& model) {
 }
 
 }  // namespace
+
+std::span<const NamedErrorModel> NamedErrorModels() { return kModels; }
 
 std::optional<Problem> ValidateForAllocation(const ErrorModel& model) {
   switch (model.kind) {

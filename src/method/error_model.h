@@ -2,7 +2,9 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "base/problem.h"
 
@@ -33,6 +35,27 @@ struct ErrorModel {
 
   friend bool operator==(const ErrorModel&, const ErrorModel&) = default;
 };
+
+/// A probability that a model takes: as the help calls it, and what the error screen shows before
+/// anything is typed.
+struct ErrorProbability {
+  std::string_view name;
+  double ErrorModel::*value;
+  std::string_view first_shown;
+};
+
+/// A model as the command line and the run record call it, with its probabilities in the order in
+/// which they are given there.
+struct NamedErrorModel {
+  ErrorKind kind;
+  std::string_view name;
+  std::span<const ErrorProbability> probabilities;
+  std::string_view record_key;  ///< of the probabilities in a run record
+  bool may_stand_alone;         ///< without probabilities it has those of ErrorModel{}
+};
+
+/// All models that can be chosen.
+std::span<const NamedErrorModel> NamedErrorModels();
 
 /// The checks of the allocation flows. Uniform: epsilon at most 0.1; a negative one is accepted as
 /// it stands (some users test the effect of the bound), an infinite one is not. Non Uniform: the

@@ -1,119 +1,82 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/simulation_command.h"
 
-#include <fmt/format.h>
-
-#include "allocation/allocation_command.h"
+#include <algorithm>
 
 namespace kaldo {
 
 namespace {
 
-/// Adds the options of one parental set; `sex` is empty in the non-sexed flow. Files of the other
-/// procedure play no role in the run and are left out.
-void AddSet(ShellCommand& command, Procedure procedure, const ParentalSet& set,
-            std::string_view sex) {
-  const bool sexed = !sex.empty();
-  const std::string infix = sexed ? fmt::format("-{}", sex) : "";
-  const std::string plural = sexed ? infix + "s" : "";
-  if (procedure == Procedure::kParental) {
-    command.AddIfAny(fmt::format("--collected{}", sexed ? plural : "-parents"), set.collected_file);
-  } else {
-    command.AddIfAny(fmt::format("--pseudo-collected{}-sample", infix),
-                     set.pseudo_collected_sample);
-    command.Add("--pseudo-collected" + plural, fmt::format("{}", set.pseudo_collected));
-  }
-  command.AddIfAny(fmt::format("--uncollected{}-sample", infix), set.uncollected_sample);
-  command.Add("--uncollected" + plural, fmt::format("{}", set.uncollected));
-  if (sexed) {
-    command.Add("--estimated-collected" + plural, fmt::format("{}", set.estimated_collected));
-    command.Add("--estimated-uncollected" + plural, fmt::format("{}", set.estimated_uncollected));
-  }
+/// Which settings of a parental set were given; `prefix` is that of their keys.
+struct GivenParents {
+  bool collected = false;
+  bool sample = false;
+  bool pseudo_collected = false;  ///< the sample or the number
+
+  GivenParents(const TypedSettings& typed, const std::string& prefix)
+      : collected(typed.contains(prefix + "collected")),
+        sample(typed.contains(prefix + "pseudo_collected_sample")),
+        pseudo_collected(sample || typed.contains(prefix + "pseudo_collected")) {}
+};
+
+bool AnyGiven(const TypedSettings& typed, std::string_view group) {
+  const auto table = SimulationSettingTable();
+  return std::any_of(table.begin(), table.end(), [&](const auto& setting) {
+    return setting.group == group && typed.contains(setting.key);
+  });
 }
 
-void AddParents(ShellCommand& command, const SimulationSettings& settings) {
-  if (settings.flow == Flow::kNonSexed) {
-    AddSet(command, settings.procedure, settings.sets[0], "");
-    return;
+/// Options of the other flow, or of both procedures, would silently do nothing.
+tl::expected<Procedure, Problem> ProcedureFrom(const TypedSettings& typed, bool sexed) {
+  if (AnyGiven(typed, sexed ? kNonSexedParentsGroup : kSexedParentsGroup)) {
+    return NotUnderstood(ProblemKind::kOptionsOfOtherFlow,
+                         sexed ? "--sexed goes with the options of males and females"
+                               : "the options of males and females go with --sexed");
   }
-  command.Add("--sexed");
-  AddSet(command, settings.procedure, settings.sets[0], "male");
-  AddSet(command, settings.procedure, settings.sets[1], "female");
-}
-
-std::string_view NameOf(LociStrategy strategy) {
-  switch (strategy) {
-    case LociStrategy::kAll:
-      return "all";
-    case LociStrategy::kMinimal:
-      return "minimal";
-    case LociStrategy::kCumulative:
-      return "cumulative";
-    case LociStrategy::kChoice:
-      break;
+  const GivenParents first(typed, sexed ? "males_" : "");
+  const GivenParents second(typed, "females_");
+  for (const GivenParents& given : {first, second}) {
+    if (given.collected && given.pseudo_collected) {
+      return NotUnderstood(
+          ProblemKind::kCollectedAndPseudoCollected,
+          "collected parents are read, pseudo-collected ones are drawn from a sample");
+    }
   }
-  return "choice";
-}
-
-/// The criterion and the smallest number of loci are tested whatever the strategy, so they are told
-/// whatever the strategy.
-void AddStrategy(ShellCommand& command, const SimulationSettings& settings) {
-  const SimulationSettings defaults;
-  if (settings.strategy != defaults.strategy) {
-    command.Add("--strategy", NameOf(settings.strategy));
+  if (sexed && first.collected != second.collected && (first.sample || second.sample)) {
+    return NotUnderstood(ProblemKind::kCollectedAndPseudoCollected,
+                         "males and females come from files of parents, or both from samples");
   }
-  if (settings.criterion != defaults.criterion) {
-    command.Add("--criterion", fmt::format("{}", settings.criterion));
-  }
-  if (settings.start_with != defaults.start_with) {
-    command.Add("--start-with", fmt::format("{}", settings.start_with));
-  }
-  command.AddIfAny("--sequence", SequenceOption(settings.sequence));
-}
-
-std::string KeepOption(const KeptFiles& kept) {
-  std::vector<std::string_view> kinds;
-  if (kept.parents) {
-    kinds.emplace_back("parents");
-  }
-  if (kept.offspring) {
-    kinds.emplace_back("offspring");
-  }
-  if (kept.matrices) {
-    kinds.emplace_back("matrices");
-  }
-  return kinds.empty() ? "none" : fmt::format("{}", fmt::join(kinds, ","));
-}
-
-void AddOutput(ShellCommand& command, const SimulationSettings& settings) {
-  if (settings.print_iterations) {
-    command.Add("--print-iterations");
-  }
-  if (settings.print_subset_statistics) {
-    command.Add("--print-subset-statistics");
-  }
-  SimulationSettings nothing_said;
-  nothing_said.flow = settings.flow;
-  if (KeptFilesOf(settings) != KeptFilesOf(nothing_said)) {
-    command.Add("--keep", KeepOption(KeptFilesOf(settings)));
-  }
+  const bool any_collected = first.collected || second.collected;
+  const bool any_pseudo_collected = first.pseudo_collected || second.pseudo_collected;
+  return any_pseudo_collected && !any_collected ? Procedure::kPreParental : Procedure::kParental;
 }
 
 }  // namespace
 
-std::string CommandOf(const SimulationSettings& settings) {
-  ShellCommand command("kaldo simulate");
-  command.AddIfAny("--project", settings.project);
-  command.AddIfAny("--loci", settings.loci_file);
-  AddParents(command, settings);
-  command.Add("--iterations", fmt::format("{}", settings.iterations));
-  command.Add("--offspring-per-iteration", fmt::format("{}", settings.offspring_per_iteration));
-  AddMethodOptions(command, settings.tolerance, settings.error_model, settings.loci_in_use);
-  AddStrategy(command, settings);
-  AddOutput(command, settings);
-  if (settings.seed) {
-    command.Add("--seed", fmt::format("{}", *settings.seed));
+tl::expected<SimulationSettings, Problem> SimulationFrom(const TypedSettings& typed) {
+  const bool sexed = typed.contains("sexed");
+  const auto procedure = ProcedureFrom(typed, sexed);
+  if (!procedure) {
+    return tl::unexpected(procedure.error());
   }
+  SimulationSettings settings;
+  settings.flow = sexed ? Flow::kSexed : Flow::kNonSexed;
+  settings.procedure = *procedure;
+  if (auto problem = ReadTyped(SimulationSettingTable(), typed, settings)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  return settings;
+}
+
+std::string CommandOf(const SimulationSettings& settings) {
+  SimulationSettings told = settings;
+  told.threads = 0;
+  told.keep = KeptFilesOf(settings);
+  SimulationSettings defaults;
+  defaults.flow = settings.flow;
+  defaults.keep = KeptFilesOf(defaults);
+  ShellCommand command("kaldo simulate");
+  AddToCommand(SimulationSettingTable(), told, defaults, command);
   return command.Text();
 }
 

@@ -3,9 +3,15 @@
 
 #include <string>
 
+#include <tl/expected.hpp>
+
 #include "simulation/simulation_settings.h"
 
 namespace kaldo {
+
+/// The settings of what was typed behind `kaldo simulate`. Whether parents are real or drawn
+/// follows from which of them were given.
+tl::expected<SimulationSettings, Problem> SimulationFrom(const TypedSettings& typed);
 
 /// The command line of a simulation, `kaldo simulate --project ...`: typed into a shell in the same
 /// working folder it repeats the run. Without a seed the clock sets it, here as there: put in the

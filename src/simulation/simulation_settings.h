@@ -11,6 +11,7 @@
 #include "method/error_model.h"
 #include "method/flow.h"
 #include "method/offset_tolerance.h"
+#include "runs/value_kinds.h"
 
 namespace kaldo {
 
@@ -20,6 +21,9 @@ enum class Procedure {
   kPreParental,  ///< before it: pseudo-collected parents drawn from a sample at every iteration
 };
 
+inline constexpr std::array<NamedChoice<Procedure>, 2> kProcedures{
+    {{Procedure::kParental, "parental"}, {Procedure::kPreParental, "preparental"}}};
+
 /// Which loci a simulation runs with.
 enum class LociStrategy {
   kChoice,      ///< the loci in use, once
@@ -27,6 +31,12 @@ enum class LociStrategy {
   kMinimal,     ///< the same subsets, until one is as good as the criterion
   kCumulative,  ///< the first 1, 2, ... of a sequence
 };
+
+inline constexpr std::array<NamedChoice<LociStrategy>, 4> kStrategies{
+    {{LociStrategy::kChoice, "choice", "the loci in use"},
+     {LociStrategy::kAll, "all", "every subset"},
+     {LociStrategy::kMinimal, "minimal", "subsets until one reaches the criterion"},
+     {LociStrategy::kCumulative, "cumulative", "a sequence"}}};
 
 /// One set of parents: all of them in the non-sexed flow, the males or the females in the sexed
 /// one.
@@ -53,7 +63,12 @@ struct KeptFiles {
   friend bool operator==(const KeptFiles&, const KeptFiles&) = default;
 };
 
-/// Everything a user chooses for a simulation.
+inline constexpr std::array<NamedChoice<bool KeptFiles::*>, 3> kKeptFiles{
+    {{&KeptFiles::parents, "parents"},
+     {&KeptFiles::offspring, "offspring"},
+     {&KeptFiles::matrices, "matrices"}}};
+
+/// Everything a user chooses for a simulation. Each member is declared in the table below.
 struct SimulationSettings {
   Flow flow = Flow::kNonSexed;
   Procedure procedure = Procedure::kParental;
@@ -93,5 +108,15 @@ struct SimulationSettings {
 /// What is kept: as told; else parents and pseudo-offspring in the non-sexed flow, nothing in the
 /// sexed one.
 KeptFiles KeptFilesOf(const SimulationSettings& settings);
+
+// The headings of the help under which the options of parents stand.
+inline constexpr std::string_view kNonSexedParentsGroup = "Parents, non-sexed";
+inline constexpr std::string_view kSexedParentsGroup = "Parents, sexed";
+
+/// The declarations of all settings, in simulation_settings.cpp.
+SettingTable<SimulationSettings> SimulationSettingTable();
+
+/// What the windows show before anything is typed.
+SimulationSettings FirstShownSimulation(Flow flow);
 
 }  // namespace kaldo

@@ -5,11 +5,9 @@
 
 #include <fmt/format.h>
 
-#include "allocation/allocation_record.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
 #include "base/version.h"
-#include "simulation/simulation_record.h"
 
 namespace kaldo {
 
@@ -40,16 +38,6 @@ void TellChanges(QWidget* parent, const RunRecord& record) {
                        .found = fmt::format("{}", fmt::join(changes, " "))});
 }
 
-/// Takes what `read` found, or tells its fault.
-template <typename Settings>
-std::optional<RunSettings> TakeOrTell(QWidget* parent, tl::expected<Settings, Problem> read) {
-  if (!read) {
-    ShowProblem(parent, read.error());
-    return std::nullopt;
-  }
-  return RunSettings(std::move(*read));
-}
-
 }  // namespace
 
 std::optional<RunSettings> OpenRunRecord(QWidget* parent, const std::string& path) {
@@ -58,21 +46,14 @@ std::optional<RunSettings> OpenRunRecord(QWidget* parent, const std::string& pat
     ShowProblem(parent, record.error());
     return std::nullopt;
   }
-  std::optional<RunSettings> settings;
-  if (record->flow == kNonSexedAllocationFlow || record->flow == kSexedAllocationFlow) {
-    settings = TakeOrTell(parent, SettingsOf(*record, path));
-  } else if (record->flow == kNonSexedSimulationFlow || record->flow == kSexedSimulationFlow) {
-    settings = TakeOrTell(parent, SimulationSettingsOf(*record, path));
-  } else {
-    ShowProblem(parent, {.kind = ProblemKind::kUnusableRunRecord,
-                         .file = path,
-                         .found = fmt::format("the flow {} is not known", Quoted(record->flow))});
+  const auto settings = RunSettingsOf(*record, path);
+  if (!settings) {
+    ShowProblem(parent, settings.error());
+    return std::nullopt;
   }
-  if (settings) {
-    OfferFolder(parent, *record);
-    TellChanges(parent, *record);
-  }
-  return settings;
+  OfferFolder(parent, *record);
+  TellChanges(parent, *record);
+  return *settings;
 }
 
 }  // namespace kaldo

@@ -3,17 +3,12 @@
 
 #include <optional>
 #include <string>
-#include <variant>
 
-#include "allocation/allocation_settings.h"
-#include "simulation/simulation_settings.h"
+#include "simulation/run_settings.h"
 
 class QWidget;
 
 namespace kaldo {
-
-/// The settings of a run of any flow.
-using RunSettings = std::variant<AllocationSettings, SimulationSettings>;
 
 /// Reads a run record and tells what may make the run differ: another version, changed or missing
 /// files. Offers the folder in which the recorded run was started as the working folder, since its

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/allocation_settings.h"
+
+#include "method/method_settings.h"
+
+namespace kaldo {
+
+namespace {
+
+using Declared = Setting<AllocationSettings>;
+
+bool IsSexed(const AllocationSettings& settings) { return settings.flow == Flow::kSexed; }
+bool IsNonSexed(const AllocationSettings& settings) { return settings.flow == Flow::kNonSexed; }
+
+/// A file of genotypes.
+Declared FileSetting(const std::string& name, std::string help,
+                     std::string AllocationSettings::*path) {
+  return {.key = name,
+          .option = "--" + name,
+          .metavar = "FILE",
+          .group = "Files",
+          .help = std::move(help),
+          .value = Member(path, TextKind())};
+}
+
+/// That there are males or females makes a run a sexed one, so that a command gives both even when
+/// their names are empty.
+Declared SexFileSetting(const std::string& name, std::string help,
+                        std::string AllocationSettings::*path) {
+  Declared setting = FileSetting(name, std::move(help), path);
+  setting.applies = IsSexed;
+  setting.always_told = true;
+  return setting;
+}
+
+Declared ParentFileSetting() {
+  Declared setting = FileSetting("parents", "Non-sexed: genotypes of the collected parents",
+                                 &AllocationSettings::parents_file);
+  setting.applies = IsNonSexed;
+  return setting;
+}
+
+std::vector<Declared> DeclareSettings() {
+  return {
+      ProjectSetting<AllocationSettings>(),
+      LociSetting<AllocationSettings>(),
+      FileSetting("offspring", "Genotypes of the offspring", &AllocationSettings::offspring_file),
+      ParentFileSetting(),
+      SexFileSetting("males", "Sexed: genotypes of the collected males",
+                     &AllocationSettings::males_file),
+      SexFileSetting("females", "Sexed: genotypes of the collected females",
+                     &AllocationSettings::females_file),
+      ToleranceSetting<AllocationSettings>(
+          "Maximal offset tolerance, in whole unit distances (repeats), 0 or more"),
+      ErrorModelSetting<AllocationSettings>(" (" + PlainErrorModels() + ")"),
+      LociInUseSetting<AllocationSettings>(),
+      {.key = "sequence",
+       .option = "--sequence",
+       .metavar = "[I1,I2,...]",
+       .group = "Method",
+       .help = "Repeat for a cumulative sequence of loci: alone in file order, else the position "
+               "of each locus of the names file, between commas",
+       .value = Member(&AllocationSettings::sequence, SequenceKind()),
+       .may_stand_alone = true},
+      ThreadsSetting<AllocationSettings>(),
+  };
+}
+
+}  // namespace
+
+SettingTable<AllocationSettings> AllocationSettingTable() {
+  static const std::vector<Declared> table = DeclareSettings();
+  return table;
+}
+
+AllocationSettings FirstShownAllocation(Flow flow) {
+  AllocationSettings settings;
+  settings.flow = flow;
+  FillInFirstShown(AllocationSettingTable(), settings);
+  return settings;
+}
+
+}  // namespace kaldo
