@@ -173,7 +173,8 @@ ValueKind<ErrorModel> ErrorModelKind() {
   return {.parse = ParseErrorModel,
           .text = ErrorModelText,
           .record = RecordErrorModel,
-          .recorded = RecordedErrorModel};
+          .recorded = RecordedErrorModel,
+          .choices = NamesIn(NamedErrorModels())};
 }
 
 tl::expected<std::vector<std::int32_t>, Problem> ParseSequence(std::string_view option,

@@ -90,8 +90,9 @@ Setting<Settings> ThreadsSetting() {
           .option = "--threads",
           .metavar = "N",
           .group = "Machine",
-          .help = "Threads; default: all cores (kaldo-mpi: 1 per process). The results never "
-                  "depend on it",
+          .help =
+              "Threads; default: all cores (kaldo-mpi: 1 per process). The results never "
+              "depend on it",
           .value = Member(&Settings::threads, ThreadsKind()),
           .in_head_of_record = true};
 }

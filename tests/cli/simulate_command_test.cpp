@@ -100,46 +100,6 @@ void ExpectRefusal(const Arguments& arguments, const std::string& start_of_messa
   EXPECT_FALSE(std::filesystem::exists("SAUVLOCUSTULM.txt"));
 }
 
-TEST_F(SimulateCommand, HelpNamesEveryOption) {
-  const Outcome help = RunCommand({"simulate", "--help"});
-  EXPECT_EQ(help.code, ExitCode::kDone);
-  EXPECT_THAT(help.out, HasSubstr("Usage: kaldo simulate"));
-  EXPECT_THAT(help.err, IsEmpty());
-  for (const std::string option : {"--project",
-                                   "--loci",
-                                   "--iterations",
-                                   "--offspring-per-iteration",
-                                   "--tolerance",
-                                   "--error",
-                                   "--use",
-                                   "--seed",
-                                   "--threads",
-                                   "--strategy",
-                                   "--criterion",
-                                   "--start-with",
-                                   "--sequence",
-                                   "--print-iterations",
-                                   "--print-subset-statistics",
-                                   "--keep",
-                                   "--collected-parents",
-                                   "--pseudo-collected-sample",
-                                   "--pseudo-collected",
-                                   "--uncollected-sample",
-                                   "--uncollected",
-                                   "--sexed"}) {
-    EXPECT_THAT(help.out, HasSubstr("  " + option + ' ')) << option;
-  }
-  for (const std::string sex : {"male", "female"}) {
-    for (const std::string& option :
-         {"--collected-" + sex + "s", "--pseudo-collected-" + sex + "-sample",
-          "--pseudo-collected-" + sex + "s", "--uncollected-" + sex + "-sample",
-          "--uncollected-" + sex + "s", "--estimated-collected-" + sex + "s",
-          "--estimated-uncollected-" + sex + "s"}) {
-      EXPECT_THAT(help.out, HasSubstr("  " + option + ' ')) << option;
-    }
-  }
-}
-
 TEST_F(SimulateCommand, RefusalsWriteNothing) {
   ExpectRefusal({"simulate"}, "A number is missing!\n--uncollected is needed\n");
   ExpectRefusal(With(NonSexed(), "--project", ""), "Please enter name of project!\n");

@@ -253,58 +253,5 @@ TEST_F(ExampleSimulation, AStoppedRunLeavesEarlierResultsAsTheyWere) {
   EXPECT_EQ(SentenceOf(RunSimulation(settings, observer).error()), "Please enter name of project!");
 }
 
-TEST_F(ExampleSimulation, TheRecordOfARunIsItsSettings) {
-  const std::vector<ErrorModel> models = {{ErrorKind::kNoError},
-                                          {ErrorKind::kUniform, 0.05},
-                                          {},
-                                          {ErrorKind::kNonUniform, 0, 0, 0, 1, 0, 0}};
-  int number = 0;
-  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
-    for (const Procedure procedure : {Procedure::kParental, Procedure::kPreParental}) {
-      for (const LociStrategy strategy : {LociStrategy::kChoice, LociStrategy::kAll,
-                                          LociStrategy::kMinimal, LociStrategy::kCumulative}) {
-        SimulationSettings settings = Settings(flow, procedure);
-        settings.iterations = 1 + number % 2;
-        settings.sets[0].uncollected = flow == Flow::kSexed ? 7 : 6.25;
-        settings.sets[1].estimated_collected = 1.0 / 3.0;
-        settings.tolerance = OffsetTolerance{number % 4};
-        settings.error_model = models.at(static_cast<std::size_t>(number) % models.size());
-        settings.strategy = strategy;
-        settings.criterion = number % 2 == 0 ? 1 : 0.125;
-        settings.start_with = 8;
-        settings.print_iterations = number % 2 == 1;
-        settings.print_subset_statistics = number % 3 == 1;
-        settings.keep = KeptFiles{number % 5 == 1, number % 3 == 2, number % 7 == 3};
-        if (strategy == LociStrategy::kCumulative) {
-          settings.sequence = {9, 8, 7, 6, 5, 4, 3, 2, 1};
-        }
-        std::filesystem::remove_all("project");
-        RunWell(settings);
-        const auto record = ReadRunRecord("project/Run record.toml");
-        ASSERT_TRUE(record);
-        EXPECT_EQ(record->flow,
-                  flow == Flow::kSexed ? kSexedSimulationFlow : kNonSexedSimulationFlow);
-        EXPECT_TRUE(ChangedInputs(*record).empty());
-        const auto read = SimulationSettingsOf(*record, "a record");
-        ASSERT_TRUE(read) << DetailLine(read.error());
-        EXPECT_EQ(read->flow, flow);
-        EXPECT_EQ(read->procedure, procedure);
-        EXPECT_EQ(read->error_model, settings.error_model);
-        EXPECT_EQ(read->strategy, strategy);
-        EXPECT_EQ(read->criterion, settings.criterion);
-        EXPECT_EQ(read->sequence, settings.sequence);
-        EXPECT_EQ(read->keep, settings.keep);
-        EXPECT_EQ(read->seed, settings.seed);
-        // The rest shows in the files of the same run.
-        const Files files = Results();
-        std::filesystem::remove_all("project");
-        RunWell(*read);
-        EXPECT_EQ(Results(), files) << "run " << number;
-        ++number;
-      }
-    }
-  }
-}
-
 }  // namespace
 }  // namespace kaldo

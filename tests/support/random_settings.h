@@ -3,6 +3,7 @@
 
 #include <limits>
 
+#include <fmt/format.h>
 #include <rapidcheck.h>
 
 #include "allocation/allocation_settings.h"
@@ -16,11 +17,6 @@ inline rc::Gen<std::string> RandomName(std::string_view more) {
   const std::string characters =
       "abZ09'\"\\-=*$~#[]{}!&;()<>|?`%@+:._/\x01\xc3\xa9\xff" + std::string(more);
   return rc::gen::nonEmpty(rc::gen::container<std::string>(rc::gen::elementOf(characters)));
-}
-
-template <typename Value>
-std::optional<Value> Perhaps(const rc::Gen<Value>& gen) {
-  return *rc::gen::arbitrary<bool>() ? std::optional<Value>(*gen) : std::nullopt;
 }
 
 /// A whole number of any size, and often a small one.
@@ -37,99 +33,93 @@ inline rc::Gen<double> RandomReal() {
       rc::gen::element(0.0, 1e-5, 1e300, -0.5, Limits::denorm_min(), Limits::infinity()));
 }
 
-inline ErrorModel RandomErrorModel() {
-  ErrorModel model;
-  model.kind = *rc::gen::element(ErrorKind::kNoError, ErrorKind::kUniform, ErrorKind::kNonUniform);
-  if (model.kind == ErrorKind::kUniform) {
-    model.epsilon = *RandomReal();
-  }
-  if (model.kind == ErrorKind::kNonUniform && *rc::gen::arbitrary<bool>()) {
-    for (double ErrorModel::*value : {&ErrorModel::minus2, &ErrorModel::minus1, &ErrorModel::focal,
-                                      &ErrorModel::plus1, &ErrorModel::plus2}) {
-      model.*value = *RandomReal();
-    }
-  }
-  return model;
+/// Values between commas.
+template <typename Value>
+std::string RandomList(const rc::Gen<Value>& gen) {
+  return fmt::format(
+      "{}", fmt::join(*rc::gen::nonEmpty(rc::gen::container<std::vector<Value>>(gen)), ","));
 }
 
-inline std::optional<std::vector<std::string>> RandomLociInUse() {
-  return Perhaps(rc::gen::nonEmpty(rc::gen::container<std::vector<std::string>>(RandomName(""))));
-}
-
-inline std::string RandomPath() { return *RandomName(" ,\t\n"); }
-
-/// Settings of an allocation as a user might choose them, sensible or not.
-inline rc::Gen<AllocationSettings> RandomAllocation() {
-  return rc::gen::exec([] {
-    AllocationSettings settings;
-    settings.flow = *rc::gen::element(Flow::kNonSexed, Flow::kSexed);
-    settings.project = RandomPath();
-    settings.loci_file = RandomPath();
-    settings.offspring_file = RandomPath();
-    if (settings.flow == Flow::kSexed) {
-      settings.males_file = RandomPath();
-      settings.females_file = RandomPath();
-    } else {
-      settings.parents_file = RandomPath();
-    }
-    settings.tolerance = OffsetTolerance{*RandomWhole()};
-    settings.error_model = RandomErrorModel();
-    settings.loci_in_use = RandomLociInUse();
-    settings.sequence = Perhaps(rc::gen::container<std::vector<std::int32_t>>(RandomWhole()));
-    return settings;
-  });
-}
-
-inline ParentalSet RandomSet(Flow flow, Procedure procedure) {
-  ParentalSet set;
-  set.uncollected_sample = RandomPath();
-  if (procedure == Procedure::kParental) {
-    set.collected_file = RandomPath();
-  } else {
-    set.pseudo_collected_sample = RandomPath();
-    set.pseudo_collected = *RandomWhole();
+inline std::string RandomErrorModel() {
+  const NamedErrorModel named = *rc::gen::elementOf(
+      std::vector<NamedErrorModel>(NamedErrorModels().begin(), NamedErrorModels().end()));
+  if (named.probabilities.empty() || (named.may_stand_alone && *rc::gen::arbitrary<bool>())) {
+    return std::string(named.name);
   }
-  if (flow == Flow::kNonSexed) {
-    set.uncollected = *RandomReal();
-    return set;
-  }
-  set.uncollected = *RandomWhole();  // whole parents of each sex
-  set.estimated_collected = *RandomReal();
-  set.estimated_uncollected = *RandomReal();
-  return set;
+  const auto values =
+      *rc::gen::container<std::vector<double>>(named.probabilities.size(), RandomReal());
+  return fmt::format("{}={}", named.name, fmt::join(values, ","));
 }
 
-/// Settings of a simulation as a user might choose them, sensible or not.
-inline rc::Gen<SimulationSettings> RandomSimulation() {
-  return rc::gen::exec([] {
-    SimulationSettings settings;
-    settings.flow = *rc::gen::element(Flow::kNonSexed, Flow::kSexed);
-    settings.procedure = *rc::gen::element(Procedure::kParental, Procedure::kPreParental);
-    settings.project = RandomPath();
-    settings.loci_file = RandomPath();
-    settings.sets[0] = RandomSet(settings.flow, settings.procedure);
-    if (settings.flow == Flow::kSexed) {
-      settings.sets[1] = RandomSet(settings.flow, settings.procedure);
+/// What a user might type for a setting, sensible or not, as short as it can be told again. It
+/// follows from the kind of value that the help names, so that a new setting is drawn as well.
+template <typename Settings>
+std::string RandomText(const Setting<Settings>& setting) {
+  const std::string& kind = setting.metavar;
+  if (kind.empty()) {
+    return "";  // a flag
+  }
+  if (kind == "DIR" || kind == "FILE") {
+    return *RandomName(" ,\t\n");
+  }
+  if (kind == "N" || kind == "K") {
+    return std::to_string(*RandomWhole());
+  }
+  if (kind == "X" || kind == "U") {
+    return fmt::format("{}", *RandomReal());
+  }
+  if (kind == "S") {
+    return std::to_string(*rc::gen::arbitrary<std::uint32_t>());
+  }
+  if (kind == "MODEL") {
+    return RandomErrorModel();
+  }
+  if (kind == "NAME,...") {
+    return RandomList(RandomName(""));
+  }
+  if (kind == "I1,I2,..." || kind == "[I1,I2,...]") {
+    return kind[0] == '[' && *rc::gen::arbitrary<bool>() ? "" : RandomList(RandomWhole());
+  }
+  if (kind == "NAME") {
+    return std::string(*rc::gen::elementOf(setting.value.choices));
+  }
+  if (kind == "KINDS") {
+    std::vector<std::string_view> kinds = setting.value.choices;
+    std::erase_if(kinds, [](std::string_view) { return *rc::gen::arbitrary<bool>(); });
+    return kinds.empty() ? "none" : fmt::format("{}", fmt::join(kinds, ","));
+  }
+  RC_FAIL("no text is known for the kind of value " + kind);
+}
+
+/// What a user might type for a run of the flow and procedure of `like`: all that is needed, and
+/// any of the rest but the number of threads, which changes nothing.
+template <typename Settings>
+TypedSettings RandomTyped(SettingTable<Settings> table, const Settings& like) {
+  TypedSettings typed;
+  for (const Setting<Settings>& setting : table) {
+    const bool flow = setting.key == "sexed";
+    if (setting.option.empty() || setting.key == "threads" || !setting.Applies(like) ||
+        (flow && like.flow != Flow::kSexed)) {
+      continue;
     }
-    settings.iterations = *RandomWhole();
-    settings.offspring_per_iteration = *RandomWhole();
-    settings.tolerance = OffsetTolerance{*RandomWhole()};
-    settings.error_model = RandomErrorModel();
-    settings.loci_in_use = RandomLociInUse();
-    settings.strategy = *rc::gen::element(LociStrategy::kChoice, LociStrategy::kAll,
-                                          LociStrategy::kMinimal, LociStrategy::kCumulative);
-    settings.criterion = *rc::gen::oneOf(rc::gen::just(settings.criterion), RandomReal());
-    settings.start_with = *RandomWhole();
-    settings.sequence = *rc::gen::container<std::vector<std::int32_t>>(RandomWhole());
-    settings.print_iterations = *rc::gen::arbitrary<bool>();
-    settings.print_subset_statistics = *rc::gen::arbitrary<bool>();
-    if (*rc::gen::arbitrary<bool>()) {
-      settings.keep = KeptFiles{*rc::gen::arbitrary<bool>(), *rc::gen::arbitrary<bool>(),
-                                *rc::gen::arbitrary<bool>()};
+    if (flow || setting.needed || setting.always_told || *rc::gen::arbitrary<bool>()) {
+      typed[setting.key] = RandomText(setting);
     }
-    settings.seed = Perhaps(rc::gen::arbitrary<std::uint32_t>());
-    return settings;
-  });
+  }
+  return typed;
+}
+
+inline TypedSettings RandomAllocation() {
+  AllocationSettings like;
+  like.flow = *rc::gen::element(Flow::kNonSexed, Flow::kSexed);
+  return RandomTyped(AllocationSettingTable(), like);
+}
+
+inline TypedSettings RandomSimulation() {
+  SimulationSettings like;
+  like.flow = *rc::gen::element(Flow::kNonSexed, Flow::kSexed);
+  like.procedure = *rc::gen::element(Procedure::kParental, Procedure::kPreParental);
+  return RandomTyped(SimulationSettingTable(), like);
 }
 
 }  // namespace kaldo::test

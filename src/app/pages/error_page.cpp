@@ -46,30 +46,36 @@ constexpr FieldText kEpsilon{
 struct ProbabilityText {
   FieldText text;
   double ErrorModel::*value;
-  std::string_view at_first;
 };
 
 constexpr std::array<ProbabilityText, 5> kProbabilities{{
     {{"-&2 units", "Minus2", "Probability that an allele is read two unit distances shorter."},
-     &ErrorModel::minus2,
-     "0.002"},
+     &ErrorModel::minus2},
     {{"-&1 unit", "Minus1", "Probability that an allele is read one unit distance shorter."},
-     &ErrorModel::minus1,
-     "0.008"},
+     &ErrorModel::minus1},
     {{"&Target Allele", "Focal",
       "Probability that an allele is read as itself (focal allele): 0.9 to 1."},
-     &ErrorModel::focal,
-     "0.980"},
+     &ErrorModel::focal},
     {{"+1 un&it", "Plus1", "Probability that an allele is read one unit distance longer."},
-     &ErrorModel::plus1,
-     "0.008"},
+     &ErrorModel::plus1},
     {{"+2 unit&s", "Plus2", "Probability that an allele is read two unit distances longer."},
-     &ErrorModel::plus2,
-     "0.002"},
+     &ErrorModel::plus2},
 }};
 
-QLineEdit* NewShortField(const FieldText& text, std::string_view value) {
-  auto* const field = new QLineEdit(Text(value));
+/// What the field of a probability shows before anything is typed.
+std::string_view FirstShown(double ErrorModel::*value) {
+  for (const NamedErrorModel& model : NamedErrorModels()) {
+    for (const ErrorProbability& probability : model.probabilities) {
+      if (probability.value == value) {
+        return probability.first_shown;
+      }
+    }
+  }
+  return {};
+}
+
+QLineEdit* NewShortField(const FieldText& text, double ErrorModel::*value) {
+  auto* const field = new QLineEdit(Text(FirstShown(value)));
   Describe(*field, text);
   field->setMinimumWidth(field->fontMetrics().averageCharWidth() * kShortField);
   return field;
@@ -105,7 +111,7 @@ ErrorModelBox::ErrorModelBox(std::string_view title)
 
 QLayout* ErrorModelBox::UniformRow() {
   auto* const form = new QFormLayout;
-  epsilon_ = NewShortField(kEpsilon, "0.02");
+  epsilon_ = NewShortField(kEpsilon, &ErrorModel::epsilon);
   form->addRow(Text(kEpsilon.label), epsilon_);
   form->setContentsMargins(fontMetrics().height() * 2, 0, 0, 0);
   form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
@@ -116,7 +122,7 @@ QLayout* ErrorModelBox::NonUniformRow() {
   auto* const grid = new QGridLayout;
   grid->setContentsMargins(fontMetrics().height() * 2, 0, 0, 0);
   for (int k = 0; const ProbabilityText& probability : kProbabilities) {
-    QLineEdit* const field = NewShortField(probability.text, probability.at_first);
+    QLineEdit* const field = NewShortField(probability.text, probability.value);
     auto* const label = new QLabel(Text(probability.text.label));
     label->setBuddy(field);
     grid->addWidget(label, 0, k, Qt::AlignHCenter);

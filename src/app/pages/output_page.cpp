@@ -49,7 +49,6 @@ OutputPage::OutputPage(Flow flow) : FlowPage(kOutputScreen, SimulationCaption(fl
   auto* const print_column = new QVBoxLayout(print);
   print_iterations_ = NewBox(*print_column, kPrintIterations);
   print_subsets_ = NewBox(*print_column, kPrintSubsets);
-  print_subsets_->setChecked(true);
   auto* const keep = new QGroupBox(Text("  Keep in file  "));
   auto* const keep_column = new QVBoxLayout(keep);
   keep_parents_ = NewBox(*keep_column, kKeepParents);
@@ -63,11 +62,7 @@ OutputPage::OutputPage(Flow flow) : FlowPage(kOutputScreen, SimulationCaption(fl
   column->addWidget(keep);
   column->addLayout(form);
   column->addStretch();
-
-  SimulationSettings at_first;
-  at_first.flow = flow;
-  at_first.print_subset_statistics = true;
-  Set(at_first);
+  Set(FirstShownSimulation(flow));
 }
 
 void OutputPage::Set(const SimulationSettings& settings) {

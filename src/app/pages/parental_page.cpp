@@ -98,7 +98,7 @@ ParentalPage::ParentalPage(Flow flow)
     column->addWidget(NewSet(set));
   }
   column->addStretch();
-  Prepare(procedure_, {});
+  Set(FirstShownSimulation(flow));
 }
 
 std::span<const ParentalPage::SetFields> ParentalPage::Sets() const {
@@ -123,15 +123,11 @@ QWidget* ParentalPage::NewSet(std::size_t set) {
   fields.collected_file = NewFile(*form, texts.collected_file);
   fields.pseudo_collected_sample = NewFile(*form, texts.pseudo_collected_sample);
   fields.pseudo_collected = AddLineEdit(*form, texts.pseudo_collected);
-  fields.pseudo_collected->setText(NumberText(0));
   fields.uncollected_sample = NewFile(*form, texts.uncollected_sample);
   fields.uncollected = AddLineEdit(*form, texts.uncollected);
-  fields.uncollected->setText(NumberText(0));
   if (flow_ == Flow::kSexed) {
     fields.estimated_collected = AddLineEdit(*form, texts.estimated_collected);
-    fields.estimated_collected->setText(NumberText(0));
     fields.estimated_uncollected = AddLineEdit(*form, texts.estimated_uncollected);
-    fields.estimated_uncollected->setText(NumberText(0));
   }
   return group;
 }

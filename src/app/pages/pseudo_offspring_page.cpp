@@ -18,8 +18,6 @@ namespace kaldo {
 
 namespace {
 
-constexpr std::int32_t kOffspringAtFirst = 100;
-
 constexpr FieldText kNumber{
     "Nu&mber of pseudo-offspring generated at each iteration", "OffspringPerIteration",
     "They are shared out over the origins by the weights below; fractions are dropped."};
@@ -58,7 +56,7 @@ PseudoOffspringPage::PseudoOffspringPage(Flow flow)
   auto* const inside = new QVBoxLayout(group);
   auto* const form = new QFormLayout;
   number_ = AddLineEdit(*form, kNumber);
-  number_->setText(NumberText(kOffspringAtFirst));
+  number_->setText(NumberText(FirstShownSimulation(flow).offspring_per_iteration));
   inside->addLayout(form);
   inside->addWidget(table_);
   auto* const column = new QVBoxLayout(this);

@@ -16,8 +16,6 @@ namespace kaldo {
 
 namespace {
 
-constexpr std::int32_t kIterationsAtFirst = 100;
-
 constexpr FieldText kLoci{
     "Names of &loci file", "LociFile",
     "The names of the loci, in the order in which their fields follow each individual's name."};
@@ -43,7 +41,8 @@ SimulationStartPage::SimulationStartPage(Flow flow)
   loci_ = AddFileField(*form, kLoci);
   loci_->SetDescriber(DescribeLociFile);
   iterations_ = AddLineEdit(*form, kIterations);
-  iterations_->setText(NumberText(kIterationsAtFirst));
+  const SimulationSettings first_shown = FirstShownSimulation(flow);
+  iterations_->setText(NumberText(first_shown.iterations));
 
   auto* const group = new QGroupBox(Text("  Type of simulations  "));
   auto* const inside = new QVBoxLayout(group);
@@ -51,7 +50,7 @@ SimulationStartPage::SimulationStartPage(Flow flow)
        {std::pair{Procedure::kParental, kParental}, {Procedure::kPreParental, kPreParental}}) {
     auto* const button = new QRadioButton(Text(text.label));
     Describe(*button, text);
-    button->setChecked(procedure == Procedure::kParental);
+    button->setChecked(procedure == first_shown.procedure);
     procedure_->addButton(button, static_cast<int>(procedure));
     inside->addWidget(button);
   }

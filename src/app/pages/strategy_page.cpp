@@ -27,7 +27,7 @@ struct StrategyText {
   FieldText text;
 };
 
-constexpr std::array<StrategyText, 4> kStrategies{{
+constexpr std::array<StrategyText, 4> kStrategyTexts{{
     {LociStrategy::kChoice,
      {"-   &Your choice of loci", "ChoiceOfLociStrategy", "One run with the loci of your choice."}},
     {LociStrategy::kAll,
@@ -56,7 +56,7 @@ StrategyPage::StrategyPage(Flow flow)
       loci_(NewHint(nullptr)) {
   auto* const group = new QGroupBox(Text("     Simulations run with :     "));
   auto* const inside = new QVBoxLayout(group);
-  for (const StrategyText& strategy : kStrategies) {
+  for (const StrategyText& strategy : kStrategyTexts) {
     auto* const button = new QRadioButton(Text(strategy.text.label));
     Describe(*button, strategy.text);
     strategies_->addButton(button, static_cast<int>(strategy.strategy));
@@ -65,9 +65,9 @@ StrategyPage::StrategyPage(Flow flow)
   auto* const form = new QFormLayout;
   criterion_ = AddLineEdit(*form, kCriterion);
   start_with_ = AddLineEdit(*form, kStartWith);
-  const SimulationSettings at_first;
-  criterion_->setText(NumberText(at_first.criterion));
-  start_with_->setText(NumberText(at_first.start_with));
+  const SimulationSettings first_shown = FirstShownSimulation(flow);
+  criterion_->setText(NumberText(first_shown.criterion));
+  start_with_->setText(NumberText(first_shown.start_with));
   inside->addLayout(form);
   inside->addLayout(NewLociRow());
   auto* const column = new QVBoxLayout(this);

@@ -5,14 +5,13 @@
 
 #include <fmt/format.h>
 
+#include "allocation/allocation_settings.h"
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
 
 namespace kaldo {
 
 namespace {
-
-constexpr OffsetTolerance kAtFirst{1};
 
 constexpr FieldText kTolerance{
     "Maximal offset &tolerance", "Tolerance",
@@ -23,7 +22,7 @@ constexpr FieldText kTolerance{
 }  // namespace
 
 ToleranceField::ToleranceField(QFormLayout& form) : field_(AddLineEdit(form, kTolerance)) {
-  Set(kAtFirst);
+  Set(FirstShownAllocation(Flow::kNonSexed).tolerance);
 }
 
 void ToleranceField::Set(OffsetTolerance tolerance) {
