@@ -134,66 +134,70 @@ ExitCode RunRerun(const std::string& path, const std::optional<std::string>& thr
 
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
 
-ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineStreams& streams,
-                  Workforce& workforce) {
-  CLI::App app(
+/// The commands of the program with their options, and what was typed for them.
+struct Commands {
+  CLI::App app{
       "KALDO allocates offspring to their parents from microsatellite genotypes when only\n"
       "part of the true parents has been collected.",
-      "kaldo");
-  app.set_version_flag("--version", VersionLine());
-  app.footer(std::string(kExamples));
-  app.require_subcommand(0, 1);
-
-  TypedOptions allocation;
-  CLI::App* const allocate =
+      "kaldo"};
+  CLI::App* allocate =
       app.add_subcommand("allocate", "Allocate every offspring to its most likely pair of parents");
-  CLI::App* const check = app.add_subcommand("check", "Check files and choices; write nothing");
-  for (CLI::App* const command : {allocate, check}) {
-    allocation.AddTo(*command, AllocationSettingTable());
-  }
-  TypedOptions simulation;
-  CLI::App* const simulate =
+  CLI::App* check = app.add_subcommand("check", "Check files and choices; write nothing");
+  CLI::App* simulate =
       app.add_subcommand("simulate", "Estimate how far allocations with these loci can be trusted");
-  simulation.AddTo(*simulate, SimulationSettingTable());
+  CLI::App* rerun = app.add_subcommand("rerun", "Repeat a run from its run record");
+
+  TypedOptions allocation;  ///< of allocate and check
+  TypedOptions simulation;
   std::string record;
   std::optional<std::string> rerun_threads;
-  CLI::App* const rerun = app.add_subcommand("rerun", "Repeat a run from its run record");
-  rerun->add_option("record", record, "The file \"Run record.toml\" of a project folder")
-      ->type_name("FILE")
-      ->required();
-  rerun
-      ->add_option("--threads", rerun_threads,
-                   "Threads; default: all cores (kaldo-mpi: 1 per process)")
-      ->type_name("N");
-  for (CLI::App* const command : {allocate, simulate, check, rerun}) {
-    command->set_version_flag("--version", VersionLine());
-    command->footer(std::string(kExamples));
-  }
 
+  Commands() {
+    app.require_subcommand(0, 1);
+    allocation.AddTo(*allocate, AllocationSettingTable());
+    allocation.AddTo(*check, AllocationSettingTable());
+    simulation.AddTo(*simulate, SimulationSettingTable());
+    rerun->add_option("record", record, "The file \"Run record.toml\" of a project folder")
+        ->type_name("FILE")
+        ->required();
+    rerun
+        ->add_option("--threads", rerun_threads,
+                     "Threads; default: all cores (kaldo-mpi: 1 per process)")
+        ->type_name("N");
+    for (CLI::App* const command : {&app, allocate, simulate, check, rerun}) {
+      command->set_version_flag("--version", VersionLine());
+      command->footer(std::string(kExamples));
+    }
+  }
+};
+
+ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineStreams& streams,
+                  Workforce& workforce) {
+  Commands commands;
   std::vector<std::string> backwards(arguments.rbegin(), arguments.rend());
   try {
-    app.parse(std::move(backwards));
+    commands.app.parse(std::move(backwards));
   } catch (const CLI::ParseError& error) {
-    const int code = app.exit(error, streams.out, streams.err);
+    const int code = commands.app.exit(error, streams.out, streams.err);
     return code == 0 ? ExitCode::kDone : ExitCode::kBadInput;
   }
-  if (allocate->parsed()) {
-    const auto settings = AllocationFrom(allocation.Given());
+  if (commands.allocate->parsed()) {
+    const auto settings = AllocationFrom(commands.allocation.Given());
     return settings ? AllocateAndTell(*settings, streams, workforce)
                     : Tell(settings.error(), streams);
   }
-  if (simulate->parsed()) {
-    const auto settings = SimulationFrom(simulation.Given());
+  if (commands.simulate->parsed()) {
+    const auto settings = SimulationFrom(commands.simulation.Given());
     return settings ? SimulateAndTell(*settings, streams, workforce)
                     : Tell(settings.error(), streams);
   }
-  if (check->parsed()) {
-    return RunCheck(allocation.Given(), streams);
+  if (commands.check->parsed()) {
+    return RunCheck(commands.allocation.Given(), streams);
   }
-  if (rerun->parsed()) {
-    return RunRerun(record, rerun_threads, streams, workforce);
+  if (commands.rerun->parsed()) {
+    return RunRerun(commands.record, commands.rerun_threads, streams, workforce);
   }
-  streams.err << app.help();
+  streams.err << commands.app.help();
   return ExitCode::kBadInput;
 }
 

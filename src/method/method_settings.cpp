@@ -104,8 +104,11 @@ std::vector<double> RecordedProbabilities(const NamedErrorModel& named,
                                           RecordedSettings& recorded) {
   constexpr std::array<std::string_view, 6> kWords = {"no", "one", "two", "three", "four", "five"};
   const std::size_t wanted = named.probabilities.size();
-  if (wanted <= 1) {
-    return std::vector<double>(wanted, wanted == 1 ? recorded.Needed<double>(named.record_key) : 0);
+  if (wanted == 0) {
+    return {};
+  }
+  if (wanted == 1) {
+    return {recorded.Needed<double>(named.record_key)};
   }
   auto values = recorded.Needed<std::vector<double>>(named.record_key);
   if (values.size() != wanted) {
