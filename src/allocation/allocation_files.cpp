@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "allocation/allocation_files.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "genotypes/capacities.h"
@@ -100,13 +102,18 @@ std::optional<Problem> CheckCapacity(const AllocationFiles& files, const LociLis
 
 }  // namespace
 
-tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings) {
-  DiskFiles disk;
-  return OpenAllocationFiles(settings, disk);
+std::vector<RecordedInput> AllocationFiles::Recorded() const {
+  std::vector<RecordedInput> recorded;
+  const auto add = [&recorded](const AllocationFile& file) {
+    recorded.push_back({std::string(file.role.name), file.tokens.Path(), file.tokens.Digest()});
+  };
+  std::for_each(genotypes.begin(), genotypes.end(), add);
+  add(loci);
+  return recorded;
 }
 
 tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings,
-                                                           FileSource& source) {
+                                                           const FileOpener& open) {
   std::vector<AllocationFileRole> roles = GenotypeRoles(settings.flow);
   roles.push_back(kLoci);
   for (const AllocationFileRole& role : roles) {
@@ -116,7 +123,7 @@ tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSetti
   }
   AllocationFiles files;
   for (const AllocationFileRole& role : roles) {
-    auto tokens = TokenFile::Read(settings.*role.path, source);
+    auto tokens = open(settings.*role.path);
     if (!tokens) {
       return tl::unexpected(std::move(tokens.error()));
     }

@@ -10,6 +10,7 @@
 #include "allocation/allocation_settings.h"
 #include "genotypes/loci_list.h"
 #include "genotypes/record_cursor.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 
@@ -38,12 +39,14 @@ struct AllocationFiles {
   /// One file of parents or a file of males and one of females, then the offspring.
   std::vector<AllocationFile> genotypes;
   AllocationFile loci;
+
+  /// What a run record says of them.
+  std::vector<RecordedInput> Recorded() const;
 };
 
 /// Opens the files of a flow: first every name must be given, then every file must open.
-tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings);
 tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings,
-                                                           FileSource& source);
+                                                           const FileOpener& open);
 
 /// The tests of the file screen, file by file and for all files together.
 std::optional<Problem> CheckAllocationFiles(const AllocationFiles& files, const LociList& loci);

@@ -5,7 +5,6 @@
 
 #include <fmt/format.h>
 
-#include "allocation/allocation_files.h"
 #include "genotypes/genotype_reader.h"
 #include "genotypes/record_checks.h"
 #include "method/cumulative_sequence.h"
@@ -23,11 +22,7 @@ std::optional<std::vector<std::int32_t>> SequenceOf(const AllocationSettings& se
   return settings.sequence;
 }
 
-/// The choices behind the file screen: error model, loci in use, sequence.
-std::optional<Problem> ApplyChoices(const AllocationSettings& settings, AllocationInput& input) {
-  if (auto problem = ValidateForAllocation(settings.error_model)) {
-    return problem;
-  }
+std::optional<Problem> ChooseLoci(const AllocationSettings& settings, AllocationInput& input) {
   if (settings.loci_in_use) {
     if (auto problem = input.loci.Use(*settings.loci_in_use)) {
       return problem;
@@ -118,43 +113,59 @@ tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSetti
 
 tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSettings& settings,
                                                            FileSource& source) {
-  auto files = OpenAllocationFiles(settings, source);
+  const auto files = OpenAllocationFiles(settings, OpenAnew(source));
   if (!files) {
-    return tl::unexpected(std::move(files.error()));
+    return tl::unexpected(files.error());
   }
+  auto input = LoadIndividuals(settings, *files);
+  if (!input) {
+    return input;
+  }
+  if (auto problem = ApplyChoices(settings, *files, *input)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  return input;
+}
+
+tl::expected<AllocationInput, Problem> LoadIndividuals(const AllocationSettings& settings,
+                                                       const AllocationFiles& files) {
   if (auto problem = ValidateTolerance(settings.tolerance)) {
     return tl::unexpected(std::move(*problem));
   }
   AllocationInput input;
-  input.loci = LociList(files->loci.tokens);
-  if (auto problem = CheckAllocationFiles(*files, input.loci)) {
+  input.loci = LociList(files.loci.tokens);
+  if (auto problem = CheckAllocationFiles(files, input.loci)) {
     return tl::unexpected(std::move(*problem));
   }
-  if (auto problem = CheckLoci(files->loci.tokens)) {
+  if (auto problem = CheckLoci(files.loci.tokens)) {
     return tl::unexpected(std::move(*problem));
   }
-  const AllocationFile& first_parents = files->genotypes.front();
+  const AllocationFile& first_parents = files.genotypes.front();
   input.digits_per_field =
       DigitsPerField(first_parents.tokens, {input.loci.Count(), first_parents.SeparatorsHere()});
-  if (auto problem = CheckAllocationRecords(*files, input.loci, input.digits_per_field)) {
+  if (auto problem = CheckAllocationRecords(files, input.loci, input.digits_per_field)) {
     return tl::unexpected(std::move(*problem));
   }
-  if (auto problem = ApplyChoices(settings, input)) {
-    return tl::unexpected(std::move(*problem));
-  }
-  FillTable(*files, input);
+  FillTable(files, input);
   input.groups = FormGroups(settings.flow, input.table, input.first_parents, input.second_parents);
+  input.files = files.Recorded();
+  return input;
+}
+
+std::optional<Problem> ApplyChoices(const AllocationSettings& settings,
+                                    const AllocationFiles& files, AllocationInput& input) {
+  if (auto problem = ValidateForAllocation(settings.error_model)) {
+    return problem;
+  }
+  if (auto problem = ChooseLoci(settings, input)) {
+    return problem;
+  }
   auto catalogues = CatalogueAlleles(input.table, input.loci);
   if (!catalogues) {
-    return tl::unexpected(TooManyAllelesProblem(*files, input, catalogues.error()));
+    return TooManyAllelesProblem(files, input, catalogues.error());
   }
   input.catalogues = std::move(*catalogues);
-  for (const AllocationFile& file : files->genotypes) {
-    input.files.push_back({std::string(file.role.name), file.tokens.Path(), file.tokens.Digest()});
-  }
-  input.files.push_back(
-      {std::string(files->loci.role.name), files->loci.tokens.Path(), files->loci.tokens.Digest()});
-  return input;
+  return std::nullopt;
 }
 
 }  // namespace kaldo

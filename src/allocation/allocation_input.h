@@ -5,7 +5,7 @@
 
 #include <tl/expected.hpp>
 
-#include "allocation/allocation_settings.h"
+#include "allocation/allocation_files.h"
 #include "genotypes/catalogued_loci.h"
 #include "genotypes/genotype_table.h"
 #include "genotypes/loci_list.h"
@@ -51,5 +51,16 @@ struct AllocationInput {
 tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSettings& settings);
 tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSettings& settings,
                                                            FileSource& source);
+
+// The same in two steps: files that were opened and checked once serve every choice of loci.
+
+/// Tests the open files and loads their individuals. All loci are there, no choice is made.
+tl::expected<AllocationInput, Problem> LoadIndividuals(const AllocationSettings& settings,
+                                                       const AllocationFiles& files);
+
+/// Tests error model, loci in use and sequence, and makes the input of these files ready for a run
+/// with them: its combinations of loci and the alleles of the loci in use.
+std::optional<Problem> ApplyChoices(const AllocationSettings& settings,
+                                    const AllocationFiles& files, AllocationInput& input);
 
 }  // namespace kaldo

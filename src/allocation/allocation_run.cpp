@@ -43,12 +43,17 @@ tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& set
   if (!input) {
     return tl::unexpected(std::move(input.error()));
   }
+  return RunAllocation(settings, std::move(*input), observer, workforce);
+}
+
+AllocationRun RunAllocation(const AllocationSettings& settings, AllocationInput input,
+                            RunObserver& observer, Workforce& workforce) {
   // The reports are opened first: a folder that cannot be written to shows at once, not after
   // hours.
   AllocationReports reports(settings);
-  AllocationResult result = Allocate(settings, *input, observer, workforce);
-  reports.Write(settings, *input, result, observer);
-  return AllocationRun{std::move(*input), std::move(result)};
+  AllocationResult result = Allocate(settings, input, observer, workforce);
+  reports.Write(settings, input, result, observer);
+  return {std::move(input), std::move(result)};
 }
 
 }  // namespace kaldo

@@ -60,4 +60,9 @@ tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& set
 tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& settings,
                                                    RunObserver& observer, Workforce& workforce);
 
+/// The run with an input that was loaded before with these settings. The record tells the contents
+/// that were loaded, whatever has become of the files since.
+AllocationRun RunAllocation(const AllocationSettings& settings, AllocationInput input,
+                            RunObserver& observer, Workforce& workforce);
+
 }  // namespace kaldo

@@ -54,7 +54,8 @@ QPushButton* NewFlowButton(Flow flow, std::string_view group, int number, Qt::Ke
 
 }  // namespace
 
-MainMenu::MainMenu() : project_(new QLineEdit), folder_(new QLineEdit) {
+MainMenu::MainMenu(std::unique_ptr<FileSource> files)
+    : project_(new QLineEdit), folder_(new QLineEdit), opened_(std::move(files)) {
   Name(*this, kMainMenuScreen);
   setWindowTitle(Text(kProductTitle));
   setAcceptDrops(true);
@@ -147,7 +148,7 @@ QLayout* MainMenu::NewFurtherButtons() {
 AllocationFlowWindow& MainMenu::AllocationScreens(Flow flow) {
   auto& screens = allocations_.at(Place(flow));
   if (!screens) {
-    screens = std::make_unique<AllocationFlowWindow>(flow, this);
+    screens = std::make_unique<AllocationFlowWindow>(flow, opened_, this);
   }
   return *screens;
 }
@@ -155,7 +156,7 @@ AllocationFlowWindow& MainMenu::AllocationScreens(Flow flow) {
 SimulationFlowWindow& MainMenu::SimulationScreens(Flow flow) {
   auto& screens = simulations_.at(Place(flow));
   if (!screens) {
-    screens = std::make_unique<SimulationFlowWindow>(flow, this);
+    screens = std::make_unique<SimulationFlowWindow>(flow, opened_, this);
   }
   return *screens;
 }
@@ -211,7 +212,7 @@ void MainMenu::StartExampleOf(Flow flow, bool simulation) {
 }
 
 void MainMenu::OpenRecord(const std::string& path) {
-  if (const auto settings = OpenRunRecord(this, path)) {
+  if (const auto settings = OpenRunRecord(this, path, opened_)) {
     StartWith(*settings);
   }
 }

@@ -5,6 +5,7 @@
 #include <array>
 #include <memory>
 
+#include "app/base/opened_files.h"
 #include "app/flows/record_opener.h"
 
 class QLineEdit;
@@ -20,7 +21,8 @@ class SimulationFlowWindow;
 /// one after the other over the menu; closing the menu ends the program.
 class MainMenu : public QWidget {
  public:
-  MainMenu();
+  /// `files` is where input files are read from.
+  explicit MainMenu(std::unique_ptr<FileSource> files = std::make_unique<DiskFiles>());
   MainMenu(const MainMenu&) = delete;
   MainMenu& operator=(const MainMenu&) = delete;
   MainMenu(MainMenu&&) = delete;
@@ -57,6 +59,7 @@ class MainMenu : public QWidget {
 
   QLineEdit* project_;
   QLineEdit* folder_;
+  OpenedFiles opened_;  ///< outlives the screens
 
   // The screens of a flow are made when it is first reached, and keep what was typed.
   std::array<std::unique_ptr<AllocationFlowWindow>, 2> allocations_;

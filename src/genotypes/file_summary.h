@@ -61,9 +61,9 @@ std::string SummaryLine(const FileSummary& summary);
 /// The line under a genotype file that was just chosen. Without a usable names-of-loci file, only
 /// the words can be counted. Empty when no file has been chosen.
 std::string DescribeGenotypeFile(const std::string& path, const std::string& loci_path,
-                                 Separators separators);
+                                 Separators separators, const FileOpener& open);
 
 /// The line under a names-of-loci file: "9 loci: Ssa85, Ssa197, ...", or why it cannot be one.
-std::string DescribeLociFile(const std::string& path);
+std::string DescribeLociFile(const std::string& path, const FileOpener& open);
 
 }  // namespace kaldo

@@ -151,11 +151,11 @@ std::string SummaryLine(const FileSummary& summary) {
 }
 
 std::string DescribeGenotypeFile(const std::string& path, const std::string& loci_path,
-                                 Separators separators) {
+                                 Separators separators, const FileOpener& open) {
   if (path.empty()) {
     return {};
   }
-  const auto file = TokenFile::Read(path);
+  const auto file = open(path);
   if (!file) {
     return "cannot be read: " + file.error().found;
   }
@@ -165,18 +165,18 @@ std::string DescribeGenotypeFile(const std::string& path, const std::string& loc
   if (loci_path.empty()) {
     return unread("choose the names-of-loci file");
   }
-  const auto loci = TokenFile::Read(loci_path);
+  const auto loci = open(loci_path);
   if (!loci || CheckLoci(*loci)) {
     return unread("correct the names-of-loci file");
   }
   return SummaryLine(Summarize(*file, {loci->Tokens().size(), separators}));
 }
 
-std::string DescribeLociFile(const std::string& path) {
+std::string DescribeLociFile(const std::string& path, const FileOpener& open) {
   if (path.empty()) {
     return {};
   }
-  const auto file = TokenFile::Read(path);
+  const auto file = open(path);
   if (!file) {
     return "cannot be read: " + file.error().found;
   }

@@ -40,16 +40,28 @@ tl::expected<TokenFile, Problem> TokenFile::Read(const std::string& path, FileSo
   if (!bytes) {
     return tl::unexpected(std::move(bytes.error()));
   }
-  TokenFile file;
-  file.path_ = path;
-  file.bytes_ = std::move(*bytes);
-  file.digest_ = DigestOf(file.bytes_);
-  std::string_view text = file.Text();
+  auto contents = std::make_shared<Contents>();
+  contents->bytes = std::move(*bytes);
+  contents->digest = DigestOf(contents->bytes);
+  std::string_view text(contents->bytes.data(), contents->bytes.size());
   if (text.starts_with("\xef\xbb\xbf")) {
     text.remove_prefix(3);
   }
-  file.tokens_ = CutIntoTokens(text);
+  contents->tokens = CutIntoTokens(text);
+  TokenFile file;
+  file.path_ = path;
+  file.contents_ = std::move(contents);
   return file;
+}
+
+TokenFile TokenFile::At(std::string path) const {
+  TokenFile file = *this;
+  file.path_ = std::move(path);
+  return file;
+}
+
+FileOpener OpenAnew(FileSource& source) {
+  return [&source](const std::string& path) { return TokenFile::Read(path, source); };
 }
 
 }  // namespace kaldo

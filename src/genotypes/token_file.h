@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,7 +15,7 @@
 
 namespace kaldo {
 
-/// One word of an input file. The text lives as long as its TokenFile.
+/// One word of an input file. The text lives as long as its TokenFile or a copy of it.
 struct Token {
   std::string_view text;
   std::uint32_t line = 0;  ///< counted from 1
@@ -21,32 +23,38 @@ struct Token {
 
 /// A whole input file cut into words at blanks, tabs and line ends. Line ends carry no meaning for
 /// the method, but each word knows its line so that a message can tell where to look. A byte-order
-/// mark is skipped, and CR LF ends a line as LF does.
+/// mark is skipped, and CR LF ends a line as LF does. Nothing changes the contents once they have
+/// been read; copies share them.
 class TokenFile {
  public:
-  TokenFile() = default;
-  TokenFile(TokenFile&&) = default;
-  TokenFile& operator=(TokenFile&&) = default;
-  TokenFile(const TokenFile&) = delete;  // the words point into the bytes
-  TokenFile& operator=(const TokenFile&) = delete;
-  ~TokenFile() = default;
-
   /// Reads the file once. A file that cannot be opened or read is a Problem with the sentence
   /// `Cannot open file "x"!`; so is one that cannot be text (UTF-16, larger than any input).
   static tl::expected<TokenFile, Problem> Read(const std::string& path);
   static tl::expected<TokenFile, Problem> Read(const std::string& path, FileSource& source);
 
+  /// The same contents, with the path as the user typed it this time.
+  TokenFile At(std::string path) const;
+
   /// The path as the user typed it.
   const std::string& Path() const { return path_; }
-  std::span<const Token> Tokens() const { return tokens_; }
-  std::string_view Text() const { return {bytes_.data(), bytes_.size()}; }
-  const FileDigest& Digest() const { return digest_; }
+  std::span<const Token> Tokens() const { return contents_->tokens; }
+  const FileDigest& Digest() const { return contents_->digest; }
 
  private:
+  struct Contents {
+    std::vector<char> bytes;
+    std::vector<Token> tokens;  ///< point into the bytes
+    FileDigest digest;
+  };
+
   std::string path_;
-  std::vector<char> bytes_;
-  std::vector<Token> tokens_;
-  FileDigest digest_;
+  std::shared_ptr<const Contents> contents_ = std::make_shared<const Contents>();
 };
+
+/// How input files are opened by their paths as typed: read anew, or kept from before.
+using FileOpener = std::function<tl::expected<TokenFile, Problem>(const std::string& path)>;
+
+/// Reads each file anew; the source must live as long.
+FileOpener OpenAnew(FileSource& source);
 
 }  // namespace kaldo

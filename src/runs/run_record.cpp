@@ -95,10 +95,10 @@ std::string DateText(std::chrono::system_clock::time_point time) {
                      fmt::gmtime(std::chrono::system_clock::to_time_t(time)));
 }
 
-InputChanges CompareInputs(const RunRecord& record) {
+InputChanges CompareInputs(const RunRecord& record, const InputDigest& digest_now) {
   InputChanges changes;
   for (const RecordedInput& input : record.inputs) {
-    const auto now = DigestOfFile(input.path);
+    const auto now = digest_now(input.path);
     if (!now) {
       changes.missing.push_back(fmt::format("{} (\"{}\") cannot be read.", input.role, input.path));
     } else if (*now != input.digest) {
@@ -112,7 +112,7 @@ InputChanges CompareInputs(const RunRecord& record) {
 }
 
 std::vector<std::string> ChangedInputs(const RunRecord& record) {
-  return CompareInputs(record).changed;
+  return CompareInputs(record, DigestOfFile).changed;
 }
 
 }  // namespace kaldo

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,6 +30,8 @@ struct RecordedInput {
   std::string role;
   std::string path;
   FileDigest digest;
+
+  friend bool operator==(const RecordedInput&, const RecordedInput&) = default;
 };
 
 /// Its name in the project folder.
@@ -122,8 +125,11 @@ struct InputChanges {
   std::vector<std::string> changed;  ///< have other contents
 };
 
-/// Reads every input of the record once.
-InputChanges CompareInputs(const RunRecord& record);
+/// Size and SHA-256 of an input as it is now, or a Problem when it cannot be read.
+using InputDigest = std::function<tl::expected<FileDigest, Problem>(const std::string& path)>;
+
+/// Asks for every input of the record once.
+InputChanges CompareInputs(const RunRecord& record, const InputDigest& digest_now);
 
 /// The sentences of those with other contents alone.
 std::vector<std::string> ChangedInputs(const RunRecord& record);

@@ -81,20 +81,25 @@ std::optional<Problem> CheckNoSeparators(const GroupFile& group) {
 
 }  // namespace
 
-tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& settings) {
+std::vector<RecordedInput> SimulationFiles::Recorded() const {
+  std::vector<RecordedInput> recorded;
+  for (const GroupFile& group : groups) {
+    recorded.push_back({group.role, group.tokens.Path(), group.tokens.Digest()});
+  }
+  recorded.push_back({"names of loci", loci.Path(), loci.Digest()});
+  return recorded;
+}
+
+tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& settings,
+                                                    const FileOpener& open) {
   if (settings.loci_file.empty()) {
     return tl::unexpected(Problem{.kind = ProblemKind::kNoLociFile});
   }
-  return TokenFile::Read(settings.loci_file);
-}
-
-tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings) {
-  DiskFiles disk;
-  return OpenSimulationFiles(settings, disk);
+  return open(settings.loci_file);
 }
 
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
-                                                           FileSource& source) {
+                                                           const FileOpener& open) {
   if (settings.loci_file.empty()) {
     return tl::unexpected(Problem{.kind = ProblemKind::kNoLociFile});
   }
@@ -106,13 +111,13 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
     }
   }
   SimulationFiles files;
-  auto loci = TokenFile::Read(settings.loci_file, source);
+  auto loci = open(settings.loci_file);
   if (!loci) {
     return tl::unexpected(std::move(loci.error()));
   }
   files.loci = std::move(*loci);
   for (GroupPath& path : paths) {
-    auto tokens = TokenFile::Read(*path.path, source);
+    auto tokens = open(*path.path);
     if (!tokens) {
       return tl::unexpected(std::move(tokens.error()));
     }

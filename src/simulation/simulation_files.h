@@ -6,6 +6,7 @@
 #include <tl/expected.hpp>
 
 #include "genotypes/loci_list.h"
+#include "runs/run_record.h"
 #include "simulation/simulation_settings.h"
 
 namespace kaldo {
@@ -22,16 +23,20 @@ struct GroupFile {
 /// The open files of a simulation.
 struct SimulationFiles {
   TokenFile loci;
-  std::vector<GroupFile> groups;  ///< as in SimulationDesign::groups
+  std::vector<GroupFile> groups;  ///< as in the design of the flow
+
+  /// What a run record says of them.
+  std::vector<RecordedInput> Recorded() const;
 };
 
 /// Opens the names-of-loci file alone, which must be given.
-tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& settings);
+tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& settings,
+                                                    const FileOpener& open);
 
 /// Opens the files: first every name must be given, then every file must open.
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings);
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
-                                                           FileSource& source);
+                                                           const FileOpener& open);
 
 /// The tests of the file screens, group after group; each screen tells its own fault at once.
 std::optional<Problem> CheckSimulationFiles(const SimulationFiles& files, const LociList& loci);

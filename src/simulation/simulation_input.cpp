@@ -15,7 +15,6 @@
 #include "simulation/flows/simulation_design.h"
 #include "simulation/reports/simulation_texts.h"
 #include "simulation/simulation_checks.h"
-#include "simulation/simulation_files.h"
 
 namespace kaldo {
 
@@ -121,9 +120,8 @@ std::optional<Problem> LoadGroups(const SimulationSettings& settings, const Simu
       input.candidates = {0, group.slots.end};
     }
     input.groups.push_back(std::move(group));
-    input.files.push_back({file.role, file.tokens.Path(), file.tokens.Digest()});
   }
-  input.files.push_back({"names of loci", files.loci.Path(), files.loci.Digest()});
+  input.files = files.Recorded();
   return std::nullopt;
 }
 
@@ -189,21 +187,24 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
 
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
                                                            FileSource& source) {
-  SimulationInput input;
-  auto files = OpenSimulationFiles(settings, source);
-  if (!files) {
-    return tl::unexpected(std::move(files.error()));
-  }
+  return OpenSimulationFiles(settings, OpenAnew(source))
+      .and_then(
+          [&](const SimulationFiles& files) { return LoadSimulationInput(settings, files); });
+}
+
+tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
+                                                           const SimulationFiles& files) {
   if (auto problem = CheckSimulationNumbers(settings)) {
     return tl::unexpected(std::move(*problem));
   }
-  if (auto problem = CheckFiles(*files, input)) {
+  SimulationInput input;
+  if (auto problem = CheckFiles(files, input)) {
     return tl::unexpected(std::move(*problem));
   }
   if (auto problem = ApplyChoices(settings, input)) {
     return tl::unexpected(std::move(*problem));
   }
-  if (auto problem = LoadGroups(settings, *files, input)) {
+  if (auto problem = LoadGroups(settings, files, input)) {
     return tl::unexpected(std::move(*problem));
   }
   if (auto problem = CheckAlleles(input)) {

@@ -11,6 +11,7 @@
 #include "runs/run_record.h"
 #include "simulation/locus_subsets.h"
 #include "simulation/representative_sample.h"
+#include "simulation/simulation_files.h"
 #include "simulation/simulation_settings.h"
 
 namespace kaldo {
@@ -50,5 +51,9 @@ struct SimulationInput {
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings);
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
                                                            FileSource& source);
+
+/// The same from files that are open already.
+tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
+                                                           const SimulationFiles& files);
 
 }  // namespace kaldo

@@ -58,11 +58,16 @@ tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& set
   if (!input) {
     return tl::unexpected(std::move(input.error()));
   }
+  return RunSimulation(settings, std::move(*input), observer, workforce);
+}
+
+SimulationRun RunSimulation(const SimulationSettings& settings, SimulationInput input,
+                            RunObserver& observer, Workforce& workforce) {
   SimulationReports reports(settings);
-  SimulatedIteration last(settings, *input);
-  SimulationResult result = Simulate(settings, *input, last, observer, workforce);
-  reports.Write(settings, *input, result, last, observer, workforce);
-  return SimulationRun{std::move(*input), std::move(result)};
+  SimulatedIteration last(settings, input);
+  SimulationResult result = Simulate(settings, input, last, observer, workforce);
+  reports.Write(settings, input, result, last, observer, workforce);
+  return {std::move(input), std::move(result)};
 }
 
 }  // namespace kaldo

@@ -54,4 +54,9 @@ tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& set
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
                                                    RunObserver& observer, Workforce& workforce);
 
+/// The run with an input that was loaded before with these settings; seed, outputs and threads may
+/// have been chosen since.
+SimulationRun RunSimulation(const SimulationSettings& settings, SimulationInput input,
+                            RunObserver& observer, Workforce& workforce);
+
 }  // namespace kaldo

@@ -15,11 +15,13 @@ namespace {
 
 using test::TempFolder;
 
+const FileOpener kFromDisk = [](const std::string& path) { return TokenFile::Read(path); };
+
 /// The line under a file of two loci.
 std::string Describe(const std::string& text, Separators separators = Separators::kAllowed) {
   const TempFolder folder;
   return DescribeGenotypeFile(folder.Write("f.txt", text), folder.Write("loci.txt", "L1 L2"),
-                              separators);
+                              separators, kFromDisk);
 }
 
 TEST(FileSummary, OfSoundFilesIsAShortLine) {
@@ -69,21 +71,21 @@ TEST(FileSummary, NeedsTheNamesOfLoci) {
   const TempFolder folder;
   const std::string path = folder.Write("f.txt", "A1 152156 100102");
   const auto describe = [&](const std::string& loci) {
-    return DescribeGenotypeFile(path, loci, Separators::kNone);
+    return DescribeGenotypeFile(path, loci, Separators::kNone, kFromDisk);
   };
   EXPECT_EQ(describe(""), "3 words; choose the names-of-loci file to see what is in it");
   for (const std::string& loci : {folder.Path("nowhere"), folder.Write("l.txt", "A A")}) {
     EXPECT_EQ(describe(loci), "3 words; correct the names-of-loci file to see what is in it");
   }
-  EXPECT_EQ(DescribeGenotypeFile(folder.Path("none"), path, Separators::kNone),
+  EXPECT_EQ(DescribeGenotypeFile(folder.Path("none"), path, Separators::kNone, kFromDisk),
             "cannot be read: No such file or directory");
-  EXPECT_EQ(DescribeGenotypeFile("", path, Separators::kNone), "");
+  EXPECT_EQ(DescribeGenotypeFile("", path, Separators::kNone, kFromDisk), "");
 }
 
 TEST(FileSummary, OfLociNamesThemOrTellsTheFault) {
   const TempFolder folder;
   const auto describe = [&](const std::string& text) {
-    return DescribeLociFile(folder.Write("loci.txt", text));
+    return DescribeLociFile(folder.Write("loci.txt", text), kFromDisk);
   };
   EXPECT_EQ(describe("Ssa85"), "1 locus: Ssa85");
   EXPECT_EQ(describe("A B\nC D\nE"), "5 loci: A, B, C, D, E");
@@ -91,7 +93,7 @@ TEST(FileSummary, OfLociNamesThemOrTellsTheFault) {
   EXPECT_EQ(describe("A\nB\nA"), "Two loci have the same name! \"A\" stands in line 1 already");
   EXPECT_EQ(describe(""),
             "The names of loci file holds no locus! the file is empty; write one name per locus");
-  EXPECT_EQ(DescribeLociFile(folder.Path("")), "cannot be read: Is a directory");
+  EXPECT_EQ(DescribeLociFile(folder.Path(""), kFromDisk), "cannot be read: Is a directory");
 }
 
 TEST(FileSummary, KeepsTheFirstRecordsAsUnderstood) {
@@ -125,7 +127,7 @@ RC_GTEST_PROP(FileSummary, IsOneShortLineWhateverTheBytes, (bool separated)) {
   const std::string path = folder.Write("f.txt", RandomBytes());
   const std::string loci = folder.Write("loci.txt", RandomBytes());
   for (const std::string& line :
-       {DescribeGenotypeFile(path, loci, separators), DescribeLociFile(path)}) {
+       {DescribeGenotypeFile(path, loci, separators, kFromDisk), DescribeLociFile(path, kFromDisk)}) {
     RC_LOG(line);
     RC_ASSERT(!line.empty() && line.size() < 250);
     RC_ASSERT(std::none_of(line.begin(), line.end(),

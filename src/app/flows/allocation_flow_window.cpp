@@ -2,9 +2,9 @@
 #include "app/flows/allocation_flow_window.h"
 
 #include "allocation/allocation_command.h"
-#include "allocation/allocation_files.h"
 #include "allocation/allocation_run.h"
 #include "app/base/messages.h"
+#include "app/base/opened_files.h"
 #include "app/base/text.h"
 #include "app/flows/run_dialog.h"
 #include "app/pages/allocation_file_page.h"
@@ -23,10 +23,10 @@ const ScreenEntry& LociScreenOf(Flow flow) {
 
 }  // namespace
 
-AllocationFlowWindow::AllocationFlowWindow(Flow flow, QWidget* parent)
-    : FlowWindow(parent),
+AllocationFlowWindow::AllocationFlowWindow(Flow flow, OpenedFiles& opened, QWidget* parent)
+    : FlowWindow(opened, parent),
       flow_(flow),
-      files_(Own(new AllocationFilePage(flow))),
+      files_(Own(new AllocationFilePage(flow, opened))),
       error_(Own(new ErrorPage(AllocationCaption(flow)))),
       loci_(Own(new LociPage(LociScreenOf(flow), AllocationCaption(flow))), Own(new SequencePage)) {
 }
@@ -34,10 +34,15 @@ AllocationFlowWindow::AllocationFlowWindow(Flow flow, QWidget* parent)
 void AllocationFlowWindow::Set(const AllocationSettings& settings) {
   files_->Set(settings);
   error_->Box().Set(settings.error_model);
-  loci_.Set(settings.loci_file, settings.loci_in_use, settings.sequence);
+  loci_.Set(Opened().Open(settings.loci_file), settings.loci_in_use, settings.sequence);
 }
 
 FlowPage& AllocationFlowWindow::FirstPage() { return *files_; }
+
+void AllocationFlowWindow::Leave() {
+  loci_.Leave();
+  confirmed_.reset();
+}
 
 bool AllocationFlowWindow::MayStartRun(const FlowPage& page) const {
   return &page == &loci_.Choice() || &page == &loci_.Sequence();
@@ -65,7 +70,7 @@ AllocationSettings AllocationFlowWindow::FileSettings() const {
 
 void AllocationFlowWindow::ConfirmFiles() {
   const AllocationSettings settings = FileSettings();
-  const auto files = OpenAllocationFiles(settings);
+  const auto files = OpenAllocationFiles(settings, Opened().Opener());
   if (!files) {
     return Refuse(files.error());
   }
@@ -79,7 +84,12 @@ void AllocationFlowWindow::ConfirmFiles() {
     }
     return reject();  // files at fault end the flow; what was typed stays for the next time
   }
-  if (const auto input = LoadAllocationInput(settings); !input) {
+  auto individuals = LoadIndividuals(settings, *files);
+  if (!individuals) {
+    return Refuse(individuals.error());
+  }
+  confirmed_ = std::move(*individuals);
+  if (const auto input = Input(settings, *files); !input) {
     return Refuse(input.error());
   }
   if (MakeProjectFolder()) {
@@ -131,6 +141,19 @@ std::optional<AllocationSettings> AllocationFlowWindow::AllSettings() {
   return settings;
 }
 
+tl::expected<AllocationInput, Problem> AllocationFlowWindow::Input(
+    const AllocationSettings& settings, const AllocationFiles& files) const {
+  const bool same = confirmed_ && confirmed_->files == files.Recorded();
+  tl::expected<AllocationInput, Problem> input =
+      same ? *confirmed_ : LoadIndividuals(settings, files);
+  if (input) {
+    if (auto fault = ApplyChoices(settings, files, *input)) {
+      return tl::unexpected(std::move(*fault));
+    }
+  }
+  return input;
+}
+
 std::string AllocationFlowWindow::Command() {
   const auto settings = AllSettings();
   return settings ? CommandOf(*settings) : std::string();
@@ -141,9 +164,18 @@ void AllocationFlowWindow::Run() {
   if (!settings) {
     return;
   }
+  const auto files = OpenAllocationFiles(*settings, Opened().Opener());
+  if (!files) {
+    return Refuse(files.error());
+  }
   tl::expected<AllocationRun, Problem> run;
-  if (!RunWithProgress(this, windowTitle(),
-                       [&](RunObserver& observer) { run = RunAllocation(*settings, observer); })) {
+  const auto work = [&](RunObserver& observer) {
+    run = Input(*settings, *files).map([&](AllocationInput input) {
+      LocalThreads threads;
+      return RunAllocation(*settings, std::move(input), observer, threads);
+    });
+  };
+  if (!RunWithProgress(this, windowTitle(), work)) {
     return;
   }
   if (!run) {

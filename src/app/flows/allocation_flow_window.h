@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "allocation/allocation_settings.h"
+#include "allocation/allocation_input.h"
 #include "app/flows/flow_window.h"
 #include "app/flows/loci_screens.h"
 
@@ -16,7 +16,7 @@ class ErrorPage;
 /// wanted the cumulative sequence, run.
 class AllocationFlowWindow : public FlowWindow {
  public:
-  AllocationFlowWindow(Flow flow, QWidget* parent);
+  AllocationFlowWindow(Flow flow, OpenedFiles& opened, QWidget* parent);
 
   /// Fills all screens.
   void Set(const AllocationSettings& settings);
@@ -24,7 +24,7 @@ class AllocationFlowWindow : public FlowWindow {
  protected:
   FlowPage& FirstPage() override;
   void Confirm(const FlowPage& page) override;
-  void Leave() override { loci_.Leave(); }
+  void Leave() override;
   void Prepare(const FlowPage& /*page*/) override {}
   std::string Command() override;
   bool MayStartRun(const FlowPage& page) const override;
@@ -36,6 +36,11 @@ class AllocationFlowWindow : public FlowWindow {
   /// What all screens say. A field that cannot be read is told, and nothing comes back.
   std::optional<AllocationSettings> AllSettings();
 
+  /// The input of a run, from files that were opened: what was loaded when the file screen was
+  /// confirmed, unless they have changed since.
+  tl::expected<AllocationInput, Problem> Input(const AllocationSettings& settings,
+                                               const AllocationFiles& files) const;
+
   void ConfirmFiles();
   void ConfirmError();
   void ConfirmLoci();
@@ -46,6 +51,9 @@ class AllocationFlowWindow : public FlowWindow {
   AllocationFilePage* files_;
   ErrorPage* error_;
   LociScreens loci_;
+
+  /// The individuals of the confirmed files, before any choice of loci.
+  std::optional<AllocationInput> confirmed_;
 };
 
 }  // namespace kaldo

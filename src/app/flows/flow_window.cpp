@@ -16,6 +16,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
+#include "app/base/opened_files.h"
 #include "app/base/text.h"
 #include "runs/project_folder.h"
 #include "runs/run_record.h"
@@ -57,8 +58,9 @@ FlowPage::FlowPage(const ScreenEntry& entry, std::string_view caption) : caption
   Name(*this, entry);
 }
 
-FlowWindow::FlowWindow(QWidget* parent)
+FlowWindow::FlowWindow(OpenedFiles& opened, QWidget* parent)
     : QDialog(parent),
+      opened_(opened),
       area_(new PageArea),
       destination_(NewHint(nullptr)),
       copy_(NewButton("Cop&y as command", "CopyAsCommand",
@@ -97,6 +99,7 @@ void FlowWindow::Start(const std::string& project) {
   Display(FirstPage());
   exec();
   Leave();
+  opened_.Forget();
 }
 
 void FlowWindow::Keep(QWidget* page) {

@@ -13,6 +13,7 @@ class QScrollArea;
 
 namespace kaldo {
 
+class OpenedFiles;
 struct Problem;
 
 /// One parameter screen of a flow. It shows values and gives them back; what they mean together is
@@ -32,13 +33,15 @@ class FlowPage : public QWidget {
 /// returns to the one before.
 class FlowWindow : public QDialog {
  public:
-  explicit FlowWindow(QWidget* parent);
+  /// `opened` keeps the input files while the flow is on, and must live as long as this.
+  FlowWindow(OpenedFiles& opened, QWidget* parent);
 
   /// Shows the first screen for a project and returns when the flow is over.
   void Start(const std::string& project);
 
  protected:
   const std::string& Project() const { return project_; }
+  OpenedFiles& Opened() const { return opened_; }
 
   /// Takes a screen into the flow, which owns it from here on.
   template <typename Page>
@@ -81,6 +84,7 @@ class FlowWindow : public QDialog {
   void CopyCommand();
   void ShowDestination(const FlowPage& page);
 
+  OpenedFiles& opened_;
   std::string project_;
   std::vector<FlowPage*> before_;  ///< the screens that Back leads to
   FlowPage* current_ = nullptr;

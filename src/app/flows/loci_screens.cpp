@@ -8,14 +8,13 @@
 
 namespace kaldo {
 
-void LociScreens::Set(const std::string& loci_file,
+void LociScreens::Set(const tl::expected<TokenFile, Problem>& loci_file,
                       const std::optional<std::vector<std::string>>& in_use,
                       const std::optional<std::vector<std::int32_t>>& sequence) {
-  const auto file = TokenFile::Read(loci_file);
-  if (!file || CheckLoci(*file)) {
+  if (!loci_file || CheckLoci(*loci_file)) {
     return;  // the file screen tells what is wrong with it
   }
-  Refill(LociList(*file).Names());
+  Refill(LociList(*loci_file).Names());
   choice_->SetInUse(in_use);
   choice_->SetSequenceWanted(sequence.has_value());
   if (sequence && !sequence->empty()) {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "base/problem.h"
+#include "genotypes/token_file.h"
 
 namespace kaldo {
 
@@ -22,8 +22,9 @@ class LociScreens {
   LociPage& Choice() const { return *choice_; }
   SequencePage& Sequence() const { return *sequence_; }
 
-  /// Fills both screens from recorded choices.
-  void Set(const std::string& loci_file, const std::optional<std::vector<std::string>>& in_use,
+  /// Fills both screens from recorded choices, with the names in the names-of-loci file.
+  void Set(const tl::expected<TokenFile, Problem>& loci_file,
+           const std::optional<std::vector<std::string>>& in_use,
            const std::optional<std::vector<std::int32_t>>& sequence);
 
   /// Called when the names of the loci have been read. The sequence starts as the file order, in

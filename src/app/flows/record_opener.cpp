@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "app/base/messages.h"
+#include "app/base/opened_files.h"
 #include "app/base/text.h"
 #include "base/version.h"
 
@@ -24,8 +25,16 @@ void OfferFolder(QWidget* parent, const RunRecord& record) {
   }
 }
 
-void TellChanges(QWidget* parent, const RunRecord& record) {
-  auto [changes, changed] = CompareInputs(record);  // missing ones first
+/// What is no text is not kept open, but may still have changed rather than gone.
+tl::expected<FileDigest, Problem> DigestNow(const std::string& path, OpenedFiles& opened) {
+  const auto file = opened.Open(path);
+  return file ? file->Digest() : DigestOfFile(path);
+}
+
+void TellChanges(QWidget* parent, const RunRecord& record, OpenedFiles& opened) {
+  auto [changes, changed] = CompareInputs(record, [&opened](const std::string& path) {
+    return DigestNow(path, opened);
+  });  // missing ones first
   changes.insert(changes.end(), changed.begin(), changed.end());
   if (record.version != Version()) {
     changes.push_back(fmt::format("The record was made by KALDO {}, this is KALDO {}.",
@@ -40,7 +49,8 @@ void TellChanges(QWidget* parent, const RunRecord& record) {
 
 }  // namespace
 
-std::optional<RunSettings> OpenRunRecord(QWidget* parent, const std::string& path) {
+std::optional<RunSettings> OpenRunRecord(QWidget* parent, const std::string& path,
+                                         OpenedFiles& opened) {
   const auto record = ReadRunRecord(path);
   if (!record) {
     ShowProblem(parent, record.error());
@@ -52,7 +62,7 @@ std::optional<RunSettings> OpenRunRecord(QWidget* parent, const std::string& pat
     return std::nullopt;
   }
   OfferFolder(parent, *record);
-  TellChanges(parent, *record);
+  TellChanges(parent, *record, opened);
   return *settings;
 }
 

@@ -2,6 +2,7 @@
 #include "app/flows/simulation_flow_window.h"
 
 #include "app/base/messages.h"
+#include "app/base/opened_files.h"
 #include "app/base/text.h"
 #include "app/flows/run_dialog.h"
 #include "app/pages/loci_page.h"
@@ -20,16 +21,15 @@
 #include "simulation/saved_loci.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_command.h"
-#include "simulation/simulation_files.h"
 #include "simulation/simulation_run.h"
 
 namespace kaldo {
 
-SimulationFlowWindow::SimulationFlowWindow(Flow flow, QWidget* parent)
-    : FlowWindow(parent),
+SimulationFlowWindow::SimulationFlowWindow(Flow flow, OpenedFiles& opened, QWidget* parent)
+    : FlowWindow(opened, parent),
       flow_(flow),
-      start_(Own(new SimulationStartPage(flow))),
-      parents_(Own(new ParentalPage(flow))),
+      start_(Own(new SimulationStartPage(flow, opened))),
+      parents_(Own(new ParentalPage(flow, opened))),
       offspring_(Own(new PseudoOffspringPage(flow))),
       tolerance_(Own(new TolerancePage(flow))),
       strategy_(Own(new StrategyPage(flow))),
@@ -45,13 +45,18 @@ void SimulationFlowWindow::Set(const SimulationSettings& settings) {
   offspring_->Box().Set(settings.error_model);
   tolerance_->Field().Set(settings.tolerance);
   strategy_->Set(settings);
-  loci_.Set(settings.loci_file, settings.loci_in_use,
+  loci_.Set(Opened().Open(settings.loci_file), settings.loci_in_use,
             settings.sequence.empty() ? std::nullopt : std::optional(settings.sequence));
   loci_.Choice().SetSequenceWanted(false);  // the strategy screen leads to the sequence
   output_->Set(settings);
 }
 
 FlowPage& SimulationFlowWindow::FirstPage() { return *start_; }
+
+void SimulationFlowWindow::Leave() {
+  loci_.Leave();
+  passed_.reset();
+}
 
 bool SimulationFlowWindow::MayStartRun(const FlowPage& page) const { return &page == output_; }
 
@@ -116,11 +121,24 @@ SimulationSettings SimulationFlowWindow::SettingsUpTo(Known known) const {
 }
 
 bool SimulationFlowWindow::Passes(const SimulationSettings& settings) {
-  const auto input = LoadSimulationInput(settings);
+  auto input = OpenSimulationFiles(settings, Opened().Opener())
+                   .and_then([&](const SimulationFiles& files) {
+                     return LoadSimulationInput(settings, files);
+                   });
   if (!input) {
     Refuse(input.error());
+    return false;
   }
-  return input.has_value();
+  passed_ = {settings, std::move(*input)};
+  return true;
+}
+
+tl::expected<SimulationInput, Problem> SimulationFlowWindow::Input(
+    const SimulationSettings& settings, const SimulationFiles& files) const {
+  if (passed_ && passed_->settings == settings && passed_->input.files == files.Recorded()) {
+    return passed_->input;
+  }
+  return LoadSimulationInput(settings, files);
 }
 
 void SimulationFlowWindow::ConfirmStart() {
@@ -128,7 +146,7 @@ void SimulationFlowWindow::ConfirmStart() {
   if (WarnsOfManyIterations(flow_, settings.iterations)) {
     ShowSentence(this, kManyIterations);
   }
-  const auto loci = OpenSimulationLoci(settings);
+  const auto loci = OpenSimulationLoci(settings, Opened().Opener());
   if (!loci) {
     return Refuse(loci.error());
   }
@@ -154,7 +172,7 @@ void SimulationFlowWindow::ConfirmStart() {
 
 void SimulationFlowWindow::ConfirmParents() {
   const SimulationSettings settings = SettingsUpTo(Known::kParents);
-  const auto files = OpenSimulationFiles(settings);
+  const auto files = OpenSimulationFiles(settings, Opened().Opener());
   if (!files) {
     return Refuse(files.error());
   }
@@ -165,7 +183,7 @@ void SimulationFlowWindow::ConfirmParents() {
     Refuse(*fault);
     return reject();  // files at fault end the flow; what was typed stays for the next time
   }
-  const auto input = LoadSimulationInput(settings);
+  const auto input = LoadSimulationInput(settings, *files);
   if (!input) {
     return Refuse(input.error());
   }
@@ -274,9 +292,19 @@ std::string SimulationFlowWindow::Command() {
 
 void SimulationFlowWindow::Run() {
   SimulationSettings settings = SettingsUpTo(Known::kAll);
+  const auto files = OpenSimulationFiles(settings, Opened().Opener());
+  if (!files) {
+    return Refuse(files.error());
+  }
+  const SimulationSettings tested = SettingsUpTo(Known::kSequence);  // the outputs need no test
   tl::expected<SimulationRun, Problem> run;
-  if (!RunWithProgress(this, windowTitle(),
-                       [&](RunObserver& observer) { run = RunSimulation(settings, observer); })) {
+  const auto work = [&](RunObserver& observer) {
+    run = Input(tested, *files).map([&](SimulationInput input) {
+      LocalThreads threads;
+      return RunSimulation(settings, std::move(input), observer, threads);
+    });
+  };
+  if (!RunWithProgress(this, windowTitle(), work)) {
     return;
   }
   if (!run) {

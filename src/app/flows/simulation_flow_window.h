@@ -5,6 +5,7 @@
 
 #include "app/flows/flow_window.h"
 #include "app/flows/loci_screens.h"
+#include "simulation/simulation_input.h"
 #include "simulation/simulation_settings.h"
 
 namespace kaldo {
@@ -21,7 +22,7 @@ class TolerancePage;
 /// sequence; output; run.
 class SimulationFlowWindow : public FlowWindow {
  public:
-  SimulationFlowWindow(Flow flow, QWidget* parent);
+  SimulationFlowWindow(Flow flow, OpenedFiles& opened, QWidget* parent);
 
   /// Fills all screens.
   void Set(const SimulationSettings& settings);
@@ -29,7 +30,7 @@ class SimulationFlowWindow : public FlowWindow {
  protected:
   FlowPage& FirstPage() override;
   void Confirm(const FlowPage& page) override;
-  void Leave() override { loci_.Leave(); }
+  void Leave() override;
   void Prepare(const FlowPage& page) override;
   std::string Command() override;
   bool MayStartRun(const FlowPage& page) const override;
@@ -41,8 +42,19 @@ class SimulationFlowWindow : public FlowWindow {
   /// What the screens up to `known` say. What is not known yet has a value that passes all tests.
   SimulationSettings SettingsUpTo(Known known) const;
 
-  /// Tests the settings as the run will; tells what is wrong.
+  /// An input and what it was loaded for.
+  struct Loaded {
+    SimulationSettings settings;
+    SimulationInput input;
+  };
+
+  /// Tests the settings as the run will, and keeps what was loaded for them; tells what is wrong.
   bool Passes(const SimulationSettings& settings);
+
+  /// The input of a run, from files that were opened: what passed last with the same settings,
+  /// unless the files have changed since.
+  tl::expected<SimulationInput, Problem> Input(const SimulationSettings& settings,
+                                               const SimulationFiles& files) const;
 
   void ConfirmStart();
   void ConfirmParents();
@@ -64,6 +76,7 @@ class SimulationFlowWindow : public FlowWindow {
   StrategyPage* strategy_;
   LociScreens loci_;
   OutputPage* output_;
+  std::optional<Loaded> passed_;
 };
 
 }  // namespace kaldo

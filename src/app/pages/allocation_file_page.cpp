@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "app/base/file_field.h"
+#include "app/base/opened_files.h"
 #include "genotypes/file_summary.h"
 
 namespace kaldo {
@@ -28,23 +29,15 @@ constexpr FieldText kOffspring{
 constexpr FieldText kLoci{
     "Names of &loci file", "LociFile",
     "The names of the loci, in the order in which their fields follow each individual's name."};
+
 const ScreenEntry& EntryOf(Flow flow) {
   return flow == Flow::kSexed ? kSexedAllocationScreen : kNonSexedAllocationScreen;
 }
 
-/// How many groups the separators make of a file; nothing where it cannot be read.
-std::optional<std::size_t> GroupsIn(const std::string& path) {
-  const auto file = TokenFile::Read(path);
-  if (!file) {
-    return std::nullopt;
-  }
-  return CountTokens(file->Tokens(), {0, Separators::kAllowed}).separators + 1;
-}
-
 }  // namespace
 
-AllocationFilePage::AllocationFilePage(Flow flow)
-    : FlowPage(EntryOf(flow), AllocationCaption(flow)) {
+AllocationFilePage::AllocationFilePage(Flow flow, OpenedFiles& opened)
+    : FlowPage(EntryOf(flow), AllocationCaption(flow)), opened_(opened) {
   auto* const form = new QFormLayout(this);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   if (flow == Flow::kSexed) {
@@ -57,7 +50,8 @@ AllocationFilePage::AllocationFilePage(Flow flow)
   }
   AddFile(*form, &AllocationSettings::offspring_file, false, kOffspring);
   loci_ = AddFileField(*form, kLoci);
-  loci_->SetDescriber(DescribeLociFile);
+  loci_->SetDescriber(
+      [this](const std::string& file) { return DescribeLociFile(file, opened_.Opener()); });
   loci_->SetOnChange([this] { RefreshFiles(); });
   tolerance_.emplace(*form);
 }
@@ -67,19 +61,28 @@ FileField* AllocationFilePage::AddFile(QFormLayout& form, std::string Allocation
   FileField* const field = AddFileField(form, text);
   field->SetDescriber([this, holds_parents](const std::string& file) {
     std::string line = DescribeGenotypeFile(
-        file, loci_->Path(), holds_parents ? Separators::kAllowed : Separators::kNone);
+        file, loci_->Path(), holds_parents ? Separators::kAllowed : Separators::kNone,
+        opened_.Opener());
     return holds_parents ? line + GroupsFault() : line;
   });
   rows_.push_back({path, field});
   return field;
 }
 
+std::optional<std::size_t> AllocationFilePage::GroupsIn(const FileField& field) const {
+  const auto file = opened_.Open(field.Path());
+  if (!file) {
+    return std::nullopt;
+  }
+  return CountTokens(file->Tokens(), {0, Separators::kAllowed}).separators + 1;
+}
+
 std::string AllocationFilePage::GroupsFault() const {
   if (males_ == nullptr || females_ == nullptr) {
     return {};
   }
-  const auto males = GroupsIn(males_->Path());
-  const auto females = GroupsIn(females_->Path());
+  const auto males = GroupsIn(*males_);
+  const auto females = GroupsIn(*females_);
   if (!males || !females || *males == *females) {
     return {};
   }

@@ -13,12 +13,14 @@ class QFormLayout;
 namespace kaldo {
 
 class FileField;
+class OpenedFiles;
 
 /// The file screen of an allocation: collected parents (or males and females), offspring, names of
 /// loci, and the maximal offset tolerance.
 class AllocationFilePage : public FlowPage {
  public:
-  explicit AllocationFilePage(Flow flow);
+  /// `opened` must live as long as the page.
+  AllocationFilePage(Flow flow, OpenedFiles& opened);
 
   void Set(const AllocationSettings& settings);
 
@@ -36,11 +38,15 @@ class AllocationFilePage : public FlowPage {
   std::string GroupsFault() const;
   void RefreshFiles();
 
+  /// How many groups the separators make of a file; nothing where it cannot be read.
+  std::optional<std::size_t> GroupsIn(const FileField& field) const;
+
   struct Row {
     std::string AllocationSettings::*path;
     FileField* field;
   };
 
+  OpenedFiles& opened_;
   std::vector<Row> rows_;
   FileField* males_ = nullptr;  ///< sexed flow, as the next
   FileField* females_ = nullptr;

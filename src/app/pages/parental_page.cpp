@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include "app/base/file_field.h"
+#include "app/base/opened_files.h"
 #include "app/base/text.h"
 #include "genotypes/file_summary.h"
 
@@ -91,8 +92,8 @@ void ShowRow(QFormLayout& form, QWidget* field, bool shown) {
 
 }  // namespace
 
-ParentalPage::ParentalPage(Flow flow)
-    : FlowPage(kParentalScreen, SimulationCaption(flow)), flow_(flow) {
+ParentalPage::ParentalPage(Flow flow, OpenedFiles& opened)
+    : FlowPage(kParentalScreen, SimulationCaption(flow)), flow_(flow), opened_(opened) {
   auto* const column = new QVBoxLayout(this);
   for (std::size_t set = 0; set < Sets().size(); ++set) {
     column->addWidget(NewSet(set));
@@ -108,7 +109,7 @@ std::span<const ParentalPage::SetFields> ParentalPage::Sets() const {
 FileField* ParentalPage::NewFile(QFormLayout& form, const FieldText& text) {
   FileField* const field = AddFileField(form, text);
   field->SetDescriber([this](const std::string& file) {
-    return DescribeGenotypeFile(file, loci_file_, Separators::kNone);
+    return DescribeGenotypeFile(file, loci_file_, Separators::kNone, opened_.Opener());
   });
   return field;
 }

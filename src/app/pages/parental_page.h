@@ -15,13 +15,15 @@ class QLineEdit;
 namespace kaldo {
 
 class FileField;
+class OpenedFiles;
 struct FieldText;
 
 /// Where the parents of a simulation come from, and how many they are: one set in the non-sexed
 /// flow, males and females in the sexed one.
 class ParentalPage : public FlowPage {
  public:
-  explicit ParentalPage(Flow flow);
+  /// `opened` must live as long as the page.
+  ParentalPage(Flow flow, OpenedFiles& opened);
 
   /// Shows the fields of the procedure. The names-of-loci file tells what is in the others.
   void Prepare(Procedure procedure, const std::string& loci_file);
@@ -60,6 +62,7 @@ class ParentalPage : public FlowPage {
   std::span<const SetFields> Sets() const;
 
   Flow flow_;
+  OpenedFiles& opened_;
   Procedure procedure_ = Procedure::kParental;
   std::string loci_file_;
   std::array<SetFields, 2> sets_{};

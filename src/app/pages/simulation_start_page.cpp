@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "app/base/file_field.h"
+#include "app/base/opened_files.h"
 #include "app/base/text.h"
 #include "genotypes/file_summary.h"
 
@@ -32,14 +33,15 @@ constexpr FieldText kPreParental{
 
 }  // namespace
 
-SimulationStartPage::SimulationStartPage(Flow flow)
+SimulationStartPage::SimulationStartPage(Flow flow, OpenedFiles& opened)
     : FlowPage(flow == Flow::kSexed ? kSexedSimulationScreen : kNonSexedSimulationScreen,
                SimulationCaption(flow)),
       procedure_(new QButtonGroup(this)) {
   auto* const form = new QFormLayout;
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   loci_ = AddFileField(*form, kLoci);
-  loci_->SetDescriber(DescribeLociFile);
+  loci_->SetDescriber(
+      [&opened](const std::string& file) { return DescribeLociFile(file, opened.Opener()); });
   iterations_ = AddLineEdit(*form, kIterations);
   const SimulationSettings first_shown = FirstShownSimulation(flow);
   iterations_->setText(NumberText(first_shown.iterations));

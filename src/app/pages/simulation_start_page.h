@@ -12,12 +12,14 @@ class QLineEdit;
 namespace kaldo {
 
 class FileField;
+class OpenedFiles;
 
 /// The first screen of a simulation: names of loci, number of iterations, and whether the parents
 /// have been collected already (parental procedure) or not (pre-parental).
 class SimulationStartPage : public FlowPage {
  public:
-  explicit SimulationStartPage(Flow flow);
+  /// `opened` must live as long as the page.
+  SimulationStartPage(Flow flow, OpenedFiles& opened);
 
   void Set(const SimulationSettings& settings);
 

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/base/opened_files.h"
+
+#include <chrono>
+
+namespace kaldo {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// The coarsest clock of a file system, that of FAT: two changes within it may bear one time.
+constexpr auto kClockStep = 2s;
+
+/// More than any flow has: a user who looks for the right file must not fill the memory.
+constexpr std::size_t kMostKept = 12;
+
+}  // namespace
+
+OpenedFiles::OpenedFiles(std::unique_ptr<FileSource> source) : source_(std::move(source)) {}
+
+std::optional<OpenedFiles::Looks> OpenedFiles::LooksNow(const std::filesystem::path& place) {
+  std::error_code error;
+  Looks looks;
+  looks.bytes = std::filesystem::file_size(place, error);
+  if (!error) {
+    looks.changed = std::filesystem::last_write_time(place, error);
+  }
+  return error ? std::nullopt : std::optional(looks);
+}
+
+tl::expected<TokenFile, Problem> OpenedFiles::Open(const std::string& path) {
+  std::error_code ignored;
+  const std::filesystem::path place = std::filesystem::absolute(path, ignored);
+  // Before it is read: a change meanwhile shows the next time.
+  const auto looks = LooksNow(place);
+  const auto now = std::filesystem::file_time_type::clock::now();
+  if (const auto kept = kept_.find(place); kept != kept_.end()) {
+    if (looks == kept->second.looks) {
+      return kept->second.file.At(path);
+    }
+    kept_.erase(kept);
+  }
+  auto file = TokenFile::Read(path, *source_);
+  // What has just been changed may be changed again without looking different.
+  if (file && looks && now - looks->changed > kClockStep) {
+    if (kept_.size() == kMostKept) {
+      kept_.clear();
+    }
+    kept_[place] = {*looks, *file};
+  }
+  return file;
+}
+
+FileOpener OpenedFiles::Opener() {
+  return [this](const std::string& path) { return Open(path); };
+}
+
+}  // namespace kaldo
