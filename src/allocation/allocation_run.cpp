@@ -20,6 +20,9 @@ AllocationResult Allocate(const AllocationSettings& settings, const AllocationIn
   observer.OnPart(kAllocatingPart, input.combinations.size() * input.NumberOfOffspring());
   workforce.Do({kAllocatingPart, task, plan, [&] { return RecordOf(settings, input, result); }},
                settings.threads, observer);
+  for (const AllocationCounters& counters : result.counters) {
+    result.shares.push_back(SharesOf(settings.flow, counters));
+  }
   result.duration = std::chrono::steady_clock::now() - clock_start;
   return result;
 }

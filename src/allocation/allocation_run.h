@@ -10,8 +10,8 @@
 #include "allocation/allocation_input.h"
 #include "base/run_observer.h"
 #include "genotypes/stepping_condition.h"
-#include "method/allocation_counters.h"
 #include "method/allocation_decision.h"
+#include "method/allocation_shares.h"
 #include "runs/workforce.h"
 
 namespace kaldo {
@@ -20,6 +20,7 @@ namespace kaldo {
 struct AllocationResult {
   /// One per combination of loci, in their order; a run without a sequence has one.
   std::vector<AllocationCounters> counters;
+  std::vector<AllocationShares> shares;  ///< beside `counters`
 
   // Of the last combination:
   LociOfRun loci;
@@ -31,7 +32,7 @@ struct AllocationResult {
   std::chrono::system_clock::time_point started;
   std::chrono::duration<double> duration{};
 
-  const AllocationCounters& LastCounters() const { return counters.back(); }
+  const AllocationShares& LastShares() const { return shares.back(); }
 };
 
 /// The part of a run in which offspring are allocated.

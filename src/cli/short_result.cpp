@@ -28,25 +28,17 @@ std::string ParentsText(Flow flow, const AllocationInput& input) {
   return text;
 }
 
-std::string Row(std::string_view label, double count, double offspring) {
-  return fmt::format("  {:<28}{:>8g}{:>9.4f}\n", label, count, count / offspring);
+std::string Row(const std::string& label, const AllocationShare& share) {
+  return fmt::format("  {:<28}{:>8g}{:>9.4f}\n", label, share.number, share.quotient);
 }
 
-std::string Proportions(Flow flow, const AllocationCounters& counters) {
-  const double n = counters.Offspring();
+std::string Proportions(const AllocationShares& shares) {
   std::string text = fmt::format("  {:<28}{:>8}{:>9}\n", "", "number", "share");
-  if (flow == Flow::kSexed) {
-    text += Row("collected male", counters.both_collected + counters.only_par1_collected, n);
-    text += Row("collected female", counters.both_collected + counters.only_par2_collected, n);
-    text += Row("pairs CM + CF", counters.both_collected, n);
-    text += Row("pairs CM + UCF", counters.only_par1_collected, n);
-    text += Row("pairs UCM + CF", counters.only_par2_collected, n);
-    text += Row("pairs UCM + UCF", counters.none_collected, n);
-  } else {
-    text += Row("sides collected", 2 * counters.both_collected + counters.OneCollected(), 2 * n);
-    text += Row("pairs 2 C", counters.both_collected, n);
-    text += Row("pairs C + UC", counters.OneCollected(), n);
-    text += Row("pairs 2 UC", counters.none_collected, n);
+  for (const AllocationShare& single : shares.singles) {
+    text += Row(std::string(single.name), single);
+  }
+  for (const AllocationShare& pair : shares.pairs) {
+    text += Row(fmt::format("pairs {}", pair.name), pair);
   }
   return text;
 }
@@ -54,10 +46,10 @@ std::string Proportions(Flow flow, const AllocationCounters& counters) {
 /// The share of sides allocated to a collected parent for each combination of a sequence.
 std::string SequenceRows(const AllocationInput& input, const AllocationResult& result) {
   std::string text = "\nSides allocated to a collected parent, by number of loci:\n";
-  for (std::size_t k = 0; k < result.counters.size(); ++k) {
+  for (std::size_t k = 0; k < result.shares.size(); ++k) {
     text += fmt::format("  {:>3}  + {:<15}{:>7.4f}\n", k + 1,
                         input.loci.Name(input.combinations[k].back()),
-                        SingleProportion(result.counters[k]));
+                        result.shares[k].sides_collected);
   }
   return text;
 }
@@ -113,7 +105,7 @@ std::string ShortResult(const AllocationSettings& settings, const AllocationRun&
   text += fmt::format("  {}\n  error model {}, maximal offset tolerance {}\n\n",
                       InputSummary(settings.flow, input), ShortDescription(settings.error_model),
                       settings.tolerance.Value());
-  text += Proportions(settings.flow, result.LastCounters());
+  text += Proportions(result.LastShares());
   if (settings.sequence) {
     text += SequenceRows(input, result);
   }

@@ -13,19 +13,4 @@ void AllocationCounters::Count(const AllocationOutcome& outcome) {
   ++counter;
 }
 
-double SingleProportion(const AllocationCounters& counters) {
-  const double n = counters.Offspring();
-  return (2 * counters.both_collected / n + counters.OneCollected() / n) * 0.5;
-}
-
-double MaleProportion(const AllocationCounters& counters) {
-  const double n = counters.Offspring();
-  return counters.both_collected / n + counters.only_par1_collected / n;
-}
-
-double FemaleProportion(const AllocationCounters& counters) {
-  const double n = counters.Offspring();
-  return counters.only_par2_collected / n + counters.both_collected / n;
-}
-
 }  // namespace kaldo

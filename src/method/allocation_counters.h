@@ -19,11 +19,4 @@ struct AllocationCounters {
   double Offspring() const { return both_collected + OneCollected() + none_collected; }
 };
 
-/// The share of the 2n single allocations that go to a collected parent.
-double SingleProportion(const AllocationCounters& counters);
-
-/// The share of offspring allocated to a collected male (parent 1), and female (parent 2).
-double MaleProportion(const AllocationCounters& counters);
-double FemaleProportion(const AllocationCounters& counters);
-
 }  // namespace kaldo

@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPointer>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTextBrowser>
@@ -12,15 +11,15 @@
 
 #include "app/results/simulation_window.h"
 #include "app/results/subset_model.h"
+#include "app/support/results_test.h"
 #include "base/number_text.h"
 #include "simulation/reports/subset_title.h"
-#include "tests/app/results_support.h"
 
 namespace kaldo {
 
 using test::Column;
 using test::Find;
-using test::ModelOf;
+using test::ModelIn;
 using test::ModelRows;
 using test::Rows;
 
@@ -30,15 +29,15 @@ constexpr int Place(SubsetColumn column) { return static_cast<int>(column); }
 
 struct Shown : test::Shown<SimulationSettings, SimulationRun, SimulationWindow> {
   explicit Shown(Flow flow)
-      : test::Shown<SimulationSettings, SimulationRun, SimulationWindow>(test::ExampleSimulation,
-                                                                         flow) {}
+      : test::Shown<SimulationSettings, SimulationRun, SimulationWindow>(
+            test::ExampleSimulation(flow)) {}
 };
 
 /// The rows of correct frequencies in the summary report that begin with `word`, without it; "NA"
 /// without its blanks.
-Rows CorrectRows(const QString& project, const QString& word) {
+Rows CorrectRows(const QString& word) {
   Rows found;
-  for (const QStringList& row : test::ReportRows(project + Text("/Summary.xls"))) {
+  for (const QStringList& row : test::ReportRows("p/Summary.xls")) {
     if (row[0] == word && row.size() > 5) {
       found.emplace_back();
       for (const QString& cell : row.mid(2)) {
@@ -49,151 +48,143 @@ Rows CorrectRows(const QString& project, const QString& word) {
   return found;
 }
 
-}  // namespace
+class ResultsSimulationTest : public test::WorkplaceTest {
+ protected:
+  ResultsSimulationTest() { WriteExamples(); }
+};
 
-class ResultsSimulationTest : public QObject {
-  Q_OBJECT
-
- private Q_SLOTS:
-  void initTestCase() { QVERIFY(QDir::setCurrent(working_folder_.path())); }
-
-  void ShowsTheFiguresOfTheSummary_data() {
-    QTest::addColumn<bool>("sexed");
-    QTest::newRow("non-sexed") << false;
-    QTest::newRow("sexed") << true;
-  }
-
-  void ShowsTheFiguresOfTheSummary() {
-    QFETCH(bool, sexed);
+TEST_F(ResultsSimulationTest, ShowsTheFiguresOfTheSummary) {
+  for (const bool sexed : {false, true}) {
     Shown shown(sexed ? Flow::kSexed : Flow::kNonSexed);
     shown.settings.sets[0].uncollected = sexed ? 4 : 1;
     if (sexed) {
       shown.settings.sets[1].estimated_uncollected = 1;  // no offspring of two uncollected parents
     }
     shown.Run();
-    const QAbstractItemModel& table = ModelOf(*shown.window, "SummaryTable");
-    const QStringList means = CorrectRows(shown.project, Text("Average")).at(0);
-    QCOMPARE(Column(table, 2), means);
-    QCOMPARE(Column(table, 3), CorrectRows(shown.project, Text("SD")).at(0));
-    QCOMPARE(means.count(Text("NA")), 1);
-    QCOMPARE(Column(table, 0),
-             sexed ? QStringList({Text("MC x FC"), Text("MC x FU"), Text("MU x FC"),
-                                  Text("MU x FU"), Text("GLOBAL")})
-                   : QStringList({Text("C X C"), Text("C X U"), Text("U X U"), Text("GLOBAL")}));
+    const QAbstractItemModel& table = ModelIn(*shown.window, "SummaryTable");
+    const QStringList means = CorrectRows(Text("Average")).at(0);
+    EXPECT_EQ(Column(table, 2), means);
+    EXPECT_EQ(Column(table, 3), CorrectRows(Text("SD")).at(0));
+    EXPECT_EQ(means.count(Text("NA")), 1);
+    EXPECT_EQ(Column(table, 0),
+              sexed ? QStringList({Text("MC x FC"), Text("MC x FU"), Text("MU x FC"),
+                                   Text("MU x FU"), Text("GLOBAL")})
+                    : QStringList({Text("C X C"), Text("C X U"), Text("U X U"), Text("GLOBAL")}));
     const QString text = Find<QTextBrowser>(*shown.window, "SummaryText").toPlainText();
-    QVERIFY(text.contains(Text("Summary.xls")) && text.contains(Text("Run record.toml")));
-    QCOMPARE(text.contains(Text("pseudo-offspring.txt")), !sexed);
-    QVERIFY(!text.contains(Text("last combination")));
+    EXPECT_TRUE(text.contains(Text("Summary.xls")) && text.contains(Text("Run record.toml")));
+    EXPECT_EQ(text.contains(Text("pseudo-offspring.txt")), !sexed);
+    EXPECT_TRUE(!text.contains(Text("last combination")));
   }
+}
 
-  void ShowsTheSpreadOfEveryClass() {
-    Shown shown(Flow::kNonSexed);
-    shown.settings.sets[0].uncollected = 1;  // no pseudo-offspring of two uncollected parents
-    shown.Run();
-    auto& combo = Find<QComboBox>(*shown.window, "SpreadClass");
-    const QAbstractItemModel& table = ModelOf(*shown.window, "SpreadTable");
-    QCOMPARE(combo.currentText(), Text("GLOBAL"));
-    const QStringList means = CorrectRows(shown.project, Text("Average")).at(0);
-    for (int k = 0; k < combo.count(); ++k) {
-      combo.setCurrentIndex(k);
-      QStringList expected;
-      for (int iteration = 1; means[k] != Text("NA") && iteration <= 5; ++iteration) {
-        expected += CorrectRows(shown.project, QString::number(iteration)).at(0)[k];
-      }
-      QCOMPARE(Column(table, 1), expected);
-      QVERIFY(Find<QLabel>(*shown.window, "SpreadFigures").text().contains(means[k]));
+TEST_F(ResultsSimulationTest, ShowsTheSpreadOfEveryClass) {
+  Shown shown(Flow::kNonSexed);
+  shown.settings.sets[0].uncollected = 1;  // no pseudo-offspring of two uncollected parents
+  shown.Run();
+  auto& combo = Find<QComboBox>(*shown.window, "SpreadClass");
+  const QAbstractItemModel& table = ModelIn(*shown.window, "SpreadTable");
+  EXPECT_EQ(combo.currentText(), Text("GLOBAL"));
+  const QStringList means = CorrectRows(Text("Average")).at(0);
+  for (int k = 0; k < combo.count(); ++k) {
+    combo.setCurrentIndex(k);
+    QStringList expected;
+    for (int iteration = 1; means[k] != Text("NA") && iteration <= 5; ++iteration) {
+      expected += CorrectRows(QString::number(iteration)).at(0)[k];
     }
+    EXPECT_EQ(Column(table, 1), expected);
+    EXPECT_TRUE(Find<QLabel>(*shown.window, "SpreadFigures").text().contains(means[k]));
   }
+}
 
-  void ShowsTheSequenceOfTheReport() {
-    Shown shown(Flow::kSexed);
-    shown.settings.strategy = LociStrategy::kCumulative;
-    shown.settings.sequence = {8, 7, 6, 5, 4, 3, 2, 1};
-    shown.Run();
-    Rows last_section;
-    for (const QStringList& row : test::ReportRows(shown.project + Text("/Sequence results.xls"))) {
-      if (row[0] == Text("Combin #")) {
-        last_section.clear();
-      }
-      last_section.push_back(row);
+TEST_F(ResultsSimulationTest, ShowsTheSequenceOfTheReport) {
+  Shown shown(Flow::kSexed);
+  shown.settings.strategy = LociStrategy::kCumulative;
+  shown.settings.sequence = {8, 7, 6, 5, 4, 3, 2, 1};
+  shown.Run();
+  Rows last_section;
+  for (const QStringList& row : test::ReportRows("p/Sequence results.xls")) {
+    if (row[0] == Text("Combin #")) {
+      last_section.clear();
     }
-    const Rows rows = ModelRows(ModelOf(*shown.window, "SequenceTable"));
-    QCOMPARE(rows.size(), std::size_t{9});
-    QCOMPARE(rows[1][1], Text("+ Mir30Tet"));
-    for (std::size_t k = 1; k < rows.size(); ++k) {
-      QCOMPARE(rows[k][0], QString::number(k));
-      QCOMPARE(rows[k][2], last_section.at(k)[1]);
-    }
-    QVERIFY(Find<QTextBrowser>(*shown.window, "SummaryText")
-                .toPlainText()
-                .contains(Text("(results for the last combination of loci only)")));
+    last_section.push_back(row);
   }
-
-  void MarksTheBestSubsetOfEachSize() {
-    Shown shown(Flow::kNonSexed);
-    shown.settings.strategy = LociStrategy::kAll;
-    shown.settings.iterations = 1;
-    shown.settings.offspring_per_iteration = 12;  // few, so that subsets tie
-    shown.settings.loci_in_use = {"Mir03Di", "Mir08Di", "Mir14Di", "Mir05Tet"};
-    shown.Run();
-    const auto& subsets = shown.run.result.subsets;
-    QCOMPARE(subsets.size(), std::size_t{15});
-    const QAbstractItemModel& model = ModelOf(*shown.window, "SubsetsTable");
-    for (std::size_t k = 0; k < subsets.size(); ++k) {
-      bool is_best = true;  // better than all before, as good as all behind
-      for (std::size_t other = 0; other < subsets.size(); ++other) {
-        const double difference = subsets[other].probabilities.any - subsets[k].probabilities.any;
-        const bool beaten = difference > 0 || (difference == 0 && other < k);
-        is_best = is_best && !(subsets[other].loci.size() == subsets[k].loci.size() && beaten);
-      }
-      const auto cell = [&](SubsetColumn column) {
-        return model.index(static_cast<int>(k), Place(column)).data().toString();
-      };
-      QCOMPARE(cell(SubsetColumn::kNames), Text(NamesOf(shown.run.input.loci, subsets[k].loci)));
-      QCOMPARE(cell(SubsetColumn::kAnyCorrect), Text(FormatDouble(subsets[k].probabilities.any)));
-      QCOMPARE(cell(SubsetColumn::kBest),
-               is_best ? Text("★ best of %1").arg(subsets[k].loci.size()) : QString());
-    }
-    Find<QComboBox>(*shown.window, "SubsetsShow").setCurrentIndex(1);
-    const QAbstractItemModel& best = ModelOf(*shown.window, "BestSubsetsTable");
-    QCOMPARE(Column(model, Place(SubsetColumn::kNames)), Column(best, 2));
-    QCOMPARE(Column(best, 0), QStringList({Text("1"), Text("2"), Text("3"), Text("4")}));
+  const Rows rows = ModelRows(ModelIn(*shown.window, "SequenceTable"));
+  EXPECT_EQ(rows.size(), std::size_t{9});
+  EXPECT_EQ(rows[1][1], Text("+ Mir30Tet"));
+  for (std::size_t k = 1; k < rows.size(); ++k) {
+    EXPECT_EQ(rows[k][0], QString::number(k));
+    EXPECT_EQ(rows[k][2], last_section.at(k)[1]);
   }
+  EXPECT_TRUE(Find<QTextBrowser>(*shown.window, "SummaryText")
+                  .toPlainText()
+                  .contains(Text("(results for the last combination of loci only)")));
+}
 
-  void SortsAndNarrowsSubsets() {
-    Shown shown(Flow::kNonSexed);
-    shown.settings.strategy = LociStrategy::kMinimal;
-    shown.settings.criterion = 1;
-    shown.settings.iterations = 1;
-    shown.settings.loci_in_use = {"Mir03Di", "Mir08Di", "Mir14Di", "Mir05Tet"};
-    shown.Run();
-    auto& table = Find<QTableView>(*shown.window, "SubsetsTable");
-    const QAbstractItemModelTester tester(table.model(),
-                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
-    table.sortByColumn(Place(SubsetColumn::kAnyCorrect), Qt::DescendingOrder);
-    std::vector<double> figures;
-    for (const QString& cell : Column(*table.model(), Place(SubsetColumn::kAnyCorrect))) {
-      figures.push_back(cell.toDouble());
+TEST_F(ResultsSimulationTest, MarksTheBestSubsetOfEachSize) {
+  Shown shown(Flow::kNonSexed);
+  shown.settings.strategy = LociStrategy::kAll;
+  shown.settings.iterations = 1;
+  shown.settings.offspring_per_iteration = 12;  // few, so that subsets tie
+  shown.settings.loci_in_use = {"Mir03Di", "Mir08Di", "Mir14Di", "Mir05Tet"};
+  shown.Run();
+  const auto& subsets = shown.run.result.subsets;
+  EXPECT_EQ(subsets.size(), std::size_t{15});
+  const QAbstractItemModel& model = ModelIn(*shown.window, "SubsetsTable");
+  for (std::size_t k = 0; k < subsets.size(); ++k) {
+    bool is_best = true;  // better than all before, as good as all behind
+    for (std::size_t other = 0; other < subsets.size(); ++other) {
+      const double difference = subsets[other].probabilities.any - subsets[k].probabilities.any;
+      const bool beaten = difference > 0 || (difference == 0 && other < k);
+      is_best = is_best && !(subsets[other].loci.size() == subsets[k].loci.size() && beaten);
     }
-    QCOMPARE(figures.size(), std::size_t{15});
-    QVERIFY(std::is_sorted(figures.rbegin(), figures.rend()));
-    QTest::keyClicks(&Find<QLineEdit>(*shown.window, "SubsetsFind"), Text("tet mir03"));
-    Find<QComboBox>(*shown.window, "SubsetsShow").setCurrentText(Text("3 loci"));
-    QStringList names = Column(*table.model(), Place(SubsetColumn::kNames));
-    names.sort();
-    QCOMPARE(names,
-             QStringList({Text("Mir03Di Mir08Di Mir05Tet"), Text("Mir03Di Mir14Di Mir05Tet")}));
-    QCOMPARE(Find<QLabel>(*shown.window, "SubsetsCount").text(), Text("2 of 15 subsets"));
-    QVERIFY(Find<QTextBrowser>(*shown.window, "SummaryText")
-                .toPlainText()
-                .contains(Text("No subset reached the criterion 1.")));
+    const auto cell = [&](SubsetColumn column) {
+      return model.index(static_cast<int>(k), Place(column)).data().toString();
+    };
+    EXPECT_EQ(cell(SubsetColumn::kNames), Text(NamesOf(shown.run.input.loci, subsets[k].loci)));
+    EXPECT_EQ(cell(SubsetColumn::kAnyCorrect), Text(FormatDouble(subsets[k].probabilities.any)));
+    EXPECT_EQ(cell(SubsetColumn::kBest),
+              is_best ? Text("★ best of %1").arg(subsets[k].loci.size()) : QString());
   }
+  Find<QComboBox>(*shown.window, "SubsetsShow").setCurrentIndex(1);
+  const QAbstractItemModel& best = ModelIn(*shown.window, "BestSubsetsTable");
+  EXPECT_EQ(Column(model, Place(SubsetColumn::kNames)), Column(best, 2));
+  EXPECT_EQ(Column(best, 0), QStringList({Text("1"), Text("2"), Text("3"), Text("4")}));
+}
 
- private:
-  QTemporaryDir working_folder_;
-};
+TEST_F(ResultsSimulationTest, SortsAndNarrowsSubsets) {
+  Shown shown(Flow::kNonSexed);
+  shown.settings.strategy = LociStrategy::kMinimal;
+  shown.settings.criterion = 1;
+  shown.settings.iterations = 1;
+  shown.settings.loci_in_use = {"Mir03Di", "Mir08Di", "Mir14Di", "Mir05Tet"};
+  shown.Run();
+  auto& table = Find<QTableView>(*shown.window, "SubsetsTable");
+  const QAbstractItemModelTester tester(table.model(),
+                                        QAbstractItemModelTester::FailureReportingMode::Fatal);
+  table.sortByColumn(Place(SubsetColumn::kAnyCorrect), Qt::DescendingOrder);
+  std::vector<double> figures;
+  for (const QString& cell : Column(*table.model(), Place(SubsetColumn::kAnyCorrect))) {
+    figures.push_back(cell.toDouble());
+  }
+  EXPECT_EQ(figures.size(), std::size_t{15});
+  EXPECT_TRUE(std::is_sorted(figures.rbegin(), figures.rend()));
+  // Equals stay in the order of the run, whichever way the others are sorted.
+  const QStringList places = Column(*table.model(), Place(SubsetColumn::kPlace));
+  for (std::size_t k = 1; k < figures.size(); ++k) {
+    const auto row = static_cast<qsizetype>(k);
+    EXPECT_TRUE(figures[k] != figures[k - 1] || places[row].toInt() > places[row - 1].toInt());
+  }
+  QTest::keyClicks(&Find<QLineEdit>(*shown.window, "SubsetsFind"), Text("tet mir03"));
+  Find<QComboBox>(*shown.window, "SubsetsShow").setCurrentText(Text("3 loci"));
+  QStringList names = Column(*table.model(), Place(SubsetColumn::kNames));
+  names.sort();
+  EXPECT_EQ(names,
+            QStringList({Text("Mir03Di Mir08Di Mir05Tet"), Text("Mir03Di Mir14Di Mir05Tet")}));
+  EXPECT_EQ(Find<QLabel>(*shown.window, "SubsetsCount").text(), Text("2 of 15 subsets"));
+  EXPECT_TRUE(Find<QTextBrowser>(*shown.window, "SummaryText")
+                  .toPlainText()
+                  .contains(Text("No subset reached the criterion 1.")));
+}
 
+}  // namespace
 }  // namespace kaldo
-
-QTEST_MAIN(kaldo::ResultsSimulationTest)
-#include "results_simulation_test.moc"

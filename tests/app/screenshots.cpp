@@ -13,10 +13,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <array>
-#include <fstream>
 #include <utility>
-
-#include <fmt/format.h>
 
 #include "app/base/text.h"
 #include "app/desktop.h"
@@ -180,32 +177,6 @@ void TakeMessage(const Photographer& photographer, MainMenu& menu) {
   script.Run([&menu] { menu.activateWindow(); });
 }
 
-/// As many loci as a run can have.
-void TakeManyLoci(const Photographer& photographer, MainMenu& menu) {
-  std::string names;
-  std::string genotypes;
-  for (int locus = 1; locus <= 50; ++locus) {
-    names += fmt::format("Locus{:02} ", locus);
-    genotypes += fmt::format(" {}{}", 100 + 2 * locus, 104 + 2 * locus);
-  }
-  const std::array<std::pair<std::string_view, std::string>, 3> files{
-      {{"LociFile", names},
-       {"ParentsFile", "P1" + genotypes + "\nP2" + genotypes + "\n"},
-       {"OffspringFile", "O1" + genotypes + "\n"}}};
-  Script script;
-  script.Await("MainMenu").Click("ALLOCATIONNON-SEXED").Await("NonSexedAllocationFiles");
-  for (const auto& [field, text] : files) {
-    std::ofstream(std::string(field)) << text;
-    script.Type(field, Text(field));
-  }
-  script.Click("Ok").Click("Ok").Await("ChoiceOfLoci");
-  photographer.Take(script, "many-loci");
-  script.Click("Sequence").Click("Ok").Await("CumulativeSequence");
-  photographer.Take(script, "many-loci-sequence");
-  script.Press(Qt::Key_Escape);
-  script.Run([&menu] { menu.activateWindow(); });
-}
-
 int TakeAll(const QString& folder) {
   const QTemporaryDir work;
   const Photographer photographer(QDir::current().absoluteFilePath(folder));
@@ -226,7 +197,6 @@ int TakeAll(const QString& folder) {
   }
   TakeProgress(photographer, menu);
   TakeMessage(photographer, menu);
-  TakeManyLoci(photographer, menu);
   return done ? 0 : 1;
 }
 

@@ -41,7 +41,7 @@ void AllocationReports::Write(const AllocationSettings& settings, const Allocati
                               const AllocationResult& result, RunObserver& observer) {
   results_.Append(ResultsHead(settings, input, result));
   WriteOffspring(settings, input, result, observer);
-  results_.Append(ResultsProportions(settings.flow, result.LastCounters()));
+  results_.Append(ResultsProportions(settings.flow, result.LastShares()));
 
   reports_.Add(kSteppingErrorFile, result.stepping.text);
   if (settings.sequence) {

@@ -63,53 +63,35 @@ std::string LegendAndHeads(Flow flow) {
       sexed ? "MALE\tFEMALE" : "PARENT 1\tPARENT 2");
 }
 
-std::string NonSexedProportions(const AllocationCounters& counters) {
-  const double n = counters.Offspring();
-  return fmt::format(
-      "\n"
-      "SINGLE ALLOCATION PROPORTION\n"
-      "Collected :\tproportion of the allocations to a collected parent (as opposed to uncollected "
-      "parent)\n"
-      "On a single basis the total number of allocations  =  2 X the number of offspring\n"
-      "Collected\t{}\n"
-      "\n"
-      "Proportions of allocations classified on a parental pair basis\n"
-      "On a pair basis the total number of allocations  =  the number of offspring\n"
-      "2 C :\tone collected + one collected\n"
-      "C + UC :\tone collected + one uncollected\n"
-      "2 UC :\tone uncollected + one uncollected\n"
-      "2 C\t{}\n"
-      "C + UC\t{}\n"
-      "2 UC\t{}\n",
-      FormatDouble(SingleProportion(counters)), FormatDouble(counters.both_collected / n),
-      FormatDouble(counters.OneCollected() / n), FormatDouble(counters.none_collected / n));
-}
+constexpr std::string_view kNonSexedLegend =
+    "\n"
+    "SINGLE ALLOCATION PROPORTION\n"
+    "Collected :\tproportion of the allocations to a collected parent (as opposed to uncollected "
+    "parent)\n"
+    "On a single basis the total number of allocations  =  2 X the number of offspring\n"
+    "Collected\t{}\n"
+    "\n"
+    "Proportions of allocations classified on a parental pair basis\n"
+    "On a pair basis the total number of allocations  =  the number of offspring\n"
+    "2 C :\tone collected + one collected\n"
+    "C + UC :\tone collected + one uncollected\n"
+    "2 UC :\tone uncollected + one uncollected\n";
 
-std::string SexedProportions(const AllocationCounters& counters) {
-  const double n = counters.Offspring();
-  return fmt::format(
-      "\n"
-      "SINGLE ALLOCATION PROPORTIONS\n"
-      "Coll Male :\tproportion of the allocations to a male collected parent (as opposed to male "
-      "uncollected)\n"
-      "Coll Fem  :\tproportion of the allocations to a female collected parent (as opposed to "
-      "female uncollected)\n"
-      "Coll Male :\t{}\n"
-      "Coll Fem  :\t{}\n"
-      "\n"
-      "Proportions of allocations classified on a parental pair basis\n"
-      "CM + CF :\tcollected male + collected female\n"
-      "CM + UCF :\tcollected male + uncollected female\n"
-      "UCM + CF :\tuncollected male + collected female\n"
-      "UCM + UCF :\tuncollected male + uncollected female\n"
-      "CM + CF\t{}\n"
-      "CM + UCF\t{}\n"
-      "UCM + CF\t{}\n"
-      "UCM + UCF\t{}\n",
-      FormatDouble(MaleProportion(counters)), FormatDouble(FemaleProportion(counters)),
-      FormatDouble(counters.both_collected / n), FormatDouble(counters.only_par1_collected / n),
-      FormatDouble(counters.only_par2_collected / n), FormatDouble(counters.none_collected / n));
-}
+constexpr std::string_view kSexedLegend =
+    "\n"
+    "SINGLE ALLOCATION PROPORTIONS\n"
+    "Coll Male :\tproportion of the allocations to a male collected parent (as opposed to male "
+    "uncollected)\n"
+    "Coll Fem  :\tproportion of the allocations to a female collected parent (as opposed to "
+    "female uncollected)\n"
+    "Coll Male :\t{}\n"
+    "Coll Fem  :\t{}\n"
+    "\n"
+    "Proportions of allocations classified on a parental pair basis\n"
+    "CM + CF :\tcollected male + collected female\n"
+    "CM + UCF :\tcollected male + uncollected female\n"
+    "UCM + CF :\tuncollected male + collected female\n"
+    "UCM + UCF :\tuncollected male + uncollected female\n";
 
 }  // namespace
 
@@ -127,8 +109,14 @@ std::string ResultsHead(const AllocationSettings& settings, const AllocationInpu
                      LociNotes(input, result.loci), LegendAndHeads(settings.flow));
 }
 
-std::string ResultsProportions(Flow flow, const AllocationCounters& counters) {
-  return flow == Flow::kSexed ? SexedProportions(counters) : NonSexedProportions(counters);
+std::string ResultsProportions(Flow flow, const AllocationShares& shares) {
+  const auto single = [&shares](std::size_t k) { return FormatDouble(shares.singles[k].share); };
+  std::string text = flow == Flow::kSexed ? fmt::format(kSexedLegend, single(0), single(1))
+                                          : fmt::format(kNonSexedLegend, single(0));
+  for (const AllocationShare& pair : shares.pairs) {
+    text += fmt::format("{}\t{}\n", pair.name, FormatDouble(pair.share));
+  }
+  return text;
 }
 
 }  // namespace kaldo

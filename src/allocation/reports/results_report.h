@@ -13,7 +13,7 @@ std::string ResultsHead(const AllocationSettings& settings, const AllocationInpu
                         const AllocationResult& result);
 
 /// What stands below the result lines: the proportions of single allocations and of pairs.
-std::string ResultsProportions(Flow flow, const AllocationCounters& counters);
+std::string ResultsProportions(Flow flow, const AllocationShares& shares);
 
 /// The title of a results report: over all chosen loci, or over the last combination of a sequence.
 std::string_view ResultsTitle(const AllocationSettings& settings);

@@ -41,15 +41,12 @@ std::string CombinationLines(const AllocationInput& input) {
   return lines + '\n';
 }
 
-std::vector<double> Proportions(Flow flow, const AllocationCounters& counters) {
-  const double n = counters.Offspring();
-  if (flow == Flow::kSexed) {
-    return {MaleProportion(counters),         FemaleProportion(counters),
-            counters.both_collected / n,      counters.only_par1_collected / n,
-            counters.only_par2_collected / n, counters.none_collected / n};
+std::string Cells(const std::vector<AllocationShare>& shares) {
+  std::string cells;
+  for (const AllocationShare& share : shares) {
+    cells += '\t' + FormatDouble(share.share);
   }
-  return {SingleProportion(counters), counters.both_collected / n, counters.OneCollected() / n,
-          counters.none_collected / n};
+  return cells;
 }
 
 }  // namespace
@@ -61,12 +58,9 @@ std::string SequenceReport(const AllocationSettings& settings, const AllocationI
   text += settings.flow == Flow::kSexed
               ? "Combin #\tColl Male\tColl Fem\tCM + CF\tCM + UCF\tUCM+CF\tUCM+UCF\n"
               : "Combin #\tCollected\t2 C\tC + UC\t2 UC\n";
-  for (std::size_t k = 0; k < result.counters.size(); ++k) {
-    text += std::to_string(k + 1);
-    for (const double proportion : Proportions(settings.flow, result.counters[k])) {
-      text += '\t' + FormatDouble(proportion);
-    }
-    text += '\n';
+  for (std::size_t k = 0; k < result.shares.size(); ++k) {
+    const AllocationShares& shares = result.shares[k];
+    text += std::to_string(k + 1) + Cells(shares.singles) + Cells(shares.pairs) + '\n';
   }
   return text;
 }

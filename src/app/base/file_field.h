@@ -28,6 +28,7 @@ class FileField : public QWidget {
   /// Called whenever another file was named.
   void SetOnChange(std::function<void()> on_change) { on_change_ = std::move(on_change); }
 
+  /// The path as typed; empty when no file is named.
   std::string Path() const;
   void SetPath(const std::string& path);
 

@@ -37,6 +37,8 @@ QLabel* NewHint(QWidget* parent);
 
 /// The whole number in the field, blanks around it left out, or nothing.
 std::optional<std::int32_t> WholeNumberIn(const QLineEdit& field);
+
+/// Any number in the field, blanks around it left out, or nothing.
 std::optional<double> NumberIn(const QLineEdit& field);
 
 /// The shortest text that reads back as the same number.

@@ -11,7 +11,7 @@ namespace kaldo {
 
 namespace {
 
-void Show(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& details) {
+void ShowBox(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& details) {
   QMessageBox box(icon, Text(kProductTitle), text, QMessageBox::Ok, parent);
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -30,15 +30,15 @@ void Show(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QS
 }  // namespace
 
 void ShowSentence(QWidget* parent, std::string_view sentence) {
-  Show(parent, QMessageBox::Information, Text(sentence), {});
+  ShowBox(parent, QMessageBox::Information, Text(sentence), {});
 }
 
 void ShowProblem(QWidget* parent, const Problem& problem) {
-  Show(parent, QMessageBox::Warning, Text(SentenceOf(problem)), Text(DetailLine(problem)));
+  ShowBox(parent, QMessageBox::Warning, Text(SentenceOf(problem)), Text(DetailLine(problem)));
 }
 
 void ShowFailure(QWidget* parent, const QString& text) {
-  Show(parent, QMessageBox::Critical, text, {});
+  ShowBox(parent, QMessageBox::Critical, text, {});
 }
 
 bool AskYesNo(QWidget* parent, const QString& question) {

@@ -9,11 +9,11 @@ class QWidget;
 
 namespace kaldo {
 
-// The numbers of screens and controls. They have stayed the same since users first wrote them into
-// their manuals; here is the one place that knows them. A widget carries its number as the property
-// "number", by which tests and scripts find it.
+// The numbers by which manuals name screens and controls. Released numbers are fixed; here is the
+// one place that knows them. A widget carries its number as the property "number", by which tests
+// and scripts find it.
 
-/// A screen: its number (0 where it never had one) and its object name.
+/// A screen: its number (0 where it has none) and its object name.
 struct ScreenEntry {
   int number = 0;
   std::string_view object_name;

@@ -22,6 +22,7 @@ class FlowPage : public QWidget {
  public:
   FlowPage(const ScreenEntry& entry, std::string_view caption);
 
+  /// The title of the window while this screen is shown.
   const QString& Caption() const { return caption_; }
 
  private:
@@ -50,7 +51,10 @@ class FlowWindow : public QDialog {
     return page;
   }
 
+  /// The screen that a walk through the flow begins with.
   virtual FlowPage& FirstPage() = 0;
+
+  /// Called at OK: tests what the screen says, and shows the next screen or runs.
   virtual void Confirm(const FlowPage& page) = 0;
 
   /// Called when the flow is over, run or not.
@@ -65,6 +69,7 @@ class FlowWindow : public QDialog {
   /// True for a screen whose OK may start the run: it tells where results go.
   virtual bool MayStartRun(const FlowPage& page) const = 0;
 
+  /// Goes on to a screen; Back leads from it to the one before.
   void ShowPage(FlowPage& page);
 
   /// Shows the problem; the screen stays.

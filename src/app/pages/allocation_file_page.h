@@ -22,6 +22,7 @@ class AllocationFilePage : public FlowPage {
   /// `opened` must live as long as the page.
   AllocationFilePage(Flow flow, OpenedFiles& opened);
 
+  /// Fills the fields.
   void Set(const AllocationSettings& settings);
 
   /// Files as typed, and the tolerance.

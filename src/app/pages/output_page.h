@@ -16,7 +16,10 @@ class OutputPage : public FlowPage {
  public:
   explicit OutputPage(Flow flow);
 
+  /// Fills the fields.
   void Set(const SimulationSettings& settings);
+
+  /// What is wanted and the seed as typed.
   void FillIn(SimulationSettings& settings) const;
 
   /// Told when the seed cannot be read.

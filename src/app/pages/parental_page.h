@@ -28,6 +28,7 @@ class ParentalPage : public FlowPage {
   /// Shows the fields of the procedure. The names-of-loci file tells what is in the others.
   void Prepare(Procedure procedure, const std::string& loci_file);
 
+  /// Fills the fields.
   void Set(const SimulationSettings& settings);
 
   /// Files as typed, and the numbers that can be read.

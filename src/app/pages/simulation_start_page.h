@@ -21,6 +21,7 @@ class SimulationStartPage : public FlowPage {
   /// `opened` must live as long as the page.
   SimulationStartPage(Flow flow, OpenedFiles& opened);
 
+  /// Fills the fields.
   void Set(const SimulationSettings& settings);
 
   /// A number of iterations that cannot be read counts as 0, which no simulation has.

@@ -17,6 +17,7 @@ class StrategyPage : public FlowPage {
  public:
   explicit StrategyPage(Flow flow);
 
+  /// Fills the fields.
   void Set(const SimulationSettings& settings);
 
   /// The strategy, or nothing before one is chosen.

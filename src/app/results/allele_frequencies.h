@@ -29,6 +29,7 @@ struct AlleleFrequencies {
 /// treat them otherwise, are not used.
 AlleleFrequencies CountAlleles(const GenotypeTable& table, LocusIndex locus);
 
+/// The same as a chart and as a table.
 BarChart FrequencyChart(const AlleleFrequencies& frequencies, const QString& locus);
 DataTable FrequencyTable(const AlleleFrequencies& frequencies);
 

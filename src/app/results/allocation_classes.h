@@ -4,17 +4,12 @@
 #include <QString>
 #include <vector>
 
-#include "method/allocation_counters.h"
-#include "method/flow.h"
+#include "method/allocation_shares.h"
 
 namespace kaldo {
 
-/// The classes of a pair allocation, from both parents collected to none: "2 C", "C + UC", "2 UC",
-/// or "CM + CF", "CM + UCF", "UCM + CF", "UCM + UCF".
+/// The classes of a pair allocation, from both parents collected to none.
 std::vector<QString> ClassNames(Flow flow);
-
-/// How many offspring are in each of them.
-std::vector<double> ClassNumbers(Flow flow, const AllocationCounters& counters);
 
 /// The class of one offspring, by its place among them.
 std::size_t ClassOf(Flow flow, const AllocationOutcome& outcome);

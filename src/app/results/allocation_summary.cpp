@@ -15,16 +15,6 @@ namespace kaldo {
 
 namespace {
 
-/// The shares of the single allocations, under the names that the reports give them.
-std::vector<std::pair<QString, double>> SingleShares(Flow flow,
-                                                     const AllocationCounters& counters) {
-  if (flow == Flow::kSexed) {
-    return {{Text("collected male"), MaleProportion(counters)},
-            {Text("collected female"), FemaleProportion(counters)}};
-  }
-  return {{Text("sides collected"), SingleProportion(counters)}};
-}
-
 QString ParentsText(Flow flow, const AllocationInput& input) {
   std::size_t males = 0;
   for (const CandidateGroup& group : input.groups) {
@@ -112,56 +102,45 @@ Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
   return summary;
 }
 
-BarChart ProportionsChart(Flow flow, const AllocationCounters& counters) {
+BarChart ProportionsChart(const AllocationShares& shares) {
   BarChart chart;
   chart.texts = {Text("Offspring by allocation of their parents"), Text("class"),
                  Text("share of the offspring"), true};
-  chart.categories = ClassNames(flow);
   chart.series.name = Text("share");
-  for (const double number : ClassNumbers(flow, counters)) {
-    chart.series.values.push_back({number / counters.Offspring(), {}});
+  for (const AllocationShare& pair : shares.pairs) {
+    chart.categories.push_back(Text(pair.name));
+    chart.series.values.push_back({pair.share, {}});
   }
   return chart;
 }
 
-DataTable ProportionsTable(Flow flow, const AllocationCounters& counters) {
+DataTable ProportionsTable(const AllocationShares& shares) {
   DataTable table{{Text("allocation"), Text("number"), Text("share")}, {}};
-  const double n = counters.Offspring();
-  const double per_offspring = flow == Flow::kSexed ? 1 : 2;
-  for (const auto& [name, share] : SingleShares(flow, counters)) {
-    table.rows.push_back({name, ShortNumber(share * per_offspring * n), ShortNumber(share)});
+  const auto add = [&table](const QString& name, const AllocationShare& share) {
+    table.rows.push_back({name, ShortNumber(share.number), ShortNumber(share.share)});
+  };
+  for (const AllocationShare& single : shares.singles) {
+    add(Text(single.name), single);
   }
-  const std::vector<QString> names = ClassNames(flow);
-  const std::vector<double> numbers = ClassNumbers(flow, counters);
-  for (std::size_t k = 0; k < names.size(); ++k) {
-    table.rows.push_back(
-        {Text("pairs ") + names[k], ShortNumber(numbers[k]), ShortNumber(numbers[k] / n)});
+  for (const AllocationShare& pair : shares.pairs) {
+    add(Text("pairs ") + Text(pair.name), pair);
   }
   return table;
 }
 
-LineChart SequenceChart(Flow flow, const AllocationInput& input, const AllocationResult& result) {
+LineChart SequenceChart(const AllocationInput& input, const AllocationResult& result) {
   LineChart chart;
   chart.texts = {Text("Allocations by number of loci"), Text("loci"), Text("share"), true};
   chart.label_title = Text("added");
-  for (const auto& [name, share] : SingleShares(flow, result.LastCounters())) {
-    chart.series.push_back({name, {}});
-  }
-  const std::size_t singles = chart.series.size();
-  for (const QString& name : ClassNames(flow)) {
-    chart.series.push_back({name, {}});
-  }
-  for (std::size_t k = 0; k < result.counters.size(); ++k) {
-    const AllocationCounters& counters = result.counters[k];
+  for (std::size_t k = 0; k < result.shares.size(); ++k) {
     chart.positions.push_back(static_cast<double>(k + 1));
     chart.labels.push_back(Text("+ ") + Text(input.loci.Name(input.combinations[k].back())));
-    const auto shares = SingleShares(flow, counters);
-    for (std::size_t j = 0; j < singles; ++j) {
-      chart.series[j].values.push_back({shares[j].second, {}});
-    }
-    const std::vector<double> numbers = ClassNumbers(flow, counters);
-    for (std::size_t j = 0; j < numbers.size(); ++j) {
-      chart.series[singles + j].values.push_back({numbers[j] / counters.Offspring(), {}});
+    std::vector<AllocationShare> all = result.shares[k].singles;
+    all.insert(all.end(), result.shares[k].pairs.begin(), result.shares[k].pairs.end());
+    chart.series.resize(all.size());
+    for (std::size_t j = 0; j < all.size(); ++j) {
+      chart.series[j].name = Text(all[j].name);
+      chart.series[j].values.push_back({all[j].share, {}});
     }
   }
   return chart;

@@ -13,10 +13,10 @@ Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
 
 /// The share of offspring in each class, and the same with numbers and the shares of the single
 /// allocations.
-BarChart ProportionsChart(Flow flow, const AllocationCounters& counters);
-DataTable ProportionsTable(Flow flow, const AllocationCounters& counters);
+BarChart ProportionsChart(const AllocationShares& shares);
+DataTable ProportionsTable(const AllocationShares& shares);
 
 /// The shares after each locus of a cumulative sequence.
-LineChart SequenceChart(Flow flow, const AllocationInput& input, const AllocationResult& result);
+LineChart SequenceChart(const AllocationInput& input, const AllocationResult& result);
 
 }  // namespace kaldo

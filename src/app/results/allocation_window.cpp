@@ -14,17 +14,15 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
     : ResultsWindow(settings.project, std::move(folder), parent) {
   const SharedAllocation shared = std::make_shared<const FinishedAllocation>(
       FinishedAllocation{std::move(settings), std::move(run)});
-  const Flow flow = shared->settings.flow;
-  const AllocationCounters& counters = shared->run.result.LastCounters();
-  AddTab(
-      new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
-                      ProportionsChart(flow, counters), ProportionsTable(flow, counters), Folder()),
-      Text("&Summary"), Text("What was run, and the proportions of allocations."));
+  const AllocationShares& shares = shared->run.result.LastShares();
+  AddTab(new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
+                         ProportionsChart(shares), ProportionsTable(shares), Folder()),
+         Text("&Summary"), Text("What was run, and the proportions of allocations."));
   AddTab(new OffspringPage(shared, Folder()), Text("&Offspring"),
          Text("The parents of every offspring, and why, locus by locus."));
   if (shared->settings.sequence) {
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Horizontal, Folder(), nullptr);
-    sequence->Show(SequenceChart(flow, shared->run.input, shared->run.result));
+    sequence->Show(SequenceChart(shared->run.input, shared->run.result));
     AddTab(sequence, Text("Se&quence"), Text("How the proportions settle as loci are added."));
   }
   AddTab(new AllelesPage(shared, Folder()), Text("&Alleles"),

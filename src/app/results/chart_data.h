@@ -60,6 +60,7 @@ struct SpreadChart {
 
 using Chart = std::variant<BarChart, LineChart, SpreadChart>;
 
+/// The texts of a chart of any kind.
 const ChartTexts& TextsOf(const Chart& chart);
 
 /// The numbers behind a chart, in full precision: one row per category or position.

@@ -35,6 +35,7 @@ struct FitColours {
   CellColours excluded;
 };
 
+/// The colours of a comparison that can be read on this palette.
 FitColours FitColoursOf(const QPalette& palette);
 
 }  // namespace kaldo

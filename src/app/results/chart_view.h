@@ -16,7 +16,9 @@ class ChartView : public QWidget {
  public:
   explicit ChartView(QWidget* parent = nullptr);
 
+  /// Draws another chart from here on.
   void SetChart(const Chart& chart);
+
   const Chart& Shown() const { return chart_; }
 
   /// Saves the chart by the ending of `path`: .svg, .pdf, .png, or .csv for its numbers. Tells the

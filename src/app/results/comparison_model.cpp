@@ -133,7 +133,7 @@ QString ComparisonModel::VerdictOn(Slot parent, UnitDistances LocusComparison::*
   const OffsetTolerance tolerance = allocation_->settings.tolerance;
   for (std::size_t k = 0; k < comparisons_.size(); ++k) {
     offsets.push_back(comparisons_[k].*offset);
-    if (offsets.back() > tolerance) {
+    if (FitOf(comparisons_[k], offsets.back(), tolerance) == LocusFit::kExcluded) {
       excluding += Text(Input().loci.Name(Loci().loci[k]));
     }
   }

@@ -33,6 +33,7 @@ enum class LocusFit {
   kExcluded,    ///< an offset above the tolerance: the parent is UC
 };
 
+/// `offset` is that of the parent in question.
 LocusFit FitOf(const LocusComparison& locus, UnitDistances offset, OffsetTolerance tolerance);
 
 /// The sign before every offset, for whoever does not see the colours: "✓ 0", "≈ 1", "✗ 3".
@@ -46,6 +47,8 @@ class ComparisonModel : public QAbstractTableModel {
 
   /// `pair` counts from 0 among the equally likely pairs of the offspring.
   void ShowPair(std::size_t offspring, std::size_t pair);
+
+  /// Shows no offspring.
   void Clear();
 
   void SetColours(const FitColours& colours);

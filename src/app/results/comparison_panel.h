@@ -22,7 +22,10 @@ class ComparisonPanel : public QWidget {
  public:
   explicit ComparisonPanel(SharedAllocation allocation, QWidget* parent = nullptr);
 
+  /// Counted from 0 in file order; its first pair is shown.
   void ShowOffspring(std::size_t offspring);
+
+  /// Shows no offspring.
   void Clear();
 
  protected:

@@ -69,6 +69,7 @@ class OffspringFilter : public QSortFilterProxyModel {
  public:
   OffspringFilter(OffspringModel& model, QObject* parent);
 
+  /// Narrows the rows to what is chosen.
   void Choose(const OffspringChoice& choice);
 
  protected:

@@ -33,13 +33,13 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, const QString& 
       filter_(new OffspringFilter(*model_, this)),
       list_(new SearchableTable(kTexts, folder)),
       comparison_(new ComparisonPanel(allocation)) {
-  QComboBox& show = list_->Show();
-  show.addItem(Text("all offspring"));
+  QComboBox& choices = list_->Choices();
+  choices.addItem(Text("all offspring"));
   for (const QString& name : ClassNames(model_->RunFlow())) {
-    show.addItem(name);
+    choices.addItem(name);
   }
-  show.addItem(Text("several pairs"));
-  show.addItem(Text("no pair"));
+  choices.addItem(Text("several pairs"));
+  choices.addItem(Text("no pair"));
   ResultTable& table = list_->Table();
   table.setModel(filter_);
   table.setSortingEnabled(true);
@@ -63,7 +63,7 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, const QString& 
 
 void OffspringPage::Narrow() {
   const auto classes = static_cast<int>(ClassNames(model_->RunFlow()).size());
-  const int chosen = list_->Show().currentIndex();
+  const int chosen = list_->Choices().currentIndex();
   OffspringChoice choice;
   choice.name = list_->SoughtText();
   if (chosen >= 1 && chosen <= classes) {

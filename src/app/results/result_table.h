@@ -37,6 +37,7 @@ class ResultTable : public QTableView {
   /// The selected rows, or all where none is selected, as tab-separated text with their heads.
   QString RowsText() const;
 
+  /// Puts the selected rows with their heads on the clipboard.
   void CopyRows() const;
 
   /// Asks for a file and writes all rows as they are shown to it.

@@ -18,7 +18,7 @@ SearchableTable::SearchableTable(const SearchableTexts& texts, const QString& fo
     : QWidget(parent),
       table_(new ResultTable(Text(texts.title))),
       find_(new QLineEdit),
-      show_(new QComboBox),
+      choices_(new QComboBox),
       count_(new QLabel) {
   table_->setObjectName(Text(texts.name) + Text("Table"));
   auto* layout = new QVBoxLayout(this);
@@ -33,18 +33,18 @@ QLayout* SearchableTable::NewChoiceRow(const SearchableTexts& texts) {
   find_->setPlaceholderText(Text(texts.find_hint));
   find_->setToolTip(Text(texts.find_help));
   find_->setClearButtonEnabled(true);
-  show_->setObjectName(Text(texts.name) + Text("Show"));
-  show_->setToolTip(Text(texts.show_help));
+  choices_->setObjectName(Text(texts.name) + Text("Show"));
+  choices_->setToolTip(Text(texts.show_help));
   count_->setObjectName(Text(texts.name) + Text("Count"));
   auto* find_label = new QLabel(Text("Fi&nd:"));
   find_label->setBuddy(find_);
   auto* show_label = new QLabel(Text("Sho&w:"));
-  show_label->setBuddy(show_);
+  show_label->setBuddy(choices_);
   auto* row = new QHBoxLayout;
   row->addWidget(find_label);
   row->addWidget(find_, 1);
   row->addWidget(show_label);
-  row->addWidget(show_);
+  row->addWidget(choices_);
   row->addWidget(count_);
   return row;
 }
@@ -73,7 +73,7 @@ void SearchableTable::SetCount(const QString& text) { count_->setText(text); }
 
 void SearchableTable::SetOnChoice(const std::function<void()>& narrow) {
   connect(find_, &QLineEdit::textChanged, this, narrow);
-  connect(show_, &QComboBox::currentIndexChanged, this, narrow);
+  connect(choices_, &QComboBox::currentIndexChanged, this, narrow);
 }
 
 }  // namespace kaldo

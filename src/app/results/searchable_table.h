@@ -33,8 +33,13 @@ class SearchableTable : public QWidget {
   SearchableTable(const SearchableTexts& texts, const QString& folder, QWidget* parent = nullptr);
 
   ResultTable& Table() { return *table_; }
-  QComboBox& Show() { return *show_; }
+
+  /// The list of what to show, to be filled by the owner.
+  QComboBox& Choices() { return *choices_; }
+
   QString SoughtText() const;
+
+  /// Tells how many rows are shown.
   void SetCount(const QString& text);
 
   /// Called whenever the user looks for something else or wants something else shown.
@@ -46,7 +51,7 @@ class SearchableTable : public QWidget {
 
   ResultTable* table_;
   QLineEdit* find_;
-  QComboBox* show_;
+  QComboBox* choices_;
   QLabel* count_;
 };
 

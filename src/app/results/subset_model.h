@@ -29,8 +29,12 @@ class SubsetModel : public QAbstractTableModel {
  public:
   SubsetModel(SharedSimulation simulation, QObject* parent);
 
+  /// Narrows the rows to what is chosen.
   void Choose(const SubsetChoice& choice);
+
+  /// The best subset of each size, by its place in the run.
   const std::map<std::size_t, std::size_t>& Best() const { return best_; }
+
   std::size_t AllSubsets() const { return Subsets().size(); }
 
   void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;

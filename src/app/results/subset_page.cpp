@@ -57,11 +57,12 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, const QString& folder
     : QWidget(parent),
       model_(new SubsetModel(simulation, this)),
       list_(new SearchableTable(kTexts, folder)) {
-  QComboBox& show = list_->Show();
-  show.addItem(Text("all subsets"), kAllSizes);
-  show.addItem(Text("best of each size"), kOnlyBest);
+  QComboBox& choices = list_->Choices();
+  choices.addItem(Text("all subsets"), kAllSizes);
+  choices.addItem(Text("best of each size"), kOnlyBest);
   for (const auto& [size, place] : model_->Best()) {
-    show.addItem(size == 1 ? Text("1 locus") : Text("%1 loci").arg(size), static_cast<int>(size));
+    choices.addItem(size == 1 ? Text("1 locus") : Text("%1 loci").arg(size),
+                    static_cast<int>(size));
   }
   ResultTable& table = list_->Table();
   table.setModel(model_);
@@ -83,7 +84,7 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, const QString& folder
 }
 
 void SubsetPage::Narrow() {
-  const int chosen = list_->Show().currentData().toInt();
+  const int chosen = list_->Choices().currentData().toInt();
   SubsetChoice choice;
   choice.loci = list_->SoughtText();
   choice.only_best = chosen == kOnlyBest;

@@ -142,6 +142,11 @@ void WorkplaceTest::ExpectAsCommandLine(const std::string& project, const QStrin
   ExpectSame(WithoutCircumstances(ContentsOf(project)), WithoutCircumstances(expected));
 }
 
+tl::expected<std::vector<char>, Problem> CountedFiles::Read(const std::string& path) {
+  ++reads_[path];
+  return DiskFiles().Read(path);
+}
+
 void MenuTest::Go(Script& script) {
   EXPECT_TRUE(script.Run([this] { menu_.activateWindow(); }));
 }

@@ -60,15 +60,27 @@ class WorkplaceTest : public testing::Test {
   WorkingFolder here_;
 };
 
+/// The files of this machine, counted as they are read.
+class CountedFiles final : public FileSource {
+ public:
+  explicit CountedFiles(std::map<std::string, int>& reads) : reads_(reads) {}
+  tl::expected<std::vector<char>, Problem> Read(const std::string& path) override;
+
+ private:
+  std::map<std::string, int>& reads_;
+};
+
 /// A test that begins at the main menu.
 class MenuTest : public WorkplaceTest {
  protected:
-  MenuTest() { menu_.show(); }
+  MenuTest() : menu_(std::make_unique<CountedFiles>(reads_)) { menu_.show(); }
 
   /// Goes through the script from where the windows are.
   void Go(Script& script);
 
-  MainMenu menu_;  // NOLINT(misc-non-private-member-variables-in-classes)
+  /// How often each input file was read, by its path as typed.
+  std::map<std::string, int> reads_;  // NOLINT(misc-non-private-member-variables-in-classes)
+  MainMenu menu_;                     // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 // Steps that many walks have in common.

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractItemView>
+#include <QPointer>
+#include <QtTest>
+
+#include "allocation/allocation_run.h"
+#include "app/base/text.h"
+#include "app/support/desktop_test.h"
+#include "simulation/simulation_run.h"
+
+/// How a failed test shows a text of the windows.
+inline void PrintTo(const QString& text, std::ostream* stream) { *stream << text.toStdString(); }
+
+namespace kaldo::test {
+
+using Rows = std::vector<QStringList>;
+
+/// The lines of a report as cells, without the line ends.
+inline Rows ReportRows(const std::string& path) {
+  Rows rows;
+  for (const QString& line : Text(ReadFile(path)).split(QLatin1Char('\n'))) {
+    rows.push_back(line.split(QLatin1Char('\t')));
+  }
+  return rows;
+}
+
+/// Reads comma-separated values by the book, one byte after the other.
+inline Rows ParseCsv(const std::string& csv) {
+  Rows rows(1);
+  std::string cell;
+  bool quoted = false;
+  for (std::size_t k = 0; k < csv.size(); ++k) {
+    if (quoted && csv.compare(k, 2, "\"\"") == 0) {
+      cell += csv[++k];
+    } else if (csv[k] == '"') {
+      quoted = !quoted;
+    } else if (!quoted && (csv[k] == ',' || csv[k] == '\r')) {
+      rows.back() += Text(cell);
+      cell.clear();
+      if (csv[k] == '\r') {
+        rows.emplace_back();
+        ++k;
+      }
+    } else {
+      cell += csv[k];
+    }
+  }
+  rows.pop_back();
+  return rows;
+}
+
+/// What a model shows, its heads first.
+inline Rows ModelRows(const QAbstractItemModel& model) {
+  Rows rows(1);
+  for (int column = 0; column < model.columnCount(); ++column) {
+    rows.back() += model.headerData(column, Qt::Horizontal).toString();
+  }
+  for (int row = 0; row < model.rowCount(); ++row) {
+    rows.emplace_back();
+    for (int column = 0; column < model.columnCount(); ++column) {
+      rows.back() += model.index(row, column).data().toString();
+    }
+  }
+  return rows;
+}
+
+/// One column of a model, from top to bottom.
+inline QStringList Column(const QAbstractItemModel& model, int column) {
+  QStringList cells;
+  for (int row = 0; row < model.rowCount(); ++row) {
+    cells += model.index(row, column).data().toString();
+  }
+  return cells;
+}
+
+/// A widget of a window by its object name, which must be there.
+template <typename Widget>
+Widget& Find(const QWidget& window, const char* name) {
+  auto* found = dynamic_cast<Widget*>(window.findChild<QWidget*>(Text(name)));
+  return found != nullptr ? *found : throw std::runtime_error(std::string("no widget ") + name);
+}
+
+inline QAbstractItemModel& ModelIn(const QWidget& window, const char* name) {
+  return *Find<QAbstractItemView>(window, name).model();
+}
+
+/// The example data, which WriteExamples() has put into the working folder.
+inline AllocationSettings ExampleAllocation(Flow flow) {
+  const bool sexed = flow == Flow::kSexed;
+  const std::string folder = sexed ? "data/sexed/" : "data/non-sexed/";
+  AllocationSettings settings;
+  settings.flow = flow;
+  settings.project = "p";
+  (sexed ? settings.males_file : settings.parents_file) =
+      folder + (sexed ? "males.txt" : "parents.txt");
+  settings.females_file = sexed ? folder + "females.txt" : "";
+  settings.offspring_file = folder + "offspring.txt";
+  settings.loci_file = folder + "loci.txt";
+  return settings;
+}
+
+/// A short simulation of the lake or the ponds.
+inline SimulationSettings ExampleSimulation(Flow flow) {
+  SimulationSettings settings;
+  settings.flow = flow;
+  settings.project = "p";
+  settings.iterations = 5;
+  settings.offspring_per_iteration = 40;
+  settings.seed = 1;
+  if (flow == Flow::kNonSexed) {
+    settings.loci_file = "data/non-sexed/loci.txt";
+    settings.sets[0].collected_file = "data/non-sexed/parents.txt";
+    settings.sets[0].uncollected_sample = "data/non-sexed/parents.txt";
+    settings.sets[0].uncollected = 10;
+    return settings;
+  }
+  settings.loci_file = "data/sexed/loci.txt";
+  settings.procedure = Procedure::kPreParental;
+  const std::string males = "data/sexed/sample-males.txt";
+  const std::string females = "data/sexed/sample-females.txt";
+  settings.sets = {ParentalSet{"", males, 8, males, 4, 16, 4},
+                   ParentalSet{"", females, 8, females, 4, 16, 4}};
+  return settings;
+}
+
+inline auto Run(const AllocationSettings& settings) {
+  RunObserver observer;
+  return RunAllocation(settings, observer);
+}
+
+inline auto Run(const SimulationSettings& settings) {
+  RunObserver observer;
+  return RunSimulation(settings, SimulationOf(settings.flow), observer);
+}
+
+/// A finished run in its window.
+template <typename Settings, typename FinishedRun, typename Window>
+struct Shown {
+  explicit Shown(Settings example) : settings(std::move(example)) {}
+
+  void Run() {
+    run = test::Run(settings).value();
+    window = new Window(settings, run, Text("p"));
+    window->show();
+  }
+  ~Shown() { delete window; }
+  Shown(const Shown&) = delete;
+  Shown& operator=(const Shown&) = delete;
+
+  Settings settings;
+  FinishedRun run;
+  QPointer<Window> window;
+};
+
+}  // namespace kaldo::test
