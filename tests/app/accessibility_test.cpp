@@ -154,8 +154,6 @@ class AccessibilityTest : public test::MenuTest {
     });
     script_.Click("Close").Await("MainMenu");
   }
-
-  Script script_;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 TEST_F(AccessibilityTest, TheFirstScreens) {

@@ -15,6 +15,7 @@ using test::OpenFlow;
 using test::RunToTheEnd;
 using test::Told;
 using test::TypeAllocationFiles;
+using test::WalkToLoci;
 
 using Sentences = std::vector<std::string>;
 
@@ -36,31 +37,15 @@ class FlowsTest : public test::WorkplaceTest {
     EXPECT_TRUE(script_.Run([] { EXPECT_EQ(RunDesktop({}), 0); }));
   }
 
-  /// Types the parents of a simulation, and the numbers behind them.
-  static void TypeSet(Script& script, const std::string& sex, bool parental,
-                      const std::vector<const char*>& numbers) {
-    const QString folder = Text(sex.empty() ? "data/non-sexed/" : "data/sexed/");
-    const QString sample = folder + Text(sex.empty()        ? "parents.txt"
-                                         : sex == "Females" ? "sample-females.txt"
-                                                            : "sample-males.txt");
-    // The adults of the ponds are divided by separators, which no simulation takes.
-    const QString real = sample;
-    if (parental) {
-      script.Type("Collected" + sex + "File", real);
-    } else {
-      script.Type("PseudoCollected" + sex + "Sample", sample);
-      script.Type("PseudoCollected" + sex, Text(numbers.back()));
-    }
-    script.Type("Uncollected" + sex + "Sample", sample);
-    script.Type("Uncollected" + sex, Text(numbers[0]));
-    if (!sex.empty()) {
-      script.Type("EstimatedCollected" + sex, Text(numbers[1]));
-      script.Type("EstimatedUncollected" + sex, Text(numbers[2]));
-    }
+  /// Types the parents of a simulation. The adults of the ponds are divided by separators, which no
+  /// simulation takes: their sample stands for them.
+  static void TypeExample(Script& script, const std::string& sex, bool parental,
+                          const std::vector<const char*>& numbers) {
+    const std::string file = sex.empty()        ? "data/non-sexed/parents.txt"
+                             : sex == "Females" ? "data/sexed/sample-females.txt"
+                                                : "data/sexed/sample-males.txt";
+    test::TypeParents(script, sex, parental, {file, file}, numbers);
   }
-
-  Script script_;    // NOLINT(misc-non-private-member-variables-in-classes)
-  QString command_;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 TEST_F(FlowsTest, TheIntroductionLeadsToAnExampleInFourClicks) {
@@ -147,7 +132,7 @@ TEST_F(FlowsTest, SimulatesAllSubsetsWithoutSexes) {
       EXPECT_TRUE(QDir(Text("p")).exists());
       EXPECT_TRUE(test::ReadFile("SAUVLOCUSTULM.txt").starts_with("Mir03Di Mir08Di Mir14Di "));
     });
-    TypeSet(script, "", false, {"5.5", "20"});
+    TypeExample(script, "", false, {"5.5", "20"});
     script.Click("Ok").Await("PseudoOffspring").Type("OffspringPerIteration", Text("30"));
     script.Click("NoError").Click("Ok").Await("Tolerance").Type("Tolerance", Text("0"));
     script.Click("Ok").Await("Strategy").Click("AllSubsets").Type("StartWith", Text("8"));
@@ -166,8 +151,8 @@ TEST_F(FlowsTest, SimulatesMinimalSubsetsAndASequenceWithSexes) {
     OpenFlow(script, "SIMULATIONSSEXED", Text("minimal"));
     script.Type("LociFile", Text("data/sexed/loci.txt")).Type("Iterations", Text("4"));
     script.Click("Ok").Await("Parents");
-    TypeSet(script, "Males", true, {"3", "17", "4.5"});
-    TypeSet(script, "Females", true, {"4", "17", "2"});
+    TypeExample(script, "Males", true, {"3", "17", "4.5"});
+    TypeExample(script, "Females", true, {"4", "17", "2"});
     script.Click("Ok").Await("PseudoOffspring").Type("OffspringPerIteration", Text("40"));
     script.Click("NonUniform").Click("Ok").Await("Tolerance").Click("Ok").Await("Strategy");
     script.Click("MinimalSubsets").Type("Criterion", Text("0.5")).Type("StartWith", Text("7"));
@@ -178,8 +163,8 @@ TEST_F(FlowsTest, SimulatesMinimalSubsetsAndASequenceWithSexes) {
 
     OpenFlow(script, "SIMULATIONSSEXED", Text("sequence"));
     script.Click("PreParental").Click("Ok").Await("Parents");
-    TypeSet(script, "Males", false, {"3", "10", "5", "9"});
-    TypeSet(script, "Females", false, {"2", "10", "5", "8"});
+    TypeExample(script, "Males", false, {"3", "10", "5", "9"});
+    TypeExample(script, "Females", false, {"2", "10", "5", "8"});
     for (const char* screen : {"PseudoOffspring", "Tolerance", "Strategy"}) {
       script.Click("Ok").Await(screen);
     }
@@ -203,9 +188,7 @@ TEST_F(FlowsTest, AllelesOutOfStepAreTold) {
   folder_.Write("data/males.txt",
                 "M1 100102 200204 150151 120124\nM2 104104 208208 152154 128128\n");
   RunProgram([this](Script& script) {
-    OpenFlow(script, "ALLOCATIONSEXED");
-    TypeAllocationFiles(script, Flow::kSexed, Text("data"));
-    script.Click("Ok").Click("NoError").Click("Ok").Await("ChoiceOfLoci");
+    WalkToLoci(script, Flow::kSexed);
     RunToTheEnd(script, command_);
     OpenFlow(script, "SIMULATIONSNON-SEXED");
     script.Type("LociFile", Text("data/loci.txt")).Type("Iterations", Text("2")).Click("Ok");

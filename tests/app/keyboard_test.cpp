@@ -48,9 +48,6 @@ class KeyboardTest : public test::WorkplaceTest {
     script_.Press(Qt::Key_Escape).Await("MainMenu").CloseWindow();
     ASSERT_TRUE(script_.Run([] { EXPECT_EQ(RunDesktop({}), 0); }));
   }
-
-  Script script_;    // NOLINT(misc-non-private-member-variables-in-classes)
-  QString command_;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 TEST_F(KeyboardTest, AnAllocation) {

@@ -12,6 +12,7 @@ namespace {
 using test::ExpectText;
 using test::OpenFlow;
 using test::TypeAllocationFiles;
+using test::WalkToLoci;
 
 /// A file with a fault, the sentence it brings, and where the details say that it is.
 struct FileFault {
@@ -32,12 +33,8 @@ class MessagesTest : public test::MenuTest {
 
   /// Goes through the script; it must have been told these sentences and no others.
   void ExpectTold(const std::vector<std::string_view>& sentences) {
-    ExpectTold(script_, sentences);
-  }
-
-  void ExpectTold(Script& script, const std::vector<std::string_view>& sentences) {
-    Go(script);
-    EXPECT_EQ(test::Told(script), std::vector<std::string>(sentences.begin(), sentences.end()));
+    Go(script_);
+    test::ExpectTold(script_, sentences);
   }
 
   /// With each fault in turn the flow is opened and confirmed up to the screen of the files. It
@@ -57,33 +54,26 @@ class MessagesTest : public test::MenuTest {
       script.Do([this, fault, good](QWidget&) { folder_.Write(fault.file, good); });
       sentences.push_back(fault.sentence);
     }
-    ExpectTold(script, sentences);
+    Go(script);
+    test::ExpectTold(script, sentences);
     for (std::size_t k = 0; k < faults.size(); ++k) {
       EXPECT_THAT(Bytes(script.Details().value(static_cast<int>(k))),
                   testing::StartsWith(faults[k].file + faults[k].place));
     }
   }
 
-  void TypeSimulationParents(const std::string& sex, const std::string& collected) {
-    script_.Type("Collected" + sex + "File", Text(collected));
-    script_.Type("Uncollected" + sex + "Sample", Text("data/sample.txt"));
-    script_.Type("Uncollected" + sex, Text("2"));
-    if (!sex.empty()) {
-      script_.Type("EstimatedCollected" + sex, Text("4"));
-      script_.Type("EstimatedUncollected" + sex, Text("2"));
-    }
+  void TypeCollected(const std::string& sex, const std::string& file) {
+    test::TypeParents(script_, sex, true, {file, "data/sample.txt"}, {"2", "4", "2"});
   }
 
   /// From the menu to the strategy screen of a non-sexed simulation.
   void WalkToStrategy() {
     OpenFlow(script_, "SIMULATIONSNON-SEXED");
     script_.Type("LociFile", Text("data/loci.txt")).Click("Ok").Await("Parents");
-    TypeSimulationParents("", "data/parents.txt");
+    TypeCollected("", "data/parents.txt");
     script_.Click("Ok").Await("PseudoOffspring").Click("NoError").Click("Ok").Await("Tolerance");
     script_.Click("Ok").Await("Strategy");
   }
-
-  Script script_;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 TEST_F(MessagesTest, NoFlowStartsWithoutAProject) {
@@ -162,8 +152,8 @@ TEST_F(MessagesTest, FaultyFilesEndASimulation) {
   script_.Click("Ok").Answer().Press(Qt::Key_Escape);
   OpenFlow(script_, "SIMULATIONSSEXED");
   script_.Type("LociFile", Text("data/loci.txt")).Click("Ok").Await("Parents");
-  TypeSimulationParents("Males", "data/males.txt");
-  TypeSimulationParents("Females", "data/females.txt");
+  TypeCollected("Males", "data/males.txt");
+  TypeCollected("Females", "data/females.txt");
   script_.Type("UncollectedFemales", Text("2.5")).Click("Ok").Answer();
   ExpectText(script_, "UncollectedFemales", Text("2.5"));
   script_.Type("UncollectedFemales", Text("2")).Press(Qt::Key_Escape);
@@ -199,7 +189,7 @@ TEST_F(MessagesTest, TheErrorModelOfAnAllocation) {
 TEST_F(MessagesTest, TheErrorModelOfASimulation) {
   OpenFlow(script_, "SIMULATIONSNON-SEXED");
   script_.Type("LociFile", Text("data/loci.txt")).Click("Ok").Await("Parents");
-  TypeSimulationParents("", "data/parents.txt");
+  TypeCollected("", "data/parents.txt");
   script_.Click("Ok").Await("PseudoOffspring").Click("Ok").Answer();
   script_.Click("NonUniform").Type("Focal", Text("0.89")).Click("Ok").Answer();
   script_.Type("Focal", Text("0.9")).Click("Ok").Answer().Type("Focal", Text("0.98"));
@@ -214,9 +204,7 @@ TEST_F(MessagesTest, TheErrorModelOfASimulation) {
 }
 
 TEST_F(MessagesTest, LociAndTheirSequence) {
-  OpenFlow(script_, "ALLOCATIONNON-SEXED");
-  TypeAllocationFiles(script_, Flow::kNonSexed, Text("data"));
-  script_.Click("Ok").Click("NoError").Click("Ok").Await("ChoiceOfLoci");
+  WalkToLoci(script_, Flow::kNonSexed);
   for (int locus = 0; locus < 4; ++locus) {
     script_.ClickNumber(kFirstLocusBox + locus);
   }

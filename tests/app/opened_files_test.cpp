@@ -53,9 +53,6 @@ class OpenedFilesTest : public test::MenuTest {
       reads_.clear();
     });
   }
-
-  Script script_;    // NOLINT(misc-non-private-member-variables-in-classes)
-  QString command_;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 TEST_F(OpenedFilesTest, AnAllocationReadsThemOnceUntilTheyChange) {

@@ -61,9 +61,6 @@ QString CellsOf(const QTableView& table) {
 class PlacesTest : public test::MenuTest {
  protected:
   PlacesTest() { WriteStudy(); }
-
-  Script script_;    // NOLINT(misc-non-private-member-variables-in-classes)
-  QString command_;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 TEST_F(PlacesTest, ResultsGoToTheWorkingFolderOfTheMenu) {

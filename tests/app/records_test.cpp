@@ -59,8 +59,6 @@ class RecordsTest : public test::MenuTest {
     OpenRecord(record);
     script_.Answer().Await(first_screen).Press(Qt::Key_Escape);
   }
-
-  Script script_;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 TEST_F(RecordsTest, AnAllocation) {

@@ -18,6 +18,7 @@ namespace {
 using test::ExpectText;
 using test::OpenFlow;
 using test::TypeAllocationFiles;
+using test::WalkToLoci;
 
 class ScreensTest : public test::MenuTest {
  protected:
@@ -78,8 +79,6 @@ class ScreensTest : public test::MenuTest {
     }
     return rows;
   }
-
-  Script script_;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 
 TEST_F(ScreensTest, ScreensHaveTheNumbersOfTheirManuals) {
@@ -170,9 +169,7 @@ TEST_F(ScreensTest, BackKeepsWhatWasTypedInASimulation) {
 
 TEST_F(ScreensTest, AllLociHidesTheChoiceAndKeepsIt) {
   QString command;
-  OpenFlow(script_, "ALLOCATIONNON-SEXED");
-  TypeAllocationFiles(script_, Flow::kNonSexed, Text("data"));
-  script_.Click("Ok").Click("NoError").Click("Ok").Await("ChoiceOfLoci");
+  WalkToLoci(script_, Flow::kNonSexed);
   script_.ClickNumber(kFirstLocusBox + 2);
   script_.ClickNumber(kAllLociBox);
   ExpectRows({"A", "B", "C", "D"});
@@ -188,9 +185,7 @@ TEST_F(ScreensTest, AllLociHidesTheChoiceAndKeepsIt) {
 TEST_F(ScreensTest, EveryLocusHasItsRow) {
   QString command;
   WriteLoci(50);
-  OpenFlow(script_, "ALLOCATIONNON-SEXED");
-  TypeAllocationFiles(script_, Flow::kNonSexed, Text("data"));
-  script_.Click("Ok").Click("NoError").Click("Ok");
+  WalkToLoci(script_, Flow::kNonSexed);
   ExpectRows(MarkedRows(50));
   for (int number = kFirstLocusBox; number < kLastLocusBox; ++number) {
     script_.ClickNumber(number);

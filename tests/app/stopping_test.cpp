@@ -66,7 +66,6 @@ class StoppingTest : public test::MenuTest {
     });
   }
 
-  Script script_;    // NOLINT(misc-non-private-member-variables-in-classes)
   Contents before_;  // NOLINT(misc-non-private-member-variables-in-classes)
 };
 

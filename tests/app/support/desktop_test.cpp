@@ -165,6 +165,29 @@ void TypeAllocationFiles(Script& script, Flow flow, const QString& folder) {
   script.Type("OffspringFile", path("offspring.txt")).Type("LociFile", path("loci.txt"));
 }
 
+void WalkToLoci(Script& script, Flow flow) {
+  OpenFlow(script, flow == Flow::kSexed ? "ALLOCATIONSEXED" : "ALLOCATIONNON-SEXED");
+  TypeAllocationFiles(script, flow, Text("data"));
+  script.Click("Ok").Click("NoError").Click("Ok").Await("ChoiceOfLoci");
+}
+
+void TypeParents(Script& script, const std::string& sex, bool parental,
+                 const std::pair<std::string, std::string>& files,
+                 const std::vector<const char*>& numbers) {
+  if (parental) {
+    script.Type("Collected" + sex + "File", Text(files.first));
+  } else {
+    script.Type("PseudoCollected" + sex + "Sample", Text(files.first));
+    script.Type("PseudoCollected" + sex, Text(numbers.back()));
+  }
+  script.Type("Uncollected" + sex + "Sample", Text(files.second));
+  script.Type("Uncollected" + sex, Text(numbers[0]));
+  if (!sex.empty()) {
+    script.Type("EstimatedCollected" + sex, Text(numbers[1]));
+    script.Type("EstimatedUncollected" + sex, Text(numbers[2]));
+  }
+}
+
 void WalkToParents(Script& script, bool sexed, bool parental) {
   OpenFlow(script, sexed ? "SIMULATIONSSEXED" : "SIMULATIONSNON-SEXED");
   script.Type("LociFile", Text("data/loci.txt")).Type("Iterations", Text("2"));
@@ -172,17 +195,8 @@ void WalkToParents(Script& script, bool sexed, bool parental) {
   const std::vector<std::string> sexes =
       sexed ? std::vector<std::string>{"Males", "Females"} : std::vector<std::string>{""};
   for (const std::string& sex : sexes) {
-    script.Type(parental ? "Collected" + sex + "File" : "PseudoCollected" + sex + "Sample",
-                Text("data/parents.txt"));
-    if (!parental) {
-      script.Type("PseudoCollected" + sex, Text("6"));
-    }
-    script.Type("Uncollected" + sex + "Sample", Text("data/sample.txt"));
-    script.Type("Uncollected" + sex, Text("3"));
-    if (sexed) {
-      script.Type("EstimatedCollected" + sex, Text("4.5"));
-      script.Type("EstimatedUncollected" + sex, Text("1.5"));
-    }
+    TypeParents(script, sex, parental, {"data/parents.txt", "data/sample.txt"},
+                {"3", "4.5", "1.5", "6"});
   }
 }
 

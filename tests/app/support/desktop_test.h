@@ -54,7 +54,11 @@ class WorkplaceTest : public testing::Test {
   /// Runs a command line where the same input files are, and compares all files of the project.
   void ExpectAsCommandLine(const std::string& project, const QString& command) const;
 
-  TempFolder folder_;  // NOLINT(misc-non-private-member-variables-in-classes)
+  // NOLINTBEGIN(misc-non-private-member-variables-in-classes)
+  TempFolder folder_;
+  Script script_;
+  QString command_;
+  // NOLINTEND(misc-non-private-member-variables-in-classes)
 
  private:
   WorkingFolder here_;
@@ -91,6 +95,17 @@ void OpenFlow(Script& script, std::string_view button,
 
 /// Types the files of an allocation, all of them in one folder.
 void TypeAllocationFiles(Script& script, Flow flow, const QString& folder);
+
+/// From the menu to the choice of loci in an allocation of the files in the folder "data", without
+/// transmission error.
+void WalkToLoci(Script& script, Flow flow);
+
+/// Types a set of parents: the file of the collected ones or of the sample for them, the sample of
+/// the uncollected ones; how many uncollected, both estimates (by sex only), how many
+/// pseudo-collected (last).
+void TypeParents(Script& script, const std::string& sex, bool parental,
+                 const std::pair<std::string, std::string>& files,
+                 const std::vector<const char*>& numbers);
 
 /// From the menu to the screen of the parents in a simulation with the small study, filled in.
 void WalkToParents(Script& script, bool sexed, bool parental);

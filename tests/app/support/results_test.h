@@ -89,15 +89,20 @@ inline QAbstractItemModel& ModelIn(const QWidget& window, const char* name) {
 /// The example data, which WriteExamples() has put into the working folder.
 inline AllocationSettings ExampleAllocation(Flow flow) {
   const bool sexed = flow == Flow::kSexed;
-  const std::string folder = sexed ? "data/sexed/" : "data/non-sexed/";
+  const auto file = [sexed](const char* name) {
+    return std::string(sexed ? "data/sexed/" : "data/non-sexed/").append(name);
+  };
   AllocationSettings settings;
   settings.flow = flow;
   settings.project = "p";
-  (sexed ? settings.males_file : settings.parents_file) =
-      folder + (sexed ? "males.txt" : "parents.txt");
-  settings.females_file = sexed ? folder + "females.txt" : "";
-  settings.offspring_file = folder + "offspring.txt";
-  settings.loci_file = folder + "loci.txt";
+  if (sexed) {
+    settings.males_file = file("males.txt");
+    settings.females_file = file("females.txt");
+  } else {
+    settings.parents_file = file("parents.txt");
+  }
+  settings.offspring_file = file("offspring.txt");
+  settings.loci_file = file("loci.txt");
   return settings;
 }
 
