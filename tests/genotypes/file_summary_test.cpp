@@ -126,8 +126,8 @@ RC_GTEST_PROP(FileSummary, IsOneShortLineWhateverTheBytes, (bool separated)) {
   const TempFolder folder;
   const std::string path = folder.Write("f.txt", RandomBytes());
   const std::string loci = folder.Write("loci.txt", RandomBytes());
-  for (const std::string& line :
-       {DescribeGenotypeFile(path, loci, separators, kFromDisk), DescribeLociFile(path, kFromDisk)}) {
+  for (const std::string& line : {DescribeGenotypeFile(path, loci, separators, kFromDisk),
+                                  DescribeLociFile(path, kFromDisk)}) {
     RC_LOG(line);
     RC_ASSERT(!line.empty() && line.size() < 250);
     RC_ASSERT(std::none_of(line.begin(), line.end(),

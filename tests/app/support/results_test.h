@@ -137,7 +137,7 @@ inline auto Run(const AllocationSettings& settings) {
 
 inline auto Run(const SimulationSettings& settings) {
   RunObserver observer;
-  return RunSimulation(settings, SimulationOf(settings.flow), observer);
+  return RunSimulation(settings, observer);
 }
 
 /// A finished run in its window.
