@@ -16,7 +16,7 @@ class InputSet:
     index: int
     shape: str
     files: dict          # name -> bytes
-    options: list        # options that both programs understand, without --project
+    options: list        # options that both understand
     threads: list        # options for the fast program only
     stale: bool          # an earlier run left all report files behind
 
@@ -57,7 +57,7 @@ def make_set(seed, index):
     names = [f"{rng.choice(['Loc', 'Pm-', 'µsat', 'L_'])}{number}"
              for number in range(1, len(draft.ladders) + 1)]
     names[-1] = rng.choice([names[-1], "FourteenBytes_"])
-    files, options = {}, []
+    files, options = {}, [["--project", "results"]]
 
     def add_file(which, words):
         folder = rng.choice(["", "", "./", "données/"])

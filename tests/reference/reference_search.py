@@ -1,7 +1,6 @@
 """Likelihood of parental pairs, the search, and the verdict on the chosen pair."""
 
 from dataclasses import dataclass, field
-from math import isclose
 
 MOST_PAIRS = 5
 NAME_PREFIX = 10   # bytes of a name by which two individuals count as the same
@@ -10,12 +9,9 @@ NAME_PREFIX = 10   # bytes of a name by which two individuals count as the same
 @dataclass
 class Comparison:
     """One offspring locus against the chosen pair."""
-    condition: int
     offset1: int
     offset2: int
     record: str     # fragment of the transmission matrices report
-    form: str       # which way of writing the measured parent was used
-    uneven: bool    # some distance is not a whole number of repeats
 
 
 @dataclass
@@ -27,7 +23,6 @@ class Outcome:
     comparisons: list = field(default_factory=list)
     uncollected: tuple = (False, False)
     errors: tuple = (0, 0)
-    events: list = field(default_factory=list)  # rare situations met, for the tests only
 
     def offsets(self, side):
         return [c.offset1 if side == 0 else c.offset2 for c in self.comparisons]
@@ -76,30 +71,24 @@ def classify(child, parent1, parent2):
 
 
 def measure_one(allele, parent):
-    """Distance of a parent to the one child allele it must have given.
-
-    Returns the distance, its notation and the form of the notation.
-    """
+    """Distance of a parent to the one child allele it must have given, and its notation."""
     first, second = (abs(allele - size) for size in parent)
     distance = min(first, second)
     if first == second and parent[0] != parent[1]:
-        return distance, f"[dm={distance},{allele}]", "tie"
+        return distance, f"[dm={distance},{allele}]"
     nearest = parent[0] if first <= second else parent[1]
-    form = "homozygous" if parent[0] == parent[1] else "single"
-    return distance, f"[{nearest},{allele}]", form
+    return distance, f"[{nearest},{allele}]"
 
 
 def measure_both(child, parent):
-    """Distance of a parent to the nearer of both child alleles."""
-    homozygous = parent[0] == parent[1]
-    sizes = parent[:1] if homozygous else parent
+    """Distance of a parent to the nearer of both child alleles, and its notation."""
+    sizes = parent[:1] if parent[0] == parent[1] else parent
     couples = [(abs(allele - size), size, allele) for allele in child for size in sizes]
     distance = min(couple[0] for couple in couples)
     nearest = [couple for couple in couples if couple[0] == distance]
-    form = "homozygous" if homozygous else "single"
     if len(nearest) > 1:
-        return distance, f"[dm={distance}]", "homozygous tie" if homozygous else "tie"
-    return distance, f"[{nearest[0][1]},{nearest[0][2]}]", form
+        return distance, f"[dm={distance}]"
+    return distance, f"[{nearest[0][1]},{nearest[0][2]}]"
 
 
 def compare_locus(child, parent1, parent2, unit):
@@ -110,17 +99,13 @@ def compare_locus(child, parent1, parent2, unit):
     condition = classify(child, parent1, parent2)
     r, j = child
     offset1 = offset2 = 0
-    form = ""
     distances, offsets = "[0,0]", None
-    measured = []
     if condition == 1 and child == (0, 0):
         notation = distances = offsets = "[*,*]"
-        form = "missing"
     elif condition == 1:
         d1 = min(abs(allele - size) for allele in child for size in parent1)
         d2 = min(abs(allele - size) for allele in child for size in parent2)
         offset1, offset2 = d1 // unit, d2 // unit
-        measured = [d1, d2]
         notation, distances = f"[[dm={d1}],[dm={d2}]]", f"[{d1},{d2}]"
     elif condition == 2:
         notation = "[[],[]]"
@@ -130,10 +115,9 @@ def compare_locus(child, parent1, parent2, unit):
         first_measured = condition in (5, 7, 9, 11)
         parent = parent1 if first_measured else parent2
         if condition in (10, 11):
-            distance, part, form = measure_both(child, parent)
+            distance, part = measure_both(child, parent)
         else:
-            distance, part, form = measure_one(j if condition in (6, 7) else r, parent)
-        measured = [distance]
+            distance, part = measure_one(j if condition in (6, 7) else r, parent)
         if first_measured:
             offset1 = distance // unit
             notation, distances = f"[{part},[]]", f"[{distance},0]"
@@ -141,9 +125,8 @@ def compare_locus(child, parent1, parent2, unit):
             offset2 = distance // unit
             notation, distances = f"[[],{part}]", f"[0,{distance}]"
     offsets = offsets or f"[{offset1},{offset2}]"
-    record = f"{LABELS[condition]}\t\t{notation}\t\t{distances}\t/ {unit}\t{offsets}"
-    uneven = any(distance % unit != 0 for distance in measured)
-    return Comparison(condition, offset1, offset2, record, form, uneven)
+    return Comparison(offset1, offset2,
+                      f"{LABELS[condition]}\t\t{notation}\t\t{distances}\t/ {unit}\t{offsets}")
 
 
 # ------------------------------------------------------------ likelihood, search
@@ -201,18 +184,16 @@ def candidate_rows(parent_files):
                 yield male, [len(males) + female for female in female_group]
 
 
-def same_names(pair, stored, names, sexed):
-    """"" unless the pair repeats a stored one by name; else how it repeats it.
+def is_repeated(pair, stored, names, sexed):
+    """True when the pair repeats a stored one by name.
 
-    The same individual sampled twice must not count as two pairs.
+    The same individual sampled twice must not count as two pairs. Two parents of
+    unknown sex are the same pair in either order.
     """
     first, second = (names[one][:NAME_PREFIX] for one in pair)
     stored1, stored2 = (names[one][:NAME_PREFIX] for one in stored)
-    if first == stored1 and second == stored2:
-        return "straight"
-    if first == stored2 and second == stored1:
-        return "namesakes" if sexed else "crosswise"
-    return ""
+    crosswise = not sexed and (first, second) == (stored2, stored1)
+    return (first, second) == (stored1, stored2) or crosswise
 
 
 def search_pairs(child, parent_files, loci, catalogues, matrices):
@@ -222,7 +203,6 @@ def search_pairs(child, parent_files, loci, catalogues, matrices):
     mark stays even when a more likely pair turns up later.
     """
     outcome = Outcome()
-    sexed = len(parent_files) == 2
     parents = [one for file in parent_files for one in file]
     names = [one.name for one in parents]
     scores = [None if one.separator else
@@ -231,23 +211,11 @@ def search_pairs(child, parent_files, loci, catalogues, matrices):
         for second in partners:
             pair = (first, second)
             likelihood = pair_likelihood(scores[first], scores[second])
-            if likelihood != outcome.best and isclose(likelihood, outcome.best, rel_tol=1e-12):
-                outcome.events.append("tie missed by a rounding")
             if likelihood > outcome.best:
-                if outcome.more_than_five:
-                    outcome.events.append("better pair after the flag")
                 outcome.pairs, outcome.best = [pair], likelihood
-                continue
-            tied = likelihood == outcome.best and likelihood != 0
-            repeats = {same_names(pair, stored, names, sexed) for stored in outcome.pairs}
-            if repeats & {"straight", "crosswise"}:
-                if tied:
-                    outcome.events += [f"duplicate skipped, {how}" for how in repeats
-                                       if how in ("straight", "crosswise")]
-                continue
-            if tied:
-                if "namesakes" in repeats:
-                    outcome.events.append("sexed namesakes kept")
+            elif likelihood == outcome.best and likelihood != 0 and not any(
+                    is_repeated(pair, stored, names, len(parent_files) == 2)
+                    for stored in outcome.pairs):
                 if len(outcome.pairs) == MOST_PAIRS:
                     outcome.more_than_five = True
                     break

@@ -1,6 +1,6 @@
 """One iteration: the parents, the pseudo-offspring and their text in the files."""
 
-from dataclasses import dataclass, field
+from dataclasses import dataclass
 
 from reference_input import Individual
 from reference_tables import Catalogue, transmission_matrix
@@ -14,7 +14,6 @@ class PseudoOffspring:
     genotypes: list
     first: int
     second: int
-    events: list = field(default_factory=list)   # rare situations met, for the tests only
 
 
 @dataclass
@@ -92,8 +91,6 @@ class Producer:
         while child.first == child.second:
             child.first = start1 + self.generator.value() % count1
             child.second = start2 + self.generator.value() % count2
-            if child.first == child.second:
-                child.events.append("parents drawn again")
         for locus in range(self.locus_count):
             choices = [self.generator.value() % 2 for _ in (0, 1)]
             draws = [grid_draw(self.generator, self.modulus) for _ in (0, 1)]
@@ -104,24 +101,9 @@ class Producer:
             for parent, choice, draw in zip((child.first, child.second), choices, draws):
                 allele = parents[parent].genotypes[locus][choice]
                 row = matrices[locus][catalogues[locus].look_up(allele)]
-                received = transmit(row, draw)
-                pair.append(catalogues[locus].sizes[received])
-                child.events += transmission_events(allele, pair[-1], draw, row)
+                pair.append(catalogues[locus].sizes[transmit(row, draw)])
             child.genotypes.append(tuple(pair))
         return child
-
-
-def transmission_events(allele, received, draw, row):
-    """Rare situations of a transmission, for the tests only."""
-    events = ["allele misread"] if received != allele else []
-    if draw == 0:
-        events.append("transmission draw of zero")
-    reached = 0.0
-    for probability in row:
-        reached += probability
-    if draw > reached:
-        events.append("transmission draw beyond the row")
-    return events
 
 
 # ---------------------------------------------------------- individuals as text

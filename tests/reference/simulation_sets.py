@@ -8,9 +8,9 @@ import random
 
 from random_layout import option, render, write_options
 from random_sets import InputSet, index_list
+from simulation_input import STRATEGIES
 from simulation_flows import non_sexed_proportions, sexed_proportions
 
-STRATEGIES = ("choice", "all", "minimal", "cumulative")
 ERRORS = ("none", "none", "uniform=0.02", "uniform=0.1", "uniform=0", "nonuniform", None,
           "nonuniform=0,0.03125,0.9375,0.03125,0", "nonuniform=0.05,0,0.95,0,0",
           "nonuniform=0.025,0.025,0.9,0.025,0.025", "uniform=-0.01")

@@ -49,12 +49,8 @@ def step_deviation(values):
 
 
 def share(count, size):
-    """A frequency; that of an empty class is 0."""
+    """A frequency, that of an empty class is 0; also the ratio of two figures."""
     return count / size if size else 0.0
-
-
-def ratio(numerator, denominator):
-    return numerator / denominator if denominator != 0 else 0.0
 
 
 def weighted(weights, values):
@@ -72,10 +68,8 @@ def columns(rows):
 
 # ------------------------------------------------------ figures of one iteration
 
-def class_correct(origin, counts):
-    """Frequency of correct decisions of a class."""
-    return share(total(row.weight * count for row, count in zip(origin.rows, counts.rows)) / 2,
-                 counts.size)
+def right_sides(origin, counts):
+    return sum(row.weight * count for row, count in zip(origin.rows, counts.rows))
 
 
 def sexed_side_counts(origin, counts):
@@ -111,8 +105,8 @@ def non_sexed_side_counts(origin, counts):
     return figures | {name: share(count, 2 * counts.size) for name, count in sides.items()}
 
 
-def sexed_table(counts):
-    """Columns of the per-iteration table of a class."""
+def sexed_columns(counts):
+    """Columns of the table of a class."""
     both, male, female, none, nulls, ambiguous = (
         share(counts.best[key], counts.size)
         for key in ("both", "male", "female", "none", "nulls", "ambiguous"))
@@ -123,34 +117,27 @@ def sexed_table(counts):
 def sexed_ratios(values):
     """Share of the assigned pairs and parents that are right or wrong."""
     assigned = values[0] + values[1]
-    return [ratio(value, assigned) for value in values[:6]]
+    return [share(value, assigned) for value in values[:6]]
 
 
-def non_sexed_table(counts):
+def non_sexed_columns(counts):
     return [share(counts.best[key], counts.size) for key in ("2", "1", "0", "ambiguous", "nulls")]
 
 
 def non_sexed_ratios(values):
     assigned = values[0] + values[1] + values[2]
-    return [ratio(value, assigned) for value in values[:3]]
+    return [share(value, assigned) for value in values[:3]]
 
 
-def first_pair_figures(index, counts):
-    """Verdict on the pair found first, whatever its offsets, by class."""
-    zero, one, two = (share(count, counts.size) for count in counts.first_correct)
-    if index == 0:
-        return [two, one, zero]
-    if index == 1:
-        return [one, zero]
-    return [share(counts.size, counts.size)]
-
-
-def combined(all_counts):
-    """Right collected parents of the first pairs, in couples, over all pseudo-offspring."""
-    pairs, singles, _ = all_counts
-    value = (2 * pairs.first_correct[2] + singles.first_correct[1]
+def first_pair_figures(all_counts):
+    """Verdicts on the pair found first, whatever its offsets, by class and combined."""
+    pairs, singles, none = all_counts
+    right = (2 * pairs.first_correct[2] + singles.first_correct[1]
              + pairs.first_correct[1]) * 0.5
-    return share(value, sum(counts.size for counts in all_counts))
+    return [[share(count, pairs.size) for count in reversed(pairs.first_correct)],
+            [share(count, singles.size) for count in reversed(singles.first_correct[:2])],
+            [share(none.size, none.size)],
+            [share(right, sum(counts.size for counts in all_counts))]]
 
 
 # ---------------------------------------------------------- figures of a subset
@@ -162,76 +149,67 @@ class SubsetFigures:
         self.sexed, self.loci = settings.sexed, loci
         self.weights, self.sizes = proportions.weights, proportions.sizes
         self.origins = origins_of(self.sexed)
-        self.rows = [[] for _ in self.origins]      # class -> iteration -> row frequencies
-        self.correct = [[] for _ in self.origins]   # class -> iteration
-        self.tables = [[] for _ in self.origins]    # class -> iteration -> columns
-        self.first_pairs = [[] for _ in self.origins]
-        self.global_rows, self.global_correct, self.global_table = [], [], []
-        self.combined = []
-        self.figures = {}                           # name -> iteration, weighted
+        classes = range(len(self.origins))
+        self.rows = [[] for _ in classes]            # class -> iteration -> row frequencies
+        self.correct = [[] for _ in classes]         # class -> iteration
+        self.tables = [[] for _ in [*classes, None]]       # class, global -> iteration -> columns
+        self.first_pairs = [[] for _ in [*classes, None]]  # the same
+        self.global_rows, self.global_correct = [], []
+        self.figures = {}                            # name -> iteration, weighted
         for iteration in iterations:
             self._add(iteration.counts)
 
     def _add(self, all_counts):
-        sides = []
+        count_sides, columns_of, ratios_of = \
+            (sexed_side_counts, sexed_columns, sexed_ratios) if self.sexed else \
+            (non_sexed_side_counts, non_sexed_columns, non_sexed_ratios)
+        sides, tables = [], []
         for index, (origin, counts) in enumerate(zip(self.origins, all_counts)):
             self.rows[index].append([share(count, counts.size) for count in counts.rows])
-            self.correct[index].append(class_correct(origin, counts))
-            sides.append((sexed_side_counts if self.sexed else non_sexed_side_counts)(
-                origin, counts))
-            if self.sexed:
-                self.tables[index].append(sexed_table(counts))
-            else:
-                table = non_sexed_table(counts)
-                self.tables[index].append(table + non_sexed_ratios(table))
-                self.first_pairs[index].append(first_pair_figures(index, counts))
+            self.correct[index].append(share(right_sides(origin, counts) / 2, counts.size))
+            sides.append(count_sides(origin, counts))
+            table = columns_of(counts)
+            tables.append(table)
+            self.tables[index].append(table if self.sexed else table + ratios_of(table))
         for name in sides[0]:
             self.figures.setdefault(name, []).append(
                 weighted(self.weights, [side[name] for side in sides]))
         self.figures.setdefault("ANY", []).append(
             weighted(self.weights, [values[-1] for values in self.correct]))
+        table = [weighted(self.weights, values) for values in columns(tables)]
+        self.tables[-1].append(table + ratios_of(table))
         if self.sexed:
-            self._add_realised(all_counts)
+            self._add_pooled(all_counts)
         else:
-            self._add_weighted(all_counts)
-        plain = 8 if self.sexed else 5
-        table = [weighted(self.weights, [rows[-1][column] for rows in self.tables])
-                 for column in range(plain)]
-        ratios = (sexed_ratios if self.sexed else non_sexed_ratios)(table)
-        self.global_table.append(table + ratios)
+            self._add_weighted()
+            for series, values in zip(self.first_pairs, first_pair_figures(all_counts)):
+                series.append(values)
 
-    def _add_realised(self, all_counts):
+    def _rows_like(self, head, values_of_classes):
+        """Per class, the value of the row with these labels, 0 where it has none."""
+        return [next((value for row, value in zip(origin.rows, values)
+                      if (row.allocated, row.correct) == (head.allocated, head.correct)), 0)
+                for origin, values in zip(self.origins, values_of_classes)]
+
+    def _add_pooled(self, all_counts):
         """Sexed: the global rows are those of all pseudo-offspring produced."""
         everyone = sum(counts.size for counts in all_counts)
-        weight_sum, rows = 0, []
-        for head in self.origins[0].rows:
-            rows.append(share(sum(
-                count for origin, counts in zip(self.origins, all_counts)
-                for row, count in zip(origin.rows, counts.rows)
-                if (row.allocated, row.correct) == (head.allocated, head.correct)), everyone))
-        for origin, counts in zip(self.origins, all_counts):
-            weight_sum += sum(row.weight * count for row, count in zip(origin.rows, counts.rows))
-        self.global_rows.append(rows)
-        self.global_correct.append(share(weight_sum / 2, everyone))
+        counted = [counts.rows for counts in all_counts]
+        self.global_rows.append([share(sum(self._rows_like(head, counted)), everyone)
+                                 for head in self.origins[0].rows])
+        right = sum(right_sides(origin, counts)
+                    for origin, counts in zip(self.origins, all_counts))
+        self.global_correct.append(share(right / 2, everyone))
 
-    def _add_weighted(self, all_counts):
+    def _add_weighted(self):
         """Non-sexed: the global rows weigh the classes as the population would."""
-        rows = []
-        for head in self.origins[0].rows:
-            values = []
-            for index, origin in enumerate(self.origins):
-                labels = [(row.allocated, row.correct) for row in origin.rows]
-                label = (head.allocated, head.correct)
-                values.append(self.rows[index][-1][labels.index(label)]
-                              if label in labels else 0.0)
-            rows.append(weighted(self.weights, values))
-        self.global_rows.append(rows)
+        latest = [rows[-1] for rows in self.rows]
+        self.global_rows.append([weighted(self.weights, self._rows_like(head, latest))
+                                 for head in self.origins[0].rows])
         self.global_correct.append(self.figures["ANY"][-1])
-        self.combined.append(combined(all_counts))
 
     def average(self, name):
-        """A weighted figure over all iterations."""
+        """A weighted figure over all iterations; of two names, the ratio of their averages."""
+        if isinstance(name, tuple):
+            return share(self.average(name[0]), self.average(name[1]))
         return plain_mean(self.figures[name])
-
-    def average_ratio(self, numerator, denominator):
-        return ratio(self.average(numerator), self.average(denominator))
