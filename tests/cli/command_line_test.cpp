@@ -16,6 +16,7 @@ namespace kaldo {
 namespace {
 
 using test::Arguments;
+using test::ExpectRefusal;
 using test::Outcome;
 using test::ReadFile;
 using test::RunCommand;
@@ -26,13 +27,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
-
-void ExpectRefusal(const Arguments& arguments, std::string_view start_of_message) {
-  const Outcome outcome = RunCommand(arguments);
-  EXPECT_EQ(outcome.code, ExitCode::kBadInput) << testing::PrintToString(arguments);
-  EXPECT_THAT(outcome.out, IsEmpty());
-  EXPECT_THAT(outcome.err, StartsWith(std::string(start_of_message)));
-}
 
 /// A small study of four loci in a folder of its own.
 class CommandLineTest : public testing::Test {
@@ -62,16 +56,8 @@ class CommandLineTest : public testing::Test {
     return ReadFile(folder_.Path("project/" + name));
   }
 
-  /// All files of the project but the run record, which tells the time; then they are gone.
   std::vector<std::pair<std::string, std::string>> TakeReports() const {
-    std::vector<std::pair<std::string, std::string>> reports;
-    for (const std::string& name : folder_.FilesIn("project")) {
-      if (name != "Run record.toml") {
-        reports.emplace_back(name, Report(name));
-        std::filesystem::remove(folder_.Path("project/" + name));
-      }
-    }
-    return reports;
+    return test::TakeReports(folder_, "project");
   }
 
   std::string RecordPath() const { return folder_.Path("project/Run record.toml"); }
@@ -114,26 +100,6 @@ TEST_F(CommandLineTest, RefusesACommandLineThatIsNone) {
   ExpectRefusal(Check({"extra"}), "The following argument was not expected: extra");
   ExpectRefusal(Check(Loci()), "--loci");
   ExpectRefusal({"rerun"}, "record is required");
-}
-
-TEST_F(CommandLineTest, AllocatesBothExamples) {
-  const std::string examples = std::string(KALDO_ROOT) + "/examples/";
-  for (const std::string flow : {"non-sexed", "sexed"}) {
-    const std::string data = examples + flow + '/';
-    Arguments arguments = {"allocate",        "--project",   folder_.Path(flow),    "--loci",
-                           data + "loci.txt", "--offspring", data + "offspring.txt"};
-    arguments = arguments + (flow == "sexed" ? Arguments{"--males", data + "males.txt", "--females",
-                                                         data + "females.txt"}
-                                             : Arguments{"--parents", data + "parents.txt"});
-    const Outcome outcome = RunCommand(arguments);
-    EXPECT_EQ(outcome.code, ExitCode::kDone);
-    EXPECT_THAT(outcome.out, StartsWith("KALDO " + std::string(Version()) + ", " + flow));
-    EXPECT_THAT(outcome.out, EndsWith("\nCalculations completed!\n"));
-    EXPECT_THAT(outcome.err, IsEmpty()) << "no progress bar where there is no terminal";
-    EXPECT_EQ(folder_.FilesIn(flow),
-              (Arguments{"Allocation results.xls", "Max like pairs.txt", "Run record.toml",
-                         "Stepping error file.xls", "Transmision matrices.xls"}));
-  }
 }
 
 TEST_F(CommandLineTest, ReadsTheToleranceAsDecimal) {
@@ -264,6 +230,12 @@ TEST_F(CommandLineTest, RerunRefusesWhatItCannotRepeat) {
       {"error = .*", "error = \"some\"", "This run record cannot be used!\n"},
       {"0.98,", "0.98, 0.01,", "This run record cannot be used!\n"},
       {"\nproject = .*", "", "This run record cannot be used!\n"},
+      // A setting that is there but not understood must not silently become another run.
+      {"(tolerance = 1)\n", "$1\nuse = \"A\"\n", ""},
+      {"(tolerance = 1)\n", "$1\nsequence = [1.0, 2.0, 3.0, 4.0]\n", ""},
+      {"(tolerance = 1)\n", "$1\nsequence = \"4,3,2,1\"\n", ""},
+      {"(tolerance = 1)\n", "$1\nsequence = [4294967297, 2, 3, 4]\n", ""},
+      {"tolerance = 1\n", "tolerance = 4294967297\n", ""},
   };
   for (const Edit& edit : edits) {
     SCOPED_TRACE(edit.replacement);
@@ -272,17 +244,6 @@ TEST_F(CommandLineTest, RerunRefusesWhatItCannotRepeat) {
     EXPECT_EQ(outcome.code, ExitCode::kBadInput);
     EXPECT_THAT(outcome.err, HasSubstr(edit.message));
   }
-}
-
-// A setting that is there but not understood must not silently become another run.
-TEST_F(CommandLineTest, RerunRefusesASettingOfTheWrongKind) {
-  for (const std::string setting : {"use = \"A\"", "sequence = [1.0, 2.0, 3.0, 4.0]",
-                                    "sequence = \"4,3,2,1\"", "sequence = [4294967297, 2, 3, 4]"}) {
-    EditRecord("tolerance = 1", "tolerance = 1\n" + setting);
-    EXPECT_EQ(RunCommand({"rerun", RecordPath()}).code, ExitCode::kBadInput) << setting;
-  }
-  EditRecord("tolerance = 1", "tolerance = 4294967297");
-  EXPECT_EQ(RunCommand({"rerun", RecordPath()}).code, ExitCode::kBadInput);
 }
 
 }  // namespace

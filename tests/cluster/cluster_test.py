@@ -12,17 +12,17 @@ import shutil
 import signal
 import subprocess
 import sys
-import tempfile
-import time
 import unittest
 from pathlib import Path
 
-MPIEXEC = KALDO_MPI = KALDO = None
-SOURCE = Path(__file__).resolve().parents[2]
-GENEROUS = 120           # seconds: against a hang only
-RUN_RECORD = "Run record.toml"
-SAVED_LOCI = "SAUVLOCUSTULM.txt"
-STOPPED = "Stopped. The results of earlier runs are as they were.\n"
+sys.dont_write_bytecode = True   # leave the source folder as it is
+sys.path.append(str(Path(__file__).resolve().parents[1] / "support"))
+
+import programs
+from programs import (GENEROUS, RUN_RECORD, SOURCE, STOPPED, ProgramTest, files_of, wait_until,
+                      write_files)
+
+MPIEXEC, KALDO_MPI, KALDO = programs.arguments(["MPIEXEC", "KALDO_MPI", "KALDO"], __doc__)
 DIED = ("Process {} of 3 has ended unexpectedly, and with it the run. "
         "The results of earlier runs are as they were.\n")
 # Test machines have few cores and often only the superuser; containers forbid one process to copy
@@ -68,29 +68,14 @@ def sexed_sets(collected, sample, estimates=("10", "7.5")):
     return options
 
 
-def files_of(folder):
-    """All files below, by name; of a run record what tells of the run, not of the machine."""
-    files = {}
-    for path in sorted(folder.rglob("*")):
-        if path.is_file():
-            text = path.read_bytes()
-            if path.name == RUN_RECORD:
-                text = b"".join(line for line in text.splitlines(True) if not line.startswith(
-                    (b"date =", b"threads =", b"duration_seconds =", b"folder =")))
-            files[str(path.relative_to(folder))] = text
-    return files
-
-
-class Clusters(unittest.TestCase):
+class Clusters(ProgramTest):
     def setUp(self):
-        place = tempfile.TemporaryDirectory()
-        self.addCleanup(place.cleanup)
-        self.root = Path(place.name)
-        self.elsewhere = self.root / "elsewhere"
+        super().setUp()
+        self.elsewhere = self.folder / "elsewhere"
         self.elsewhere.mkdir()
 
     def study(self, flow, name="study"):
-        folder = self.root / name
+        folder = self.folder / name
         shutil.copytree(SOURCE / "examples" / flow, folder / "data")
         return folder
 
@@ -101,8 +86,7 @@ class Clusters(unittest.TestCase):
         return command
 
     def run_in(self, folder, command):
-        return subprocess.run(command, cwd=folder, env=ENVIRONMENT, timeout=GENEROUS, check=False,
-                              capture_output=True, text=True)
+        return programs.run(command, folder, env=ENVIRONMENT, text=True)
 
 
 class SameFiles(Clusters):
@@ -180,30 +164,22 @@ class Ends(Clusters):
         """A simulation of minutes in a folder with earlier results, once its processes compute."""
         folder = self.study("sexed")
         project = folder / "trial"
-        project.mkdir()
-        for name in ("Summary.xls", "Sequence results.xls", RUN_RECORD):
-            (project / name).write_text("of an earlier run\n")
+        write_files(dict.fromkeys(("Summary.xls", "Sequence results.xls", RUN_RECORD),
+                                  b"of an earlier run\n"), project)
         estimates = sexed_sets("collected-{}s", sample=False, estimates=("1", "1"))
-        process = subprocess.Popen(
+        process = self.start(
             self.launch(3, ["simulate", "--sexed", "--project", "trial", "--loci", "data/loci.txt",
                             *estimates, "--iterations", "999", "--offspring-per-iteration",
                             "40000", "--seed", "1"]),
-            cwd=folder, env=ENVIRONMENT, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
-
-        def end():
-            if process.poll() is None:
-                process.terminate()
-            process.communicate()
-        self.addCleanup(end)
+            folder, env=ENVIRONMENT, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
         earlier = files_of(project)
-        deadline = time.monotonic() + GENEROUS
-        while True:
-            ranks = ranks_below(process.pid)
-            if len(ranks) == 3 and all(has_computed(pid) for pid in ranks.values()):
-                return process, ranks, project, earlier
+
+        def computing():
             self.assertIsNone(process.poll(), "the run ended before it could be disturbed")
-            self.assertLess(time.monotonic(), deadline, "the processes do not compute")
-            time.sleep(0.05)
+            ranks = ranks_below(process.pid)
+            return len(ranks) == 3 and all(has_computed(pid) for pid in ranks.values())
+        wait_until(computing, "processes that compute")
+        return process, ranks_below(process.pid), project, earlier
 
     def disturb(self, pick, sent):
         """The exit code, what was said, and the project folder then and before."""
@@ -269,10 +245,6 @@ def has_computed(pid):
 
 
 if __name__ == "__main__":
-    if len(sys.argv) < 4:
-        sys.exit(__doc__)
-    MPIEXEC = sys.argv[1]
-    KALDO_MPI, KALDO = map(os.path.abspath, sys.argv[2:4])
     version = subprocess.run([MPIEXEC, "--version"], capture_output=True, text=True, check=False)
     if "Open MPI" not in version.stdout and "OpenRTE" not in version.stdout:
         print("Skipped: the tests know the launcher of Open MPI alone")
@@ -283,4 +255,4 @@ if __name__ == "__main__":
         print("Skipped: the launcher of Open MPI cannot start any program on this machine:\n"
               + probe.stdout + probe.stderr)
         sys.exit(77)
-    unittest.main(argv=sys.argv[:1] + sys.argv[4:])
+    unittest.main()

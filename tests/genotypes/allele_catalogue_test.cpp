@@ -2,7 +2,6 @@
 #include "genotypes/allele_catalogue.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include "genotypes/catalogued_loci.h"
 #include "tests/support/temp_folder.h"
@@ -11,57 +10,6 @@ namespace kaldo {
 namespace {
 
 using test::TempFolder;
-
-/// The catalogue as 100 slots worked on one by one, and one slot behind them that stays empty.
-struct SlotBySlot {
-  static constexpr std::uint32_t kNotListed = 100;
-
-  std::array<std::uint32_t, 101> sizes{};
-  std::array<float, 101> counts{};
-
-  std::uint32_t LookUp(std::uint32_t size) const {
-    if (size == sizes[0] || size == 0) {
-      return 0;
-    }
-    std::uint32_t k = 0;
-    do {
-      ++k;
-    } while (k != kNotListed && sizes.at(k) != size);
-    return k;
-  }
-
-  void Build(const std::vector<LocusGenotype>& genotypes) {
-    std::size_t listed = 0;
-    for (const bool first : {true, false}) {
-      for (const LocusGenotype& genotype : genotypes) {
-        const std::uint32_t size = (first ? genotype.allele1 : genotype.allele2).Value();
-        const std::uint32_t place = LookUp(size);
-        if (place == kNotListed) {
-          sizes.at(listed) = size;
-          counts.at(listed) += 1;
-          ++listed;
-        } else {
-          counts.at(place) += 1;
-        }
-      }
-    }
-  }
-
-  void Sort() {
-    std::size_t n = 0;
-    while (sizes.at(n) != 0) {
-      ++n;
-    }
-    n = n == 0 ? 1 : n;
-    for (std::size_t pass = 0; pass < n; ++pass) {
-      for (std::size_t k = 0; k < n; ++k) {
-        if (sizes.at(k + 1) < sizes.at(k) && sizes.at(k + 1) != 0) {
-          std::swap(sizes.at(k), sizes.at(k + 1));
-        }
-      }
-    }
-  }
-};
 
 LocusGenotype Genotype(std::uint32_t allele1, std::uint32_t allele2) {
   return {AlleleSize{allele1}, AlleleSize{allele2}, {}, {}};
@@ -76,32 +24,6 @@ std::vector<std::uint32_t> Values(std::span<const AlleleSize> sizes) {
 }
 
 using Sizes = std::vector<std::uint32_t>;
-
-TEST(AlleleCatalogue, SortMovesSizesNotCounts) {
-  const std::vector<LocusGenotype> genotypes = {Genotype(156, 160), Genotype(152, 160),
-                                                Genotype(160, 152)};
-  auto catalogue = AlleleCatalogue::Build(genotypes);
-  ASSERT_TRUE(catalogue.has_value());
-  for (const Sizes& expected : {Sizes{156, 152, 160}, Sizes{152, 156, 160}}) {
-    EXPECT_EQ(Values(catalogue->Sizes()), expected);
-    EXPECT_EQ(catalogue->Counts()[0], 1);
-    EXPECT_EQ(catalogue->Counts()[1], 2);
-    EXPECT_EQ(catalogue->Counts()[2], 3);
-    catalogue->SortSizes();
-  }
-  EXPECT_EQ(catalogue->LookUp(AlleleSize{156}), AlleleIndex{1});
-  EXPECT_EQ(catalogue->LookUp(AlleleSize{158}), std::nullopt);
-  EXPECT_EQ(catalogue->LookUp(kUndefinedAllele), AlleleIndex{0});
-}
-
-TEST(AlleleCatalogue, CountsUndefinedAllelesOnTheFirstSize) {
-  const std::vector<LocusGenotype> genotypes = {Genotype(0, 0), Genotype(104, 100), Genotype(0, 0)};
-  const auto catalogue = AlleleCatalogue::Build(genotypes);
-  ASSERT_TRUE(catalogue.has_value());
-  EXPECT_EQ(Values(catalogue->Sizes()), (Sizes{104, 100}));
-  EXPECT_EQ(catalogue->Counts()[0], 5);
-  EXPECT_EQ(catalogue->Counts()[1], 1);
-}
 
 TEST(AlleleCatalogue, TakesAHundredSizesAndNamesTheSlotOfTheNext) {
   std::vector<LocusGenotype> genotypes;
@@ -121,47 +43,6 @@ TEST(AlleleCatalogue, TakesAHundredSizesAndNamesTheSlotOfTheNext) {
   const auto too_many = AlleleCatalogue::Build(genotypes);
   ASSERT_FALSE(too_many.has_value());
   EXPECT_EQ(too_many.error(), Slot{49});
-}
-
-RC_GTEST_PROP(AlleleCatalogue, AgreesWithWorkSlotBySlot, ()) {
-  const auto distinct = *rc::gen::inRange<std::uint32_t>(1, 60);
-  const auto allele =
-      rc::gen::map(rc::gen::inRange<std::uint32_t>(0, distinct),
-                   [](std::uint32_t rank) { return rank == 0 ? 0 : 100 + rank * 37 % 61; });
-  std::vector<LocusGenotype> genotypes;
-  for (int slots = *rc::gen::inRange(0, 150); slots > 0; --slots) {
-    genotypes.push_back(Genotype(*allele, *allele));
-  }
-  SlotBySlot expected;
-  expected.Build(genotypes);
-  auto catalogue = AlleleCatalogue::Build(genotypes);
-  RC_ASSERT(catalogue.has_value());
-  for (const bool sorted : {false, true}) {
-    if (sorted) {
-      expected.Sort();
-      catalogue->SortSizes();
-    }
-    for (std::uint32_t k = 0; k < 100; ++k) {
-      const std::uint32_t size = k < catalogue->Sizes().size() ? catalogue->Sizes()[k].Value() : 0;
-      RC_ASSERT(size == expected.sizes.at(k));
-      RC_ASSERT(catalogue->Counts()[k] == expected.counts.at(k));
-    }
-    for (std::uint32_t size = 0; size < 170; ++size) {
-      const auto found = catalogue->LookUp(AlleleSize{size});
-      RC_ASSERT((found ? std::uint32_t{found->Value()} : SlotBySlot::kNotListed) ==
-                expected.LookUp(size));
-    }
-  }
-  catalogue->ReIndex(genotypes);
-  float gene_copies = 0;
-  for (const float count : catalogue->Counts()) {
-    gene_copies += count;
-  }
-  RC_ASSERT(gene_copies == static_cast<float>(2 * genotypes.size()));
-  for (const LocusGenotype& genotype : genotypes) {
-    RC_ASSERT(genotype.index1.Value() == expected.LookUp(genotype.allele1.Value()));
-    RC_ASSERT(genotype.index2.Value() == expected.LookUp(genotype.allele2.Value()));
-  }
 }
 
 TEST(CatalogueAlleles, CataloguesLociInUseOnly) {

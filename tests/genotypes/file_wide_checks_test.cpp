@@ -132,16 +132,6 @@ TEST(CheckFileWide, TakesAnOverlongFieldForAnOddOne) {
                                         "number of digits");
 }
 
-// A field typed as a separator is counted as one wherever it stands.
-TEST(CheckFileWide, CountsASeparatorInsideARecord) {
-  const Files files(2);
-  const std::string text = "A1 100102 *00104\nA2 100102 100104\n";
-  const auto problem = files.Check(text, kParents);
-  ASSERT_TRUE(problem);
-  EXPECT_EQ(problem->kind, kOdd);
-  EXPECT_FALSE(files.Check(text, kOffspring));
-}
-
 /// The counting rules once more, a reading of the text for each count.
 std::optional<ProblemKind> CountByTheRules(const std::string& text, std::size_t loci,
                                            bool parents) {

@@ -8,13 +8,16 @@ default, and none that is not there.
 """
 
 import re
-import subprocess
 import sys
 import unittest
 from pathlib import Path
 
-KALDO = None
-PAGE = None
+sys.dont_write_bytecode = True   # leave the source folder as it is
+sys.path.append(str(Path(__file__).resolve().parents[1] / "support"))
+
+import programs
+
+KALDO, PAGE = programs.arguments(["KALDO", "PAGE"], __doc__)
 COMMANDS = {"allocate": "OPTIONS OF KALDO ALLOCATE AND KALDO CHECK",
             "check": "OPTIONS OF KALDO ALLOCATE AND KALDO CHECK",
             "simulate": "OPTIONS OF KALDO SIMULATE",
@@ -24,7 +27,7 @@ OPTION = re.compile(r"(--[a-z-]+)(?:\s(\S+))?")
 
 
 def run(*arguments):
-    return subprocess.run([KALDO, *arguments], check=True, capture_output=True, text=True).stdout
+    return programs.run([KALDO, *arguments], ".", text=True).stdout
 
 
 def plain(line):
@@ -36,7 +39,7 @@ def plain(line):
 def sections():
     """The tagged paragraphs of every section of the page: pairs of tag and text."""
     found = {}
-    lines = PAGE.read_text(encoding="utf-8").splitlines()
+    lines = Path(PAGE).read_text(encoding="utf-8").splitlines()
     paragraphs = []
     for number, line in enumerate(lines):
         if line.startswith(".SH "):
@@ -89,11 +92,10 @@ class ManPage(unittest.TestCase):
 
     def test_tells_the_version_and_the_exit_codes(self):
         version = run("--version").split()[1]
-        self.assertIn(f'"KALDO {version}"', PAGE.read_text(encoding="utf-8").splitlines()[1])
+        self.assertIn(f'"KALDO {version}"', Path(PAGE).read_text(encoding="utf-8").splitlines()[1])
         codes = re.findall(r"\d+", run("--help").partition("Exit codes:")[2])
         self.assertEqual([tag for tag, _ in sections()["EXIT STATUS"]], codes)
 
 
 if __name__ == "__main__":
-    KALDO, PAGE = sys.argv[1], Path(sys.argv[2])
-    unittest.main(argv=sys.argv[:1] + sys.argv[3:])
+    unittest.main()

@@ -68,7 +68,7 @@ class ProgramTest(unittest.TestCase):
         def end():
             if process.poll() is None:
                 process.terminate()
-            process.communicate()
+            process.communicate(timeout=GENEROUS)
         self.addCleanup(end)
         return process
 
