@@ -107,19 +107,6 @@ TEST_F(ExampleRun, GivesTheSameReportsForAnyNumberOfThreads) {
   }
 }
 
-TEST_F(ExampleRun, RemovesSequenceFilesOfAnEarlierRun) {
-  AllocationSettings settings = Settings(Flow::kNonSexed);
-  settings.sequence.emplace();
-  RunObserver observer;
-  ASSERT_TRUE(RunAllocation(settings, observer));
-  EXPECT_TRUE(std::filesystem::exists(folder_.Path("project/Sequence results.xls")));
-  settings.sequence.reset();
-  ASSERT_TRUE(RunAllocation(settings, observer));
-  EXPECT_FALSE(std::filesystem::exists(folder_.Path("project/Sequence results.xls")));
-  EXPECT_FALSE(std::filesystem::exists(folder_.Path("project/Service file.xls")));
-  EXPECT_TRUE(std::filesystem::exists(folder_.Path("project/Allocation results.xls")));
-}
-
 TEST_F(ExampleRun, StoppedRunLeavesEarlierResultsAsTheyWere) {
   AllocationSettings settings = Settings(Flow::kSexed);
   RunObserver observer;

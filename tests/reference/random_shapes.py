@@ -106,20 +106,6 @@ def shape_plain(draft):
         draft.add_child(draft.draw())
 
 
-def shape_copied(draft):
-    """One couple; the offspring repeat one parent's genotype, so one explains both alleles."""
-    draft.half = draft.rng.choice([2, 3, 3, 4])
-    draft.make_loci(7, count=6, regular=True, one_allele=0.0)
-    draft.error = "uniform=0.05"
-    draft.missing = 0.0
-    draft.add_first(draft.draw(0.4))
-    draft.add_second(draft.draw(0.4))
-    draft.groupable = False
-    both = (draft.first + draft.second)[:2]
-    for _ in range(8):
-        draft.add_child([draft.rng.choice(both)[1][locus] for locus in range(6)])
-
-
 # Steps of a ladder: child, the parent that explains it, the parent that is measured.
 MEASURED = [((0, 3), (0, 6), (2, 4)), ((0, 3), (0, 0), (2, 5)), ((0, 3), (0, 5), (2, 2)),
             ((3, 3), (3, 6), (2, 4)), ((3, 3), (3, 1), (2, 5)), ((3, 3), (3, 3), (2, 2)),
@@ -242,14 +228,6 @@ def shape_incompatible(draft):
     shape_plain(draft)
 
 
-def shape_few_alleles(draft):
-    """One or two sizes per locus and many parents: ties of every length."""
-    draft.make_loci(2, one_allele=0.4)
-    draft.add_parents(6, 12)
-    for _ in range(draft.rng.randint(2, 8)):
-        draft.add_child(draft.draw())
-
-
 def shape_lonely(draft):
     """Not a single candidate pair: one parent, or one in each group."""
     draft.make_loci(4)
@@ -303,7 +281,6 @@ def shape_many(draft):
         draft.add_child(draft.draw())
 
 
-SHAPES = [shape_bred, shape_copied, shape_tied, shape_permuted, shape_better_later, shape_clones,
-          shape_bred, shape_plain, shape_measured, shape_incompatible, shape_few_alleles,
-          shape_lonely, shape_uneven, shape_counted, shape_namesakes, shape_measured,
-          shape_many]
+SHAPES = [shape_bred, shape_plain, shape_tied, shape_permuted, shape_better_later, shape_clones,
+          shape_bred, shape_measured, shape_incompatible, shape_lonely, shape_uneven, shape_counted,
+          shape_namesakes, shape_measured, shape_many]
