@@ -21,7 +21,7 @@ using test::Outcome;
 using test::ReadFile;
 using test::RunCommand;
 using test::TempFolder;
-using test::operator+;
+using test::operator+;  // NOLINT(misc-unused-using-decls): every + here is it
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include "cli/command_line.h"
@@ -55,7 +56,7 @@ inline std::vector<std::pair<std::string, std::string>> TakeReports(const TempFo
   std::vector<std::pair<std::string, std::string>> reports;
   for (const std::string& name : folder.FilesIn(project)) {
     if (name != "Run record.toml") {
-      const std::string path = folder.Path(project + '/' + name);
+      const std::string path = folder.Path(fmt::format("{}/{}", project, name));
       reports.emplace_back(name, ReadFile(path));
       std::filesystem::remove(path);
     }

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <regex>
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include "base/version.h"
@@ -22,11 +23,10 @@ using test::RunCommand;
 using test::TempFolder;
 using test::Words;
 using test::WorkingFolder;
-using test::operator+;
+using test::operator+;  // NOLINT(misc-unused-using-decls): every + here is it
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::StartsWith;
 
 /// A small study in a folder of its own, which is the working folder: the saved loci go there.
@@ -50,10 +50,10 @@ class SimulateCommand : public testing::Test {
     Arguments arguments = Common() + Arguments{"--sexed"};
     for (const std::string sex : {"male", "female"}) {
       arguments = arguments +
-                  Words("--pseudo-collected-" + sex + "-sample fish --pseudo-collected-" + sex +
-                        "s 2 --uncollected-" + sex + "-sample fish") +
-                  Words("--uncollected-" + sex + "s 2 --estimated-collected-" + sex +
-                        "s 2 --estimated-uncollected-" + sex + "s 1");
+                  Words(fmt::format("--pseudo-collected-{0}-sample fish --uncollected-{0}-sample "
+                                    "fish --pseudo-collected-{0}s 2 --uncollected-{0}s 2 "
+                                    "--estimated-collected-{0}s 2 --estimated-uncollected-{0}s 1",
+                                    sex));
     }
     return arguments;
   }
