@@ -34,7 +34,7 @@ bool IsOneRecord(Line line, RecordLayout layout) {
 std::string FieldCountText(Line line, RecordLayout layout) {
   std::string text = fmt::format("fields after the name: {}, loci named: {}", line.size() - 1,
                                  layout.number_of_loci);
-  if (line.front().text.starts_with('*') && layout.separators == Separators::kNone) {
+  if (IsSeparatorName(line.front().text) && layout.separators == Separators::kNone) {
     text += "; separators are read in parents files only";
   } else if (layout.IsSeparator(line.front().text)) {
     text = "a separator stands alone on its line";

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <span>
 
+#include "genotypes/separator.h"
 #include "genotypes/token_file.h"
 
 namespace kaldo {
@@ -18,7 +19,7 @@ struct RecordLayout {
   Separators separators = Separators::kNone;
 
   bool IsSeparator(std::string_view name) const {
-    return separators == Separators::kAllowed && name.starts_with('*');
+    return separators == Separators::kAllowed && IsSeparatorName(name);
   }
 };
 

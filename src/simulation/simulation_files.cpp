@@ -69,7 +69,7 @@ std::optional<Problem> CheckGroup(const GroupFile& group, const LociList& loci, 
 std::optional<Problem> CheckNoSeparators(const GroupFile& group) {
   const auto tokens = group.tokens.Tokens();
   const auto separator = std::find_if(
-      tokens.begin(), tokens.end(), [](const Token& token) { return token.text.starts_with('*'); });
+      tokens.begin(), tokens.end(), [](const Token& token) { return IsSeparatorName(token.text); });
   if (separator == tokens.end()) {
     return std::nullopt;
   }
