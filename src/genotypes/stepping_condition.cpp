@@ -21,26 +21,15 @@ constexpr std::string_view kHeading =
     "The following loci do not satisfy the stepping condition :\n"
     "\n";
 
-/// The differences between neighbouring sizes, in base pairs.
-std::vector<std::uint32_t> AllelicDistances(std::span<const AlleleSize> sorted_sizes) {
-  std::vector<std::uint32_t> distances;
-  for (std::size_t k = 1; k < sorted_sizes.size(); ++k) {
-    distances.push_back(sorted_sizes[k].Value() - sorted_sizes[k - 1].Value());
-  }
-  return distances;
-}
-
 }  // namespace
 
 bool IsInStep(std::span<const AlleleSize> sorted_sizes) {
   const auto distances = AllelicDistances(sorted_sizes);
-  if (distances.empty()) {
-    return true;
-  }
-  const std::uint32_t smallest = *std::min_element(distances.begin(), distances.end());
-  return smallest != 1 &&
-         std::all_of(distances.begin(), distances.end(),
-                     [smallest](auto distance) { return distance % smallest == 0; });
+  const std::int32_t unit = UnitDistance(sorted_sizes).Value();
+  return distances.empty() ||
+         (unit != 1 && std::all_of(distances.begin(), distances.end(), [unit](BasePairs distance) {
+            return distance.Value() % unit == 0;
+          }));
 }
 
 SteppingReport CheckStepping(const LociList& loci, const AlleleCatalogues& catalogues) {
@@ -56,8 +45,8 @@ SteppingReport CheckStepping(const LociList& loci, const AlleleCatalogues& catal
       report.text += fmt::format("{} ", size.Value());
     }
     report.text += "\n\tAllelic distances : ";
-    for (const std::uint32_t distance : AllelicDistances(sizes)) {
-      report.text += fmt::format("{}  ", distance);
+    for (const BasePairs distance : AllelicDistances(sizes)) {
+      report.text += fmt::format("{}  ", distance.Value());
     }
     report.text += "\n\n";
   }

@@ -8,10 +8,11 @@
 
 namespace kaldo {
 
-/// Whether the alleles of a locus are in step: every difference between neighbouring sizes is a
-/// multiple of the smallest one, and none is 1 bp. Sizes out of step mostly are misread or come
-/// from another laboratory's binning; offsets in unit distances then lose their meaning. A locus
-/// without any size, or with a single one, is in step.
+/// Whether the alleles of a locus are in step: its unit distance (see UnitDistance) is not 1 bp,
+/// and every allelic distance is a multiple of it. That is what alleles of a microsatellite look
+/// like that differ by whole repeats. Sizes out of step mostly are misread or come from another
+/// laboratory's binning; offsets in unit distances then lose their meaning. A locus without any
+/// size, or with a single one, is in step.
 bool IsInStep(std::span<const AlleleSize> sorted_sizes);
 
 /// What a run says when its stepping report lists a locus.
@@ -25,6 +26,8 @@ struct SteppingReport {
   bool any_out_of_step = false;
 };
 
+/// Looks for loci in use that are out of step, over the sorted catalogues of a run. They are told,
+/// not refused: the run goes on with them.
 SteppingReport CheckStepping(const LociList& loci, const AlleleCatalogues& catalogues);
 
 }  // namespace kaldo

@@ -15,6 +15,14 @@ std::int32_t Difference(AlleleSize larger, AlleleSize smaller) {
 
 }  // namespace
 
+std::vector<BasePairs> AllelicDistances(std::span<const AlleleSize> sorted_sizes) {
+  std::vector<BasePairs> distances;
+  for (std::size_t k = 1; k < sorted_sizes.size(); ++k) {
+    distances.emplace_back(Difference(sorted_sizes[k], sorted_sizes[k - 1]));
+  }
+  return distances;
+}
+
 BasePairs UnitDistance(std::span<const AlleleSize> sorted_sizes) {
   if (sorted_sizes.empty()) {
     return BasePairs{0};
@@ -22,6 +30,7 @@ BasePairs UnitDistance(std::span<const AlleleSize> sorted_sizes) {
   if (sorted_sizes.size() == 1) {
     return BasePairs{Difference(kUndefinedAllele, sorted_sizes[0])};
   }
+  // Simulations come here at every iteration and locus: no list of distances is made.
   std::int32_t smallest = Difference(sorted_sizes[1], sorted_sizes[0]);
   for (std::size_t k = 2; k < sorted_sizes.size(); ++k) {
     smallest = std::min(smallest, Difference(sorted_sizes[k], sorted_sizes[k - 1]));
