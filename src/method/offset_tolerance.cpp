@@ -17,7 +17,7 @@ ToleranceVerdict CheckTolerance(std::span<const UnitDistances> offsets, OffsetTo
   ToleranceVerdict verdict;
   for (const UnitDistances offset : offsets) {
     verdict.errors += offset.Value() != 0 ? 1 : 0;
-    verdict.uncollected = verdict.uncollected || offset > tolerance;
+    verdict.uncollected = verdict.uncollected || ExceedsTolerance(offset, tolerance);
   }
   return verdict;
 }

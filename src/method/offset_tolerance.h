@@ -16,13 +16,20 @@ using OffsetTolerance = UnitDistances;
 /// A tolerance is never negative.
 std::optional<Problem> ValidateTolerance(OffsetTolerance tolerance);
 
+/// The rule of the tolerance: an offset greater than it rejects the parent at that locus; one of
+/// exactly the tolerance is accepted.
+constexpr bool ExceedsTolerance(UnitDistances offset, OffsetTolerance tolerance) {
+  return offset > tolerance;
+}
+
 /// What the offsets of one parent over the loci in use say about it.
 struct ToleranceVerdict {
-  bool uncollected = false;  ///< some offset is larger than the tolerance: the parent is UC
+  bool uncollected = false;  ///< some offset exceeds the tolerance: the parent is UC
   int errors = 0;            ///< loci with an offset other than 0
 };
 
-/// An offset of exactly the tolerance is accepted, and counted as an error.
+/// Judges a parent by its offsets at the loci in use, in any order. An accepted offset other than 0
+/// is an error, and so is one that rejects the parent.
 ToleranceVerdict CheckTolerance(std::span<const UnitDistances> offsets, OffsetTolerance tolerance);
 
 }  // namespace kaldo

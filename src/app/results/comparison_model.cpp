@@ -76,7 +76,7 @@ LocusFit FitOf(const LocusComparison& locus, UnitDistances offset, OffsetToleran
   if (offset.Value() == 0) {
     return LocusFit::kExact;
   }
-  return offset > tolerance ? LocusFit::kExcluded : LocusFit::kTolerated;
+  return ExceedsTolerance(offset, tolerance) ? LocusFit::kExcluded : LocusFit::kTolerated;
 }
 
 QString SignOf(LocusFit fit) {
@@ -133,7 +133,7 @@ QString ComparisonModel::VerdictOn(Slot parent, UnitDistances LocusComparison::*
   const OffsetTolerance tolerance = allocation_->settings.tolerance;
   for (std::size_t k = 0; k < comparisons_.size(); ++k) {
     offsets.push_back(comparisons_[k].*offset);
-    if (FitOf(comparisons_[k], offsets.back(), tolerance) == LocusFit::kExcluded) {
+    if (ExceedsTolerance(offsets.back(), tolerance)) {
       excluding += Text(Input().loci.Name(Loci().loci[k]));
     }
   }
