@@ -67,7 +67,7 @@ class Study {
 
   const GenotypeTable& Table() const { return table_; }
   std::span<const LocusIndex> Loci() const { return loci_; }
-  Candidates Parents() const { return {Flow::kNonSexed, groups_, {}}; }
+  Candidates Parents() const { return {.flow = Flow::kNonSexed, .groups = groups_, .names = {}}; }
   Slot Offspring(std::uint32_t i) const { return Slot{parents_ + i}; }
 
  private:
@@ -191,7 +191,11 @@ void Row(const Shape& shape, std::string_view name, const ErrorModel& model,
   std::vector<AllocationOutcome> of_search(shape.offspring);
   const auto search_all = [&] {
     PairSearcher searcher;
-    searcher.Prepare(study.Table(), shape.parents, study.Loci(), matrices, study.Parents());
+    searcher.Prepare({.table = study.Table(),
+                      .parents = shape.parents,
+                      .loci = study.Loci(),
+                      .matrices = matrices},
+                     study.Parents());
     for (std::uint32_t i = 0; i < shape.offspring; ++i) {
       of_search[i] = searcher.Search(study.Offspring(i), observer);
     }

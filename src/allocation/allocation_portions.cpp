@@ -61,8 +61,12 @@ class AllocationWorker final : public PortionWorker {
       return;
     }
     loci_ = LociOfCombination(input_, input_.combinations.at(combination));
-    searcher_.Prepare(input_.table, input_.Parents().Size(), loci_.loci, matrices_,
-                      {settings_.flow, input_.groups, input_.table.Names()});
+    searcher_.Prepare(
+        {.table = input_.table,
+         .parents = input_.Parents().Size(),
+         .loci = loci_.loci,
+         .matrices = matrices_},
+        {.flow = settings_.flow, .groups = input_.groups, .names = input_.table.Names()});
     combination_ = combination;
   }
 

@@ -17,6 +17,12 @@ class StrongNumber {
 
   constexpr Representation Value() const { return value_; }
 
+  /// Steps to the next number, for walks over places.
+  constexpr StrongNumber& operator++() {
+    ++value_;
+    return *this;
+  }
+
   friend constexpr auto operator<=>(StrongNumber, StrongNumber) = default;
 
  private:

@@ -3,17 +3,15 @@
 
 #include <cassert>
 
-namespace kaldo {
+#include "genotypes/separator.h"
 
-SlotRange PartnersOf(Flow flow, const CandidateGroup& group, std::uint32_t first_parent) {
-  return flow == Flow::kSexed ? group.second : SlotRange{first_parent + 1, group.second.end};
-}
+namespace kaldo {
 
 std::vector<SlotRange> CutAtSeparators(const GenotypeTable& table, SlotRange parents) {
   std::vector<SlotRange> groups;
   std::uint32_t begin = parents.begin;
   for (std::uint32_t slot = parents.begin; slot < parents.end; ++slot) {
-    if (table.Name(Slot{slot}).Text().starts_with('*')) {
+    if (IsSeparatorName(table.Name(Slot{slot}).Text())) {
       groups.push_back({begin, slot});
       begin = slot + 1;
     }

@@ -41,17 +41,17 @@ void MultiplyLoci(const TransmissionScores& scores, std::size_t first_parent, st
 
 }  // namespace
 
-void ScanRowOfPairs(const TransmissionScores& scores, std::uint32_t first_parent,
-                    SlotRange partners, KeptPairs& kept) {
+void ScanRowOfPairs(const TransmissionScores& scores, Slot first_parent, SlotRange partners,
+                    KeptPairs& kept) {
   Likelihoods likelihoods;
   for (std::size_t begin = partners.begin; begin < partners.end; begin += kPartnersAtOnce) {
     const std::size_t count = std::min(kPartnersAtOnce, partners.end - begin);
-    MultiplyLoci(scores, first_parent, begin, std::span(likelihoods).first(count));
+    MultiplyLoci(scores, first_parent.Value(), begin, std::span(likelihoods).first(count));
     for (std::size_t i = 0; i < count; ++i) {
       if (!kept.Matters(likelihoods[i])) {
         continue;
       }
-      const ParentPair pair{Slot{first_parent}, Slot{static_cast<std::uint32_t>(begin + i)}};
+      const ParentPair pair{first_parent, Slot{static_cast<std::uint32_t>(begin + i)}};
       if (kept.Show(pair, likelihoods[i]) == AfterPair::kLeaveRow) {
         return;
       }
@@ -68,7 +68,7 @@ AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& 
       if (observer.StopRequested()) {
         throw RunStopped();
       }
-      ScanRowOfPairs(scores, parent, PartnersOf(candidates.flow, group, parent), kept);
+      ScanRowOfPairs(scores, Slot{parent}, PartnersOf(candidates.flow, group, parent), kept);
     }
   }
   return OutcomeOf(kept);

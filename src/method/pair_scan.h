@@ -33,8 +33,8 @@ AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& 
 
 /// One row of that scan: `first_parent` with the partners given. `kept` holds what the scan has met
 /// before.
-void ScanRowOfPairs(const TransmissionScores& scores, std::uint32_t first_parent,
-                    SlotRange partners, KeptPairs& kept);
+void ScanRowOfPairs(const TransmissionScores& scores, Slot first_parent, SlotRange partners,
+                    KeptPairs& kept);
 
 /// The search part of an outcome.
 AllocationOutcome OutcomeOf(const KeptPairs& kept);

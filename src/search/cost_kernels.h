@@ -8,7 +8,7 @@
 namespace kaldo {
 
 /// Parents are looked at in blocks of this many.
-inline constexpr std::size_t kBlock = 64;
+inline constexpr std::uint32_t kBlock = 64;
 
 // The inner loops of the pair search. They work on integers and masks only, so that every processor
 // gives the same result; the widest vectors that the machine has are chosen when the program runs.

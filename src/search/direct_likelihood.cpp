@@ -3,25 +3,24 @@
 
 namespace kaldo {
 
-void DirectLikelihood::Prepare(const GenotypeTable& table, std::size_t parents,
-                               std::span<const LocusIndex> loci,
-                               std::span<const TransmissionMatrix> matrices) {
-  loci_.resize(loci.size());
-  of_parents_.resize(parents * loci.size());
-  for (std::size_t k = 0; k < loci.size(); ++k) {
-    const auto genotypes = table.Locus(loci[k]);
-    loci_[k] = {genotypes, &matrices[loci[k].Value()]};
-    for (std::size_t parent = 0; parent < parents; ++parent) {
-      of_parents_[parent * loci.size() + k] = {genotypes[parent].index1.Value(),
-                                               genotypes[parent].index2.Value()};
+void DirectLikelihood::Prepare(const SearchStudy& study) {
+  const std::size_t loci = study.loci.size();
+  loci_.resize(loci);
+  of_parents_.resize(study.parents * loci);
+  for (std::size_t k = 0; k < loci; ++k) {
+    const auto genotypes = study.Genotypes(k);
+    loci_[k] = {.genotypes = genotypes, .matrix = &study.Matrix(k)};
+    for (std::size_t parent = 0; parent < study.parents; ++parent) {
+      of_parents_[parent * loci + k] = {.first = genotypes[parent].index1.Value(),
+                                        .second = genotypes[parent].index2.Value()};
     }
   }
 }
 
-double DirectLikelihood::Of(Slot offspring, std::span<const std::uint32_t> typed_loci, Slot parent1,
-                            Slot parent2) const {
-  const Alleles* const alleles1 = of_parents_.data() + parent1.Value() * loci_.size();
-  const Alleles* const alleles2 = of_parents_.data() + parent2.Value() * loci_.size();
+double DirectLikelihood::Likelihood(Slot offspring, std::span<const std::uint32_t> typed_loci,
+                                    ParentPair pair) const {
+  const Alleles* const alleles1 = of_parents_.data() + pair.parent1.Value() * loci_.size();
+  const Alleles* const alleles2 = of_parents_.data() + pair.parent2.Value() * loci_.size();
   double product = 1;  // 1 times the first factor is that factor
   for (const std::uint32_t k : typed_loci) {
     const LocusGenotype& genotype = loci_[k].genotypes[offspring.Value()];

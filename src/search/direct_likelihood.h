@@ -5,8 +5,8 @@
 #include <span>
 #include <vector>
 
-#include "genotypes/genotype_table.h"
-#include "method/transmission_matrix.h"
+#include "method/kept_pairs.h"
+#include "search/search_study.h"
 
 namespace kaldo {
 
@@ -14,14 +14,12 @@ namespace kaldo {
 /// that has to be prepared for an offspring, where hardly any pair is worth a look.
 class DirectLikelihood {
  public:
-  /// For the arguments see PossibleParents.
-  void Prepare(const GenotypeTable& table, std::size_t parents, std::span<const LocusIndex> loci,
-               std::span<const TransmissionMatrix> matrices);
+  void Prepare(const SearchStudy& study);
 
-  /// The likelihood of a pair at the loci of the run at which the offspring is typed, from the same
-  /// expressions in the same order as in the plain scan.
-  double Of(Slot offspring, std::span<const std::uint32_t> typed_loci, Slot parent1,
-            Slot parent2) const;
+  /// The likelihood of a pair at the loci at which the offspring is typed, given by their places in
+  /// the run. From the same expressions in the same order as in the plain scan.
+  double Likelihood(Slot offspring, std::span<const std::uint32_t> typed_loci,
+                    ParentPair pair) const;
 
  private:
   struct Alleles {

@@ -14,13 +14,12 @@ constexpr double kLargestSideRatio = 0.25;
 
 /// The largest share of a probability that goes to some other allele, twice (a parent has two),
 /// over the smallest that stays: the ratio of scores of a parent that carries one of R and J
-/// exactly. Nothing when the bounds do not hold for these matrices.
-std::optional<double> RatioOf(std::span<const TransmissionMatrix> matrices,
-                              std::span<const LocusIndex> loci) {
+/// exactly. Nothing where a probability is negative.
+std::optional<double> RatioOfExactCarriers(const SearchStudy& study) {
   double largest_other = 0;
   double smallest_own = 1;
-  for (const LocusIndex locus : loci) {
-    const TransmissionMatrix& matrix = matrices[locus.Value()];
+  for (std::size_t k = 0; k < study.loci.size(); ++k) {
+    const TransmissionMatrix& matrix = study.Matrix(k);
     for (std::size_t i = 0; i < matrix.Alleles(); ++i) {
       for (std::size_t j = 0; j < matrix.Alleles(); ++j) {
         if (!(matrix(i, j) >= 0)) {
@@ -39,28 +38,27 @@ std::optional<double> RatioOf(std::span<const TransmissionMatrix> matrices,
 
 }  // namespace
 
-void GenotypeBounds::Prepare(const GenotypeTable& table, std::size_t parents,
-                             std::span<const LocusIndex> loci,
-                             std::span<const TransmissionMatrix> matrices) {
-  const auto ratio = RatioOf(matrices, loci);
-  hold_ = ratio.has_value();
+void GenotypeBounds::Prepare(const SearchStudy& study) {
+  const auto ratio = RatioOfExactCarriers(study);
+  sound_ = ratio.has_value();
   side_ratio_ = ratio.value_or(kLargestSideRatio);
-  loci_.resize(loci.size());
-  classes_by_parent_.resize(parents * loci.size());
-  for (std::size_t k = 0; k < loci.size(); ++k) {
+  const std::size_t loci = study.loci.size();
+  loci_.resize(loci);
+  classes_by_parent_.resize(study.parents * loci);
+  for (std::size_t k = 0; k < loci; ++k) {
     Locus& locus = loci_[k];
-    locus.genotypes = table.Locus(loci[k]);
-    locus.matrix = &matrices[loci[k].Value()];
+    locus.genotypes = study.Genotypes(k);
+    locus.matrix = &study.Matrix(k);
     locus.alleles = locus.matrix->Alleles();
-    locus.places.assign(locus.alleles * locus.alleles, kNoBounds);
-    locus.classes.Sort(locus.genotypes.first(parents), locus.alleles);
+    locus.numbers.assign(locus.alleles * locus.alleles, kNoBounds);
+    locus.classes.Sort(study.ParentGenotypes(k), locus.alleles);
     const auto of_parents = locus.classes.OfParents();
-    for (std::size_t parent = 0; parent < parents; ++parent) {
-      classes_by_parent_[parent * loci.size() + k] = of_parents[parent];
+    for (std::size_t parent = 0; parent < study.parents; ++parent) {
+      classes_by_parent_[parent * loci + k] = of_parents[parent];
     }
   }
   in_use_ = 0;
-  LimitMemory(parents);
+  LimitMemory(study.parents);
 }
 
 void GenotypeBounds::LimitMemory(std::size_t parents) {
@@ -68,7 +66,7 @@ void GenotypeBounds::LimitMemory(std::size_t parents) {
   for (const Locus& locus : loci_) {
     classes = std::max(classes, locus.classes.Count());
   }
-  // Per class its scores, a cost and marks; per parent a cost.
+  // Per class its scores, a cost and a leaning; per parent a cost.
   const std::size_t bytes_each =
       sizeof(LocusBounds) + classes * (sizeof(LocusBounds::Scores) + 2) + parents;
   most_ = std::max(bytes_ / bytes_each, loci_.size());
@@ -77,7 +75,7 @@ void GenotypeBounds::LimitMemory(std::size_t parents) {
 void GenotypeBounds::MakeRoom() {
   if (in_use_ + loci_.size() > most_) {
     for (Locus& locus : loci_) {
-      std::fill(locus.places.begin(), locus.places.end(), kNoBounds);
+      std::fill(locus.numbers.begin(), locus.numbers.end(), kNoBounds);
     }
     in_use_ = 0;
   }
@@ -90,9 +88,9 @@ void GenotypeBounds::MakeRoom() {
 LocusBounds& GenotypeBounds::Add(std::size_t k, const LocusGenotype& offspring) {
   Locus& locus = loci_[k];
   // Both orders of the offspring's alleles share their bounds.
-  const auto place = static_cast<std::int32_t>(in_use_);
-  locus.places[Pair(locus, offspring.index1, offspring.index2)] = place;
-  locus.places[Pair(locus, offspring.index2, offspring.index1)] = place;
+  const auto number = static_cast<std::int32_t>(in_use_);
+  locus.numbers[Pair(locus, offspring.index1, offspring.index2)] = number;
+  locus.numbers[Pair(locus, offspring.index2, offspring.index1)] = number;
   LocusBounds& bounds = bounds_[in_use_];
   ++in_use_;
   bounds.Build(locus.classes, *locus.matrix, offspring.index1, offspring.index2, side_ratio_);

@@ -5,10 +5,9 @@
 #include <span>
 #include <vector>
 
-#include "genotypes/genotype_table.h"
-#include "method/transmission_matrix.h"
 #include "search/locus_bounds.h"
 #include "search/parent_classes.h"
+#include "search/search_study.h"
 
 namespace kaldo {
 
@@ -24,34 +23,33 @@ class GenotypeBounds {
 
   explicit GenotypeBounds(std::size_t bytes = kBytes) : bytes_(bytes) {}
 
-  /// All that is passed must outlive the object, and no individual may be added to the table.
-  void Prepare(const GenotypeTable& table, std::size_t parents, std::span<const LocusIndex> loci,
-               std::span<const TransmissionMatrix> matrices);
+  void Prepare(const SearchStudy& study);
 
   std::size_t Loci() const { return loci_.size(); }
 
   /// False where probabilities are negative: then no bound says anything about a likelihood.
-  bool Hold() const { return hold_; }
+  bool AreSound() const { return sound_; }
 
-  /// The ratio of scores that makes a class one-sided; see MarkCosts.
+  /// The ratio of scores that makes a class one-sided; see ClashCosts.
   double SideRatio() const { return side_ratio_; }
 
-  /// Makes room for one offspring. What Of() returned for earlier ones may be gone afterwards.
+  /// Makes room for one offspring. What BoundsFor() returned for earlier ones may be gone
+  /// afterwards.
   void MakeRoom();
 
   /// The bounds of an offspring's genotype, not missing, at the k-th locus of the run.
-  LocusBounds& Of(std::size_t k, Slot offspring) {
+  LocusBounds& BoundsFor(std::size_t k, Slot offspring) {
     const Locus& locus = loci_[k];
     const LocusGenotype& genotype = locus.genotypes[offspring.Value()];
-    const std::int32_t place = locus.places[Pair(locus, genotype.index1, genotype.index2)];
-    return place != kNoBounds ? bounds_[static_cast<std::size_t>(place)] : Add(k, genotype);
+    const std::int32_t number = locus.numbers[Pair(locus, genotype.index1, genotype.index2)];
+    return number != kNoBounds ? bounds_[static_cast<std::size_t>(number)] : Add(k, genotype);
   }
 
   const ParentClasses& Classes(std::size_t k) const { return loci_[k].classes; }
 
   /// The classes of one parent at all loci of the run.
-  const std::uint16_t* ClassesOf(std::uint32_t parent) const {
-    return classes_by_parent_.data() + parent * loci_.size();
+  const std::uint16_t* ClassesOf(Slot parent) const {
+    return classes_by_parent_.data() + parent.Value() * loci_.size();
   }
 
  private:
@@ -61,7 +59,7 @@ class GenotypeBounds {
     std::span<const LocusGenotype> genotypes;
     const TransmissionMatrix* matrix = nullptr;
     std::size_t alleles = 0;
-    std::vector<std::int32_t> places;  ///< in bounds_ by (r, j), or kNoBounds
+    std::vector<std::int32_t> numbers;  ///< in bounds_ by (r, j), or kNoBounds
     ParentClasses classes;
   };
 
@@ -74,7 +72,7 @@ class GenotypeBounds {
 
   std::vector<Locus> loci_;
   std::vector<std::uint16_t> classes_by_parent_;  ///< by slot and locus of the run
-  bool hold_ = true;
+  bool sound_ = true;
   double side_ratio_ = 0;
   std::vector<LocusBounds> bounds_;
   std::size_t in_use_ = 0;

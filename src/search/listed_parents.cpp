@@ -2,7 +2,6 @@
 #include "search/listed_parents.h"
 
 #include <algorithm>
-#include <bit>
 #include <numeric>
 
 namespace kaldo {
@@ -21,24 +20,23 @@ constexpr std::size_t kFewOneIn = 8;
 void ListedParents::Prepare(std::size_t parents) {
   const std::size_t blocks = (parents + kBlock - 1) / kBlock;
   all_slots_.resize(parents);
-  std::iota(all_slots_.begin(), all_slots_.end(), 0U);
+  std::iota(all_slots_.begin(), all_slots_.end(), Slot{0});
   some_slots_.resize(parents);
   all_costs_.resize(blocks * kBlock);
   some_costs_.resize(blocks * kBlock);
   block_minima_.resize(blocks);
   minima_of_blocks_.resize(blocks / kBlocksAtOnce + 1);
-  marks_known_.resize(blocks);
+  leanings_known_.resize(blocks);
 }
 
 bool ListedParents::ListPossible(const PossibleParents& parents) {
   const auto possible = parents.Bits();
   const std::size_t most = all_slots_.size() * kListPercent / 100;
-  std::uint32_t* const slots = some_slots_.data();
+  Slot* const slots = some_slots_.data();
   std::size_t count = 0;
-  for (std::size_t block = 0; block < possible.size(); ++block) {
+  for (std::uint32_t block = 0; block < possible.size(); ++block) {
     for (std::uint64_t rest = possible[block]; rest != 0; rest &= rest - 1) {
-      slots[count] = static_cast<std::uint32_t>(block * kBlock) +
-                     static_cast<std::uint32_t>(std::countr_zero(rest));
+      slots[count] = Slot{block * kBlock + static_cast<std::uint32_t>(std::countr_zero(rest))};
       ++count;
     }
     if (count > most) {
@@ -60,10 +58,10 @@ void ListedParents::List(const PossibleParents& possible) {
 void ListedParents::AddUpCosts(OffspringBounds& offspring) {
   const std::size_t parents = all_slots_.size();
   blocks_ = static_cast<std::uint32_t>((count_ + kBlock - 1) / kBlock);
-  if (marks_.size() < count_ * offspring.MarkWords()) {
-    marks_.resize(parents * offspring.MarkWords());
+  if (leanings_.size() < count_ * offspring.LeaningWords()) {
+    leanings_.resize(parents * offspring.LeaningWords());
   }
-  std::fill_n(marks_known_.begin(), blocks_, std::uint64_t{0});
+  std::fill_n(leanings_known_.begin(), blocks_, std::uint64_t{0});
   if (AllListed()) {
     offspring.AddUpCosts(kImpossible, all_costs_, block_minima_);
     costs_ = all_costs_.data();
@@ -84,8 +82,8 @@ void ListedParents::AddUpCostsOfSome(OffspringBounds& offspring) {
     offspring.AddUpCosts(kImpossible, all_costs_, block_minima_);
   }
   for (std::uint32_t place = 0; place < count_; ++place) {
-    const std::uint32_t slot = slots_[place];
-    some_costs_[place] = one_by_one ? offspring.CostOf(slot) : all_costs_[slot];
+    const Slot slot = slots_[place];
+    some_costs_[place] = one_by_one ? offspring.Cost(slot) : all_costs_[slot.Value()];
   }
   std::fill(some_costs_.begin() + count_,
             some_costs_.begin() + static_cast<std::ptrdiff_t>(blocks_ * kBlock), kImpossible);
@@ -95,12 +93,13 @@ void ListedParents::AddUpCostsOfSome(OffspringBounds& offspring) {
   }
 }
 
-SlotRange ListedParents::PlacesOf(SlotRange slots) const {
+PlaceRange ListedParents::PlacesOf(SlotRange slots) const {
   if (AllListed()) {
-    return slots;
+    return {Place{slots.begin}, Place{slots.end}};
   }
   const auto place_of = [this](std::uint32_t slot) {
-    return static_cast<std::uint32_t>(std::lower_bound(slots_, slots_ + count_, slot) - slots_);
+    return Place{
+        static_cast<std::uint32_t>(std::lower_bound(slots_, slots_ + count_, Slot{slot}) - slots_)};
   };
   return {place_of(slots.begin), place_of(slots.end)};
 }

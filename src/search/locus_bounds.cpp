@@ -8,7 +8,7 @@
 
 #include "genotypes/capacities.h"
 #include "search/cost_kernels.h"
-#include "search/giving_marks.h"
+#include "search/leanings.h"
 
 namespace kaldo {
 
@@ -35,19 +35,19 @@ double LogLength(double r, double j) {
   return std::log(larger) + 0.5 * std::log1p(ratio * ratio);
 }
 
-/// Logarithms of lengths and marks of the last few scores: under every model of error most classes
-/// share theirs.
+/// Logarithms of lengths, and leanings, of the last few scores: under every model of error most
+/// classes share theirs.
 class Measures {
  public:
   struct Measure {
     LocusBounds::Scores scores;
     double log_length;
-    std::uint8_t marks;
+    std::uint8_t leaning;
   };
 
   explicit Measures(double side_ratio) : side_ratio_(side_ratio) {}
 
-  const Measure& Of(LocusBounds::Scores scores) {
+  const Measure& Find(LocusBounds::Scores scores) {
     for (std::size_t i = 0; i < in_use_; ++i) {
       if (known_[i].scores.r == scores.r && known_[i].scores.j == scores.j) {
         return known_[i];
@@ -56,7 +56,7 @@ class Measures {
     Measure& measure = known_[next_];
     next_ = (next_ + 1) % known_.size();
     in_use_ = std::min(in_use_ + 1, known_.size());
-    measure = {scores, LogLength(scores.r, scores.j), MarksOf(scores.r, scores.j, side_ratio_)};
+    measure = {scores, LogLength(scores.r, scores.j), LeaningOf(scores.r, scores.j, side_ratio_)};
     return measure;
   }
 
@@ -80,7 +80,7 @@ void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& 
   const std::size_t classes = parents.Count();
   scores.resize(classes);
   cost_of_class.resize(classes);
-  marks_of_class.resize(classes);
+  leaning_of_class.resize(classes);
   std::array<double, kMostClasses> log_lengths;
   Measures measures(side_ratio);
   log_largest = -std::numeric_limits<double>::infinity();
@@ -91,8 +91,8 @@ void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& 
     // The same sums as in the plain scan, so that products tie where they tie there.
     scores[number] = {matrix(p1, r.Value()) + matrix(p2, r.Value()),
                       matrix(p1, j.Value()) + matrix(p2, j.Value())};
-    const Measures::Measure& measure = measures.Of(scores[number]);
-    marks_of_class[number] = measure.marks;
+    const Measures::Measure& measure = measures.Find(scores[number]);
+    leaning_of_class[number] = measure.leaning;
     log_lengths[number] = measure.log_length;
     log_largest = std::max(log_largest, measure.log_length);
   }

@@ -30,13 +30,13 @@ struct LocusBounds {
   double log_largest = 0;      ///< logarithm of the largest |v|
   std::vector<Scores> scores;  ///< by class
   std::vector<std::uint8_t> cost_of_class;
-  std::vector<std::uint8_t> marks_of_class;  ///< see giving_marks.h
+  std::vector<std::uint8_t> leaning_of_class;  ///< see leanings.h
 
   /// Costs by slot, up to a multiple of kBlock; empty until AddCostsOfParents().
   std::vector<std::uint8_t> costs;
 
   /// Works out all but the costs of the single parents. The two alleles may be exchanged: the
-  /// factor of a pair stays the same to the last bit. For `side_ratio` see MarkCosts.
+  /// factor of a pair stays the same to the last bit. For `side_ratio` see ClashCosts.
   void Build(const ParentClasses& parents, const TransmissionMatrix& matrix, AlleleIndex r,
              AlleleIndex j, double side_ratio);
 

@@ -6,8 +6,9 @@
 #include <span>
 #include <vector>
 
+#include "method/kept_pairs.h"
 #include "search/genotype_bounds.h"
-#include "search/giving_marks.h"
+#include "search/leanings.h"
 #include "search/possible_parents.h"
 
 namespace kaldo {
@@ -17,9 +18,7 @@ class OffspringBounds {
  public:
   explicit OffspringBounds(std::size_t bytes = GenotypeBounds::kBytes) : bounds_(bytes) {}
 
-  /// For the arguments see GenotypeBounds.
-  void Prepare(const GenotypeTable& table, std::size_t parents, std::span<const LocusIndex> loci,
-               std::span<const TransmissionMatrix> matrices);
+  void Prepare(const SearchStudy& study);
 
   /// Goes over to an offspring, of which the possible parents are known already. They must outlive
   /// what is asked about it.
@@ -29,15 +28,16 @@ class OffspringBounds {
   double LogLargest() const { return 2 * log_largest_; }
 
   /// False where the bounds say nothing about a likelihood; costs are 0 then.
-  bool Hold() const { return bounds_.Hold(); }
+  bool AreSound() const { return bounds_.AreSound(); }
 
-  const MarkCosts& CostsOfMarks() const { return mark_costs_; }
-  std::size_t MarkWords() const { return mark_words_; }
+  const ClashCosts& CostsOfClashes() const { return clash_costs_; }
+  std::size_t LeaningWords() const { return leaning_words_; }
 
-  /// The marks of one parent, into so many words.
-  void MarksOfParent(std::uint32_t parent, std::uint64_t* marks) const;
+  /// The leanings of one parent, into so many words.
+  void WriteLeanings(Slot parent, std::uint64_t* words) const;
 
-  std::uint16_t CostOf(std::uint32_t parent) const;
+  /// The cost of one parent over all loci.
+  std::uint16_t Cost(Slot parent) const;
 
   /// The costs of all parents by slot, filled up to whole blocks, with the smallest of each block.
   /// One that is not possible gets `impossible`.
@@ -45,20 +45,20 @@ class OffspringBounds {
                   std::span<std::uint16_t> minima);
 
   /// The likelihood of a pair, from the same expressions in the same order as in the plain scan.
-  double Likelihood(std::uint32_t one, std::uint32_t two) const;
+  double Likelihood(ParentPair pair) const;
 
  private:
   GenotypeBounds bounds_;
-  MarkCosts mark_costs_;
+  ClashCosts clash_costs_;
   double log_largest_ = 0;
 
   // At the loci at which the offspring is typed:
   std::span<const std::uint32_t> typed_;
   std::span<const std::uint64_t> possible_;
-  std::size_t mark_words_ = 0;
+  std::size_t leaning_words_ = 0;
   std::array<LocusBounds*, kMaxLoci> bounds_at_{};
   std::array<const LocusBounds::Scores*, kMaxLoci> scores_at_{};
-  std::array<const std::uint8_t*, kMaxLoci> marks_at_{};
+  std::array<const std::uint8_t*, kMaxLoci> leanings_at_{};
   std::array<const std::uint8_t*, kMaxLoci> costs_at_{};
   std::vector<const std::uint8_t*> cost_rows_;
 };

@@ -2,7 +2,6 @@
 #include "search/pair_searcher.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 
 #include "base/problem.h"
@@ -34,56 +33,32 @@ constexpr std::uint64_t kPairsToTell = 32;
 constexpr std::uint32_t kFewestPlainRows = 16;
 constexpr std::uint32_t kMostPlainRows = 256;
 
-std::uint64_t MaskOfRange(std::uint32_t block, SlotRange range) {
-  const auto begin = static_cast<std::uint32_t>(block * kBlock);
-  const std::uint32_t first = range.begin > begin ? range.begin - begin : 0;
-  const std::uint32_t last = std::min<std::uint32_t>(range.end - begin, kBlock);
-  const std::uint64_t below_last =
-      last == kBlock ? ~std::uint64_t{0} : (std::uint64_t{1} << last) - 1;
-  return first >= last ? 0 : below_last & (~std::uint64_t{0} << first);
-}
-
-/// The place of the lowest bit of a block's mask.
-std::uint32_t PlaceOf(std::uint32_t block, std::uint64_t mask) {
-  return block * static_cast<std::uint32_t>(kBlock) +
-         static_cast<std::uint32_t>(std::countr_zero(mask));
-}
-
-std::uint32_t BlockOf(std::uint32_t place) { return place / static_cast<std::uint32_t>(kBlock); }
-
 }  // namespace
 
-void PairSearcher::Prepare(const GenotypeTable& table, std::size_t parents,
-                           std::span<const LocusIndex> loci,
-                           std::span<const TransmissionMatrix> matrices,
-                           const Candidates& candidates) {
-  table_ = &table;
-  matrices_ = matrices;
-  loci_.assign(loci.begin(), loci.end());
+void PairSearcher::Prepare(const SearchStudy& study, const Candidates& candidates) {
+  study_.emplace(study);
   candidates_ = candidates;
-  parents_ = static_cast<std::uint32_t>(parents);
-  if (parents > kFewToScan) {
-    possible_.Prepare(table, parents, loci, matrices);
-    direct_.Prepare(table, parents, loci, matrices);
-    bounds_.Prepare(table, parents, loci, matrices);
-    listed_.Prepare(parents);
-    partner_minima_.resize(parents / kBlock + 1);
+  if (study.parents > kFewToScan) {
+    possible_.Prepare(study);
+    direct_.Prepare(study);
+    bounds_.Prepare(study);
+    listed_.Prepare(study.parents);
+    partner_minima_.resize(study.parents / kBlock + 1);
   }
 }
 
 void PairSearcher::Tighten(double best) {
   limit_ = kNoLimit;
-  if (bounds_.Hold() && best >= kSmallestTrusted) {
+  if (bounds_.AreSound() && best >= kSmallestTrusted) {
     const double costs = kCostsPerNat * (bounds_.LogLargest() - std::log(best)) + kLimitMargin;
     // At least 0, so that cutting off the fraction rounds down.
     limit_ = static_cast<std::int32_t>(std::clamp(costs, 0.0, double{kNoLimit}));
   }
 }
 
-AfterPair PairSearcher::Multiply(std::uint32_t first_parent, std::uint32_t partner,
-                                 KeptPairs& kept) {
-  const ParentPair pair{Slot{listed_.SlotAt(first_parent)}, Slot{listed_.SlotAt(partner)}};
-  const double likelihood = bounds_.Likelihood(pair.parent1.Value(), pair.parent2.Value());
+AfterPair PairSearcher::Multiply(Place first_parent, Place partner, KeptPairs& kept) {
+  const ParentPair pair = listed_.PairAt(first_parent, partner);
+  const double likelihood = bounds_.Likelihood(pair);
   ++work_.multiplied;
   if (!kept.Matters(likelihood)) {
     return AfterPair::kGoOn;
@@ -96,41 +71,37 @@ AfterPair PairSearcher::Multiply(std::uint32_t first_parent, std::uint32_t partn
   return after;
 }
 
-bool PairSearcher::MarksAllow(std::uint32_t first_parent, std::uint32_t partner,
-                              std::int32_t cost) {
-  const auto wanted = std::span(wanted_marks_).first(bounds_.MarkWords());
+bool PairSearcher::LeaningsAllow(Place first_parent, Place partner, std::int32_t cost) {
+  const auto wanted = std::span(wanted_leanings_).first(bounds_.LeaningWords());
   if (!wanted_are_known_) {
-    const std::uint64_t* const marks = listed_.MarksAt(bounds_, first_parent);
-    std::transform(marks, marks + wanted.size(), wanted.begin(), WantedMarks);
+    const std::uint64_t* const leanings = listed_.LeaningsAt(bounds_, first_parent);
+    std::transform(leanings, leanings + wanted.size(), wanted.begin(), WantedLeanings);
     wanted_are_known_ = true;
   }
-  const MarkClash clash = CompareMarks(wanted, listed_.MarksAt(bounds_, partner));
-  return !clash.is_impossible && cost + bounds_.CostsOfMarks().Of(clash) <= limit_;
+  const LeaningClash clash = CompareLeanings(wanted, listed_.LeaningsAt(bounds_, partner));
+  return !clash.is_impossible && cost + bounds_.CostsOfClashes().Cost(clash) <= limit_;
 }
 
-void PairSearcher::ScanRowByBounds(std::uint32_t first_parent, SlotRange partners,
-                                   KeptPairs& kept) {
-  const std::uint16_t* const costs = listed_.Costs();
-  const std::int32_t own_cost = costs[first_parent];
-  const std::uint32_t end = BlockOf(partners.end - 1) + 1;
+void PairSearcher::ScanRowByBounds(Place first_parent, PlaceRange partners, KeptPairs& kept) {
+  const std::int32_t own_cost = listed_.CostAt(first_parent);
+  const std::uint32_t end = BlockOf(partners.Last()) + 1;
   wanted_are_known_ = false;
   for (std::uint32_t block = BlockOf(partners.begin); block < end; ++block) {
     const std::int32_t left = limit_ - own_cost;
-    if (block % ListedParents::kBlocksAtOnce == 0 &&
-        listed_.MinimumOfBlocks(block / ListedParents::kBlocksAtOnce) > left) {
+    if (block % ListedParents::kBlocksAtOnce == 0 && listed_.MinimumOfBlocksFrom(block) > left) {
       block += ListedParents::kBlocksAtOnce - 1;
       continue;
     }
     if (listed_.BlockMinimum(block) > left) {
       continue;
     }
-    std::uint64_t rest = MaskAtMost(costs + block * kBlock, static_cast<std::uint16_t>(left)) &
+    std::uint64_t rest = MaskAtMost(listed_.CostsOfBlock(block), static_cast<std::uint16_t>(left)) &
                          MaskOfRange(block, partners);
     for (; rest != 0; rest &= rest - 1) {
-      const std::uint32_t partner = PlaceOf(block, rest);
-      const std::int32_t cost = own_cost + costs[partner];
+      const Place partner = LowestPlace(block, rest);
+      const std::int32_t cost = own_cost + listed_.CostAt(partner);
       // The limit may have come down inside the block.
-      if (cost <= limit_ && MarksAllow(first_parent, partner, cost) &&
+      if (cost <= limit_ && LeaningsAllow(first_parent, partner, cost) &&
           Multiply(first_parent, partner, kept) == AfterPair::kLeaveRow) {
         return;
       }
@@ -138,39 +109,42 @@ void PairSearcher::ScanRowByBounds(std::uint32_t first_parent, SlotRange partner
   }
 }
 
+SlotRange PairSearcher::SlotsAcross(PlaceRange partners) const {
+  return {listed_.SlotAt(partners.begin).Value(), listed_.SlotAt(partners.Last()).Value() + 1};
+}
+
 /// Whether so many partners stay within the limit that scanning them all plainly is quicker.
-bool PairSearcher::IsCrowded(std::uint32_t first_parent, SlotRange partners) const {
-  const std::int32_t left = limit_ - listed_.Costs()[first_parent];
-  const std::uint32_t slots = listed_.SlotAt(partners.end - 1) - listed_.SlotAt(partners.begin) + 1;
+bool PairSearcher::IsCrowded(Place first_parent, PlaceRange partners) const {
+  const std::int32_t left = limit_ - listed_.CostAt(first_parent);
   std::uint32_t within = 0;
-  for (std::uint32_t place = partners.begin; place < partners.end; ++place) {
-    within += listed_.Costs()[place] <= left ? 1 : 0;
+  for (Place place = partners.begin; place < partners.end; ++place) {
+    within += listed_.CostAt(place) <= left ? 1 : 0;
   }
-  return within * kPlainShare >= slots;
+  return within * kPlainShare >= SlotsAcross(partners).Size();
 }
 
 void PairSearcher::ScoreParents() {
-  if (scores_.Loci() != loci_.size() || scores_.R(0).size() != parents_) {
-    scores_ = TransmissionScores(loci_.size(), parents_);
+  const std::size_t loci = study_->loci.size();
+  if (scores_.Loci() != loci || scores_.R(0).size() != study_->parents) {
+    scores_ = TransmissionScores(loci, study_->parents);
   }
-  ComputeTransmissionScores(*table_, offspring_, loci_, matrices_, scores_);
+  ComputeTransmissionScores(study_->table, offspring_, study_->loci, study_->matrices, scores_);
 }
 
-void PairSearcher::ScanRowPlainly(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept) {
+void PairSearcher::ScanRowPlainly(Place first_parent, PlaceRange partners, KeptPairs& kept) {
   if (!scores_are_known_) {
     ScoreParents();
     scores_are_known_ = true;
   }
   ++work_.plain_rows;
   const double best = kept.BestLikelihood();
-  ScanRowOfPairs(scores_, listed_.SlotAt(first_parent),
-                 {listed_.SlotAt(partners.begin), listed_.SlotAt(partners.end - 1) + 1}, kept);
+  ScanRowOfPairs(scores_, listed_.SlotAt(first_parent), SlotsAcross(partners), kept);
   if (kept.BestLikelihood() > best) {
     Tighten(kept.BestLikelihood());
   }
 }
 
-void PairSearcher::ScanRow(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept) {
+void PairSearcher::ScanRow(Place first_parent, PlaceRange partners, KeptPairs& kept) {
   if (plain_rows_left_ > 0) {
     --plain_rows_left_;
     if (IsCrowded(first_parent, partners)) {
@@ -188,9 +162,9 @@ void PairSearcher::ScanRow(std::uint32_t first_parent, SlotRange partners, KeptP
   }
 }
 
-void PairSearcher::FillPartnerMinima(SlotRange partners) {
+void PairSearcher::FillPartnerMinima(PlaceRange partners) {
   const std::uint32_t first = BlockOf(partners.begin);
-  const std::uint32_t end = BlockOf(partners.end - 1) + 1;
+  const std::uint32_t end = BlockOf(partners.Last()) + 1;
   std::uint16_t minimum = ListedParents::kImpossible;
   for (std::uint32_t block = end; block > first; --block) {
     minimum = std::min(minimum, listed_.BlockMinimum(block - 1));
@@ -200,49 +174,51 @@ void PairSearcher::FillPartnerMinima(SlotRange partners) {
 
 void PairSearcher::ScanGroup(const CandidateGroup& slots, KeptPairs& kept,
                              const RunObserver& observer) {
-  const CandidateGroup group{listed_.PlacesOf(slots.first), listed_.PlacesOf(slots.second)};
-  if (group.first.Size() == 0 || group.second.Size() == 0) {
+  const ListedGroup group = listed_.PlacesOf(slots);
+  if (group.first.IsEmpty() || group.second.IsEmpty()) {
     return;
   }
   FillPartnerMinima(group.second);
-  const bool sexed = candidates_.flow == Flow::kSexed;
-  const std::uint32_t first_partner_block = BlockOf(group.second.begin);
-  for (std::uint32_t parent = group.first.begin; parent < group.first.end;) {
-    const std::uint32_t block = BlockOf(parent);
-    const std::uint32_t block_end =
-        std::min(group.first.end, static_cast<std::uint32_t>((block + 1) * kBlock));
+  const std::uint32_t end = BlockOf(group.first.Last()) + 1;
+  for (std::uint32_t block = BlockOf(group.first.begin); block < end; ++block) {
     if (observer.StopRequested()) {
       throw RunStopped();
     }
-    // In the non-sexed flow partners stand behind the first parent.
-    const std::int32_t best_partner = partner_minima_[sexed ? first_partner_block : block];
-    if (listed_.BlockMinimum(block) + best_partner > limit_) {
-      parent = block_end;
-      continue;
+    ScanBlock(block, group, kept);
+  }
+}
+
+void PairSearcher::ScanBlock(std::uint32_t block, const ListedGroup& group, KeptPairs& kept) {
+  // No parent of the block has partners before those of the first one.
+  const Place first = std::max(group.first.begin, BeginOfBlock(block));
+  const PlaceRange widest = PartnersOf(candidates_.flow, group, first);
+  if (widest.IsEmpty()) {
+    return;
+  }
+  const std::int32_t best_partner = partner_minima_[BlockOf(widest.begin)];
+  if (listed_.BlockMinimum(block) + best_partner > limit_) {
+    return;
+  }
+  std::uint64_t rest =
+      MaskAtMost(listed_.CostsOfBlock(block), static_cast<std::uint16_t>(limit_ - best_partner)) &
+      MaskOfRange(block, group.first);
+  for (; rest != 0; rest &= rest - 1) {
+    const Place parent = LowestPlace(block, rest);
+    const PlaceRange partners = PartnersOf(candidates_.flow, group, parent);
+    // The limit may have come down inside the block.
+    if (listed_.CostAt(parent) + best_partner <= limit_ && !partners.IsEmpty()) {
+      ScanRow(parent, partners, kept);
     }
-    std::uint64_t rest = MaskAtMost(listed_.Costs() + block * kBlock,
-                                    static_cast<std::uint16_t>(limit_ - best_partner)) &
-                         MaskOfRange(block, {parent, block_end});
-    for (; rest != 0; rest &= rest - 1) {
-      parent = PlaceOf(block, rest);
-      const SlotRange partners = sexed ? group.second : SlotRange{parent + 1, group.second.end};
-      // The limit may have come down inside the block.
-      if (listed_.Costs()[parent] + best_partner <= limit_ && partners.begin < partners.end) {
-        ScanRow(parent, partners, kept);
-      }
-    }
-    parent = block_end;
   }
 }
 
 void PairSearcher::MultiplyAll(const CandidateGroup& slots, KeptPairs& kept) {
-  const CandidateGroup group{listed_.PlacesOf(slots.first), listed_.PlacesOf(slots.second)};
-  for (std::uint32_t parent = group.first.begin; parent < group.first.end; ++parent) {
-    const SlotRange partners = PartnersOf(candidates_.flow, group, parent);
-    for (std::uint32_t partner = partners.begin; partner < partners.end; ++partner) {
-      const ParentPair pair{Slot{listed_.SlotAt(parent)}, Slot{listed_.SlotAt(partner)}};
-      const double likelihood =
-          direct_.Of(offspring_, possible_.TypedLoci(), pair.parent1, pair.parent2);
+  const ListedGroup group = listed_.PlacesOf(slots);
+  for (Place parent = group.first.begin; parent < group.first.end; ++parent) {
+    const PlaceRange partners = PartnersOf(candidates_.flow, group, parent);
+    for (Place partner = partners.begin; partner < partners.end; ++partner) {
+      const ParentPair pair = listed_.PairAt(parent, partner);
+      const double likelihood = direct_.Likelihood(offspring_, possible_.TypedLoci(), pair);
       if (kept.Matters(likelihood)) {
         kept.Show(pair, likelihood);  // so few pairs are all kept: no row is left early
       }
@@ -255,7 +231,7 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
     throw RunStopped();
   }
   offspring_ = offspring;
-  if (parents_ <= kFewToScan) {
+  if (study_->parents <= kFewToScan) {
     ScoreParents();
     return ScanPairs(scores_, candidates_, observer);
   }

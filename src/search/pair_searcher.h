@@ -3,7 +3,7 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
+#include <optional>
 #include <vector>
 
 #include "method/pair_scan.h"
@@ -38,11 +38,10 @@ class PairSearcher {
   /// `bytes` is the memory for the bounds of genotypes.
   explicit PairSearcher(std::size_t bytes = GenotypeBounds::kBytes) : bounds_(bytes) {}
 
-  /// Prepares for a run over `loci` of an indexed table; `matrices` has one per locus of the
-  /// names-of-loci file. All of them must outlive the searches, and the table keep its size. May be
-  /// called again for other loci or for new parents in the same table.
-  void Prepare(const GenotypeTable& table, std::size_t parents, std::span<const LocusIndex> loci,
-               std::span<const TransmissionMatrix> matrices, const Candidates& candidates);
+  /// Prepares for the searches of a run. The study, as it says, and what `candidates` refers to
+  /// must stay as they are until the last search. May be called again, for other loci or for new
+  /// parents in the same table.
+  void Prepare(const SearchStudy& study, const Candidates& candidates);
 
   /// Fills the search part of the outcome. Throws RunStopped when the observer asks.
   AllocationOutcome Search(Slot offspring, const RunObserver& observer);
@@ -51,32 +50,32 @@ class PairSearcher {
 
  private:
   void ScanGroup(const CandidateGroup& slots, KeptPairs& kept, const RunObserver& observer);
-  void ScanRow(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept);
-  void ScanRowByBounds(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept);
-  bool IsCrowded(std::uint32_t first_parent, SlotRange partners) const;
-  void ScanRowPlainly(std::uint32_t first_parent, SlotRange partners, KeptPairs& kept);
+  void ScanBlock(std::uint32_t block, const ListedGroup& group, KeptPairs& kept);
+  void ScanRow(Place first_parent, PlaceRange partners, KeptPairs& kept);
+  void ScanRowByBounds(Place first_parent, PlaceRange partners, KeptPairs& kept);
+  SlotRange SlotsAcross(PlaceRange partners) const;
+  bool IsCrowded(Place first_parent, PlaceRange partners) const;
+  void ScanRowPlainly(Place first_parent, PlaceRange partners, KeptPairs& kept);
   void MultiplyAll(const CandidateGroup& slots, KeptPairs& kept);
   void ScoreParents();
-  bool MarksAllow(std::uint32_t first_parent, std::uint32_t partner, std::int32_t cost);
-  AfterPair Multiply(std::uint32_t first_parent, std::uint32_t partner, KeptPairs& kept);
+  bool LeaningsAllow(Place first_parent, Place partner, std::int32_t cost);
+  AfterPair Multiply(Place first_parent, Place partner, KeptPairs& kept);
   void Tighten(double best);
-  void FillPartnerMinima(SlotRange partners);
+  void FillPartnerMinima(PlaceRange partners);
 
-  const GenotypeTable* table_ = nullptr;
-  std::span<const TransmissionMatrix> matrices_;
-  std::vector<LocusIndex> loci_;
+  std::optional<SearchStudy> study_;
   Candidates candidates_;
-  std::uint32_t parents_ = 0;
   PossibleParents possible_;
   DirectLikelihood direct_;
   OffspringBounds bounds_;
   ListedParents listed_;
   Work work_;
 
-  // Of the current offspring. Parents are places of the list.
+  // Of the current offspring:
   Slot offspring_;
   std::int32_t limit_ = 0;  ///< costs of a pair above it: it cannot matter
-  std::array<std::uint64_t, kMaxMarkWords> wanted_marks_{};  ///< of the first parent of the row
+  std::array<std::uint64_t, kMaxLeaningWords>
+      wanted_leanings_{};  ///< of the first parent of the row
   bool wanted_are_known_ = false;
   std::vector<std::uint16_t> partner_minima_;  ///< of all partners from a block on
 

@@ -42,22 +42,20 @@ void PossibleParents::AddLocus(std::span<const LocusGenotype> parents,
   }
 }
 
-void PossibleParents::Prepare(const GenotypeTable& table, std::size_t parents,
-                              std::span<const LocusIndex> loci,
-                              std::span<const TransmissionMatrix> matrices) {
-  assert(loci.size() <= kMaxLoci);
-  individuals_ = table.NumberOfIndividuals();
-  const std::size_t words = (parents + kBlock - 1) / kBlock;
+void PossibleParents::Prepare(const SearchStudy& study) {
+  assert(study.loci.size() <= kMaxLoci);
+  individuals_ = study.table.NumberOfIndividuals();
+  const std::size_t words = (study.parents + kBlock - 1) / kBlock;
   some_.resize(words);
   all_.assign(words, ~std::uint64_t{0});
-  if (parents % kBlock != 0) {
-    all_.back() = (std::uint64_t{1} << parents % kBlock) - 1;
+  if (study.parents % kBlock != 0) {
+    all_.back() = (std::uint64_t{1} << study.parents % kBlock) - 1;
   }
   loci_.clear();
   givers_.clear();
-  for (const LocusIndex locus : loci) {
-    AddLocus(table.Locus(locus).first(parents), matrices[locus.Value()]);
-    loci_.back().genotypes = table.Locus(locus);
+  for (std::size_t k = 0; k < study.loci.size(); ++k) {
+    AddLocus(study.ParentGenotypes(k), study.Matrix(k));
+    loci_.back().genotypes = study.Genotypes(k);
   }
 }
 

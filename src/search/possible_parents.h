@@ -7,9 +7,8 @@
 #include <vector>
 
 #include "genotypes/capacities.h"
-#include "genotypes/genotype_table.h"
-#include "method/transmission_matrix.h"
 #include "search/cost_kernels.h"
+#include "search/search_study.h"
 
 namespace kaldo {
 
@@ -20,10 +19,7 @@ namespace kaldo {
 /// locus and allele: few enough rows to stay in the nearest cache.
 class PossibleParents {
  public:
-  /// For parents at the slots 0 to `parents` - 1 of an indexed table. The table must outlive the
-  /// object and keep its size; `matrices` has one per locus of the names-of-loci file.
-  void Prepare(const GenotypeTable& table, std::size_t parents, std::span<const LocusIndex> loci,
-               std::span<const TransmissionMatrix> matrices);
+  void Prepare(const SearchStudy& study);
 
   /// Goes over to an offspring. False when fewer than two parents are left: then no pair has any
   /// likelihood, and nothing else here may be asked.

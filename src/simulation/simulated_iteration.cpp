@@ -128,8 +128,11 @@ IterationCounts SimulatedIteration::Run(std::uint32_t state, const RunObserver& 
   DrawAllParents(random);
   CatalogueParents();
   Produce(random);
-  searcher_.Prepare(table_, input_.candidates.Size(), loci_.loci, allocation_matrices_,
-                    {settings_.flow, candidates_, {}});
+  searcher_.Prepare({.table = table_,
+                     .parents = input_.candidates.Size(),
+                     .loci = loci_.loci,
+                     .matrices = allocation_matrices_},
+                    {.flow = settings_.flow, .groups = candidates_, .names = {}});
   IterationCounts counts{};
   std::uint32_t next = 0;
   for (std::size_t k = 0; k < design_.classes.size(); ++k) {

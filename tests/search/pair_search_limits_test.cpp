@@ -46,7 +46,8 @@ class WrittenStudy {
     ComputeTransmissionScores(table_, Offspring(), loci_, matrices, scores);
     AllocationOutcome scan = ScanPairs(scores, candidates, observer);
     PairSearcher searcher;
-    searcher.Prepare(table_, parents_, loci_, matrices, candidates);
+    searcher.Prepare({.table = table_, .parents = parents_, .loci = loci_, .matrices = matrices},
+                     candidates);
     const AllocationOutcome search = searcher.Search(Offspring(), observer);
     EXPECT_EQ(search.best_likelihood, scan.best_likelihood);
     EXPECT_EQ(search.pairs, scan.pairs);

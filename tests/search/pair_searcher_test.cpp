@@ -79,7 +79,11 @@ void CompareSearches(const RandomStudy& study, PairSearcher& searcher, Coverage&
   const RunObserver observer;
   const Candidates candidates{study.flow, study.groups, study.table.Names()};
   TransmissionScores scores(study.loci.size(), study.parents);
-  searcher.Prepare(study.table, study.parents, study.loci, study.matrices, candidates);
+  searcher.Prepare({.table = study.table,
+                    .parents = study.parents,
+                    .loci = study.loci,
+                    .matrices = study.matrices},
+                   candidates);
   for (auto i = study.parents; i < study.table.NumberOfIndividuals(); ++i) {
     const Slot offspring{i};
     ComputeTransmissionScores(study.table, offspring, study.loci, study.matrices, scores);

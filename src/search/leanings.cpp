@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "search/giving_marks.h"
+#include "search/leanings.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,7 +29,7 @@ void Fill(std::span<std::int32_t> costs, double nats) {
 }  // namespace
 
 // The factor of a pair is |v1| |v2| sin(a1 + a2) with v = (P_R, P_J) and a the angle of v.
-MarkCosts::MarkCosts(double side_ratio) {
+ClashCosts::ClashCosts(double side_ratio) {
   const double largest_side = std::atan(side_ratio);
   const double largest_even = std::atan(1 / kEvenRatio);
   constexpr double kRightAngle = std::numbers::pi / 2;
@@ -37,19 +37,19 @@ MarkCosts::MarkCosts(double side_ratio) {
   Fill(one_either_, -std::log(std::sin(std::min(largest_side + largest_even, kRightAngle))));
 }
 
-std::uint8_t MarksOf(double r, double j, double side_ratio) {
-  unsigned marks = (j == 0 ? giving::kNoJ : 0U) | (r == 0 ? giving::kNoR : 0U);
-  if (marks == giving::kNothing) {
-    return giving::kNothing;
+std::uint8_t LeaningOf(double r, double j, double side_ratio) {
+  unsigned bits = (j == 0 ? leaning::kNoJ : 0U) | (r == 0 ? leaning::kNoR : 0U);
+  if (bits == leaning::kNothing) {
+    return leaning::kNothing;
   }
   if (j <= side_ratio * r) {
-    marks |= giving::kOnlyR | giving::kOneOf;
+    bits |= leaning::kOnlyR | leaning::kOneOf;
   } else if (r <= side_ratio * j) {
-    marks |= giving::kOnlyJ | giving::kOneOf;
+    bits |= leaning::kOnlyJ | leaning::kOneOf;
   } else if (std::min(r, j) >= kEvenRatio * std::max(r, j)) {
-    marks |= giving::kEither;
+    bits |= leaning::kEither;
   }
-  return static_cast<std::uint8_t>(marks);
+  return static_cast<std::uint8_t>(bits);
 }
 
 }  // namespace kaldo
