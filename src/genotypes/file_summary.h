@@ -52,6 +52,7 @@ struct FileSummary {
   std::vector<RecordPreview> first_few;  ///< the first records
 };
 
+/// Walks over the whole file once. It refuses nothing: what looks wrong is counted.
 FileSummary Summarize(const TokenFile& file, RecordLayout layout);
 
 /// One short line of it: "36 individuals in 2 groups, 9 loci, 6 digits per field, no missing

@@ -9,6 +9,7 @@
 
 namespace kaldo {
 
+/// Digits 0 to 9 only; also true of no text at all.
 bool IsAllDigits(std::string_view text);
 
 /// Which alleles of a genotype field are undefined, that is, which halves are zeros only.
@@ -17,6 +18,8 @@ struct ZeroHalves {
   bool second = false;
 };
 
+/// Halves a genotype field of an even number of digits: "150000" has only its second half
+/// undefined.
 ZeroHalves ZeroHalvesOf(std::string_view field);
 
 /// Looks for a line with too few or too many fields in a file that otherwise has one record a line.

@@ -23,13 +23,15 @@ struct RecordLayout {
   }
 };
 
-/// The counts behind the checks of a genotype file.
+/// The counts behind the checks of a genotype file: how many records its words make, if each has
+/// its name and all its fields.
 struct TokenCounts {
   std::size_t tokens = 0;
   std::size_t separators = 0;
   std::size_t records = 0;  ///< separators + whole records, the remainder dropped
 };
 
+/// Counts every word that looks like a separator as one, wherever it stands.
 TokenCounts CountTokens(std::span<const Token> tokens, RecordLayout layout);
 
 /// Walks over the records of a genotype file: a name and one field per locus, or a separator.
@@ -52,6 +54,8 @@ class RecordCursor {
 
   const Token& Name() const { return name_; }
   bool IsSeparator() const { return is_separator_; }
+
+  /// The number of the record in its file, counted from 1, separators included.
   std::uint32_t Record() const { return record_; }
 
   /// The fields of the record; fewer than the number of loci at a torn end of the file.

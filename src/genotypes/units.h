@@ -31,11 +31,13 @@ using BasePairs = StrongNumber<struct BasePairsTag, std::int32_t>;
 /// dinucleotide locus is one unit distance of 2 bp).
 using UnitDistances = StrongNumber<struct UnitDistancesTag, std::int32_t>;
 
-/// The slots from `begin` up to, not including, `end`.
+/// The slots from `begin` up to, not including, `end`: the individuals of one file, or of one group
+/// of parents. `begin` and `end` are values of slots.
 struct SlotRange {
   std::uint32_t begin = 0;
   std::uint32_t end = 0;
 
+  /// Individuals in it, separators included.
   constexpr std::size_t Size() const { return end - begin; }
   friend constexpr bool operator==(SlotRange, SlotRange) = default;
 };

@@ -8,14 +8,23 @@
 
 namespace kaldo {
 
-/// What was decided for one offspring.
+/// What was decided for one offspring. The search fills what is known of pairs (OutcomeOf), then
+/// DecideSides the sides of the first pair. A plain value without pointers: processes send it to
+/// each other byte by byte.
 struct AllocationOutcome {
   /// Parent indices stored in `pairs`, two per pair: 0 (no pair) to 10 (five pairs).
   int pair_entries = 0;
+
+  /// The best pairs, equally likely, in the order in which the search met them. The first one
+  /// decides the allocation; those behind the last one mean nothing.
   std::array<ParentPair, KeptPairs::kCapacity> pairs{};
 
-  bool more_than_five = false;  ///< a sixth equally likely pair was met during the search
-  double best_likelihood = 0;   ///< of the kept pairs; 0 without a pair
+  /// The mark "more than five": a sixth equally likely pair was met during the search. It stays
+  /// when a better pair follows.
+  bool more_than_five = false;
+
+  /// Of the kept pairs, as ScanPairs defines it: no probability, it may exceed 1. 0 without a pair.
+  double best_likelihood = 0;
 
   // For the first pair: whether each side must be taken as uncollected (UC), and its loci with an
   // offset other than 0.
@@ -24,6 +33,8 @@ struct AllocationOutcome {
   int errors_par1 = 0;
   int errors_par2 = 0;
 
+  /// False: no pair of collected parents is possible under the model of error. Both sides then
+  /// count as uncollected.
   bool HasPair() const { return pair_entries > 0; }
   std::span<const ParentPair> Pairs() const {
     return std::span(pairs).first(static_cast<std::size_t>(pair_entries) / 2);

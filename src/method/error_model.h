@@ -10,19 +10,26 @@
 
 namespace kaldo {
 
-/// How an allele of a parent may be read, in its offspring, as another allele of the locus.
+/// How an allele of a parent may be read, in its offspring, as another allele of the locus. "Read"
+/// covers all that lies between the two readings: scoring and typing errors, stutter, mutation; for
+/// what goes wrong in a laboratory see Pompanon et al. 2005 (doi:10.1038/nrg1707).
 enum class ErrorKind {
-  kNotChosen = 0,
-  kNoError = 1,     ///< every allele is read as itself
-  kUniform = 2,     ///< with probability epsilon as any other allele of the locus, all alike
-  kNonUniform = 3,  ///< one or two unit distances shorter or longer, as stutter and slips do
+  kNotChosen = 0,  ///< the user has not decided yet: no run starts
+  kNoError = 1,    ///< every allele is read as itself
+  kUniform = 2,    ///< with probability epsilon as any other allele of the locus, all alike
+
+  /// One or two unit distances shorter or longer: microsatellites mutate by steps (Ohta & Kimura
+  /// 1973, doi:10.1017/S0016672300012994), and stutter shifts readings in the same way.
+  kNonUniform = 3,
 };
 
-/// The transmission error of a run; all figures are probabilities.
+/// The transmission error of a run; all figures are probabilities per allele passed on. BuildMatrix
+/// makes the table of a locus of it. The default values are this program's: 2 % of errors, most of
+/// them by one step.
 struct ErrorModel {
   ErrorKind kind = ErrorKind::kNonUniform;
 
-  /// Uniform: the global error, that an allele is read as any other one.
+  /// Uniform: the global error, that an allele is read as any other one; all others together.
   double epsilon = 0;
 
   // Non Uniform: read two or one unit distances shorter, as itself (the target or focal allele),
@@ -57,12 +64,15 @@ struct NamedErrorModel {
 /// All models that can be chosen.
 std::span<const NamedErrorModel> NamedErrorModels();
 
-/// The checks of the allocation flows. Uniform: epsilon at most 0.1; a negative one is accepted as
-/// it stands (some users test the effect of the bound), an infinite one is not. Non Uniform: the
-/// five values, added from minus2 to plus2, give exactly 1, and focal lies in [0.9, 1].
+/// The checks of the allocation flows; a model that fails is a Problem with its fixed sentence.
+/// Uniform: epsilon at most 0.1; a negative one is accepted although it has no meaning, for only
+/// the upper bound is tested, but an infinite one or "not a number" is not. Non Uniform: the five
+/// values, added from minus2 to plus2, give exactly 1 in double precision, and focal lies in
+/// [0.9, 1]; single values are not tested.
 std::optional<Problem> ValidateForAllocation(const ErrorModel& model);
 
-/// The description of the model in the heading of a report; no line end behind it.
+/// The description of the model in the heading of a report, of one or two lines; no line end behind
+/// it. Empty while no model is chosen.
 std::string Describe(const ErrorModel& model);
 
 /// The model in one line for people: "Non Uniform (0.002 0.008 0.98 0.008 0.002)".

@@ -9,7 +9,8 @@
 
 namespace kaldo {
 
-/// A candidate pair by slots of the parents' table; in the sexed flow parent 1 is the male.
+/// A candidate pair by slots of the parents' table. In the sexed flow parent 1 is the male; in the
+/// other one parent 1 stands before parent 2 in the file, which means nothing.
 struct ParentPair {
   Slot parent1;
   Slot parent2;
@@ -32,9 +33,12 @@ enum class AfterPair {
 ///    "more than five" and the rest of its row is left out. The mark stays, also when a better pair
 ///    empties the list later: it says that the scan has not seen everything.
 ///
-/// Likelihoods are compared exactly, and one of 0 never enters.
+/// Likelihoods are compared exactly: pairs of the same scores have the same product to the last
+/// bit, so that a tie is a tie. One of 0, impossible under the model, never enters. Five and ten
+/// are this program's conventions.
 class KeptPairs {
  public:
+  /// Pairs that are kept at most.
   static constexpr std::size_t kCapacity = 5;
 
   /// `names` by slot; without names (simulated parents have none) no pair is passed over.
@@ -43,10 +47,16 @@ class KeptPairs {
   /// True where `likelihood` can change what is kept; everything else need not be shown.
   bool Matters(double likelihood) const { return likelihood >= best_ && likelihood > 0; }
 
+  /// Shows the next pair of the scan and tells how the scan goes on.
   AfterPair Show(ParentPair pair, double likelihood);
 
+  /// The pairs kept, in the order in which they were shown, all with the best likelihood.
   std::span<const ParentPair> Pairs() const { return std::span(pairs_).first(count_); }
+
+  /// The mark "more than five".
   bool MoreThanFive() const { return more_than_five_; }
+
+  /// 0 as long as no pair is kept.
   double BestLikelihood() const { return best_; }
 
  private:

@@ -11,7 +11,8 @@ namespace kaldo {
 /// How an offspring's two alleles at a locus, R (the first) and J (the second), are found in a pair
 /// of parents by exact size. RR stands for a homozygous offspring, RJ for a heterozygous one. The
 /// labels of the reports are French abbreviations: "aucun" none, "seul" alone, "un a chacun" one to
-/// each.
+/// each. The labels of a released version stay as they are. The sorting into twelve is this
+/// program's; under Mendel's first law only kComplete needs no error.
 enum class LocusCondition {
   kError = 0,        ///< not classified; never the result of a comparison
   kNone = 1,         ///< neither parent carries R or J (also: the offspring's locus is missing)
@@ -33,20 +34,23 @@ std::string_view Label(LocusCondition condition);
 /// Which offspring alleles a parent must be measured against: those that no parent explains yet.
 enum class Unexplained { kNothing, kR, kJ, kEither };
 
-/// What a condition leaves to be explained by each parent.
+/// What a condition leaves to be explained by each parent. A parent that explains an allele of the
+/// offspring has nothing left; the other one is measured against the allele that nobody explains.
 struct Measured {
   Unexplained par1 = Unexplained::kNothing;
   Unexplained par2 = Unexplained::kNothing;
 };
 
+/// The table of docs/method.md, "Offsets and tolerance".
 Measured MeasuredUnder(LocusCondition condition);
 
-/// One locus of an offspring against the same locus of two parents.
+/// One locus of an offspring against the same locus of two parents: all that the reports tell of
+/// it. R is the first allele of the offspring as it stands in the file, J the second.
 struct LocusComparison {
   LocusGenotype offspring;
   LocusGenotype par1;
   LocusGenotype par2;
-  BasePairs unit_distance;
+  BasePairs unit_distance;  ///< of the locus; not positive when it has a single size
 
   // The offspring allele equals either allele of that parent.
   bool R_in_par1 = false;
@@ -74,7 +78,7 @@ struct LocusComparison {
 LocusComparison ClassifyLocus(const LocusGenotype& offspring, const LocusGenotype& par1,
                               const LocusGenotype& par2, BasePairs unit_distance);
 
-/// |a - b| in base pairs.
+/// |a - b| in base pairs. An undefined allele has the size 0.
 BasePairs Distance(AlleleSize a, AlleleSize b);
 
 }  // namespace kaldo

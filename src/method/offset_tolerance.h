@@ -9,11 +9,13 @@
 
 namespace kaldo {
 
-/// The "Maximal offset tolerance": the largest offset, in whole unit distances, that is taken for a
-/// typing error rather than for a sign that the parent is not among the collected ones.
+/// The "Maximal offset tolerance": the largest offset, in whole unit distances of the locus, that
+/// is taken for a typing error rather than for a sign that the true parent is not among the
+/// collected ones. 0 forgives nothing, 1 a shift by one repeat. It holds for all loci alike; which
+/// one to choose is told in docs/method.md.
 using OffsetTolerance = UnitDistances;
 
-/// A tolerance is never negative.
+/// A negative tolerance, which would reject parents that fit everywhere, is a Problem.
 std::optional<Problem> ValidateTolerance(OffsetTolerance tolerance);
 
 /// The rule of the tolerance: an offset greater than it rejects the parent at that locus; one of

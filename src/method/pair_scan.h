@@ -10,7 +10,8 @@
 
 namespace kaldo {
 
-/// The candidates of a run, the same for every offspring.
+/// The candidates of a run, the same for every offspring. It refers to groups and names, which must
+/// outlive it.
 struct Candidates {
   Flow flow = Flow::kNonSexed;
   std::span<const CandidateGroup> groups;
@@ -22,9 +23,15 @@ struct Candidates {
 ///
 ///   L = product over the loci, in locus order, of (P_R1 x P_J2 + P_J1 x P_R2),
 ///
-/// four times the Mendelian probability of the offspring's genotype per locus (Meagher & Thompson
-/// 1986, Theor. Popul. Biol. 29:87-106), a constant factor that ranks pairs alike. At least one
-/// locus is needed. Fills the search part of the outcome; throws RunStopped when the observer asks.
+/// with the scores of TransmissionScores for parents 1 and 2. Without error this is the Mendelian
+/// probability of the offspring's genotype given both parents, on which the likelihood of a parent
+/// pair rests (Meagher & Thompson 1986, Theoretical Population Biology 29:87-106,
+/// doi:10.1016/0040-5809(86)90006-7), times 4 per heterozygous and 8 per homozygous locus: a factor
+/// of the offspring alone, which ranks pairs alike. It is no probability of parentage: neither
+/// allele frequencies nor the parents that were not collected enter. Missing loci multiply by
+/// exactly 1. At least one locus is needed.
+///
+/// Fills the search part of the outcome; throws RunStopped when the observer asks.
 ///
 /// This is the plain scan that defines the result. Runs use PairSearcher, which finds the same.
 /// Cost: pairs x loci multiplications; `scores` is read row by row.
