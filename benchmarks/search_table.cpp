@@ -243,18 +243,22 @@ void Table(std::int32_t largest, std::string_view wanted) {
     if (parents > static_cast<std::uint32_t>(largest)) {
       break;
     }
-    rows({"20 loci, 12 alleles", parents, parents > 1'000 ? 20'000U : 100'000U},
+    rows({.name = "20 loci, 12 alleles",
+          .parents = parents,
+          .offspring = parents > 1'000 ? 20'000U : 100'000U},
          parents >= 50'000  ? 1
          : parents >= 5'000 ? 8
                             : 100);
   }
   // What the bounds like least: the search should not fall behind the scan on any of them.
   for (const Shape& shape :
-       {Shape{"nothing typed", 1'000, 100, 20, 12, 1.0},
-        Shape{"sibships of 500", 1'000, 100, 20, 12, 0, 500}, Shape{"2 alleles", 1'000, 100, 20, 2},
-        Shape{"5 loci", 1'000, 100, 5, 12}, Shape{"5 loci, 2 alleles", 1'000, 100, 5, 2},
-        Shape{"25 % missing", 1'000, 100, 20, 12, 0.25},
-        Shape{"50 loci, 100 alleles", 1'000, 100, 50, 100}, Shape{"few parents", 20, 100}}) {
+       {Shape{.name = "nothing typed", .missing = 1.0},
+        Shape{.name = "sibships of 500", .sibship = 500}, Shape{.name = "2 alleles", .alleles = 2},
+        Shape{.name = "5 loci", .loci = 5},
+        Shape{.name = "5 loci, 2 alleles", .loci = 5, .alleles = 2},
+        Shape{.name = "25 % missing", .missing = 0.25},
+        Shape{.name = "50 loci, 100 alleles", .loci = 50, .alleles = 100},
+        Shape{.name = "few parents", .parents = 20}}) {
     rows(shape, shape.offspring);
   }
 }

@@ -88,21 +88,21 @@ std::string_view Label(LocusCondition condition) {
 Measured MeasuredUnder(LocusCondition condition) {
   switch (condition) {
     case LocusCondition::kNone:
-      return {Unexplained::kEither, Unexplained::kEither};
+      return {.par1 = Unexplained::kEither, .par2 = Unexplained::kEither};
     case LocusCondition::kRrOnlyPar1:
     case LocusCondition::kJInPar1:
-      return {Unexplained::kNothing, Unexplained::kR};
+      return {.par1 = Unexplained::kNothing, .par2 = Unexplained::kR};
     case LocusCondition::kRrOnlyPar2:
     case LocusCondition::kJInPar2:
-      return {Unexplained::kR, Unexplained::kNothing};
+      return {.par1 = Unexplained::kR, .par2 = Unexplained::kNothing};
     case LocusCondition::kRInPar1:
-      return {Unexplained::kNothing, Unexplained::kJ};
+      return {.par1 = Unexplained::kNothing, .par2 = Unexplained::kJ};
     case LocusCondition::kRInPar2:
-      return {Unexplained::kJ, Unexplained::kNothing};
+      return {.par1 = Unexplained::kJ, .par2 = Unexplained::kNothing};
     case LocusCondition::kBothInPar1:
-      return {Unexplained::kNothing, Unexplained::kEither};
+      return {.par1 = Unexplained::kNothing, .par2 = Unexplained::kEither};
     case LocusCondition::kBothInPar2:
-      return {Unexplained::kEither, Unexplained::kNothing};
+      return {.par1 = Unexplained::kEither, .par2 = Unexplained::kNothing};
     case LocusCondition::kError:
     case LocusCondition::kComplete:
     case LocusCondition::kOneToEach:

@@ -35,7 +35,8 @@ std::string_view Label(LocusCondition condition);
 enum class Unexplained { kNothing, kR, kJ, kEither };
 
 /// What a condition leaves to be explained by each parent. A parent that explains an allele of the
-/// offspring has nothing left; the other one is measured against the allele that nobody explains.
+/// offspring has nothing left. The other one is measured against the allele that nobody explains
+/// or, where its partner explains both, against the nearer of them.
 struct Measured {
   Unexplained par1 = Unexplained::kNothing;
   Unexplained par2 = Unexplained::kNothing;

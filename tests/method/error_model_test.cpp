@@ -90,8 +90,8 @@ TEST(TransmissionMatrix, HoldsTheModelOverTheCatalogue) {
             (Rows{{0.9, 0.05, 0.05}, {0.05, 0.9, 0.05}, {0.05, 0.05, 0.9}}));
   EXPECT_EQ(MatrixOf(Uniform(0.1), {100}), (Rows{{1}}));
   EXPECT_EQ(MatrixOf(NonUniform(1, 2, 3, 4, 5), {100}), (Rows{{3}}));
-  // Rows are parents: from 102 one unit down is minus1, one up plus1; 105 and 110 are out of step
-  // with 100, 102, 104, and 110 is more than two units away from all but 105.
+  // Rows are parents, and the unit distance is 2: from 102 one unit down is minus1, one up plus1.
+  // 111 is out of step and more than two units away from all others.
   EXPECT_EQ(
       MatrixOf(NonUniform(1, 2, 3, 4, 5), {100, 102, 104, 106, 111}),
       (Rows{{3, 4, 5, 0, 0}, {2, 3, 4, 5, 0}, {1, 2, 3, 4, 0}, {0, 1, 2, 3, 0}, {0, 0, 0, 0, 3}}));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The plain scan against an obvious version of itself, and the rule of the kept pairs step by step.
+// The plain scan, the rule of the kept pairs included, against an obvious version of itself.
 #include "method/pair_scan.h"
 
 #include <map>
@@ -126,57 +126,6 @@ TEST(PairScan, FindsWhatTheObviousSearchFinds) {
   }
 }
 
-/// Parents whose names differ in the first ten bytes, so that no pair is a duplicate.
-std::vector<IndividualName> Names(std::size_t count) {
-  std::vector<IndividualName> names;
-  for (std::size_t i = 0; i < count; ++i) {
-    names.emplace_back(fmt::format("P{}", i));
-  }
-  return names;
-}
-
-ParentPair Pair(std::uint32_t parent1, std::uint32_t parent2) {
-  return {Slot{parent1}, Slot{parent2}};
-}
-
-TEST(KeptPairs, KeepsFiveTiesLeavesTheRowAtTheSixthAndNeverTakesTheMarkBack) {
-  const auto names = Names(10);
-  KeptPairs kept(Flow::kNonSexed, names);
-  EXPECT_FALSE(kept.Matters(0.0));
-  for (std::uint32_t partner = 1; partner <= 5; ++partner) {
-    EXPECT_EQ(kept.Show(Pair(0, partner), 0.25), AfterPair::kGoOn);
-  }
-  EXPECT_FALSE(kept.MoreThanFive());
-  EXPECT_EQ(kept.Show(Pair(0, 6), 0.25), AfterPair::kLeaveRow);
-  EXPECT_TRUE(kept.MoreThanFive());
-  EXPECT_EQ(kept.Pairs().size(), 5U);
-  EXPECT_EQ(kept.Show(Pair(1, 2), 0.5), AfterPair::kGoOn);
-  EXPECT_EQ(kept.Pairs().size(), 1U);
-  EXPECT_TRUE(kept.MoreThanFive());
-  EXPECT_FALSE(kept.Matters(0.25));
-}
-
-TEST(KeptPairs, TakesIndividualsOfTheSameTenBytesForOne) {
-  const std::vector<IndividualName> names = {
-      IndividualName("Sample00001_a"), IndividualName("Sample0002"),
-      IndividualName("Sample00001_b"), IndividualName("Sample0002x")};
-  // 0 and 2 share ten bytes, 1 and 3 too.
-  KeptPairs unordered(Flow::kNonSexed, names);
-  unordered.Show(Pair(0, 1), 0.5);
-  unordered.Show(Pair(1, 2), 0.5);
-  unordered.Show(Pair(2, 3), 0.5);
-  EXPECT_EQ(unordered.Pairs().size(), 1U);
-  unordered.Show(Pair(0, 2), 0.5);
-  EXPECT_EQ(unordered.Pairs().size(), 2U);
-
-  KeptPairs ordered(Flow::kSexed, names);
-  ordered.Show(Pair(0, 1), 0.5);
-  ordered.Show(Pair(1, 2), 0.5);
-  EXPECT_EQ(ordered.Pairs().size(), 2U) << "male and female exchanged are another pair";
-  ordered.Show(Pair(2, 3), 0.5);
-  EXPECT_EQ(ordered.Pairs().size(), 2U);
-}
-
 TEST(CandidateGroups, SeparatorsAtTheEndsAndInARowMakeEmptyGroups) {
   GenotypeTable table(1);
   for (const char* name : {"*", "A", "B", "*pond", "**", "C", "*"}) {
@@ -184,8 +133,6 @@ TEST(CandidateGroups, SeparatorsAtTheEndsAndInARowMakeEmptyGroups) {
   }
   const std::vector<SlotRange> expected = {{0, 0}, {1, 3}, {4, 4}, {5, 6}, {7, 7}};
   EXPECT_EQ(CutAtSeparators(table, {0, 7}), expected);
-  EXPECT_EQ(PartnersOf(Flow::kNonSexed, {{1, 3}, {1, 3}}, 1), (SlotRange{2, 3}));
-  EXPECT_EQ(PartnersOf(Flow::kSexed, {{1, 3}, {5, 6}}, 2), (SlotRange{5, 6}));
 }
 
 }  // namespace
