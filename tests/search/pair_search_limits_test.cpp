@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Searches in which a bound on a likelihood says nothing: the pair that it would rule out is the
-// one to be found.
+// A search in which a bound on a likelihood says nothing: the pair that it would rule out is the one
+// to be found. Random studies do not come there.
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -105,26 +105,6 @@ TEST(PairSearchLimits, LikelihoodsNearTheSmallestNumberAreAllMultipliedOut) {
   EXPECT_GT(late.best_likelihood, 0x1p-1070);
   EXPECT_LT(both.best_likelihood, 0x1p-900);
   EXPECT_EQ(both.Pairs().front(), (ParentPair{Slot{2}, Slot{3}}));
-}
-
-/// Two loci at which a pair has a negative factor make a positive likelihood. No parent fits such a
-/// locus alone.
-TEST(PairSearchLimits, NegativeProbabilitiesMultiplyToLikelyPairs) {
-  ErrorModel model;
-  model.kind = ErrorKind::kUniform;
-  model.epsilon = -0.3;
-  WrittenStudy study(40, 3);
-  for (std::uint32_t slot = 0; slot < 40; ++slot) {
-    study.Type(Slot{slot}, 0, 100, 100);
-    study.Type(Slot{slot}, 1, 100, 100);
-    study.Type(Slot{slot}, 2, slot < 20 ? 100 : 102, 104);
-  }
-  study.Type(study.Offspring(), 0, 100, 102);
-  study.Type(study.Offspring(), 1, 100, 102);
-  study.Type(study.Offspring(), 2, 102, 104);
-  const std::vector<CandidateGroup> groups = {{{0, 40}, {0, 40}}};
-  const AllocationOutcome outcome = study.Search(model, groups);
-  EXPECT_EQ(outcome.Pairs().front(), (ParentPair{Slot{20}, Slot{21}}));
 }
 
 }  // namespace

@@ -2,11 +2,13 @@
 // The production search against the plain scan, bit for bit, over a hundred thousand searches.
 #include "search/pair_searcher.h"
 
+#include <bit>
 #include <hwy/targets.h>
 #include <map>
 
 #include <gtest/gtest.h>
 
+#include "search/cost_kernels.h"
 #include "tests/support/random_study.h"
 
 namespace kaldo {
@@ -204,7 +206,7 @@ TEST(PairSearcher, FindsTheSameInLittleMemory) {
 }
 
 /// The narrowest vectors that this machine knows give the same, so that a laptop agrees with a
-/// cluster; also among so many parents that a row of bits fills several vectors.
+/// cluster; also among so many parents that a row of their bits fills several vectors.
 TEST(PairSearcher, FindsTheSameWithEveryKindOfVector) {
   for (const auto target : hwy::SupportedAndGeneratedTargets()) {
     SCOPED_TRACE(hwy::TargetName(target));
@@ -216,18 +218,41 @@ TEST(PairSearcher, FindsTheSameWithEveryKindOfVector) {
                   .offspring = 6,
                   .groups = true,
                   .bred_offspring = true},
-                 90, 6, coverage);
-    CompareShape({.parents = 2'600,
-                  .loci = 16,
+                 60, 6, coverage);
+    CompareShape({.parents = 1'200,
+                  .loci = 12,
                   .alleles = 14,
-                  .offspring = 6,
+                  .offspring = 4,
                   .groups = true,
                   .bred_offspring = true},
-                 60, 7, coverage);
-    ExpectMet(coverage,
-              {"one pair", "fewer than two possible parents", "two or three possible parents",
-               "few parents possible"},
-              5);
+                 30, 7, coverage);
+    ExpectMet(coverage, {"one pair", "tie", "few parents possible", "many possible"}, 3);
+  }
+  hwy::SetSupportedTargetsForTest(0);
+}
+
+/// Few bits, anywhere, among fewer words than a vector holds and more.
+TEST(CostKernels, TellWhetherTwoParentsAreLeft) {
+  RandomStudyMaker random(10);
+  for (const auto target : hwy::SupportedAndGeneratedTargets()) {
+    hwy::SetSupportedTargetsForTest(target);
+    for (int round = 0; round < 3'000; ++round) {
+      const std::uint32_t words = random.Draw(1, 40);
+      std::vector<std::uint64_t> all(words);
+      for (std::uint32_t bits = random.Draw(0, 3); bits > 0; --bits) {
+        all[random.Draw(0, words - 1)] |= std::uint64_t{1} << random.Draw(0, 63);
+      }
+      int left = 0;
+      for (const std::uint64_t word : all) {
+        left += std::popcount(word);
+      }
+      const std::vector<std::uint64_t> everybody(words, ~std::uint64_t{0});
+      const std::vector<std::uint64_t> nobody(words);
+      const std::vector<GiverRows> loci(random.Draw(1, 3), {everybody.data(), nobody.data()});
+      const std::vector<std::uint64_t> before = all;
+      EXPECT_EQ(KeepCommon(all.data(), loci, all), left >= 2);
+      EXPECT_EQ(all, before);
+    }
   }
   hwy::SetSupportedTargetsForTest(0);
 }
