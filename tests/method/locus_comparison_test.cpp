@@ -95,52 +95,5 @@ TEST(LocusComparison, MissingLociAndLociWithASingleSizeHaveNoOffsets) {
   EXPECT_EQ(ConditionRecord(single), "cond_aucun\t\t[*,*]\t\t[*,*]\t/ -150\t[*,*]");
 }
 
-struct RecordCase {
-  LocusGenotype offspring;
-  LocusGenotype par1;
-  LocusGenotype par2;
-  int unit;
-  std::string_view record;
-};
-
-TEST(ConditionRecord, WritesEveryNotation) {
-  const std::vector<RecordCase> cases = {
-      {Genotype(150, 154), Genotype(160, 166), Genotype(147, 147), 2,
-       "cond_aucun\t\t[[dm=6],[dm=3]]\t\t[6,3]\t/ 2\t[3,1]"},
-      {Genotype(150, 154), Genotype(150, 160), Genotype(154, 166), 2,
-       "cond_complet\t\t[[],[]]\t\t[0,0]\t/ 2\t[0,0]"},
-      {Genotype(150, 154), Genotype(150, 150), Genotype(150, 160), 2,
-       "cond_un_a_chacun\t\t[['#'],['#']]\t\t[#,#]\t/ 2\t[0,0]"},
-      {Genotype(150, 150), Genotype(150, 154), Genotype(152, 156), 2,
-       "cond_RR_par1_seul\t\t[[],[152,150]]\t\t[0,2]\t/ 2\t[0,1]"},
-      {Genotype(150, 150), Genotype(148, 152), Genotype(150, 156), 4,
-       "cond_RR_par2_seul\t\t[[dm=2,150],[]]\t\t[2,0]\t/ 4\t[0,0]"},
-      {Genotype(150, 154), Genotype(150, 160), Genotype(157, 157), 2,
-       "cond_RJ_R_par1\t\t[[],[157,154]]\t\t[0,3]\t/ 2\t[0,1]"},
-      {Genotype(150, 154), Genotype(160, 166), Genotype(140, 150), 2,
-       "cond_RJ_R_par2\t\t[[160,154],[]]\t\t[6,0]\t/ 2\t[3,0]"},
-      {Genotype(150, 154), Genotype(154, 160), Genotype(148, 152), 2,
-       "cond_RJ_J_par1\t\t[[],[dm=2,150]]\t\t[0,2]\t/ 2\t[0,1]"},
-      {Genotype(150, 154), Genotype(90, 100), Genotype(154, 154), 2,
-       "cond_RJ_J_par2\t\t[[100,150],[]]\t\t[50,0]\t/ 2\t[25,0]"},
-      {Genotype(150, 154), Genotype(150, 154), Genotype(158, 160), 2,
-       "cond_RJ_RJ_par1\t\t[[],[158,154]]\t\t[0,4]\t/ 2\t[0,2]"},
-      {Genotype(150, 154), Genotype(150, 154), Genotype(148, 156), 2,
-       "cond_RJ_RJ_par1\t\t[[],[dm=2]]\t\t[0,2]\t/ 2\t[0,1]"},
-      {Genotype(150, 154), Genotype(152, 152), Genotype(154, 150), 2,
-       "cond_RJ_RJ_par2\t\t[[dm=2],[]]\t\t[2,0]\t/ 2\t[1,0]"},
-      {Genotype(150, 154), Genotype(156, 156), Genotype(154, 150), 2,
-       "cond_RJ_RJ_par2\t\t[[156,154],[]]\t\t[2,0]\t/ 2\t[1,0]"},
-      // Alleles stand unpadded here.
-      {Genotype(98, 98), Genotype(98, 98), Genotype(96, 112), 2,
-       "cond_RR_par1_seul\t\t[[],[96,98]]\t\t[0,2]\t/ 2\t[0,1]"},
-  };
-  for (const RecordCase& one : cases) {
-    EXPECT_EQ(
-        ConditionRecord(ClassifyLocus(one.offspring, one.par1, one.par2, BasePairs{one.unit})),
-        one.record);
-  }
-}
-
 }  // namespace
 }  // namespace kaldo
