@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A search in which a bound on a likelihood says nothing: the pair that it would rule out is the one
-// to be found. Random studies do not come there.
+// A search in which a bound on a likelihood says nothing: the pair that it would rule out is the
+// one to be found. Random studies do not come there.
 #include <cmath>
 
 #include <gtest/gtest.h>
