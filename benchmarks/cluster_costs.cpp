@@ -19,6 +19,7 @@
 
 #include "allocation/allocation_portions.h"
 #include "base/byte_packing.h"
+#include "base/number_text.h"
 #include "cluster/mpi_session.h"
 #include "cluster/sent_part.h"
 #include "simulation/counts_plan.h"
@@ -211,7 +212,7 @@ int main(int argc, char** argv) {
       throw std::runtime_error(
           "mpirun -n 2 kaldo_cluster_costs FOLDER simulate|simulate-sexed|allocate SIZE");
     }
-    kaldo::Report(session, argv[1], argv[2], kaldo::ParseRealOption("SIZE", argv[3]).value());
+    kaldo::Report(session, argv[1], argv[2], kaldo::ParseDouble(argv[3]).value());
     return 0;
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';

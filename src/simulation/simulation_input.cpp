@@ -188,8 +188,7 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
                                                            FileSource& source) {
   return OpenSimulationFiles(settings, OpenAnew(source))
-      .and_then(
-          [&](const SimulationFiles& files) { return LoadSimulationInput(settings, files); });
+      .and_then([&](const SimulationFiles& files) { return LoadSimulationInput(settings, files); });
 }
 
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,

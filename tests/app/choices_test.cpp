@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/base/opened_files.h"
 #include "app/pages/error_page.h"
 #include "app/pages/output_page.h"
 #include "app/pages/simulation_start_page.h"
@@ -17,7 +18,7 @@ namespace {
 
 /// The screens of a simulation on which one of several things is chosen.
 struct Screens {
-  explicit Screens(Flow flow) : start(flow), error(""), strategy(flow), output(flow) {}
+  explicit Screens(Flow flow) : start(flow, opened), error(""), strategy(flow), output(flow) {}
 
   SimulationSettings Settings() const {
     SimulationSettings settings;
@@ -28,6 +29,7 @@ struct Screens {
     return settings;
   }
 
+  OpenedFiles opened;
   SimulationStartPage start;
   ErrorPage error;
   StrategyPage strategy;

@@ -22,7 +22,7 @@ from programs import SOURCE, files_of
 
 CMAKE, BUILD, KALDO = programs.arguments(["CMAKE", "BUILD_FOLDER", "KALDO"], __doc__)
 # For developers; the system has the licence.
-NOT_INSTALLED = {"CONTRIBUTING.md", "LICENSE", "../src/search/README.md"}
+NOT_INSTALLED = {"CONTRIBUTING.md", "../CONTRIBUTING.md", "LICENSE", "../src/search/README.md"}
 
 
 def reports(program, examples, folder):

@@ -121,10 +121,10 @@ SimulationSettings SimulationFlowWindow::SettingsUpTo(Known known) const {
 }
 
 bool SimulationFlowWindow::Passes(const SimulationSettings& settings) {
-  auto input = OpenSimulationFiles(settings, Opened().Opener())
-                   .and_then([&](const SimulationFiles& files) {
-                     return LoadSimulationInput(settings, files);
-                   });
+  auto input =
+      OpenSimulationFiles(settings, Opened().Opener()).and_then([&](const SimulationFiles& files) {
+        return LoadSimulationInput(settings, files);
+      });
   if (!input) {
     Refuse(input.error());
     return false;
