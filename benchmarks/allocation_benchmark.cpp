@@ -62,7 +62,7 @@ void SearchOneOffspring(benchmark::State& state, ErrorKind kind) {
   TransmissionScores scores(kLoci, parents);
   const RunObserver observer;
   std::uint32_t offspring = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     ComputeTransmissionScores(study.table, Slot{parents + offspring % kOffspring}, study.loci,
                               study.matrices, scores);
     benchmark::DoNotOptimize(

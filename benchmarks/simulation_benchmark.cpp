@@ -81,7 +81,7 @@ void JumpOverIteration(benchmark::State& state) {
   const Study study(Flow::kNonSexed, 200, 1000);
   const SimulationInput input = study.Load();
   IterationStates states(study.Settings().flow, input, 1);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(states.Next(1));
   }
   state.SetItemsProcessed(state.iterations() * input.OffspringPerIteration());
@@ -95,7 +95,7 @@ void ProduceIteration(benchmark::State& state) {
   iteration.UseLoci(input.subsets.At(0));
   const RunObserver observer;
   std::uint32_t seed = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(iteration.Run(++seed, observer));
   }
   state.SetItemsProcessed(state.iterations() * input.OffspringPerIteration());
@@ -109,7 +109,7 @@ void WholeIteration(benchmark::State& state, Flow flow) {
   iteration.UseLoci(input.subsets.At(0));
   const RunObserver observer;
   std::uint32_t seed = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(iteration.Run(++seed, observer));
   }
   state.SetItemsProcessed(state.iterations() * input.OffspringPerIteration());

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
@@ -30,12 +32,11 @@ bool AnswersOnTerminal(int argc, char** argv) {
 
 bool HasDisplay() {
 #ifdef Q_OS_LINUX
-  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-    if (const char* const value = std::getenv(name); value != nullptr && *value != '\0') {
-      return true;
-    }
-  }
-  return false;
+  constexpr std::array kNames = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+  return std::any_of(kNames.begin(), kNames.end(), [](const char* name) {
+    const char* const value = std::getenv(name);
+    return value != nullptr && *value != '\0';
+  });
 #else
   return true;
 #endif

@@ -44,7 +44,9 @@ class ListedParents {
   void AddUpCosts(OffspringBounds& offspring);
 
   std::uint16_t CostAt(Place place) const { return costs_[place.Value()]; }
-  const std::uint16_t* CostsOfBlock(std::uint32_t block) const { return costs_ + block * kBlock; }
+  const std::uint16_t* CostsOfBlock(std::uint32_t block) const {
+    return costs_ + std::size_t{block} * kBlock;
+  }
 
   /// The smallest cost in a block, and in kBlocksAtOnce blocks from `block` on, a multiple of it.
   std::uint16_t BlockMinimum(std::uint32_t block) const { return block_minima_[block]; }

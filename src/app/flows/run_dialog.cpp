@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <mutex>
 #include <new>
 #include <thread>
@@ -81,7 +82,7 @@ class WatchedRun : public RunObserver {
 };
 
 std::string TimeText(double seconds) {
-  const auto whole = static_cast<long>(seconds + 0.5);
+  const long whole = std::lround(seconds);
   return whole >= 3600 ? fmt::format("{}:{:02}:{:02}", whole / 3600, whole / 60 % 60, whole % 60)
                        : fmt::format("{}:{:02}", whole / 60, whole % 60);
 }
