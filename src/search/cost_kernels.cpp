@@ -53,6 +53,8 @@ bool KeepCommonImpl(const std::uint64_t* all, const GiverRows* loci, std::size_t
   return two || met > 1;
 }
 
+// Arrays as C has them: the functions of std::array would be compiled for the least of the targets.
+// NOLINTBEGIN(modernize-avoid-c-arrays)
 void SumCostsImpl(const std::uint8_t* const* rows, std::size_t count, const std::uint64_t* possible,
                   std::size_t blocks, std::uint16_t impossible, std::uint16_t* sums,
                   std::uint16_t* minima) {
@@ -99,6 +101,7 @@ std::uint64_t MaskAtMostImpl(const std::uint16_t* costs, std::uint16_t limit) {
   }
   return mask;
 }
+// NOLINTEND(modernize-avoid-c-arrays)
 
 }  // namespace kaldo::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();

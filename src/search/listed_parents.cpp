@@ -85,10 +85,10 @@ void ListedParents::AddUpCostsOfSome(OffspringBounds& offspring) {
     const Slot slot = slots_[place];
     some_costs_[place] = one_by_one ? offspring.Cost(slot) : all_costs_[slot.Value()];
   }
-  std::fill(some_costs_.begin() + count_,
-            some_costs_.begin() + static_cast<std::ptrdiff_t>(blocks_ * kBlock), kImpossible);
+  std::fill(some_costs_.begin() + count_, some_costs_.begin() + std::ptrdiff_t{blocks_} * kBlock,
+            kImpossible);
   for (std::uint32_t block = 0; block < blocks_; ++block) {
-    const auto begin = some_costs_.begin() + static_cast<std::ptrdiff_t>(block * kBlock);
+    const auto begin = some_costs_.begin() + std::ptrdiff_t{block} * kBlock;
     block_minima_[block] = *std::min_element(begin, begin + kBlock);
   }
 }

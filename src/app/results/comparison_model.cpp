@@ -223,7 +223,7 @@ QVariant ComparisonModel::data(const QModelIndex& index, int role) const {
     return CellText(column, row);
   }
   if (role == Qt::TextAlignmentRole && IsNumeric(column)) {
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   if (role == Qt::ToolTipRole && column == Column::kCondition && pair_) {
     return Text(ConditionTip(comparisons_[row].condition));
@@ -279,7 +279,7 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
     return Head(column);
   }
   if (role == Qt::TextAlignmentRole && IsNumeric(column)) {
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   return {};
 }

@@ -153,7 +153,7 @@ QVariant OffspringModel::data(const QModelIndex& index, int role) const {
     return CellText(column, index.row());
   }
   if (role == Qt::TextAlignmentRole && IsNumeric(column)) {
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   if (role == Qt::ToolTipRole && column == Column::kPairs && Outcome(index.row()).more_than_five) {
     return Text(kManyPairsTip);
@@ -174,7 +174,7 @@ QVariant OffspringModel::headerData(int section, Qt::Orientation orientation, in
     return Text(texts.tip);
   }
   if (role == Qt::TextAlignmentRole && IsNumeric(column)) {
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   return {};
 }

@@ -141,7 +141,7 @@ QVariant SubsetModel::data(const QModelIndex& index, int role) const {
     return CellText(column, shown_[static_cast<std::size_t>(index.row())]);
   }
   if (role == Qt::TextAlignmentRole && column <= Column::kAnyCorrect) {
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   return {};
 }
@@ -165,7 +165,7 @@ QVariant SubsetModel::headerData(int section, Qt::Orientation orientation, int r
     return Text(kTips.at(place));
   }
   if (role == Qt::TextAlignmentRole && static_cast<Column>(section) <= Column::kAnyCorrect) {
-    return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   return {};
 }
