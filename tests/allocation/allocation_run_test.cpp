@@ -19,7 +19,6 @@ namespace {
 using test::ReadFile;
 using test::StoppingObserver;
 using test::TempFolder;
-using test::WorkingFolder;
 
 AllocationSettings NonSexedSettings() {
   AllocationSettings settings;
