@@ -39,6 +39,9 @@ tl::expected<std::vector<char>, Problem> DiskFiles::Read(const std::string& path
   }
   if (!stream.eof() && bytes.size() <= kMaxInputBytes) {
     const int error = errno != 0 ? errno : EIO;
+    if (error == EINTR) {
+      throw RunStopped();  // Ctrl-C, while a pipe was waited for
+    }
     return tl::unexpected(CannotOpenFile(path, std::generic_category().message(error)));
   }
   if (bytes.size() > kMaxInputBytes) {

@@ -23,7 +23,8 @@ class FileSource {
   virtual ~FileSource() = default;
 
   /// The whole file, read once. A file that cannot be opened or read, or is larger than any input,
-  /// is a Problem with the sentence `Cannot open file "x"!`.
+  /// is a Problem with the sentence `Cannot open file "x"!`. Throws RunStopped when the user stops
+  /// the waiting for a pipe.
   virtual tl::expected<std::vector<char>, Problem> Read(const std::string& path) = 0;
 };
 

@@ -6,6 +6,12 @@
 
 namespace kaldo {
 
+/// What the user should know although the run goes on.
+enum class RunMessage {
+  kNote,     ///< what was done, for instance which earlier results were replaced
+  kWarning,  ///< what may need a look
+};
+
 /// How a run tells what it does and hears that it should stop. The command line shows a bar, the
 /// windows a dialog, a test nothing. All functions may be called from any thread of the run, so
 /// they return at once.
@@ -26,6 +32,9 @@ class RunObserver {
 
   /// So many further steps of the part are done.
   virtual void OnSteps(std::uint64_t /*steps*/) {}
+
+  /// One sentence that stays to be read when the run is over.
+  virtual void OnMessage(RunMessage /*kind*/, std::string_view /*sentence*/) {}
 
   /// True once the user wants the run to end. The run then throws RunStopped within a moment.
   virtual bool StopRequested() const { return false; }

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <exception>
 #include <iostream>
-#include <unistd.h>
 
+#include "base/stop_signal.h"
+#include "base/this_process.h"
 #include "cli/command_line.h"
-#include "cli/stop_signal.h"
 
 int main(int argc, char** argv) {
   try {
     kaldo::CatchStopSignals();
     const std::vector<std::string> arguments(argv + 1, argv + argc);
-    const kaldo::CommandLineStreams streams{std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1};
+    const kaldo::CommandLineStreams streams{std::cout, std::cerr, kaldo::MessagesGoToTerminal()};
     kaldo::ExitCode code = kaldo::RunCommandLine(arguments, streams);
     std::cout.flush();
     if (!std::cout && code == kaldo::ExitCode::kDone) {

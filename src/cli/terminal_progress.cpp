@@ -4,10 +4,11 @@
 #include <algorithm>
 #include <cmath>
 #include <ostream>
+#include <system_error>
 
 #include <fmt/format.h>
 
-#include "cli/stop_signal.h"
+#include "base/stop_signal.h"
 
 namespace kaldo {
 
@@ -44,7 +45,11 @@ std::string ProgressLine(std::string_view part, std::uint64_t done, std::uint64_
 
 TerminalProgress::TerminalProgress(std::ostream& stream, bool is_terminal) : stream_(stream) {
   if (is_terminal) {
-    painter_ = std::jthread([this] { DrawUntilEnd(); });
+    try {
+      painter_ = std::jthread([this] { DrawUntilEnd(); });
+    } catch (const std::system_error&) {
+      // No further thread can be started: a run without a bar.
+    }
   }
 }
 
@@ -70,19 +75,26 @@ void TerminalProgress::OnNote(std::string_view note) {
   note_ = note;
 }
 
+void TerminalProgress::OnMessage(RunMessage kind, std::string_view sentence) {
+  const std::lock_guard lock(mutex_);
+  stream_ << (is_drawn_ ? kEraseLine : "")
+          << (kind == RunMessage::kWarning ? "Warning: " : "Note: ") << sentence << '\n'
+          << std::flush;
+  is_drawn_ = false;
+}
+
 bool TerminalProgress::StopRequested() const { return StopSignalled(); }
 
 void TerminalProgress::DrawUntilEnd() {
   std::unique_lock lock(mutex_);
-  bool drawn = false;
   while (!end_.wait_for(lock, kPause, [this] { return ended_; })) {
     if (!part_.empty() && Clock::now() - started_ >= kSilentTime) {
       stream_ << kEraseLine << ProgressLine(part_, done_, steps_, Clock::now() - part_started_)
               << (note_.empty() ? "" : ", ") << note_ << std::flush;
-      drawn = true;
+      is_drawn_ = true;
     }
   }
-  if (drawn) {
+  if (is_drawn_) {
     stream_ << kEraseLine << std::flush;
   }
 }

@@ -14,7 +14,7 @@
 namespace kaldo {
 
 /// Shows a run on a terminal: one line with a bar and the time left, from the second second on.
-/// Where the messages do not go to a terminal it shows nothing. Hears Ctrl-C.
+/// Where the messages do not go to a terminal it shows no bar. Hears Ctrl-C.
 class TerminalProgress : public RunObserver {
  public:
   TerminalProgress(std::ostream& stream, bool is_terminal);
@@ -27,6 +27,8 @@ class TerminalProgress : public RunObserver {
   void OnPart(std::string_view name, std::uint64_t steps) override;
   void OnNote(std::string_view note) override;
   void OnSteps(std::uint64_t steps) override { done_ += steps; }
+  /// Shown whether there is a terminal or not.
+  void OnMessage(RunMessage kind, std::string_view sentence) override;
   bool StopRequested() const override;
 
  private:
@@ -44,6 +46,7 @@ class TerminalProgress : public RunObserver {
   std::uint64_t steps_ = 0;
   Clock::time_point part_started_ = Clock::now();
   bool ended_ = false;
+  bool is_drawn_ = false;
   std::condition_variable end_;
 
   std::jthread painter_;

@@ -8,7 +8,7 @@
 
 #include "base/byte_packing.h"
 #include "base/problem.h"
-#include "cli/stop_signal.h"
+#include "base/stop_signal.h"
 #include "cluster/pause.h"
 #include "cluster/worker_crew.h"
 

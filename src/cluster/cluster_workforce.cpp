@@ -69,8 +69,9 @@ void ClusterWorkforce::Do(const PortionJob& job, unsigned wanted, RunObserver& o
   {
     std::vector<std::jthread> own;
     try {
-      for (unsigned thread = 0; thread < threads; ++thread) {
-        own.emplace_back([&] { WorkAtDesk(job.task, desk, observer); });
+      StartThreads(threads, own, [&] { WorkAtDesk(job.task, desk, observer); });
+      if (own.empty() && session_.Size() == 1) {
+        WorkAtDesk(job.task, desk, observer);
       }
       Serve(part);
     } catch (...) {

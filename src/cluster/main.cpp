@@ -2,10 +2,10 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
-#include <unistd.h>
 
+#include "base/stop_signal.h"
+#include "base/this_process.h"
 #include "cli/command_line.h"
-#include "cli/stop_signal.h"
 #include "cluster/cluster_worker.h"
 #include "cluster/cluster_workforce.h"
 
@@ -14,7 +14,7 @@ namespace {
 /// The command line of the program, in process 0 alone.
 kaldo::ExitCode Lead(const std::vector<std::string>& arguments, kaldo::MpiSession& session) {
   kaldo::ClusterWorkforce workforce(session);
-  const kaldo::CommandLineStreams streams{std::cout, std::cerr, ::isatty(STDERR_FILENO) == 1};
+  const kaldo::CommandLineStreams streams{std::cout, std::cerr, kaldo::MessagesGoToTerminal()};
   kaldo::ExitCode code = kaldo::RunCommandLine(arguments, streams, workforce);
   std::cout.flush();
   if (!std::cout && code == kaldo::ExitCode::kDone) {

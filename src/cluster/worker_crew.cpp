@@ -4,6 +4,7 @@
 #include <new>
 
 #include "base/problem.h"
+#include "runs/workforce.h"
 
 namespace kaldo {
 
@@ -22,8 +23,9 @@ class CrewObserver final : public RunObserver {
 }  // namespace
 
 WorkerCrew::WorkerCrew(SentPart sent) : sent_(std::move(sent)) {
-  for (unsigned thread = 0; thread < sent_.threads; ++thread) {
-    threads_.emplace_back([this] { Work(); });
+  StartThreads(sent_.threads, threads_, [this] { Work(); });
+  if (threads_.empty()) {
+    throw RunFailure("no thread could be started");
   }
 }
 

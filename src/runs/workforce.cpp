@@ -2,8 +2,7 @@
 #include "runs/workforce.h"
 
 #include <algorithm>
-#include <thread>
-#include <vector>
+#include <system_error>
 
 namespace kaldo {
 
@@ -39,6 +38,17 @@ void WorkAtDesk(const PortionTask& task, PortionDesk& desk, RunObserver& observe
   }
 }
 
+void StartThreads(std::size_t number, std::vector<std::jthread>& threads,
+                  const std::function<void()>& work) {
+  try {
+    for (std::size_t thread = 0; thread < number; ++thread) {
+      threads.emplace_back(work);
+    }
+  } catch (const std::system_error&) {
+    // The limit of the user or the machine is reached: those that run do all of it.
+  }
+}
+
 unsigned LocalThreads::Threads(unsigned wanted) const {
   const unsigned cores = std::thread::hardware_concurrency();
   return wanted != 0 ? wanted : std::max(cores, 1U);
@@ -46,13 +56,12 @@ unsigned LocalThreads::Threads(unsigned wanted) const {
 
 void LocalThreads::Do(const PortionJob& job, unsigned wanted, RunObserver& observer) {
   const std::size_t items = job.plan.Groups() * job.plan.ItemsPerGroup();
-  const std::size_t threads = std::min<std::size_t>(Threads(wanted), items);
+  const std::size_t threads =
+      std::max<std::size_t>(std::min<std::size_t>(Threads(wanted), items), 1);
   PortionDesk desk(job.plan, threads);
   {
     std::vector<std::jthread> others;
-    for (std::size_t thread = 1; thread < threads; ++thread) {
-      others.emplace_back([&] { WorkAtDesk(job.task, desk, observer); });
-    }
+    StartThreads(threads - 1, others, [&] { WorkAtDesk(job.task, desk, observer); });
     WorkAtDesk(job.task, desk, observer);
   }
   desk.ThrowFailure();

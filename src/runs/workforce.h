@@ -3,6 +3,8 @@
 
 #include <functional>
 #include <string_view>
+#include <thread>
+#include <vector>
 
 #include "base/file_source.h"
 #include "runs/portion_desk.h"
@@ -53,6 +55,11 @@ class LocalThreads final : public Workforce {
  private:
   DiskFiles files_;
 };
+
+/// Starts up to `number` threads that do `work`; fewer where the system allows no more, which is
+/// not a reason to lose a run.
+void StartThreads(std::size_t number, std::vector<std::jthread>& threads,
+                  const std::function<void()>& work);
 
 /// What one thread does: portions from the desk until there are no more. A failure ends the part.
 void WorkAtDesk(const PortionTask& task, PortionDesk& desk, RunObserver& observer);
