@@ -2,7 +2,6 @@
 #include "allocation/allocation_record.h"
 
 #include <algorithm>
-#include <filesystem>
 
 #include <fmt/format.h>
 
@@ -32,13 +31,17 @@ std::vector<std::string> WarningsOf(const AllocationInput& input, const Allocati
 
 }  // namespace
 
+std::string_view AllocationFlowName(Flow flow) {
+  return flow == Flow::kSexed ? kSexedAllocationFlow : kNonSexedAllocationFlow;
+}
+
 RunRecord RecordOf(const AllocationSettings& settings, const AllocationInput& input,
                    const AllocationResult& result) {
   RunRecord record;
   record.version = Version();
   record.date = DateText(result.started);
-  record.flow = settings.flow == Flow::kSexed ? kSexedAllocationFlow : kNonSexedAllocationFlow;
-  record.folder = std::filesystem::current_path().string();
+  record.flow = AllocationFlowName(settings.flow);
+  record.folder = result.folder;
   record.threads = result.threads;
   record.duration_seconds = result.duration.count();
   record.warnings = WarningsOf(input, result);

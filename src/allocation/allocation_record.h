@@ -12,6 +12,8 @@ namespace kaldo {
 inline constexpr std::string_view kNonSexedAllocationFlow = "allocation, non-sexed";
 inline constexpr std::string_view kSexedAllocationFlow = "allocation, sexed";
 
+std::string_view AllocationFlowName(Flow flow);
+
 /// The record of a finished run.
 RunRecord RecordOf(const AllocationSettings& settings, const AllocationInput& input,
                    const AllocationResult& result);

@@ -4,6 +4,7 @@
 #include "allocation/allocation_portions.h"
 #include "allocation/allocation_record.h"
 #include "allocation/reports/allocation_reports.h"
+#include "base/this_process.h"
 
 namespace kaldo {
 
@@ -12,6 +13,7 @@ AllocationResult Allocate(const AllocationSettings& settings, const AllocationIn
   AllocationResult result;
   result.started = std::chrono::system_clock::now();
   const auto clock_start = std::chrono::steady_clock::now();
+  result.folder = CurrentFolder();
   result.threads = workforce.Threads(settings.threads);
   result.stepping = CheckStepping(input.loci, input.catalogues);
 
@@ -53,7 +55,7 @@ AllocationRun RunAllocation(const AllocationSettings& settings, AllocationInput 
                             RunObserver& observer, Workforce& workforce) {
   // The reports are opened first: a folder that cannot be written to shows at once, not after
   // hours.
-  AllocationReports reports(settings);
+  AllocationReports reports(settings, input, observer);
   AllocationResult result = Allocate(settings, input, observer, workforce);
   reports.Write(settings, input, result, observer);
   return {std::move(input), std::move(result)};

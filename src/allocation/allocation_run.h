@@ -28,6 +28,7 @@ struct AllocationResult {
 
   SteppingReport stepping;
 
+  std::string folder;    ///< the working folder at the start
   unsigned threads = 1;  ///< that computed, of all processes together
   std::chrono::system_clock::time_point started;
   std::chrono::duration<double> duration{};

@@ -14,8 +14,8 @@
 namespace kaldo {
 
 /// Everything a user chooses for an allocation. The command line and the windows fill it; no rule
-/// of the method is theirs. Each member but `flow`, which follows from the files, is declared in
-/// the table below.
+/// of the method is theirs. Each member but `flow`, which follows from the files, and the last
+/// is declared in the table below.
 struct AllocationSettings {
   Flow flow = Flow::kNonSexed;
 
@@ -39,6 +39,10 @@ struct AllocationSettings {
   std::optional<std::vector<std::int32_t>> sequence;
 
   unsigned threads = 0;  ///< 0: as many as the machine has cores. Results never depend on it.
+
+  /// The user agrees that the results of another flow in the project folder go. No run record has
+  /// this: it is a decision of the moment.
+  bool may_replace_other_flow = false;
 
   friend bool operator==(const AllocationSettings&, const AllocationSettings&) = default;
 };

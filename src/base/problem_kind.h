@@ -98,6 +98,10 @@ enum class ProblemKind : std::uint8_t {
   kOptionsOfOtherFlow,
   kCollectedAndPseudoCollected,
 
+  // What a run would destroy.
+  kOutputIsInput,
+  kOtherFlowThere,
+
   // Run records.
   kNotARunRecord,
   kUnusableRunRecord,
@@ -218,6 +222,8 @@ inline constexpr std::array<ProblemSentence, static_cast<std::size_t>(ProblemKin
         {ProblemKind::kCollectedAndPseudoCollected,
          "Choose collected or pseudo-collected parents!"},
 
+        {ProblemKind::kOutputIsInput, "The run would destroy one of its own input files!"},
+        {ProblemKind::kOtherFlowThere, "{} Choose another project name, or add --replace."},
         {ProblemKind::kNotARunRecord, "This is not a run record!"},
         {ProblemKind::kUnusableRunRecord, "This run record cannot be used!"},
         {ProblemKind::kRunMayDiffer, "The run may differ from the recorded one."},

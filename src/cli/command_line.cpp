@@ -15,6 +15,8 @@
 #include "cli/simulation_result_text.h"
 #include "cli/terminal_progress.h"
 #include "cli/typed_options.h"
+#include "runs/project_lock.h"
+#include "runs/report_set.h"
 #include "runs/value_kinds.h"
 #include "simulation/run_settings.h"
 #include "simulation/simulation_checks.h"
@@ -74,18 +76,26 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
   return ExitCode::kDone;
 }
 
-ExitCode RunAndTell(const RunSettings& settings, const CommandLineStreams& streams,
-                    Workforce& workforce) {
-  if (const auto* allocation = std::get_if<AllocationSettings>(&settings)) {
+/// Runs with the settings, unless they are at fault.
+ExitCode RunAndTell(tl::expected<RunSettings, Problem> settings, bool may_replace_other_flow,
+                    const CommandLineStreams& streams, Workforce& workforce) {
+  if (!settings) {
+    return Tell(settings.error(), streams);
+  }
+  std::visit([&](auto& each) { each.may_replace_other_flow = may_replace_other_flow; }, *settings);
+  if (const auto* allocation = std::get_if<AllocationSettings>(&*settings)) {
     return AllocateAndTell(*allocation, streams, workforce);
   }
-  return SimulateAndTell(std::get<SimulationSettings>(settings), streams, workforce);
+  return SimulateAndTell(std::get<SimulationSettings>(*settings), streams, workforce);
 }
 
 ExitCode RunCheck(const TypedSettings& typed, const CommandLineStreams& streams) {
   const auto settings = AllocationFrom(typed);
   if (!settings) {
     return Tell(settings.error(), streams);
+  }
+  if (const auto recovered = RecoverProject(ProjectFolder(settings->project))) {
+    streams.err << *recovered << '\n';
   }
   const auto input = LoadAllocationInput(*settings);
   if (!input) {
@@ -113,7 +123,8 @@ void TellChanges(const RunRecord& record, const CommandLineStreams& streams) {
 }
 
 ExitCode RunRerun(const std::string& path, const std::optional<std::string>& threads,
-                  const CommandLineStreams& streams, Workforce& workforce) {
+                  bool may_replace_other_flow, const CommandLineStreams& streams,
+                  Workforce& workforce) {
   const auto record = ReadRunRecord(path);
   if (!record) {
     return Tell(record.error(), streams);
@@ -129,7 +140,7 @@ ExitCode RunRerun(const std::string& path, const std::optional<std::string>& thr
     }
     std::visit([&](auto& each) { each.threads = *number; }, *settings);
   }
-  return settings ? RunAndTell(*settings, streams, workforce) : Tell(settings.error(), streams);
+  return RunAndTell(std::move(settings), may_replace_other_flow, streams, workforce);
 }
 
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
@@ -151,6 +162,7 @@ struct Commands {
   TypedOptions simulation;
   std::string record;
   std::optional<std::string> rerun_threads;
+  bool may_replace_other_flow = false;
 
   Commands() {
     app.require_subcommand(0, 1);
@@ -164,6 +176,10 @@ struct Commands {
         ->add_option("--threads", rerun_threads,
                      "Threads; default: all cores (kaldo-mpi: 1 per process)")
         ->type_name("N");
+    for (CLI::App* const command : {allocate, simulate, rerun}) {
+      command->add_flag("--replace", may_replace_other_flow,
+                        "Replace results of another flow in the project folder, too");
+    }
     for (CLI::App* const command : {&app, allocate, simulate, check, rerun}) {
       command->set_version_flag("--version", VersionLine());
       command->footer(std::string(kExamples));
@@ -182,20 +198,19 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
     return code == 0 ? ExitCode::kDone : ExitCode::kBadInput;
   }
   if (commands.allocate->parsed()) {
-    const auto settings = AllocationFrom(commands.allocation.Given());
-    return settings ? AllocateAndTell(*settings, streams, workforce)
-                    : Tell(settings.error(), streams);
+    return RunAndTell(AllocationFrom(commands.allocation.Given()), commands.may_replace_other_flow,
+                      streams, workforce);
   }
   if (commands.simulate->parsed()) {
-    const auto settings = SimulationFrom(commands.simulation.Given());
-    return settings ? SimulateAndTell(*settings, streams, workforce)
-                    : Tell(settings.error(), streams);
+    return RunAndTell(SimulationFrom(commands.simulation.Given()), commands.may_replace_other_flow,
+                      streams, workforce);
   }
   if (commands.check->parsed()) {
     return RunCheck(commands.allocation.Given(), streams);
   }
   if (commands.rerun->parsed()) {
-    return RunRerun(commands.record, commands.rerun_threads, streams, workforce);
+    return RunRerun(commands.record, commands.rerun_threads, commands.may_replace_other_flow,
+                    streams, workforce);
   }
   streams.err << commands.app.help();
   return ExitCode::kBadInput;
@@ -216,6 +231,8 @@ ExitCode RunCommandLine(const std::vector<std::string>& arguments,
   } catch (const RunStopped& stopped) {
     streams.err << stopped.what() << '\n';
     return ExitCode::kStopped;
+  } catch (const RunRefused& refused) {
+    return Tell(refused.Reason(), streams);
   } catch (const std::bad_alloc&) {
     streams.err << "Out of memory. The results of earlier runs are as they were.\n";
   } catch (const std::exception& error) {

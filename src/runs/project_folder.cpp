@@ -9,15 +9,35 @@
 
 namespace kaldo {
 
-bool ProjectFolder::Create() const {
+std::vector<std::string> ProjectFolder::Create() const {
+  std::vector<std::string> made;
   std::error_code error;
-  const bool is_new = !std::filesystem::exists(name_, error);
-  std::filesystem::create_directories(name_, error);
-  if (!std::filesystem::is_directory(name_)) {
-    throw RunFailure(fmt::format("Cannot make the folder \"{}\": {}", name_,
-                                 error ? error.message() : "a file of that name is in the way"));
+  std::filesystem::path path;
+  for (const auto& part : std::filesystem::path(name_)) {
+    path /= part;
+    if (std::filesystem::create_directory(path, error)) {
+      made.push_back(path.string());
+    }
+    if (error) {
+      break;
+    }
   }
-  return is_new;
+  std::error_code ignored;
+  if (!std::filesystem::is_directory(name_, ignored)) {
+    RemoveFolders(made);
+    throw RunFailure(fmt::format("Cannot make the folder \"{}\": {}", name_,
+                                 error == std::errc::file_exists
+                                     ? fmt::format("\"{}\" is a file", path.string())
+                                     : error.message()));
+  }
+  return made;
+}
+
+void RemoveFolders(const std::vector<std::string>& made) {
+  std::error_code ignored;
+  for (auto folder = made.rbegin(); folder != made.rend(); ++folder) {
+    std::filesystem::remove(*folder, ignored);
+  }
 }
 
 }  // namespace kaldo

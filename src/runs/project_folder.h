@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kaldo {
 
@@ -17,12 +18,15 @@ class ProjectFolder {
   /// The path of an output file: the project name and the fixed file name, nothing else.
   std::string Path(std::string_view file) const { return name_ + std::string(file); }
 
-  /// Makes the folder and tells whether it is new; one that exists is fine. Throws RunFailure when
-  /// it cannot be made.
-  bool Create() const;
+  /// Makes the folder; one that exists is fine. Returns the folders made, outermost first. Throws
+  /// RunFailure when it cannot be made.
+  std::vector<std::string> Create() const;
 
  private:
   std::string name_;
 };
+
+/// Removes the folders that Create() made, as far as nothing is in them.
+void RemoveFolders(const std::vector<std::string>& made);
 
 }  // namespace kaldo

@@ -1,123 +1,157 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runs/report_set.h"
 
-#include <cerrno>
+#include <algorithm>
 #include <filesystem>
-#include <system_error>
-#include <unistd.h>
+#include <stdexcept>
 
 #include <fmt/format.h>
 
-#include "base/problem.h"
+#include "base/disk_file.h"
+#include "runs/earlier_run.h"
+#include "runs/project_lock.h"
+#include "runs/result_files.h"
 
 namespace kaldo {
 
 namespace {
 
-constexpr std::size_t kBlockBytes = std::size_t{1} << 18U;
+std::string Told(const Problem& problem) {
+  const std::string detail = DetailLine(problem);
+  return detail.empty() ? SentenceOf(problem) : SentenceOf(problem) + '\n' + detail;
+}
 
-void RefuseFolder(const std::string& path) {
-  if (std::filesystem::is_directory(path)) {
+/// Links count: what a name leads to is the same file.
+bool IsSameFile(const std::string& one, const std::string& other) {
+  std::error_code ignored;
+  return std::filesystem::equivalent(one, other, ignored) ||
+         std::filesystem::absolute(one, ignored).lexically_normal() ==
+             std::filesystem::absolute(other, ignored).lexically_normal();
+}
+
+}  // namespace
+
+RunRefused::RunRefused(Problem problem) : RunFailure(Told(problem)), problem_(std::move(problem)) {}
+
+ReportSet::ReportSet(ReportsOrder order, RunObserver& observer)
+    : order_(std::move(order)), observer_(observer), made_folders_(order_.project.Create()) {
+  try {
+    LockAndOpen();
+  } catch (...) {
+    Clear();
+    throw;
+  }
+}
+
+ReportSet::~ReportSet() { Clear(); }
+
+void ReportSet::LockAndOpen() {
+  lock_ = LockProject(order_.project, observer_);
+  const auto other = OtherFlowSentence(order_.project, order_.flow);
+  if (other && !order_.may_replace_other_flow) {
+    throw RunRefused({.kind = ProblemKind::kOtherFlowThere, .subject = *other});
+  }
+  earlier_ = EarlierRun(order_.project);
+  swap_.emplace(order_.project, NewWorkingFolder(order_.project));
+  swap_->MakeFolders();
+  if (other) {
+    RemoveOtherFlow();
+  }
+}
+
+void ReportSet::RemoveOtherFlow() {
+  for (const std::string_view file : ResultFiles(earlier_->flow)) {
+    if (!IsResultFile(order_.flow, file)) {
+      CheckPlace(file);
+      obsolete_.emplace_back(file);
+    }
+  }
+}
+
+void ReportSet::Clear() {
+  reports_.clear();
+  if (swap_) {
+    swap_->Clean();
+  }
+  lock_.reset();
+  RemoveFolders(made_folders_);
+}
+
+void ReportSet::CheckPlace(std::string_view file) const {
+  const std::string path = order_.project.Path(file);
+  RefuseInput(path);
+  std::error_code ignored;
+  if (std::filesystem::is_directory(path, ignored)) {
     throw RunFailure(
         fmt::format("Cannot replace \"{}\": a folder of that name is in the way", path));
   }
 }
 
-}  // namespace
-
-ReportFile::ReportFile(std::string path)
-    : path_(std::move(path)), unfinished_path_(fmt::format("{}.{}.part", path_, ::getpid())) {
-  RefuseFolder(path_);
-  errno = 0;
-  stream_.open(unfinished_path_, std::ios::binary | std::ios::trunc);
-  if (!stream_.is_open()) {
-    Fail("open");
-  }
-}
-
-ReportFile::~ReportFile() {
-  if (!in_place_) {
-    stream_.close();
-    std::error_code ignored;
-    std::filesystem::remove(unfinished_path_, ignored);
-  }
-}
-
-void ReportFile::Fail(std::string_view what) const {
-  const int error = errno;
-  throw RunFailure(fmt::format("Cannot {} \"{}\"{}{}", what, path_, error != 0 ? ": " : "",
-                               error != 0 ? std::generic_category().message(error) : ""));
-}
-
-void ReportFile::Append(std::string_view text) {
-  pending_ += text;
-  if (pending_.size() >= kBlockBytes) {
-    errno = 0;
-    stream_.write(pending_.data(), static_cast<std::streamsize>(pending_.size()));
-    pending_.clear();
-    if (!stream_) {
-      Fail("write");
+void ReportSet::RefuseInput(const std::string& path) const {
+  for (const RecordedInput& input : order_.inputs) {
+    if (IsSameFile(path, input.path)) {
+      throw RunRefused(
+          {.kind = ProblemKind::kOutputIsInput,
+           .file = input.path,
+           .found = fmt::format("it is \"{}\", which the run replaces or removes; choose another "
+                                "project name, or give the input file another name",
+                                path)});
     }
   }
 }
 
-void ReportFile::Finish() {
-  errno = 0;
-  stream_.write(pending_.data(), static_cast<std::streamsize>(pending_.size()));
-  pending_.clear();
-  stream_.close();
-  if (!stream_) {
-    Fail("write");
+ReportFile& ReportSet::Open(std::string_view file, bool only_if_any) {
+  if (!IsResultFile(order_.flow, file)) {
+    throw std::logic_error(fmt::format("\"{}\" is no result of: {}", file, order_.flow));
   }
+  CheckPlace(file);
+  reports_.push_back({std::string(file),
+                      std::make_unique<ReportFile>(swap_->NewPath(file), order_.project.Path(file)),
+                      only_if_any});
+  return *reports_.back().file;
 }
 
-void ReportFile::PutInPlace() {
-  std::error_code error;
-  std::filesystem::rename(unfinished_path_, path_, error);
-  if (error) {
-    throw RunFailure(fmt::format("Cannot replace \"{}\": {}", path_, error.message()));
-  }
-  in_place_ = true;
-}
+ReportFile& ReportSet::Add(std::string_view file) { return Open(file, false); }
 
-ReportSet::~ReportSet() {
-  reports_.clear();
-  if (folder_is_new_) {
-    std::error_code ignored;
-    std::filesystem::remove(folder_.Name(), ignored);  // only when nothing is in it
-  }
-}
-
-ReportFile& ReportSet::Add(std::string_view file) {
-  reports_.push_back(std::make_unique<ReportFile>(folder_.Path(file)));
-  return *reports_.back();
-}
-
-void ReportSet::AddElsewhere(const std::string& path, std::string_view text) {
-  reports_.push_back(std::make_unique<ReportFile>(path));
-  reports_.back()->Append(text);
-}
+ReportFile& ReportSet::AddIfAny(std::string_view file) { return Open(file, true); }
 
 void ReportSet::Remove(std::string_view file) {
-  obsolete_.push_back(folder_.Path(file));
-  RefuseFolder(obsolete_.back());
+  CheckPlace(file);
+  obsolete_.emplace_back(file);
+}
+
+std::vector<SwappedFile> ReportSet::FinishReports() {
+  std::vector<SwappedFile> files;
+  for (Report& report : reports_) {
+    if (report.only_if_any && report.file->IsEmpty()) {
+      obsolete_.push_back(report.name);
+      std::error_code ignored;
+      report.file.reset();
+      std::filesystem::remove(swap_->NewPath(report.name), ignored);
+    } else {
+      report.file->Finish();
+      files.push_back({report.name, true, IsThere(order_.project.Path(report.name))});
+    }
+  }
+  for (const std::string& name : obsolete_) {
+    if (IsThere(order_.project.Path(name))) {
+      files.push_back({name, false, true});
+    }
+  }
+  // The record comes last: it vouches for the others.
+  std::stable_partition(files.begin(), files.end(),
+                        [](const SwappedFile& file) { return file.name != kRunRecordFile; });
+  return files;
 }
 
 void ReportSet::Commit() {
   // Whatever can fail for want of space fails here, before any earlier report is touched.
-  for (const auto& report : reports_) {
-    report->Finish();
-  }
-  for (const auto& report : reports_) {
-    report->PutInPlace();
-  }
-  for (const std::string& path : obsolete_) {
-    std::error_code error;
-    std::filesystem::remove(path, error);
-    if (error) {
-      throw RunFailure(
-          fmt::format("Cannot remove \"{}\" of an earlier run: {}", path, error.message()));
-    }
+  const auto files = FinishReports();
+  swap_->Do(files);
+  made_folders_.clear();
+  if (earlier_) {
+    observer_.OnMessage(RunMessage::kNote,
+                        ReplacedSentence(order_.project, *earlier_, order_.flow, order_.inputs));
   }
 }
 

@@ -1,85 +1,96 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "runs/project_folder.h"
+#include "base/folder_lock.h"
+#include "base/problem.h"
+#include "base/run_observer.h"
+#include "runs/report_file.h"
+#include "runs/results_swap.h"
+#include "runs/run_record.h"
 
 namespace kaldo {
 
-/// A report being written beside its final place. Text goes out in large blocks, so that a report
-/// of any length takes little memory.
-class ReportFile {
+/// A run that must not begin, since it would destroy what the user has not offered.
+class RunRefused : public RunFailure {
  public:
-  /// Opens `path` followed by a suffix that no other running program uses.
-  explicit ReportFile(std::string path);
-  ReportFile(const ReportFile&) = delete;
-  ReportFile& operator=(const ReportFile&) = delete;
-  ReportFile(ReportFile&&) = delete;
-  ReportFile& operator=(ReportFile&&) = delete;
+  explicit RunRefused(Problem problem);
 
-  /// Removes the unfinished file, unless PutInPlace() was called.
-  ~ReportFile();
-
-  /// Throws RunFailure when the disk is full or the folder has gone.
-  void Append(std::string_view text);
-
-  /// Writes what is still in memory and closes the file.
-  void Finish();
-
-  /// Renames the finished file to its final name, which replaces an earlier file whole.
-  void PutInPlace();
-
-  const std::string& Path() const { return path_; }
+  const Problem& Reason() const { return problem_; }
 
  private:
-  [[noreturn]] void Fail(std::string_view what) const;
-
-  std::string path_;
-  std::string unfinished_path_;
-  std::string pending_;
-  std::ofstream stream_;
-  bool in_place_ = false;
+  Problem problem_;
 };
 
-/// The reports of one run. All are written beside the earlier ones first; Commit() puts them in
-/// place together. When a run fails or is stopped before, the set goes away and every earlier
-/// report stays as it was.
+/// Whose results go where.
+struct ReportsOrder {
+  ProjectFolder project;
+  std::string_view flow;                     ///< as in run records
+  const std::vector<RecordedInput>& inputs;  ///< none of which may be replaced or removed
+  bool may_replace_other_flow = false;
+};
+
+/// The reports of one run. All are opened before it computes, and written in a working folder of
+/// the project folder; Commit() exchanges them for those of an earlier run, as one step. When a run
+/// fails or is stopped before, the set goes away and every earlier report stays as it was. No other
+/// run writes into the folder meanwhile.
 class ReportSet {
  public:
-  explicit ReportSet(ProjectFolder folder)
-      : folder_(std::move(folder)), folder_is_new_(folder_.Create()) {}
+  /// Throws RunFailure when the project folder cannot be written to or another run is at work in
+  /// it, and RunRefused when it holds the results of another flow that may not be replaced.
+  ReportSet(ReportsOrder order, RunObserver& observer);
   ReportSet(const ReportSet&) = delete;
   ReportSet& operator=(const ReportSet&) = delete;
   ReportSet(ReportSet&&) = delete;
   ReportSet& operator=(ReportSet&&) = delete;
 
-  /// Without a Commit() every trace of the set goes away, a folder made for it included.
+  /// Without a Commit() every trace of the set goes away, folders made for it included.
   ~ReportSet();
 
-  /// Starts a report, named with its leading "/": "/Summary.xls".
+  /// Starts a report, named with its leading "/": "/Summary.xls". Throws RunRefused when a file of
+  /// that name is an input of the run, RunFailure when the disk refuses it or a folder of that name
+  /// is in the way.
   ReportFile& Add(std::string_view file);
 
-  /// Writes a whole report at once.
-  void Add(std::string_view file, std::string_view text) { Add(file).Append(text); }
+  /// Starts a report that is thrown away when nothing is written to it: an earlier one of that name
+  /// is then removed.
+  ReportFile& AddIfAny(std::string_view file);
 
-  /// Has a file that an earlier run may have left behind removed at Commit(). Throws RunFailure at
-  /// once when a folder of that name is in the way.
+  /// Has a file that an earlier run may have left behind removed at Commit(). Throws as Add().
   void Remove(std::string_view file);
 
-  /// Writes a whole file outside the project folder, under the same rules.
-  void AddElsewhere(const std::string& path, std::string_view text);
+  /// Throws RunRefused when `path`, which the run writes outside its folder, is an input of it.
+  void RefuseInput(const std::string& path) const;
 
+  /// Throws RunFailure when it cannot be done; the earlier results then are as they were.
   void Commit();
 
  private:
-  ProjectFolder folder_;
-  bool folder_is_new_;
-  std::vector<std::unique_ptr<ReportFile>> reports_;
+  struct Report {
+    std::string name;
+    std::unique_ptr<ReportFile> file;
+    bool only_if_any = false;
+  };
+
+  void LockAndOpen();
+  void RemoveOtherFlow();
+  void Clear();
+  ReportFile& Open(std::string_view file, bool only_if_any);
+  void CheckPlace(std::string_view file) const;
+  std::vector<SwappedFile> FinishReports();
+
+  ReportsOrder order_;
+  RunObserver& observer_;
+  std::vector<std::string> made_folders_;
+  std::unique_ptr<FolderLock> lock_;
+  std::optional<ResultsSwap> swap_;
+  std::optional<RunRecord> earlier_;
+  std::vector<Report> reports_;
   std::vector<std::string> obsolete_;
 };
 

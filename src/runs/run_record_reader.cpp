@@ -72,6 +72,15 @@ std::string TextOf(const toml::table& table, std::string_view key) {
   return Decoded(table[key].value_exact<std::string>().value_or(""));
 }
 
+/// The date as it is written, or nothing.
+std::string DateOf(const toml::table& table) {
+  const auto date = table["date"].value_exact<toml::date_time>();
+  return date ? fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}Z", date->date.year,
+                            date->date.month, date->date.day, date->time.hour, date->time.minute,
+                            date->time.second)
+              : std::string();
+}
+
 void ReadInputs(const toml::table& table, RunRecord& record) {
   const toml::array* inputs = table["input"].as_array();
   if (inputs == nullptr) {
@@ -157,6 +166,7 @@ tl::expected<RunRecord, Problem> ParseRunRecord(std::string_view text, const std
   }
   RunRecord record;
   record.version = TextOf(table, "version");
+  record.date = DateOf(table);
   record.flow = TextOf(table, "flow");
   record.folder = TextOf(table, "folder");
   record.threads = table["threads"].value_exact<std::int64_t>().value_or(1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "genotypes/loci_list.h"
@@ -10,8 +11,9 @@ namespace kaldo {
 /// The contents of the loci-save file: every name followed by one blank, on one line.
 std::string SavedLociText(const LociList& loci);
 
-/// Writes the loci-save file into the working folder, as the windows do when the first screen of a
-/// simulation is confirmed. Throws RunFailure when it cannot be written.
-void SaveLoci(const LociList& loci);
+/// Writes the loci-save file into the working folder: at the end of a simulation, and in the
+/// windows when the first screen of a simulation is confirmed. It is a convenience: when it cannot
+/// be written the earlier one stays, and why comes back as a sentence.
+std::optional<std::string> SaveLoci(const LociList& loci);
 
 }  // namespace kaldo

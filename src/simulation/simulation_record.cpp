@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/simulation_record.h"
 
-#include <filesystem>
-
 #include "base/version.h"
 
 namespace kaldo {
+
+std::string_view SimulationFlowName(Flow flow) {
+  return flow == Flow::kSexed ? kSexedSimulationFlow : kNonSexedSimulationFlow;
+}
 
 RunRecord RecordOf(const SimulationSettings& settings, const SimulationInput& input,
                    const SimulationResult& result) {
   RunRecord record;
   record.version = Version();
   record.date = DateText(result.started);
-  record.flow = settings.flow == Flow::kSexed ? kSexedSimulationFlow : kNonSexedSimulationFlow;
-  record.folder = std::filesystem::current_path().string();
+  record.flow = SimulationFlowName(settings.flow);
+  record.folder = result.folder;
   record.seed = result.seed;
   record.threads = result.threads;
   record.duration_seconds = result.duration.count();

@@ -12,6 +12,8 @@ namespace kaldo {
 inline constexpr std::string_view kNonSexedSimulationFlow = "simulation, non-sexed";
 inline constexpr std::string_view kSexedSimulationFlow = "simulation, sexed";
 
+std::string_view SimulationFlowName(Flow flow);
+
 /// The record of a finished simulation, with the seed that was used.
 RunRecord RecordOf(const SimulationSettings& settings, const SimulationInput& input,
                    const SimulationResult& result);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/simulation_run.h"
 
+#include "base/this_process.h"
 #include "simulation/counts_plan.h"
 #include "simulation/iteration_portions.h"
 #include "simulation/reports/simulation_reports.h"
@@ -24,6 +25,7 @@ SimulationResult Simulate(const SimulationSettings& settings, const SimulationIn
   result.started = std::chrono::system_clock::now();
   const auto clock_start = std::chrono::steady_clock::now();
   result.seed = settings.seed.value_or(TimeSeed(result.started));
+  result.folder = CurrentFolder();
   result.threads = workforce.Threads(settings.threads);
 
   const IterationTask task(settings, input, IterationProduct::kCounts);
@@ -63,7 +65,7 @@ tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& set
 
 SimulationRun RunSimulation(const SimulationSettings& settings, SimulationInput input,
                             RunObserver& observer, Workforce& workforce) {
-  SimulationReports reports(settings);
+  SimulationReports reports(settings, input, observer);
   SimulatedIteration last(settings, input);
   SimulationResult result = Simulate(settings, input, last, observer, workforce);
   reports.Write(settings, input, result, last, observer, workforce);

@@ -31,6 +31,7 @@ struct SimulationResult {
 
   SteppingReport stepping;  ///< of the last iteration
 
+  std::string folder;    ///< the working folder at the start
   unsigned threads = 1;  ///< that computed, of all processes together
   std::chrono::system_clock::time_point started;
   std::chrono::duration<double> duration{};

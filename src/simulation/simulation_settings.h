@@ -68,7 +68,8 @@ inline constexpr std::array<NamedChoice<bool KeptFiles::*>, 3> kKeptFiles{
      {&KeptFiles::offspring, "offspring"},
      {&KeptFiles::matrices, "matrices"}}};
 
-/// Everything a user chooses for a simulation. Each member is declared in the table below.
+/// Everything a user chooses for a simulation. Each member but the last is declared in the table
+/// below.
 struct SimulationSettings {
   Flow flow = Flow::kNonSexed;
   Procedure procedure = Procedure::kParental;
@@ -97,6 +98,8 @@ struct SimulationSettings {
 
   std::optional<std::uint32_t> seed;  ///< nothing said: the calendar time in seconds
   unsigned threads = 0;               ///< 0: as many as cores; results never depend on it
+
+  bool may_replace_other_flow = false;  ///< as in AllocationSettings; in no run record
 
   std::span<const ParentalSet> Sets() const {
     return std::span(sets).first(flow == Flow::kSexed ? 2 : 1);

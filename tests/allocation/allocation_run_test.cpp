@@ -93,6 +93,7 @@ TEST_F(ExampleRun, GivesTheSameReportsForAnyNumberOfThreads) {
   for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
     AllocationSettings settings = Settings(flow);
     settings.sequence.emplace();
+    settings.may_replace_other_flow = true;
     std::string with_one_thread;
     for (const unsigned threads : {1U, 2U, 7U}) {
       settings.threads = threads;

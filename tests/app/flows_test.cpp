@@ -190,7 +190,7 @@ TEST_F(FlowsTest, AllelesOutOfStepAreTold) {
   RunProgram([this](Script& script) {
     WalkToLoci(script, Flow::kSexed);
     RunToTheEnd(script, command_);
-    OpenFlow(script, "SIMULATIONSNON-SEXED");
+    OpenFlow(script, "SIMULATIONSNON-SEXED", Text("s"));
     script.Type("LociFile", Text("data/loci.txt")).Type("Iterations", Text("2")).Click("Ok");
     script.Type("CollectedFile", Text("data/males.txt"));
     script.Type("UncollectedSample", Text("data/sample.txt")).Type("Uncollected", Text("2"));

@@ -135,5 +135,25 @@ TEST_F(PlacesTest, NumbersHaveADecimalPointEverywhere) {
   ExpectAsCommandLine("s", simulation);
 }
 
+TEST_F(PlacesTest, ResultsOfAnotherFlowGoOnlyWhenTheUserSaysSo) {
+  folder_.Write("p/Summary.xls", "of a simulation\n");
+  folder_.Write("p/Run record.toml",
+                "program = \"KALDO\"\ndate = 2026-03-01T14:02:11Z\nflow = \"simulation, "
+                "sexed\"\n[settings]\n");
+  OpenFlow(script_, "ALLOCATIONNON-SEXED");
+  TypeAllocationFiles(script_, Flow::kNonSexed, Text("data"));
+  script_.Click("Ok").Await("ErrorModel").Click("NonUniform").Click("Ok").Await("ChoiceOfLoci");
+  script_.Click("Ok").Answer("No").Await("ChoiceOfLoci").Do([this](QWidget&) {
+    EXPECT_EQ(ContentsOf("p").size(), 2U);
+  });
+  script_.Click("Ok").Answer("Yes").Answer().Await("Tabs").Click("Close").Await("MainMenu");
+  Go(script_);
+  const std::string_view question =
+      "\"p\" holds the results of another flow (simulation, sexed, of 2026-03-01T14:02:11Z). "
+      "Replace them?";
+  ExpectTold(script_, {question, question, "Calculations completed!"});
+  EXPECT_EQ(ContentsOf("p").count("Summary.xls"), 0U);
+}
+
 }  // namespace
 }  // namespace kaldo

@@ -43,7 +43,7 @@ class StoppingTest : public test::MenuTest {
 
   std::vector<std::string> UnfinishedFiles() const {
     std::vector<std::string> names = folder_.FilesIn("p");
-    std::erase_if(names, [](const std::string& name) { return !name.ends_with(".part"); });
+    std::erase_if(names, [](const std::string& name) { return !name.starts_with(".kaldo-"); });
     return names;
   }
 

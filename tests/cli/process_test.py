@@ -90,7 +90,25 @@ class ExitCodes(ProgramTest):
         with os.fdopen(writing, "wb") as pipe:
             cut = self.run_program(allocation("project"), stdout=pipe)
         self.assertIn(cut.returncode, (1, -signal.SIGPIPE))
-        self.assertFalse(list((self.folder / "project").glob("*.part")))
+        self.assertFalse(list((self.folder / "project").glob(".*")))
+
+    def test_a_limit_on_the_size_of_files(self):
+        run = self.run_program(["sh", "-c", 'ulimit -f 1; exec "$@"', "sh", *allocation("project")])
+        self.assertEqual(run.returncode, 1)
+        self.assertRegex(run.stderr, rb"^Cannot write \"project/[^\n]*: File too large\n$")
+        self.assertFalse((self.folder / "project").exists())
+
+    def test_two_runs_at_once(self):
+        for _ in range(10):
+            runs = [self.start(allocation("project"), stdout=subprocess.DEVNULL,
+                               stderr=subprocess.PIPE) for _ in range(2)]
+            for run in runs:
+                text = run.communicate(timeout=GENEROUS)[1]
+                if run.returncode != 0:
+                    self.assertEqual(run.returncode, 1, text)
+                    self.assertIn(b'Another run is at work in "project"', text)
+            self.assertIn(0, [run.returncode for run in runs])
+            self.assertFalse(list((self.folder / "project").glob(".*")))
 
     def test_rerun_counts_paths_from_the_working_folder(self):
         self.assertEqual(self.run_program(allocation("project")).returncode, 0)
@@ -114,7 +132,7 @@ class LongRuns(ProgramTest):
         earlier = files_of(project)
         process = self.start(long_run("project", threads="2"),
                              stdout=subprocess.PIPE, stderr=subprocess.PIPE)
-        wait_until(lambda: list(project.glob("*.part")) or process.poll() is not None,
+        wait_until(lambda: list(project.glob(".kaldo-*/new/*")) or process.poll() is not None,
                    "reports being written")
         self.assertIsNone(process.poll(), "the run ended before it could be stopped")
         process.send_signal(sent)
@@ -127,6 +145,20 @@ class LongRuns(ProgramTest):
 
     def test_termination_by_a_batch_system(self):
         self.stop(signal.SIGTERM)
+
+    def test_a_terminal_that_is_closed(self):
+        self.stop(signal.SIGHUP)
+
+    def test_signals_that_were_ignored_before_stay_ignored(self):
+        run = self.start(["nohup", *long_run("project")], stdout=subprocess.DEVNULL,
+                         stderr=subprocess.PIPE)
+        project = self.folder / "project"
+        wait_until(lambda: list(project.glob(".kaldo-*/new/*")), "reports being written")
+        run.send_signal(signal.SIGHUP)
+        time.sleep(0.3)
+        self.assertIsNone(run.poll())
+        run.send_signal(signal.SIGINT)
+        self.assertEqual(run.wait(GENEROUS), 130)
 
     def start_on_terminal(self, command):
         controller, terminal = pty.openpty()
@@ -173,7 +205,7 @@ class LongRuns(ProgramTest):
         with open(messages, "wb") as stream:
             silent = self.start(long_run("silent"), stdout=subprocess.DEVNULL,
                                 stderr=stream)
-        wait_until(lambda: list((self.folder / "silent").glob("*.part")), "reports being written")
+        wait_until(lambda: list((self.folder / "silent").glob(".kaldo-*/new/*")), "reports being written")
         # A run that began later, on a terminal, is the clock: it has drawn its bar three times.
         shown, controller = self.start_on_terminal(long_run("shown"))
         for _ in range(3):

@@ -193,6 +193,10 @@ const std::vector<Refusal> kRefusals = {
     {kCollectedAndPseudoCollected, "preparental collected-parents=parents", "collected parents"},
     {kCollectedAndPseudoCollected, "sexed -collected-males pseudo-collected-male-sample=sample",
      "males and females come from"},
+    {kOutputIsInput, "parental uncollected-sample=SAUVLOCUSTULM.txt",
+     "SAUVLOCUSTULM.txt: it is \"SAUVLOCUSTULM.txt\"", "SAUVLOCUSTULM.txt", "X1 150152 150152\n"},
+    {kOtherFlowThere, "parental project=other", "", "other/Run record.toml",
+     "program = \"KALDO\"\nflow = \"allocation, sexed\"\n[settings]\n"},
 };
 
 class RefusalsTest : public testing::Test {
@@ -219,6 +223,7 @@ TEST_F(RefusalsTest, SoundCommandsRun) {
   for (const auto& [name, command] : kSound) {
     const auto outcome = test::RunCommand(CommandOf(name));
     EXPECT_EQ(outcome.code, ExitCode::kDone) << name << ": " << outcome.err;
+    std::filesystem::remove_all("results");
   }
 }
 

@@ -201,7 +201,7 @@ class Ends(Clusters):
         self.assertNotEqual(code, 0)
         self.assertEqual(err.count(DIED.format(0)), 1, err)
         self.assertEqual({name: now[name] for name in earlier}, earlier)
-        self.assertTrue(all(name.endswith(".part") for name in now.keys() - earlier.keys()))
+        self.assertTrue(all(name.startswith(".kaldo-") for name in now.keys() - earlier.keys()))
 
     def test_a_user_who_stops_the_run(self):
         code, err, now, earlier = self.disturb(lambda process, _: process.pid, signal.SIGINT)

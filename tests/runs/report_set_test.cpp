@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runs/report_set.h"
 
-#include <csignal>
 #include <filesystem>
 #include <functional>
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 
 #include "base/problem.h"
+#include "runs/project_lock.h"
 #include "tests/support/temp_folder.h"
 
 namespace kaldo {
@@ -20,43 +19,30 @@ using test::TempFolder;
 
 using Names = std::vector<std::string>;
 
-/// Lets no file grow beyond so many bytes while it lives, as a full disk does.
-class FullDisk {
+/// Remembers what the user is told.
+class Listener final : public RunObserver {
  public:
-  explicit FullDisk(rlim_t bytes) {
-    EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &earlier_), 0);
-    earlier_handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{bytes, earlier_.rlim_max};
-    EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  FullDisk(FullDisk&&) = delete;
-  FullDisk& operator=(FullDisk&&) = delete;
-  ~FullDisk() {
-    EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &earlier_), 0);
-    (void)std::signal(SIGXFSZ, earlier_handler_);
-  }
-
- private:
-  rlimit earlier_{};
-  void (*earlier_handler_)(int) = nullptr;
+  void OnMessage(RunMessage /*kind*/, std::string_view sentence) override { told += sentence; }
+  std::string told;
 };
 
+// Whatever fails at the disk is tested with whole runs; here is what one process can see.
 class ReportSetTest : public testing::Test {
  protected:
   ReportSetTest() {
-    folder_.Write("lake/a.xls", "earlier a\n");
-    folder_.Write("lake/b.xls", "earlier b\n");
+    folder_.Write("lake/Summary.xls", "earlier a\n");
+    folder_.Write("lake/uncollected males.txt", "earlier b\n");
   }
 
-  ProjectFolder Project() const { return ProjectFolder(folder_.Path("lake")); }
+  ReportsOrder Order(const std::string& name = "lake") const {
+    return {ProjectFolder(folder_.Path(name)), "simulation, sexed", inputs_};
+  }
   std::string Read(const std::string& name) const { return ReadFile(folder_.Path("lake/" + name)); }
 
   void ExpectEarlierReports() const {
-    EXPECT_EQ(folder_.FilesIn("lake"), (Names{"a.xls", "b.xls"}));
-    EXPECT_EQ(Read("a.xls"), "earlier a\n");
-    EXPECT_EQ(Read("b.xls"), "earlier b\n");
+    EXPECT_EQ(folder_.FilesIn("lake"), (Names{"Summary.xls", "uncollected males.txt"}));
+    EXPECT_EQ(Read("Summary.xls"), "earlier a\n");
+    EXPECT_EQ(Read("uncollected males.txt"), "earlier b\n");
   }
 
   /// What the run fails with.
@@ -69,101 +55,103 @@ class ReportSetTest : public testing::Test {
     return "no failure";
   }
 
-  TempFolder folder_;  // NOLINT(misc-non-private-member-variables-in-classes)
+  // NOLINTBEGIN(misc-non-private-member-variables-in-classes)
+  TempFolder folder_;
+  std::vector<RecordedInput> inputs_;
+  Listener listener_;
+  // NOLINTEND(misc-non-private-member-variables-in-classes)
 };
 
 TEST_F(ReportSetTest, ChangesNothingBeforeCommit) {
   std::string long_text;
-  ReportSet reports(Project());
-  ReportFile& report = reports.Add("/a.xls");
+  ReportSet reports(Order(), listener_);
+  ReportFile& report = reports.Add("/Summary.xls");
   for (int line = 0; line < 100'000; ++line) {
     const std::string text = "line " + std::to_string(line) + '\n';
     report.Append(text);
     long_text += text;
   }
-  reports.Add("/c.xls", "new c\n");
-  reports.Add("/empty.xls", "");
-  reports.Remove("/b.xls");
-  reports.Remove("/never written.xls");
-  EXPECT_EQ(Read("a.xls"), "earlier a\n");
-  EXPECT_EQ(Read("b.xls"), "earlier b\n");
-  EXPECT_FALSE(std::filesystem::exists(folder_.Path("lake/c.xls")));
+  reports.AddIfAny("/pseudo-offspring.txt").Append("new c\n");
+  reports.Add("/Service file.xls");
+  reports.AddIfAny("/uncollected males.txt");
+  reports.Remove("/uncollected females.txt");
+  EXPECT_EQ(Read("Summary.xls"), "earlier a\n");
+  EXPECT_EQ(Read("uncollected males.txt"), "earlier b\n");
 
   reports.Commit();
-  EXPECT_EQ(folder_.FilesIn("lake"), (Names{"a.xls", "c.xls", "empty.xls"}));
-  EXPECT_TRUE(Read("a.xls") == long_text);
-  EXPECT_EQ(Read("c.xls"), "new c\n");
-  EXPECT_EQ(Read("empty.xls"), "");
+  EXPECT_TRUE(Read("Summary.xls") == long_text);
+  EXPECT_EQ(Read("pseudo-offspring.txt"), "new c\n");
+  EXPECT_EQ(Read("Service file.xls"), "");
+  EXPECT_FALSE(std::filesystem::exists(folder_.Path("lake/uncollected males.txt")));
 }
 
 TEST_F(ReportSetTest, AFailedRunLeavesNoTrace) {
   {
-    ReportSet reports(Project());
-    reports.Add("/a.xls", std::string(1'000'000, 'x'));
-    reports.Remove("/b.xls");
-    EXPECT_EQ(folder_.FilesIn("lake").size(), 3U) << "the report grows beside the earlier one";
+    ReportSet reports(Order(), listener_);
+    reports.Add("/Summary.xls").Append(std::string(1'000'000, 'x'));
+    reports.Remove("/uncollected males.txt");
+    EXPECT_EQ(folder_.FilesIn("lake").size(), 4U) << "the lock and the working folder";
   }
   ExpectEarlierReports();
   {
-    ReportSet reports(ProjectFolder(folder_.Path("new/deeper")));
-    reports.Add("/a.xls", "text");
+    ReportSet reports(Order("new/deeper"), listener_);
+    reports.Add("/Summary.xls").Append("text");
   }
-  EXPECT_FALSE(std::filesystem::exists(folder_.Path("new/deeper")));
+  EXPECT_FALSE(std::filesystem::exists(folder_.Path("new")));
 }
 
-TEST_F(ReportSetTest, AFullDiskLeavesTheEarlierReports) {
-  // Found while the report is written ...
-  EXPECT_EQ(FailureOf([this] {
-              const FullDisk disk(100'000);
-              ReportSet reports(Project());
-              reports.Add("/a.xls", std::string(1'000'000, 'x'));
-            }),
-            "Cannot write \"" + folder_.Path("lake/a.xls") + "\": File too large");
-  ExpectEarlierReports();
-  // ... or only when the last of several is finished.
-  EXPECT_EQ(FailureOf([this] {
-              const FullDisk disk(1'000);
-              ReportSet reports(Project());
-              reports.Add("/a.xls", "new a\n");
-              reports.Add("/b.xls", std::string(5'000, 'x'));
-              reports.Commit();
-            }),
-            "Cannot write \"" + folder_.Path("lake/b.xls") + "\": File too large");
-  ExpectEarlierReports();
+TEST_F(ReportSetTest, OneRunAtATime) {
+  {
+    ReportSet reports(Order(), listener_);
+    reports.Add("/Summary.xls").Append("new a\n");
+    const std::string failure = FailureOf([this] { ReportSet{Order(), listener_}; });
+    EXPECT_EQ(failure.find("Another run is at work in \"" + folder_.Path("lake") + "\" (process "),
+              0U)
+        << failure;
+    EXPECT_EQ(RecoverProject(ProjectFolder(folder_.Path("lake"))), std::nullopt);
+    reports.Commit();
+  }
+  EXPECT_EQ(Read("Summary.xls"), "new a\n");
+}
+
+TEST_F(ReportSetTest, RefusesToDestroyAnInput) {
+  std::filesystem::create_symlink("uncollected males.txt", folder_.Path("lake/link"));
+  std::filesystem::create_hard_link(folder_.Path("lake/uncollected males.txt"),
+                                    folder_.Path("other name"));
+  for (const char* const path : {"lake/uncollected males.txt", "lake/../lake/uncollected males.txt",
+                                 "lake/link", "other name"}) {
+    inputs_ = {{"sample of uncollected males", folder_.Path(path), {}}};
+    EXPECT_THROW(ReportSet(Order(), listener_).Remove("/uncollected males.txt"), RunRefused);
+    EXPECT_THROW(ReportSet(Order(), listener_).AddIfAny("/uncollected males.txt"), RunRefused);
+    EXPECT_NO_THROW(ReportSet(Order(), listener_).Add("/Summary.xls"));
+  }
+  // An output may be a link to an input.
+  std::filesystem::create_symlink(folder_.Path("other name"),
+                                  folder_.Path("lake/Service file.xls"));
+  EXPECT_THROW(ReportSet(Order(), listener_).Add("/Service file.xls"), RunRefused);
 }
 
 TEST_F(ReportSetTest, AFolderInTheWayIsToldBeforeAnythingIsWritten) {
-  folder_.Write("lake/c.xls/file", "");
-  EXPECT_EQ(
-      FailureOf([this] {
-        ReportSet reports(Project());
-        reports.Add("/a.xls", "new a\n");
-        reports.Add("/c.xls", "new c\n");
-        reports.Commit();
-      }),
-      "Cannot replace \"" + folder_.Path("lake/c.xls") + "\": a folder of that name is in the way");
-  std::filesystem::remove_all(folder_.Path("lake/c.xls"));
-  ExpectEarlierReports();
-}
-
-// Whatever the failure, the earlier reports stay as they were.
-TEST_F(ReportSetTest, AFolderInPlaceOfAnObsoleteReportDoesNotHalfFinishARun) {
   folder_.Write("lake/Service file.xls/notes.txt", "the user's own");
-  const std::string failure = FailureOf([this] {
-    ReportSet reports(Project());
-    reports.Add("/a.xls", "new a\n");
-    reports.Remove("/Service file.xls");
-    reports.Commit();
-  });
+  for (const bool removed : {false, true}) {
+    EXPECT_EQ(FailureOf([&] {
+                ReportSet reports(Order(), listener_);
+                removed ? reports.Remove("/Service file.xls")
+                        : (void)reports.Add("/Service file.xls");
+              }),
+              "Cannot replace \"" + folder_.Path("lake/Service file.xls") +
+                  "\": a folder of that name is in the way");
+  }
   EXPECT_EQ(ReadFile(folder_.Path("lake/Service file.xls/notes.txt")), "the user's own");
-  EXPECT_EQ(Read("a.xls"), failure == "no failure" ? "new a\n" : "earlier a\n") << failure;
 }
 
 TEST_F(ReportSetTest, TellsAFolderThatCannotBeMadeOrWritten) {
-  for (const std::string name : {"lake/a.xls", "lake/a.xls/deeper"}) {
-    const std::string path = folder_.Path(name);
-    EXPECT_EQ(FailureOf([&path] { ReportSet{ProjectFolder(path)}; }),
-              "Cannot make the folder \"" + path + "\": Not a directory");
+  for (const std::string name : {"lake/Summary.xls", "lake/Summary.xls/deeper"}) {
+    EXPECT_EQ(FailureOf([&] {
+                ReportSet{Order(name), listener_};
+              }),
+              "Cannot make the folder \"" + folder_.Path(name) + "\": \"" +
+                  folder_.Path("lake/Summary.xls") + "\" is a file");
   }
   ExpectEarlierReports();
   if (::geteuid() == 0) {
@@ -171,11 +159,27 @@ TEST_F(ReportSetTest, TellsAFolderThatCannotBeMadeOrWritten) {
   }
   std::filesystem::permissions(folder_.Path("lake"), std::filesystem::perms::owner_write,
                                std::filesystem::perm_options::remove);
-  EXPECT_EQ(FailureOf([this] { ReportSet(Project()).Add("/a.xls"); }),
-            "Cannot open \"" + folder_.Path("lake/a.xls") + "\": Permission denied");
+  EXPECT_EQ(FailureOf([this] {
+              ReportSet{Order(), listener_};
+            }),
+            "Cannot write into the folder \"" + folder_.Path("lake") + "\": Permission denied");
   std::filesystem::permissions(folder_.Path("lake"), std::filesystem::perms::owner_write,
                                std::filesystem::perm_options::add);
   ExpectEarlierReports();
+}
+
+// A journal that somebody wrote must not move files elsewhere.
+TEST_F(ReportSetTest, ABrokenJournalMovesNothing) {
+  const std::string working = "lake/.kaldo-0123456789abcdef/";
+  folder_.Write(working + "old/x", "");
+  folder_.Write(working + "new/x", "");
+  for (const char* const lines : {"place new /../../outside\nend\n", "place new /x\n"}) {
+    folder_.Write(working + "journal", std::string("KALDO exchanges results\n") + lines);
+    const std::string failure =
+        FailureOf([this] { (void)RecoverProject(ProjectFolder(folder_.Path("lake"))); });
+    EXPECT_NE(failure.find("cannot be read"), std::string::npos) << lines << failure;
+    EXPECT_EQ(folder_.FilesIn(working + "new"), Names{"x"});
+  }
 }
 
 }  // namespace

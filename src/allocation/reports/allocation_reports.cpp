@@ -13,11 +13,24 @@
 
 namespace kaldo {
 
-AllocationReports::AllocationReports(const AllocationSettings& settings)
-    : reports_(ProjectFolder(settings.project)),
+AllocationReports::AllocationReports(const AllocationSettings& settings,
+                                     const AllocationInput& input, RunObserver& observer)
+    : reports_({ProjectFolder(settings.project), AllocationFlowName(settings.flow), input.files,
+                settings.may_replace_other_flow},
+               observer),
       results_(reports_.Add(kAllocationResultsFile)),
       pairs_(reports_.Add(kMaxLikePairsFile)),
-      matrices_(reports_.Add(kTransmissionMatricesFile)) {}
+      matrices_(reports_.Add(kTransmissionMatricesFile)),
+      stepping_(reports_.Add(kSteppingErrorFile)),
+      record_(reports_.Add(kRunRecordFile)) {
+  if (settings.sequence) {
+    sequence_ = &reports_.Add(kSequenceResultsFile);
+    service_ = &reports_.Add(kServiceFile);
+  } else {
+    reports_.Remove(kSequenceResultsFile);
+    reports_.Remove(kServiceFile);
+  }
+}
 
 void AllocationReports::WriteOffspring(const AllocationSettings& settings,
                                        const AllocationInput& input, const AllocationResult& result,
@@ -43,16 +56,13 @@ void AllocationReports::Write(const AllocationSettings& settings, const Allocati
   WriteOffspring(settings, input, result, observer);
   results_.Append(ResultsProportions(settings.flow, result.LastShares()));
 
-  reports_.Add(kSteppingErrorFile, result.stepping.text);
-  if (settings.sequence) {
-    reports_.Add(kSequenceResultsFile, SequenceReport(settings, input, result));
-    reports_.Add(kServiceFile,
-                 AlleleListing(input.loci, input.catalogues, input.table.NumberOfIndividuals()));
-  } else {
-    reports_.Remove(kSequenceResultsFile);
-    reports_.Remove(kServiceFile);
+  stepping_.Append(result.stepping.text);
+  if (sequence_ != nullptr) {
+    sequence_->Append(SequenceReport(settings, input, result));
+    service_->Append(
+        AlleleListing(input.loci, input.catalogues, input.table.NumberOfIndividuals()));
   }
-  reports_.Add(kRunRecordFile, FormatRunRecord(RecordOf(settings, input, result)));
+  record_.Append(FormatRunRecord(RecordOf(settings, input, result)));
   reports_.Commit();
 }
 

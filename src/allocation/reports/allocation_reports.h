@@ -10,8 +10,11 @@ namespace kaldo {
 /// made, and put in place together at the end of Write(); if it is never reached, nothing changes.
 class AllocationReports {
  public:
-  /// Throws RunFailure when the project folder cannot be written to.
-  explicit AllocationReports(const AllocationSettings& settings);
+  /// Opens every report. Throws RunFailure when the project folder cannot be written to, and
+  /// RunRefused when the run would destroy an input file or the results of another flow. The input
+  /// and the observer are used as long as this object lives.
+  AllocationReports(const AllocationSettings& settings, const AllocationInput& input,
+                    RunObserver& observer);
 
   /// Writes every report and the run record. Throws RunFailure or RunStopped.
   void Write(const AllocationSettings& settings, const AllocationInput& input,
@@ -25,6 +28,10 @@ class AllocationReports {
   ReportFile& results_;
   ReportFile& pairs_;
   ReportFile& matrices_;
+  ReportFile& stepping_;
+  ReportFile* sequence_ = nullptr;  ///< only with a sequence, as the next
+  ReportFile* service_ = nullptr;
+  ReportFile& record_;
 };
 
 }  // namespace kaldo

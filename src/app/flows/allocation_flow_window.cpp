@@ -2,6 +2,7 @@
 #include "app/flows/allocation_flow_window.h"
 
 #include "allocation/allocation_command.h"
+#include "allocation/allocation_record.h"
 #include "allocation/allocation_run.h"
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
@@ -160,8 +161,9 @@ std::string AllocationFlowWindow::Command() {
 }
 
 void AllocationFlowWindow::Run() {
-  const auto settings = AllSettings();
-  if (!settings) {
+  auto settings = AllSettings();
+  if (!settings ||
+      !AskToReplace(AllocationFlowName(settings->flow), settings->may_replace_other_flow)) {
     return;
   }
   const auto files = OpenAllocationFiles(*settings, Opened().Opener());

@@ -18,7 +18,9 @@
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
+#include "runs/earlier_run.h"
 #include "runs/project_folder.h"
+#include "runs/project_lock.h"
 #include "runs/run_record.h"
 
 namespace kaldo {
@@ -171,12 +173,21 @@ QString FlowWindow::ResultsFolder() const {
 
 bool FlowWindow::MakeProjectFolder() {
   try {
-    ProjectFolder(project_).Create();
+    (void)ProjectFolder(project_).Create();
+    if (const auto recovered = RecoverProject(ProjectFolder(project_))) {
+      ShowSentence(this, *recovered);
+    }
     return true;
   } catch (const RunFailure& failure) {
     ShowFailure(this, Text(failure.what()));
     return false;
   }
+}
+
+bool FlowWindow::AskToReplace(std::string_view flow, bool& may_replace) {
+  const auto other = OtherFlowSentence(ProjectFolder(project_), flow);
+  may_replace = other && AskYesNo(this, Text(*other + " Replace them?"));
+  return !other || may_replace;
 }
 
 }  // namespace kaldo

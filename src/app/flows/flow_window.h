@@ -78,8 +78,13 @@ class FlowWindow : public QDialog {
   /// The folder of the results, in full.
   QString ResultsFolder() const;
 
-  /// Makes the project folder; tells why where that is not possible.
+  /// Makes the project folder, and puts right what a run that died there left half done; tells why
+  /// where that is not possible.
   bool MakeProjectFolder();
+
+  /// Asks before a run of the flow replaces results of another flow. Sets `may_replace` to a Yes;
+  /// false when the run is not to be.
+  bool AskToReplace(std::string_view flow, bool& may_replace);
 
  private:
   void Keep(QWidget* page);

@@ -14,6 +14,7 @@
 #include <cmath>
 #include <mutex>
 #include <new>
+#include <system_error>
 #include <thread>
 
 #include <fmt/format.h>
@@ -62,7 +63,18 @@ class WatchedRun : public RunObserver {
     note_ = note;
   }
   void OnSteps(std::uint64_t steps) override { done_ += steps; }
+  void OnMessage(RunMessage kind, std::string_view sentence) override {
+    const std::lock_guard lock(mutex_);
+    if (kind == RunMessage::kWarning) {  // what a run replaces stands on its last screen
+      warnings_.append(warnings_.empty() ? "" : "\n").append(sentence);
+    }
+  }
   bool StopRequested() const override { return stop_; }
+
+  std::string Warnings() const {
+    const std::lock_guard lock(mutex_);
+    return warnings_;
+  }
 
   void Stop() { stop_ = true; }
 
@@ -75,6 +87,7 @@ class WatchedRun : public RunObserver {
   mutable std::mutex mutex_;  // guards what is neither const nor atomic
   std::string part_ = "Reading the files";
   std::string note_;
+  std::string warnings_;
   std::uint64_t steps_ = 0;
   Clock::time_point part_started_ = Clock::now();
   std::atomic<std::uint64_t> done_{0};
@@ -129,14 +142,22 @@ class RunDialog : public QDialog {
   }
 
   RunEnd Run(const std::function<void(RunObserver&)>& work) {
-    std::jthread worker([this, &work] {
-      const RunEnd end = Work(work);
-      QMetaObject::invokeMethod(
-          this, [this, end] { Finish(end); }, Qt::QueuedConnection);
-    });
+    std::jthread worker;
+    try {
+      worker = std::jthread([this, &work] {
+        const RunEnd end = Work(work);
+        QMetaObject::invokeMethod(
+            this, [this, end] { Finish(end); }, Qt::QueuedConnection);
+      });
+    } catch (const std::system_error& error) {
+      failure_ = Text(error.what());
+      return RunEnd::kFailed;
+    }
     exec();
     return end_;
   }
+
+  std::string Warnings() const { return watched_.Warnings(); }
 
   const QString& Failure() const { return failure_; }
 
@@ -212,6 +233,9 @@ bool RunWithProgress(QWidget* parent, const QString& title,
                      const std::function<void(RunObserver&)>& work) {
   RunDialog dialog(parent, title);
   const RunEnd end = dialog.Run(work);
+  if (const std::string warnings = dialog.Warnings(); !warnings.empty()) {
+    ShowSentence(parent, warnings);
+  }
   if (end == RunEnd::kStopped) {
     ShowSentence(parent, RunStopped().what());
   } else if (end == RunEnd::kFailed) {

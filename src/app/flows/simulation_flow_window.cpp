@@ -21,6 +21,7 @@
 #include "simulation/saved_loci.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_command.h"
+#include "simulation/simulation_record.h"
 #include "simulation/simulation_run.h"
 
 namespace kaldo {
@@ -160,10 +161,8 @@ void SimulationFlowWindow::ConfirmStart() {
     return;
   }
   const LociList list(*loci);
-  try {
-    SaveLoci(list);
-  } catch (const RunFailure& failure) {
-    return ShowFailure(this, Text(failure.what()));
+  if (const auto failure = SaveLoci(list)) {
+    ShowFailure(this, Text(*failure));
   }
   loci_.Refill(list.Names());
   parents_->Prepare(settings.procedure, settings.loci_file);
@@ -292,6 +291,9 @@ std::string SimulationFlowWindow::Command() {
 
 void SimulationFlowWindow::Run() {
   SimulationSettings settings = SettingsUpTo(Known::kAll);
+  if (!AskToReplace(SimulationFlowName(settings.flow), settings.may_replace_other_flow)) {
+    return;
+  }
   const auto files = OpenSimulationFiles(settings, Opened().Opener());
   if (!files) {
     return Refuse(files.error());

@@ -43,32 +43,44 @@ class MatricesPlan final : public PortionPlan {
 
 }  // namespace
 
-SimulationReports::SimulationReports(const SimulationSettings& settings)
+SimulationReports::SimulationReports(const SimulationSettings& settings,
+                                     const SimulationInput& input, RunObserver& observer)
     : texts_(TextsOf(settings.flow)),
-      reports_(ProjectFolder(settings.project)),
-      summary_(reports_.Add(kSummaryFile)) {}
-
-void SimulationReports::AddOrRemove(std::string_view file, std::string_view text) {
-  if (text.empty()) {
-    reports_.Remove(file);
-  } else {
-    reports_.Add(file, text);
+      reports_({ProjectFolder(settings.project), SimulationFlowName(settings.flow), input.files,
+                settings.may_replace_other_flow},
+               observer),
+      summary_(reports_.Add(kSummaryFile)),
+      detailed_(reports_.AddIfAny(texts_.detailed_file)),
+      sequence_(reports_.AddIfAny(kSequenceResultsFile)),
+      stepping_(reports_.AddIfAny(kSteppingErrorFile)),
+      offspring_(reports_.AddIfAny(kPseudoOffspringFile)),
+      matrices_(reports_.AddIfAny(texts_.matrices_file)),
+      service_(reports_.Add(kServiceFile)),
+      record_(reports_.Add(kRunRecordFile)) {
+  for (const auto& origin : texts_.origins) {
+    tables_.push_back(&reports_.Add(origin.table_file));
   }
+  for (const std::string_view file : texts_.group_files) {
+    parents_.push_back(&reports_.AddIfAny(file));
+  }
+  reports_.RefuseInput(std::string(kSavedLociFile));
 }
 
 void SimulationReports::WriteTables(const SimulationSettings& settings,
                                     const SimulationInput& input, const SimulationResult& result) {
   summary_.Append(SummaryReport(settings, input, result));
   for (std::size_t origin = 0; origin < result.origins.size(); ++origin) {
-    reports_.Add(texts_.origins[origin].table_file,
-                 IterationTableReport(settings, input, result, origin));
+    tables_[origin]->Append(IterationTableReport(settings, input, result, origin));
   }
-  AddOrRemove(texts_.detailed_file,
-              settings.print_iterations ? DetailedReport(texts_, result) : "");
-  AddOrRemove(kSequenceResultsFile, settings.strategy == LociStrategy::kCumulative
-                                        ? SimulationSequenceReport(settings, input, result)
-                                        : "");
-  AddOrRemove(kSteppingErrorFile, result.stepping.any_out_of_step ? result.stepping.text : "");
+  if (settings.print_iterations) {
+    detailed_.Append(DetailedReport(texts_, result));
+  }
+  if (settings.strategy == LociStrategy::kCumulative) {
+    sequence_.Append(SimulationSequenceReport(settings, input, result));
+  }
+  if (result.stepping.any_out_of_step) {
+    stepping_.Append(result.stepping.text);
+  }
 }
 
 void SimulationReports::WriteIndividuals(const SimulationSettings& settings,
@@ -77,34 +89,33 @@ void SimulationReports::WriteIndividuals(const SimulationSettings& settings,
                                          const SimulatedIteration& last) {
   const KeptFiles kept = KeptFilesOf(settings);
   for (std::size_t k = 0; k < input.groups.size(); ++k) {
-    const bool is_written = kept.parents && input.groups[k].sample;
-    AddOrRemove(texts_.group_files[k],
-                is_written ? ParentsText(last, input.groups[k].slots, input.digits_per_field)
-                           : std::string());
+    if (kept.parents && input.groups[k].sample) {
+      parents_[k]->Append(ParentsText(last, input.groups[k].slots, input.digits_per_field));
+    }
   }
-  AddOrRemove(kPseudoOffspringFile,
-              kept.offspring ? PseudoOffspringText(last, input.digits_per_field) : "");
+  if (kept.offspring) {
+    offspring_.Append(PseudoOffspringText(last, input.digits_per_field));
+  }
   LociList loci = input.loci;
   std::vector<std::string> names;
   for (const LocusIndex locus : last.Loci().loci) {
     names.push_back(input.loci.Name(locus));
   }
   (void)loci.Use(names);
-  reports_.Add(kServiceFile, fmt::format("Seed of the random numbers :\t{}\n\n{}", result.seed,
-                                         AlleleListing(loci, last.CataloguesOfAll(),
-                                                       last.Table().NumberOfIndividuals())));
+  service_.Append(
+      fmt::format("Seed of the random numbers :\t{}\n\n{}", result.seed,
+                  AlleleListing(loci, last.CataloguesOfAll(), last.Table().NumberOfIndividuals())));
 }
 
 void SimulationReports::WriteMatrices(const SimulationSettings& settings,
                                       const SimulationInput& input, const SimulationResult& result,
                                       RunObserver& observer, Workforce& workforce) {
   if (!KeptFilesOf(settings).matrices || input.OffspringPerIteration() == 0) {
-    reports_.Remove(texts_.matrices_file);
     return;
   }
   // The iterations run once more, so that their listings need not stay in memory.
   const IterationTask task(settings, input, IterationProduct::kMatrices);
-  MatricesPlan plan(result, reports_.Add(texts_.matrices_file));
+  MatricesPlan plan(result, matrices_);
   observer.OnPart(kMatricesPart, result.states.size());
   workforce.Do({kMatricesPart, task, plan, [&] { return RecordOf(settings, input, result); }},
                settings.threads, observer);
@@ -116,9 +127,11 @@ void SimulationReports::Write(const SimulationSettings& settings, const Simulati
   WriteTables(settings, input, result);
   WriteIndividuals(settings, input, result, last);
   WriteMatrices(settings, input, result, observer, workforce);
-  reports_.AddElsewhere(std::string(kSavedLociFile), SavedLociText(input.loci));
-  reports_.Add(kRunRecordFile, FormatRunRecord(RecordOf(settings, input, result)));
+  record_.Append(FormatRunRecord(RecordOf(settings, input, result)));
   reports_.Commit();
+  if (const auto failure = SaveLoci(input.loci)) {
+    observer.OnMessage(RunMessage::kWarning, *failure);
+  }
 }
 
 }  // namespace kaldo

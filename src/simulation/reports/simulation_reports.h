@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <vector>
+
 #include "runs/report_set.h"
 #include "simulation/reports/simulation_texts.h"
 #include "simulation/simulated_iteration.h"
@@ -8,15 +10,19 @@
 
 namespace kaldo {
 
-/// All files of a simulation run. The project folder is tried when this object is made; the files
-/// are put in place together at the end of Write().
+/// All files of a simulation run. They are opened when this object is made, and put in place
+/// together at the end of Write(); if it is never reached, nothing changes.
 class SimulationReports {
  public:
-  /// Throws RunFailure when the project folder cannot be written to.
-  explicit SimulationReports(const SimulationSettings& settings);
+  /// Throws RunFailure when the project folder cannot be written to, and RunRefused when the run
+  /// would destroy an input file or the results of another flow. The input and the observer are
+  /// used as long as this object lives.
+  SimulationReports(const SimulationSettings& settings, const SimulationInput& input,
+                    RunObserver& observer);
 
-  /// Writes every report, the kept individuals, the saved loci and the run record. `last` is the
-  /// last iteration of the run, as it was made. Throws RunFailure or RunStopped.
+  /// Writes every report, the kept individuals, the run record and, in the working folder, the
+  /// saved loci. `last` is the last iteration of the run, as it was made. Throws RunFailure or
+  /// RunStopped.
   void Write(const SimulationSettings& settings, const SimulationInput& input,
              const SimulationResult& result, const SimulatedIteration& last, RunObserver& observer,
              Workforce& workforce);
@@ -28,12 +34,19 @@ class SimulationReports {
                         const SimulationResult& result, const SimulatedIteration& last);
   void WriteMatrices(const SimulationSettings& settings, const SimulationInput& input,
                      const SimulationResult& result, RunObserver& observer, Workforce& workforce);
-  /// Writes a file, or has one of an earlier run removed when there is nothing to write.
-  void AddOrRemove(std::string_view file, std::string_view text);
 
   const SimulationTexts& texts_;
   ReportSet reports_;
   ReportFile& summary_;
+  std::vector<ReportFile*> tables_;   ///< one per class, then the global one
+  std::vector<ReportFile*> parents_;  ///< one per group
+  ReportFile& detailed_;
+  ReportFile& sequence_;
+  ReportFile& stepping_;
+  ReportFile& offspring_;
+  ReportFile& matrices_;
+  ReportFile& service_;
+  ReportFile& record_;
 };
 
 }  // namespace kaldo

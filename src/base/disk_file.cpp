@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/disk_file.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <filesystem>
+#include <random>
+#include <unistd.h>
+
+#include <fmt/format.h>
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::size_t kNameDigits = 16;
+constexpr mode_t kReadableByAll = 0666;  // less what the user's mask takes away
+
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+}  // namespace
+
+NewFile::~NewFile() {
+  if (file_ >= 0) {
+    ::close(file_);
+  }
+}
+
+std::error_code NewFile::Create(const std::string& path) {
+  file_ =
+      ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kReadableByAll);
+  return file_ >= 0 ? std::error_code() : LastError();
+}
+
+std::error_code NewFile::Write(std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t written = ::write(file_, text.data(), text.size());
+    if (written < 0 && errno == EINTR) {
+      continue;
+    }
+    if (written < 0) {
+      return LastError();
+    }
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return {};
+}
+
+std::error_code NewFile::Finish() {
+  const std::error_code not_synced = ::fsync(file_) == 0 ? std::error_code() : LastError();
+  // Network disks may tell only here that they are full.
+  const std::error_code not_closed = ::close(file_) == 0 ? std::error_code() : LastError();
+  file_ = -1;
+  return not_synced ? not_synced : not_closed;
+}
+
+std::error_code WriteNewFile(const std::string& path, std::string_view text) {
+  NewFile file;
+  std::error_code error = file.Create(path);
+  if (!error) {
+    error = file.Write(text);
+  }
+  return error ? error : file.Finish();
+}
+
+std::error_code SyncFolder(const std::string& path) {
+  const int folder = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (folder < 0) {
+    return {};  // a folder that may be written but not read
+  }
+  std::error_code error = ::fsync(folder) == 0 ? std::error_code() : LastError();
+  ::close(folder);
+  if (error == std::errc::invalid_argument || error == std::errc::not_supported) {
+    error.clear();
+  }
+  return error;
+}
+
+bool IsThere(const std::string& path) {
+  std::error_code ignored;
+  return std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
+}
+
+std::string RandomName() {
+  std::random_device source;
+  return fmt::format("{:08x}{:08x}", source() & 0xffffffffU, source() & 0xffffffffU);
+}
+
+bool IsRandomName(std::string_view text) {
+  return text.size() == kNameDigits && std::all_of(text.begin(), text.end(), [](char character) {
+           return (character >= '0' && character <= '9') || (character >= 'a' && character <= 'f');
+         });
+}
+
+}  // namespace kaldo

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "base/folder_lock.h"
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace kaldo {
+
+namespace {
+
+constexpr mode_t kReadableByAll = 0666;
+constexpr int kAttempts = 100;
+
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+void Close(int& file) {
+  if (file >= 0) {
+    ::close(std::exchange(file, -1));
+  }
+}
+
+}  // namespace
+
+FolderLock::FolderLock(std::string path, const std::string& owner) : path_(std::move(path)) {
+  // Its owner may remove the file between the opening and the locking here: the lock would then be
+  // on a file that nobody else can find, so the next file of that name is tried.
+  for (int attempt = 0; attempt < kAttempts && Open(); ++attempt) {
+    if (::flock(file_, LOCK_EX | LOCK_NB) == 0) {
+      if (IsStillInPlace()) {
+        state_ = LockState::kHeld;
+        WriteOwner(owner);
+        return;
+      }
+      Close(file_);
+      error_ = make_error_code(std::errc::resource_unavailable_try_again);
+      continue;
+    }
+    error_ = LastError();
+    if (error_ == std::errc::interrupted) {
+      Close(file_);
+      continue;
+    }
+    ReadOwner();
+    if (error_ == std::errc::operation_would_block) {
+      state_ = LockState::kTaken;
+    } else {
+      state_ = LockState::kUnknown;
+    }
+    if (state_ == LockState::kTaken || !owner_.empty()) {
+      Close(file_);  // the file is somebody else's
+    } else {
+      WriteOwner(owner);
+    }
+    return;
+  }
+}
+
+FolderLock::~FolderLock() {
+  if (file_ < 0) {
+    return;
+  }
+  // Removed while it is locked: nobody can have locked it since. A second attempt, since a file
+  // that stays would puzzle the user.
+  if (::unlink(path_.c_str()) != 0 && errno != ENOENT) {
+    (void)::unlink(path_.c_str());
+  }
+  Close(file_);
+}
+
+bool FolderLock::Open() {
+  file_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kReadableByAll);
+  if (file_ < 0 && errno == EACCES) {
+    // Left by another user: it can be locked, if not written.
+    file_ = ::open(path_.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    errno = file_ < 0 && errno == ENOENT ? EACCES : errno;
+  }
+  if (file_ < 0) {
+    error_ = LastError();
+  }
+  return file_ >= 0;
+}
+
+bool FolderLock::IsStillInPlace() const {
+  struct stat opened {};
+  struct stat in_place {};
+  return ::fstat(file_, &opened) == 0 && ::lstat(path_.c_str(), &in_place) == 0 &&
+         opened.st_dev == in_place.st_dev && opened.st_ino == in_place.st_ino;
+}
+
+void FolderLock::ReadOwner() {
+  std::array<char, 256> text{};
+  const ssize_t size = ::pread(file_, text.data(), text.size(), 0);
+  owner_.assign(text.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
+}
+
+void FolderLock::WriteOwner(const std::string& owner) {
+  // Only for the eyes of others: a full disk does not matter.
+  if (::ftruncate(file_, 0) == 0) {
+    (void)!::pwrite(file_, owner.data(), owner.size(), 0);
+  }
+}
+
+}  // namespace kaldo
