@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "search/offspring_bounds.h"
+#include "search/possible_parents.h"
 #include "search/places.h"
 
 namespace kaldo {

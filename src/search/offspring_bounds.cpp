@@ -12,10 +12,11 @@ void OffspringBounds::Prepare(const SearchStudy& study) {
   clash_costs_ = ClashCosts(bounds_.SideRatio());
 }
 
-void OffspringBounds::Collect(Slot offspring, const PossibleParents& possible) {
+void OffspringBounds::Collect(Slot offspring, std::span<const std::uint32_t> typed,
+                              std::span<const std::uint64_t> possible) {
   bounds_.MakeRoom();
-  typed_ = possible.TypedLoci();
-  possible_ = possible.Bits();
+  typed_ = typed;
+  possible_ = possible;
   leaning_words_ = (typed_.size() + kLociPerLeaningWord - 1) / kLociPerLeaningWord;
   log_largest_ = 0;
   for (std::size_t i = 0; i < typed_.size(); ++i) {

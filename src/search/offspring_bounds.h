@@ -9,7 +9,6 @@
 #include "method/kept_pairs.h"
 #include "search/genotype_bounds.h"
 #include "search/leanings.h"
-#include "search/possible_parents.h"
 
 namespace kaldo {
 
@@ -20,12 +19,28 @@ class OffspringBounds {
 
   void Prepare(const SearchStudy& study);
 
-  /// Goes over to an offspring, of which the possible parents are known already. They must outlive
-  /// what is asked about it.
-  void Collect(Slot offspring, const PossibleParents& possible);
+  /// Goes over to an offspring, typed at these loci of the run, that the parents with a bit set can
+  /// have given something. Both must outlive what is asked about it.
+  void Collect(Slot offspring, std::span<const std::uint32_t> typed,
+               std::span<const std::uint64_t> possible);
 
   /// No likelihood is more than exp of this and of minus the costs of the two parents.
   double LogLargest() const { return 2 * log_largest_; }
+
+  /// No |v| of one parent, multiplied over the loci, is more than exp of this and of minus its
+  /// cost.
+  double LogLargestOfOne() const { return log_largest_; }
+
+  /// The loci of the run at which the offspring is typed.
+  std::span<const std::uint32_t> TypedLoci() const { return typed_; }
+
+  /// P_R and P_J of every class of parents at the i-th of them.
+  std::span<const LocusBounds::Scores> ScoresOfClasses(std::size_t i) const {
+    return bounds_at_[i]->scores;
+  }
+
+  /// The classes of one parent at all loci of the run, typed or not.
+  const std::uint16_t* ClassesOf(Slot parent) const { return bounds_.ClassesOf(parent); }
 
   /// False where the bounds say nothing about a likelihood; costs are 0 then.
   bool AreSound() const { return bounds_.AreSound(); }

@@ -248,7 +248,7 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
     }
     return OutcomeOf(kept);
   }
-  bounds_.Collect(offspring, possible_);
+  bounds_.Collect(offspring, possible_.TypedLoci(), possible_.Bits());
   listed_.AddUpCosts(bounds_);
   scores_are_known_ = false;
   plain_rows_left_ = 0;
