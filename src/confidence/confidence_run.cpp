@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "confidence/confidence_run.h"
+
+#include <algorithm>
+
+#include "confidence/confidence_matrix.h"
+#include "confidence/confidence_portions.h"
+#include "confidence/evidence_limits.h"
+
+namespace kaldo {
+
+namespace {
+
+AskedCandidates AskedFor(const ConfidenceInput& input, std::size_t offspring) {
+  return input.reported.empty() ? AskedCandidates{} : input.reported[offspring];
+}
+
+/// What tells something about the shares, in file order, each over its largest value.
+std::vector<ByExplanation<double>> Informative(std::span<const Evidence> evidence) {
+  std::vector<ByExplanation<double>> informative;
+  for (const Evidence& one : evidence) {
+    ByExplanation<double> mean = one.fixed.mean;
+    double largest = 0;
+    for (const Explanation k : kAllExplanations) {
+      largest = std::max(largest, mean[k]);
+    }
+    if (one.fixed.is_typed && largest > 0) {
+      for (const Explanation k : kAllExplanations) {
+        mean[k] /= largest;
+      }
+      informative.push_back(mean);
+    }
+  }
+  return informative;
+}
+
+/// The offspring whose evidence leaves out too much under these shares.
+std::vector<EvidenceOrder> OrdersForMore(const ConfidenceInput& input,
+                                         std::span<const Evidence> evidence,
+                                         const ByExplanation<double>& theta) {
+  std::vector<EvidenceOrder> orders;
+  for (std::uint32_t i = 0; i < evidence.size(); ++i) {
+    if (LeavesOutTooMuch(evidence[i], theta)) {
+      orders.push_back({i, HalfOf(LimitsFor(theta, evidence[i].fixed.mean)), AskedFor(input, i)});
+    }
+  }
+  return orders;
+}
+
+std::vector<EvidenceOrder> FirstOrders(const ConfidenceInput& input) {
+  std::vector<EvidenceOrder> orders;
+  for (std::uint32_t i = 0; i < input.offspring.Size(); ++i) {
+    orders.push_back({i, std::nullopt, AskedFor(input, i)});
+  }
+  return orders;
+}
+
+}  // namespace
+
+ConfidenceResult ComputeConfidence(const ConfidenceSettings& settings, const ConfidenceInput& input,
+                                   Workforce& workforce, RunObserver& observer,
+                                   const std::function<RunRecord()>& record) {
+  ConfidenceResult result;
+  const EvidenceTask task(settings, input);
+  result.is_meaningful = AreProbabilities(task.Study().search.matrices);
+  if (!result.is_meaningful) {
+    return result;
+  }
+  result.ways = task.Study().ways;
+  std::vector<Evidence> evidence(input.offspring.Size());
+  for (std::vector<EvidenceOrder> orders = FirstOrders(input); !orders.empty();) {
+    EvidencePlan plan(orders, evidence);
+    observer.OnPart(kWeighingPart, orders.size());
+    workforce.Do({kWeighingPart, task, plan, record}, settings.threads, observer);
+    ++result.gatherings;
+    const auto informative = Informative(evidence);
+    result.informative_offspring = informative.size();
+    result.shares = EstimateShares(informative, result.ways);
+    orders = OrdersForMore(input, evidence, result.shares.theta);
+  }
+  for (std::size_t i = 0; i < evidence.size(); ++i) {
+    const auto reported =
+        input.reported.empty() ? std::nullopt : std::optional<ReportedParents>(input.reported[i]);
+    result.offspring.push_back(Posterior(evidence[i], input.flow, result.shares.theta, result.ways,
+                                         settings.level, reported));
+  }
+  return result;
+}
+
+}  // namespace kaldo

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "confidence/evidence_finder.h"
+
+#include <cmath>
+
+#include "base/problem.h"
+#include "confidence/evidence_limits.h"
+
+namespace kaldo {
+
+namespace {
+
+// No factor of a locus is larger: scores are at most 2.
+constexpr double kLargestFactor = 8;
+
+/// The factor of a locus.
+double Factor(PairSums::Scores one, PairSums::Scores other) {
+  return one.r * other.j + one.j * other.r;
+}
+
+/// The power of two by which the scores of a locus are multiplied: the factor of two strangers and
+/// the largest one that can be then lie about as far below 1 as above. With 50 loci of 50,000
+/// parents the products of both stay within the range of a double.
+double ScaleOf(double strangers_factor) {
+  return std::exp2(-std::round(std::log2(kLargestFactor * strangers_factor) / 4));
+}
+
+constexpr std::array<Explanation, 2> kOneCollected = {Explanation::kFirst, Explanation::kSecond};
+
+}  // namespace
+
+EvidenceFinder::EvidenceFinder(const EvidenceStudy& study) : study_(study) {
+  sums_.Prepare(study_.search, study_.flow, study_.groups);
+  stranger_.resize(study_.search.loci.size());
+  scales_.resize(study_.search.loci.size());
+  for (std::size_t side = 0; side < Sides(); ++side) {
+    found_[side].resize(study_.search.parents);
+  }
+}
+
+/// The scores of a stranger; false where nothing is typed.
+bool EvidenceFinder::ScoreStranger(Slot offspring) {
+  bool is_typed = false;
+  for (std::size_t k = 0; k < stranger_.size(); ++k) {
+    const LocusGenotype& genotype = study_.search.Genotypes(k)[offspring.Value()];
+    stranger_[k] = {1, 0.5};
+    scales_[k] = 1;
+    if (!genotype.IsMissing()) {
+      is_typed = true;
+      const auto& scores = study_.strangers[study_.search.loci[k].Value()];
+      stranger_[k] = {scores[genotype.index1.Value()], scores[genotype.index2.Value()]};
+      scales_[k] = ScaleOf(Factor(stranger_[k], stranger_[k]));
+    }
+  }
+  return is_typed;
+}
+
+double EvidenceFinder::TwoStrangers() const {
+  double product = 1;
+  for (std::size_t k = 0; k < stranger_.size(); ++k) {
+    product *= Factor(stranger_[k], stranger_[k]) * (scales_[k] * scales_[k]);
+  }
+  return product;
+}
+
+CandidateEvidence& EvidenceFinder::At(std::size_t side, Slot slot) {
+  Found& found = found_[side][slot.Value()];
+  if (!found.is_listed) {
+    found.is_listed = true;
+    listed_[side].push_back(slot);
+  }
+  return found.evidence;
+}
+
+void EvidenceFinder::FindWithStranger(double limit, Evidence& evidence) {
+  for (std::size_t side = 0; side < Sides(); ++side) {
+    const Explanation explanation = kOneCollected[side];
+    if (study_.ways[explanation] == 0) {
+      continue;
+    }
+    with_stranger_.clear();
+    sums_.PairWith(stranger_, side == 1, limit, with_stranger_);
+    double sum = 0;
+    BestCandidate& best = evidence.fixed.best_with_stranger[side];
+    for (const ParentLikelihood& one : with_stranger_) {
+      sum += one.likelihood;
+      At(side, one.parent).with_stranger = one.likelihood;
+      if (!best.slot || one.likelihood > best.likelihood) {
+        best = {one.parent, one.likelihood};
+      }
+    }
+    evidence.fixed.mean[explanation] = sum / study_.ways[explanation];
+  }
+}
+
+void EvidenceFinder::FindPairs(double limit, Evidence& evidence, const RunObserver& observer) {
+  if (study_.ways[Explanation::kBoth] == 0) {
+    return;
+  }
+  sums_.SumUp(limit, observer);
+  evidence.fixed.mean[Explanation::kBoth] = sums_.Total() / study_.ways[Explanation::kBoth];
+  for (std::size_t side = 0; side < Sides(); ++side) {
+    for (const ParentSum& one : side == 0 ? sums_.SumsOfFirst() : sums_.SumsOfSecond()) {
+      At(side, one.parent).with_partners = one.sum;
+    }
+  }
+  const BestPair best = sums_.FindBest(observer);
+  if (best.pairs > 0) {
+    evidence.fixed.best_pair = {best.pair,
+                                best.likelihood,
+                                best.second,
+                                best.pairs,
+                                sums_.LikelihoodWith(stranger_, best.pair.parent2),
+                                sums_.LikelihoodWith(stranger_, best.pair.parent1)};
+  }
+}
+
+void EvidenceFinder::SetPartnersOfUntyped(const CandidateGroup& group, Evidence& evidence) {
+  for (std::size_t side = 0; side < Sides(); ++side) {
+    const SlotRange own = side == 0 ? group.first : group.second;
+    const SlotRange others = side == 0 ? group.second : group.first;
+    const auto partners =
+        static_cast<double>(others.Size()) - (study_.flow == Flow::kNonSexed ? 1 : 0);
+    for (std::uint32_t slot = own.begin; slot < own.end; ++slot) {
+      At(side, Slot{slot}) = {partners, 1};
+    }
+    if (own.Size() > 0 && !evidence.fixed.best_with_stranger[side].slot) {
+      evidence.fixed.best_with_stranger[side] = {Slot{own.begin}, 1};
+    }
+  }
+  if (evidence.fixed.best_pair.pairs == 0 && group.first.Size() > 0) {
+    const SlotRange partners = PartnersOf(study_.flow, group, group.first.begin);
+    if (partners.Size() > 0) {
+      const auto pairs = static_cast<std::uint64_t>(study_.ways[Explanation::kBoth]);
+      evidence.fixed.best_pair = {
+          {Slot{group.first.begin}, Slot{partners.begin}}, 1, pairs > 1 ? 1.0 : 0.0, pairs, 1, 1};
+    }
+  }
+}
+
+/// Every likelihood is 1: what remains is how many candidates there are.
+void EvidenceFinder::FillUntyped(Evidence& evidence) {
+  for (const Explanation k : kAllExplanations) {
+    evidence.fixed.mean[k] = study_.ways[k] > 0 ? 1 : 0;
+  }
+  for (const CandidateGroup& group : study_.groups) {
+    SetPartnersOfUntyped(group, evidence);
+  }
+}
+
+void EvidenceFinder::TakeShortlist(std::size_t side, Evidence& evidence) {
+  auto& shortlist = evidence.shortlists[side];
+  shortlist.reserve(listed_[side].size());
+  for (const Slot slot : listed_[side]) {
+    shortlist.push_back({slot, found_[side][slot.Value()].evidence, 1, {}});
+  }
+  Shorten(shortlist);
+  for (ShortlistedCandidate& candidate : shortlist) {
+    const auto alike = study_.identical[side].Like(candidate.slot);
+    candidate.alike = static_cast<std::uint32_t>(alike.size());
+    for (const Slot slot : alike) {
+      const CandidateEvidence& one = found_[side][slot.Value()].evidence;
+      candidate.all_alike.with_partners += one.with_partners;
+      candidate.all_alike.with_stranger += one.with_stranger;
+    }
+  }
+}
+
+void EvidenceFinder::Answer(const AskedCandidates& asked, bool is_typed, Evidence& evidence) {
+  for (std::size_t i = 0; i < asked.size(); ++i) {
+    if (asked[i]) {
+      CandidateEvidence answer = found_[Sides() == 2 ? i : 0][asked[i]->Value()].evidence;
+      if (is_typed) {
+        answer.with_stranger = sums_.LikelihoodWith(stranger_, *asked[i]);
+      }
+      evidence.fixed.asked[i] = answer;
+    }
+  }
+}
+
+Evidence EvidenceFinder::Find(Slot offspring, const std::optional<EvidenceLimits>& limits,
+                              const AskedCandidates& asked, const RunObserver& observer) {
+  if (observer.StopRequested()) {
+    throw RunStopped();
+  }
+  Evidence evidence;
+  evidence.fixed.is_typed = ScoreStranger(offspring);
+  if (evidence.fixed.is_typed) {
+    const ByExplanation<double> equal = EqualShares(study_.ways);
+    auto& mean = evidence.fixed.mean;
+    auto& used = evidence.fixed.limits;
+    sums_.GoTo(offspring, scales_);
+    mean[Explanation::kNone] = TwoStrangers();
+    used.candidates = limits ? limits->candidates : HalfOf(LimitsFor(equal, mean)).candidates;
+    FindWithStranger(used.candidates, evidence);
+    used.pairs = limits ? limits->pairs : HalfOf(LimitsFor(equal, mean)).pairs;
+    FindPairs(used.pairs, evidence, observer);
+  } else {
+    FillUntyped(evidence);
+  }
+  for (std::size_t side = 0; side < Sides(); ++side) {
+    TakeShortlist(side, evidence);
+  }
+  Answer(asked, evidence.fixed.is_typed, evidence);
+  for (std::size_t side = 0; side < Sides(); ++side) {
+    for (const Slot slot : listed_[side]) {
+      found_[side][slot.Value()] = {};
+    }
+    listed_[side].clear();
+  }
+  return evidence;
+}
+
+}  // namespace kaldo

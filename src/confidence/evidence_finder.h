@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "base/run_observer.h"
+#include "confidence/evidence.h"
+#include "confidence/identical_parents.h"
+#include "search/pair_sums.h"
+
+namespace kaldo {
+
+/// Candidates of which a result has to tell, by side, however improbable they are.
+using AskedCandidates = std::array<std::optional<Slot>, 2>;
+
+/// What is the same for every offspring of a run. It refers to everything but the ways.
+struct EvidenceStudy {
+  SearchStudy search;  ///< with the matrices M' of this room
+  Flow flow = Flow::kNonSexed;
+  std::span<const CandidateGroup> groups;
+  WaysOfExplanations ways;
+
+  /// P(U) of a stranger, by locus of the names-of-loci file and allele; see StrangerScores.
+  std::span<const std::vector<double>> strangers;
+
+  /// By side; in the non-sexed flow only the first is looked at.
+  std::span<const IdenticalParents> identical;
+};
+
+/// Gathers the evidence of one offspring after the other; one object serves one thread. The study
+/// must stay as it is until the last.
+class EvidenceFinder {
+ public:
+  explicit EvidenceFinder(const EvidenceStudy& study);
+
+  /// Leaves out what lies below the limits; without any, what equal shares of the explanations
+  /// allow. Throws RunStopped when the observer asks.
+  Evidence Find(Slot offspring, const std::optional<EvidenceLimits>& limits,
+                const AskedCandidates& asked, const RunObserver& observer);
+
+ private:
+  bool ScoreStranger(Slot offspring);
+  double TwoStrangers() const;
+  void FindWithStranger(double limit, Evidence& evidence);
+  void FindPairs(double limit, Evidence& evidence, const RunObserver& observer);
+  void FillUntyped(Evidence& evidence);
+  void SetPartnersOfUntyped(const CandidateGroup& group, Evidence& evidence);
+  CandidateEvidence& At(std::size_t side, Slot slot);
+  void TakeShortlist(std::size_t side, Evidence& evidence);
+  void Answer(const AskedCandidates& asked, bool is_typed, Evidence& evidence);
+  std::size_t Sides() const { return study_.flow == Flow::kSexed ? 2 : 1; }
+
+  /// A candidate of a side with what has been found for it.
+  struct Found {
+    CandidateEvidence evidence;
+    bool is_listed = false;
+  };
+
+  EvidenceStudy study_;
+  PairSums sums_;
+
+  // Of the current offspring:
+  std::vector<PairSums::Scores> stranger_;  ///< by locus of the run
+  std::vector<double> scales_;              ///< by locus of the run
+  std::vector<ParentLikelihood> with_stranger_;
+  std::array<std::vector<Found>, 2> found_;  ///< by side and slot
+  std::array<std::vector<Slot>, 2> listed_;  ///< those with anything found
+};
+
+}  // namespace kaldo
