@@ -48,8 +48,10 @@ bool EvidenceFinder::ScoreStranger(Slot offspring) {
     if (!genotype.IsMissing()) {
       is_typed = true;
       const auto& scores = study_.strangers[study_.search.loci[k].Value()];
-      stranger_[k] = {scores[genotype.index1.Value()], scores[genotype.index2.Value()]};
-      scales_[k] = ScaleOf(Factor(stranger_[k], stranger_[k]));
+      const PairSums::Scores own = {scores[genotype.index1.Value()],
+                                    scores[genotype.index2.Value()]};
+      scales_[k] = ScaleOf(Factor(own, own));
+      stranger_[k] = {own.r * scales_[k], own.j * scales_[k]};
     }
   }
   return is_typed;
@@ -58,7 +60,7 @@ bool EvidenceFinder::ScoreStranger(Slot offspring) {
 double EvidenceFinder::TwoStrangers() const {
   double product = 1;
   for (std::size_t k = 0; k < stranger_.size(); ++k) {
-    product *= Factor(stranger_[k], stranger_[k]) * (scales_[k] * scales_[k]);
+    product *= Factor(stranger_[k], stranger_[k]);
   }
   return product;
 }
@@ -80,6 +82,11 @@ void EvidenceFinder::FindWithStranger(double limit, Evidence& evidence) {
     }
     with_stranger_.clear();
     sums_.PairWith(stranger_, side == 1, limit, with_stranger_);
+    if (with_stranger_.size() < kCandidatesTold) {
+      // Somebody is the most probable candidate, however improbable.
+      with_stranger_.clear();
+      sums_.PairWith(stranger_, side == 1, 0, with_stranger_);
+    }
     double sum = 0;
     BestCandidate& best = evidence.fixed.best_with_stranger[side];
     for (const ParentLikelihood& one : with_stranger_) {

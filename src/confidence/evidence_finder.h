@@ -63,7 +63,7 @@ class EvidenceFinder {
   PairSums sums_;
 
   // Of the current offspring:
-  std::vector<PairSums::Scores> stranger_;  ///< by locus of the run
+  std::vector<PairSums::Scores> stranger_;  ///< scaled, by locus of the run
   std::vector<double> scales_;              ///< by locus of the run
   std::vector<ParentLikelihood> with_stranger_;
   std::array<std::vector<Found>, 2> found_;  ///< by side and slot

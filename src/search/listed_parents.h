@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "search/offspring_bounds.h"
-#include "search/possible_parents.h"
 #include "search/places.h"
+#include "search/possible_parents.h"
 
 namespace kaldo {
 

@@ -34,10 +34,8 @@ class OffspringBounds {
   /// The loci of the run at which the offspring is typed.
   std::span<const std::uint32_t> TypedLoci() const { return typed_; }
 
-  /// P_R and P_J of every class of parents at the i-th of them.
-  std::span<const LocusBounds::Scores> ScoresOfClasses(std::size_t i) const {
-    return bounds_at_[i]->scores;
-  }
+  /// The classes of parents at the k-th locus of the run.
+  const ParentClasses& Classes(std::size_t k) const { return bounds_.Classes(k); }
 
   /// The classes of one parent at all loci of the run, typed or not.
   const std::uint16_t* ClassesOf(Slot parent) const { return bounds_.ClassesOf(parent); }

@@ -39,6 +39,10 @@ double SumOf(std::span<const double> values) {
   return (sums[0] + sums[1]) + (sums[2] + sums[3]);
 }
 
+double Factor(PairSums::Scores one, PairSums::Scores other) {
+  return one.r * other.j + one.j * other.r;
+}
+
 double LogLength(PairSums::Scores scores) { return std::log(std::hypot(scores.r, scores.j)); }
 
 }  // namespace
@@ -64,18 +68,27 @@ void PairSums::GoTo(Slot offspring, std::span<const double> scales) {
   }
   bounds_.Collect(offspring, typed_, everybody_);
   bounds_.AddUpCosts(kNobody, costs_, minima_);
-  factor_scales_.clear();
+  log_scale_ = 0;
   first_class_.clear();
   class_scores_.clear();
-  log_scale_ = 0;
-  for (std::size_t i = 0; i < typed_.size(); ++i) {
-    const double scale = scales[typed_[i]];
-    factor_scales_.push_back(scale * scale);
-    log_scale_ += 2 * std::log(scale);
+  for (const std::uint32_t k : typed_) {
+    log_scale_ += 2 * std::log(scales[k]);
     first_class_.push_back(class_scores_.size());
-    for (const Scores& scores : bounds_.ScoresOfClasses(i)) {
-      class_scores_.push_back({scores.r * scale, scores.j * scale});
-    }
+    ScoreClasses(k, study_->Genotypes(k)[offspring.Value()], scales[k]);
+  }
+}
+
+/// The bounds of a genotype serve both orders of its alleles; these scores are in its own order.
+void PairSums::ScoreClasses(std::size_t k, const LocusGenotype& offspring, double scale) {
+  const TransmissionMatrix& matrix = study_->Matrix(k);
+  const std::size_t r = offspring.index1.Value();
+  const std::size_t j = offspring.index2.Value();
+  const ParentClasses& classes = bounds_.Classes(k);
+  for (std::size_t number = 0; number < classes.Count(); ++number) {
+    const std::size_t p1 = classes.Genotype(number).index1.Value();
+    const std::size_t p2 = classes.Genotype(number).index2.Value();
+    class_scores_.push_back(
+        {(matrix(p1, r) + matrix(p2, r)) * scale, (matrix(p1, j) + matrix(p2, j)) * scale});
   }
 }
 
@@ -303,17 +316,19 @@ BestPair PairSums::FindBest(const RunObserver& observer) {
   return best_;
 }
 
+std::size_t PairSums::EndOfClasses(std::size_t i) const {
+  return i + 1 < first_class_.size() ? first_class_[i + 1] : class_scores_.size();
+}
+
 void PairSums::PairWith(std::span<const Scores> partner, bool second_parents, double limit,
                         std::vector<ParentLikelihood>& likelihoods) {
-  double log_largest = bounds_.LogLargestOfOne() + log_scale_;
+  double log_largest = bounds_.LogLargestOfOne() + log_scale_ / 2;
   class_factors_.resize(class_scores_.size());
   for (std::size_t i = 0; i < typed_.size(); ++i) {
     const Scores with = partner[typed_[i]];
     log_largest += LogLength(with);
-    const auto classes = bounds_.ScoresOfClasses(i);
-    for (std::size_t number = 0; number < classes.size(); ++number) {
-      class_factors_[first_class_[i] + number] =
-          (classes[number].r * with.j + classes[number].j * with.r) * factor_scales_[i];
+    for (std::size_t at = first_class_[i]; at < EndOfClasses(i); ++at) {
+      class_factors_[at] = Factor(class_scores_[at], with);
     }
   }
   const double most =
@@ -321,26 +336,27 @@ void PairSums::PairWith(std::span<const Scores> partner, bool second_parents, do
   for (const CandidateGroup& group : groups_) {
     const SlotRange range = second_parents ? group.second : group.first;
     for (std::uint32_t slot = range.begin; slot < range.end; ++slot) {
-      if (costs_[slot] > most) {
-        continue;
+      if (costs_[slot] <= most) {
+        likelihoods.push_back({Slot{slot}, MultiplyFactors(Slot{slot})});
       }
-      const std::uint16_t* const classes = bounds_.ClassesOf(Slot{slot});
-      double product = 1;
-      for (std::size_t i = 0; i < typed_.size(); ++i) {
-        product *= class_factors_[first_class_[i] + classes[typed_[i]]];
-      }
-      likelihoods.push_back({Slot{slot}, product});
     }
   }
+}
+
+double PairSums::MultiplyFactors(Slot parent) const {
+  const std::uint16_t* const classes = bounds_.ClassesOf(parent);
+  double product = 1;
+  for (std::size_t i = 0; i < typed_.size(); ++i) {
+    product *= class_factors_[first_class_[i] + classes[typed_[i]]];
+  }
+  return product;
 }
 
 double PairSums::LikelihoodWith(std::span<const Scores> partner, Slot parent) const {
   const std::uint16_t* const classes = bounds_.ClassesOf(parent);
   double product = 1;
   for (std::size_t i = 0; i < typed_.size(); ++i) {
-    const Scores with = partner[typed_[i]];
-    const Scores own = bounds_.ScoresOfClasses(i)[classes[typed_[i]]];
-    product *= (own.r * with.j + own.j * with.r) * factor_scales_[i];
+    product *= Factor(class_scores_[first_class_[i] + classes[typed_[i]]], partner[typed_[i]]);
   }
   return product;
 }

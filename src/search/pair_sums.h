@@ -75,13 +75,13 @@ class PairSums {
   /// of the scan. To be asked after SumUp().
   BestPair FindBest(const RunObserver& observer);
 
-  /// The scaled likelihood of every candidate of a side with one partner of the given scores
-  /// (unscaled, by locus of the run), but those proven to lie below `limit`; in slot order inside
-  /// groups.
+  /// The likelihood of every candidate of a side with one partner of the given scores (scaled
+  /// like all others, by locus of the run), but those proven to lie below `limit`; in slot order
+  /// inside groups.
   void PairWith(std::span<const Scores> partner, bool second_parents, double limit,
                 std::vector<ParentLikelihood>& likelihoods);
 
-  /// The scaled likelihood of one parent with such a partner.
+  /// The likelihood of one parent with such a partner.
   double LikelihoodWith(std::span<const Scores> partner, Slot parent) const;
 
  private:
@@ -95,6 +95,9 @@ class PairSums {
     std::size_t Count() const { return slots.size(); }
   };
 
+  void ScoreClasses(std::size_t k, const LocusGenotype& offspring, double scale);
+  std::size_t EndOfClasses(std::size_t i) const;
+  double MultiplyFactors(Slot parent) const;
   std::int32_t CostLimit(double limit) const;
   std::int32_t SmallestCost(SlotRange slots) const;
   std::int32_t SmallestCostOfAnyPair() const;
@@ -122,7 +125,6 @@ class PairSums {
 
   // Of the current offspring:
   std::vector<std::uint32_t> typed_;
-  std::vector<double> factor_scales_;     ///< by typed locus
   double log_scale_ = 0;                  ///< of a likelihood
   std::vector<std::uint16_t> costs_;      ///< by slot
   std::vector<std::uint16_t> minima_;     ///< by block of slots

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "confidence/confidence_run.h"
+#include "method/transmission_matrix.h"
+
+namespace kaldo::test {
+
+/// The posterior probabilities of a run the slow way: every pair of every offspring, in long
+/// doubles, whose range no likelihood leaves.
+class PlainConfidence {
+ public:
+  using Number = long double;
+
+  /// One way to explain an offspring: candidates by side, none for a stranger.
+  struct Way {
+    Explanation explanation;
+    std::array<std::optional<Slot>, 2> parents;
+    Number likelihood;
+  };
+
+  PlainConfidence(const ErrorModel& model, const ConfidenceInput& input)
+      : model_(model), input_(input) {
+    for (const LocusIndex locus : input.loci) {
+      CountAlleles(locus);
+    }
+    for (std::uint32_t slot = input.offspring.begin; slot < input.offspring.end; ++slot) {
+      ways_.push_back(AllWays(Slot{slot}));
+    }
+    EstimateShares();
+  }
+
+  const std::array<Number, 4>& Theta() const { return theta_; }
+  const std::vector<Way>& Ways(std::size_t offspring) const { return ways_[offspring]; }
+
+  /// The probability of one way.
+  Number Probability(std::size_t offspring, const Way& way) const {
+    return theta_[Index(way.explanation)] * way.likelihood / Count(offspring, way.explanation) /
+           Total(offspring);
+  }
+
+  Number ProbabilityOfExplanation(std::size_t offspring, Explanation k) const {
+    Number sum = 0;
+    for (const Way& way : ways_[offspring]) {
+      sum += way.explanation == k ? Probability(offspring, way) : 0;
+    }
+    return sum;
+  }
+
+  /// The probability of every candidate: of a side, or in the non-sexed flow of any.
+  std::map<Slot, Number> Candidates(std::size_t offspring, std::size_t side) const {
+    std::map<Slot, Number> sums;
+    for (const Way& way : ways_[offspring]) {
+      for (std::size_t i = 0; i < 2; ++i) {
+        if (way.parents[i] && (i == side || input_.flow == Flow::kNonSexed)) {
+          sums[*way.parents[i]] += Probability(offspring, way);
+        }
+      }
+    }
+    return sums;
+  }
+
+ private:
+  struct Scores {
+    Number r = 1;
+    Number j = 0.5L;
+  };
+
+  static std::size_t Index(Explanation k) { return static_cast<std::size_t>(k); }
+
+  Number Count(std::size_t offspring, Explanation k) const {
+    Number count = 0;
+    for (const Way& way : ways_[offspring]) {
+      count += way.explanation == k ? 1 : 0;
+    }
+    return count;
+  }
+
+  /// E by explanation.
+  std::array<Number, 4> Means(std::size_t offspring) const {
+    std::array<Number, 4> means{};
+    for (const Way& way : ways_[offspring]) {
+      means[Index(way.explanation)] += way.likelihood / Count(offspring, way.explanation);
+    }
+    return means;
+  }
+
+  Number Total(std::size_t offspring) const {
+    Number total = 0;
+    for (std::size_t k = 0; k < 4; ++k) {
+      total += theta_[k] * means_[offspring][k];
+    }
+    return total;
+  }
+
+  /// M' from the model of the run.
+  Number Reading(LocusIndex locus, AlleleSize carried, AlleleSize read) const {
+    const auto sizes = input_.catalogues[locus.Value()].Sizes();
+    if (sizes.size() == 1) {
+      return 1;
+    }
+    const auto at = [&](AlleleSize size) {
+      return static_cast<std::size_t>(std::find(sizes.begin(), sizes.end(), size) - sizes.begin());
+    };
+    const Number m = BuildMatrix(model_, sizes)(at(carried), at(read));
+    const bool leaky = model_.kind == ErrorKind::kUniform && model_.epsilon > 0;
+    const Number lambda = leaky ? 0 : 0.01L;
+    return (1 - lambda) * m + lambda / static_cast<Number>(sizes.size());
+  }
+
+  void CountAlleles(LocusIndex locus) {
+    std::map<AlleleSize, Number> copies;
+    Number total = 0;
+    for (const AlleleSize size : input_.catalogues[locus.Value()].Sizes()) {
+      copies[size] = 0.5L;
+      total += 0.5L;
+    }
+    for (const Slot slot : Parents()) {
+      const LocusGenotype& genotype = input_.table.Genotype(locus, slot);
+      copies[genotype.allele1] += 1;
+      copies[genotype.allele2] += 1;
+      total += 2;
+    }
+    for (auto& [size, copy] : copies) {
+      copy /= total;
+    }
+    frequencies_[locus] = copies;
+  }
+
+  std::vector<Slot> Parents() const {
+    std::vector<Slot> slots;
+    for (std::uint32_t slot = 0; slot < input_.offspring.begin; ++slot) {
+      if (!input_.table.Name(Slot{slot}).Text().starts_with('*')) {
+        slots.emplace_back(slot);
+      }
+    }
+    return slots;
+  }
+
+  Scores ScoresAt(LocusIndex locus, const LocusGenotype& child, std::optional<Slot> parent) const {
+    const auto gives = [&](AlleleSize read) {
+      if (parent) {
+        const LocusGenotype& genotype = input_.table.Genotype(locus, *parent);
+        return Reading(locus, genotype.allele1, read) + Reading(locus, genotype.allele2, read);
+      }
+      Number sum = 0;
+      for (const auto& [size, frequency] : frequencies_.at(locus)) {
+        sum += 2 * frequency * Reading(locus, size, read);
+      }
+      return sum;
+    };
+    return {gives(child.allele1), gives(child.allele2)};
+  }
+
+  std::vector<Scores> AllScores(Slot offspring, std::optional<Slot> parent) const {
+    std::vector<Scores> scores;
+    for (const LocusIndex locus : input_.loci) {
+      const LocusGenotype& child = input_.table.Genotype(locus, offspring);
+      scores.push_back(child.IsMissing() ? Scores{} : ScoresAt(locus, child, parent));
+    }
+    return scores;
+  }
+
+  static Number Likelihood(const std::vector<Scores>& a, const std::vector<Scores>& b) {
+    Number product = 1;
+    for (std::size_t k = 0; k < a.size(); ++k) {
+      product *= a[k].r * b[k].j + a[k].j * b[k].r;
+    }
+    return product;
+  }
+
+  std::vector<Way> AllWays(Slot offspring) const {
+    std::map<Slot, std::vector<Scores>> scores;
+    for (const Slot slot : Parents()) {
+      scores[slot] = AllScores(offspring, slot);
+    }
+    const auto stranger = AllScores(offspring, std::nullopt);
+    const bool sexed = input_.flow == Flow::kSexed;
+    std::vector<Way> ways = {{Explanation::kNone, {}, Likelihood(stranger, stranger)}};
+    for (const CandidateGroup& group : input_.groups) {
+      for (Slot i{group.first.begin}; i < Slot{group.first.end}; ++i) {
+        ways.push_back({Explanation::kFirst, {i, {}}, Likelihood(scores[i], stranger)});
+        const auto from = sexed ? Slot{group.second.begin} : Slot{i.Value() + 1};
+        for (Slot j = from; j < Slot{group.second.end}; ++j) {
+          ways.push_back({Explanation::kBoth, {i, j}, Likelihood(scores[i], scores[j])});
+        }
+      }
+      for (Slot j{group.second.begin}; sexed && j < Slot{group.second.end}; ++j) {
+        ways.push_back({Explanation::kSecond, {std::nullopt, j}, Likelihood(stranger, scores[j])});
+      }
+    }
+    return ways;
+  }
+
+  bool IsTyped(std::size_t offspring) const {
+    const auto slot = Slot{input_.offspring.begin + static_cast<std::uint32_t>(offspring)};
+    for (const LocusIndex locus : input_.loci) {
+      if (!input_.table.Genotype(locus, slot).IsMissing()) {
+        return true;
+      }
+    }
+    return false;
+  }
+
+  void EstimateShares() {
+    Number open = 0;
+    std::array<Number, 4> theta0{};
+    for (std::size_t k = 0; k < 4; ++k) {
+      theta0[k] = Count(0, kAllExplanations[k]) > 0 ? 1 : 0;
+      open += theta0[k];
+    }
+    for (Number& share : theta0) {
+      share /= open;
+    }
+    for (std::size_t i = 0; i < ways_.size(); ++i) {
+      means_.push_back(Means(i));
+    }
+    theta_ = theta0;
+    for (Number change = 1; change >= 1e-13L;) {
+      std::array<Number, 4> next = theta0;
+      Number n = 1;
+      for (std::size_t i = 0; i < ways_.size(); ++i) {
+        if (IsTyped(i)) {
+          n += 1;
+          for (std::size_t k = 0; k < 4; ++k) {
+            next[k] += theta_[k] * means_[i][k] / Total(i);
+          }
+        }
+      }
+      change = 0;
+      for (std::size_t k = 0; k < 4; ++k) {
+        change += std::abs(next[k] / n - theta_[k]);
+        theta_[k] = next[k] / n;
+      }
+    }
+  }
+
+  ErrorModel model_;
+  ConfidenceInput input_;
+  std::map<LocusIndex, std::map<AlleleSize, Number>> frequencies_;
+  std::vector<std::vector<Way>> ways_;
+  std::vector<std::array<Number, 4>> means_;
+  std::array<Number, 4> theta_{};
+};
+
+}  // namespace kaldo::test
