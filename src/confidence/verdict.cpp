@@ -23,10 +23,8 @@ std::optional<Problem> ValidateConfidenceLevel(double level) {
   if (level >= 0.5 && level <= 1) {
     return std::nullopt;
   }
-  Problem problem;
-  problem.sentence = "The level of confidence must lie between 0.5 and 1!";
-  problem.found = fmt::format("the level is {}", FormatDouble(level));
-  return problem;
+  return Problem{.kind = ProblemKind::kConfidenceLevelOutOfRange,
+                 .found = fmt::format("the level is {}", FormatDouble(level))};
 }
 
 Verdict DecideVerdict(double p_candidate, double p_uncollected, double level) {
