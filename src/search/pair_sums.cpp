@@ -15,6 +15,9 @@ namespace {
 // Partners whose likelihoods are computed together, so that they stay in the nearest cache.
 constexpr std::size_t kPartnersAtOnce = 128;
 
+// Parents whose scores are looked up together, for the same reason.
+constexpr std::size_t kParentsAtOnce = 64;
+
 constexpr std::uint16_t kNobody = 0xffff;
 constexpr std::int32_t kNoLimit = 0x7fff;
 
@@ -137,14 +140,18 @@ void PairSums::SortByCost(SlotRange slots, std::int32_t most, Side& side) {
 void PairSums::LookUpScores(Side& side) const {
   const std::size_t count = side.Count();
   side.scores.resize(2 * count * typed_.size());
-  for (std::size_t parent = 0; parent < count; ++parent) {
-    const std::uint16_t* const classes = bounds_.ClassesOf(side.slots[parent]);
-    double* score = side.scores.data() + parent;
+  for (std::size_t begin = 0; begin < count; begin += kParentsAtOnce) {
+    const std::size_t end = std::min(begin + kParentsAtOnce, count);
+    double* r = side.scores.data();
     for (std::size_t i = 0; i < typed_.size(); ++i) {
-      const Scores& scores = class_scores_[first_class_[i] + classes[typed_[i]]];
-      score[0] = scores.r;
-      score[count] = scores.j;
-      score += 2 * count;
+      double* const j = r + count;
+      const Scores* const of_classes = class_scores_.data() + first_class_[i];
+      for (std::size_t parent = begin; parent < end; ++parent) {
+        const Scores scores = of_classes[bounds_.ClassesOf(side.slots[parent])[typed_[i]]];
+        r[parent] = scores.r;
+        j[parent] = scores.j;
+      }
+      r += 2 * count;
     }
   }
 }

@@ -184,7 +184,7 @@ TEST(Confidence, IsThePlainSumOverAllPairs) {
                                           Uniform(1e-60), Uniform(1e-162), Uniform(0.03)};
   RandomStudyMaker maker(20'260'301);
   Coverage coverage;
-  for (std::size_t round = 0; round < 900; ++round) {
+  for (std::size_t round = 0; round < 540; ++round) {
     SCOPED_TRACE(round);
     const ErrorModel& model = models[round % models.size()];
     const StudyShape shape = round % 30 == 0 ? StudyShape{70, 12, 9, 20, true, true}
@@ -198,7 +198,7 @@ TEST(Confidence, IsThePlainSumOverAllPairs) {
        {"named", "uncollected", "open", "alike", "nothing typed", "tied pairs", "several groups",
         "no pair at all", "one offspring", "sexed", "non-sexed", "fewer than two pairs",
         "pairs near the smallest number"}) {
-    EXPECT_GE(coverage[what], 20) << what;
+    EXPECT_GE(coverage[what], 10) << what;
   }
   EXPECT_GT(coverage["gathered again"], 0);
 }
