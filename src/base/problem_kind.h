@@ -74,7 +74,6 @@ enum class ProblemKind : std::uint8_t {
 
   // Numbers that are understood and make no run.
   kNegativeTolerance,
-  kConfidenceLevelOutOfRange,
   kTooManyIterations,
   kNoIteration,
   kCriterionOutOfRange,
@@ -195,8 +194,6 @@ inline constexpr std::array<ProblemSentence, static_cast<std::size_t>(ProblemKin
         {ProblemKind::kTooManySubsets, "There would be {} subsets of loci!"},
 
         {ProblemKind::kNegativeTolerance, "Enter a positive number"},
-        {ProblemKind::kConfidenceLevelOutOfRange,
-         "The level of confidence should be between 0.5 and 1"},
         {ProblemKind::kTooManyIterations, "Number of iterations must be inferior to 1000"},
         {ProblemKind::kNoIteration, "The number of iterations must be above 0!"},
         {ProblemKind::kCriterionOutOfRange, "Enter number between 0 and 1"},

@@ -19,7 +19,7 @@ namespace kaldo {
 /// What a user chooses.
 struct ConfidenceSettings {
   ErrorModel error_model;                  ///< of the run; see FreeReading for what is added
-  double level = kDefaultConfidenceLevel;  ///< of the verdicts, see ValidateConfidenceLevel
+  double level = kDefaultConfidenceLevel;  ///< of the verdicts, see IsConfidenceLevel
   unsigned threads = 0;                    ///< in a process; 0: as many as fit
 
   friend bool operator==(const ConfidenceSettings&, const ConfidenceSettings&) = default;

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "confidence/verdict.h"
 
-#include <fmt/format.h>
-
-#include "base/number_text.h"
-
 namespace kaldo {
 
 std::string_view Label(Verdict verdict) {
@@ -19,13 +15,7 @@ std::string_view Label(Verdict verdict) {
   return "open";
 }
 
-std::optional<Problem> ValidateConfidenceLevel(double level) {
-  if (level >= 0.5 && level <= 1) {
-    return std::nullopt;
-  }
-  return Problem{.kind = ProblemKind::kConfidenceLevelOutOfRange,
-                 .found = fmt::format("the level is {}", FormatDouble(level))};
-}
+bool IsConfidenceLevel(double level) { return level >= 0.5 && level <= 1; }
 
 Verdict DecideVerdict(double p_candidate, double p_uncollected, double level) {
   if (p_candidate >= level && p_candidate >= p_uncollected) {

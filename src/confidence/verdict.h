@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <optional>
 #include <string_view>
-
-#include "base/problem.h"
 
 namespace kaldo {
 
@@ -22,7 +19,7 @@ std::string_view Label(Verdict verdict);
 inline constexpr double kDefaultConfidenceLevel = 0.8;
 
 /// A level lies between 0.5 and 1: below it, two contradicting verdicts could both be reached.
-std::optional<Problem> ValidateConfidenceLevel(double level);
+bool IsConfidenceLevel(double level);
 
 /// Named where the candidate, uncollected where its absence is at least as probable as the level.
 /// Where both are, as only at a level of one half, the more probable, and at equality named.

@@ -111,7 +111,8 @@ class AccessibilityTest : public test::MenuTest {
   }
 
   void InspectAllocation(bool sexed) {
-    OpenFlow(script_, sexed ? "ALLOCATIONSEXED" : "ALLOCATIONNON-SEXED");
+    OpenFlow(script_, sexed ? "ALLOCATIONSEXED" : "ALLOCATIONNON-SEXED",
+             sexed ? Text("ponds") : Text("lake"));
     Inspect(sexed ? "SexedAllocationFiles" : "NonSexedAllocationFiles");
     TypeAllocationFiles(script_, sexed ? Flow::kSexed : Flow::kNonSexed, Text("data"));
     script_.Click("Ok");

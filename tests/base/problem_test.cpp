@@ -28,7 +28,9 @@ TEST(ProblemSentences, AreDifferentAndInTheManual) {
     const std::string end =
         std::string(sentence.substr(std::min(value + 2, sentence.size()))) + '"';
     const std::size_t place = manual.find(value == sentence.size() ? begin + '"' : begin);
-    EXPECT_LT(manual.find(end, place), place + 200) << sentence;
+    const std::size_t place_of_end = manual.find(end, place);
+    ASSERT_NE(place_of_end, std::string::npos) << sentence;
+    EXPECT_LT(place_of_end, manual.rfind(begin, place_of_end) + 200) << sentence;
   }
 }
 

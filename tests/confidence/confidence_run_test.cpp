@@ -494,10 +494,8 @@ TEST(Verdict, FollowsTheLevel) {
   EXPECT_EQ(DecideVerdict(0.79, 0.2, 0.8), Verdict::kOpen);
   EXPECT_EQ(DecideVerdict(0.1, 0.85, 0.8), Verdict::kUncollected);
   EXPECT_EQ(DecideVerdict(0.5, 0.5, 0.5), Verdict::kNamed);
-  EXPECT_FALSE(ValidateConfidenceLevel(0.5));
-  EXPECT_FALSE(ValidateConfidenceLevel(1));
-  EXPECT_TRUE(ValidateConfidenceLevel(0.49));
-  EXPECT_TRUE(ValidateConfidenceLevel(std::nan("")));
+  EXPECT_TRUE(IsConfidenceLevel(0.5) && IsConfidenceLevel(1));
+  EXPECT_FALSE(IsConfidenceLevel(0.49) || IsConfidenceLevel(std::nan("")));
 }
 
 }  // namespace

@@ -50,7 +50,7 @@ int DistanceByTable(int condition, int parent, int r, int j, int pa, int pb) {
       {6, {{2, 'J'}}},           {7, {{1, 'J'}}},  {8, {{2, 'R'}}},
       {9, {{1, 'R'}}},           {10, {{2, 'e'}}}, {11, {{1, 'e'}}}};
   const auto row = measured.find(condition);
-  if (row == measured.end() || row->second.count(parent) == 0) {
+  if (row == measured.end() || !row->second.contains(parent)) {
     return 0;
   }
   const char against = row->second.at(parent);

@@ -2,10 +2,10 @@
 #include "tests/support/temp_folder.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <stdlib.h>
 
 #include <gtest/gtest.h>
 

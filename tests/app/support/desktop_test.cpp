@@ -189,7 +189,8 @@ void TypeParents(Script& script, const std::string& sex, bool parental,
 }
 
 void WalkToParents(Script& script, bool sexed, bool parental) {
-  OpenFlow(script, sexed ? "SIMULATIONSSEXED" : "SIMULATIONSNON-SEXED");
+  OpenFlow(script, sexed ? "SIMULATIONSSEXED" : "SIMULATIONSNON-SEXED",
+           sexed ? Text("p") : Text("q"));
   script.Type("LociFile", Text("data/loci.txt")).Type("Iterations", Text("2"));
   script.Click(parental ? "Parental" : "PreParental").Click("Ok").Await("Parents");
   const std::vector<std::string> sexes =

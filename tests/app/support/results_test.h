@@ -95,6 +95,7 @@ inline AllocationSettings ExampleAllocation(Flow flow) {
   AllocationSettings settings;
   settings.flow = flow;
   settings.project = "p";
+  settings.may_replace_other_flow = true;
   if (sexed) {
     settings.males_file = file("males.txt");
     settings.females_file = file("females.txt");
@@ -111,6 +112,7 @@ inline SimulationSettings ExampleSimulation(Flow flow) {
   SimulationSettings settings;
   settings.flow = flow;
   settings.project = "p";
+  settings.may_replace_other_flow = true;
   settings.iterations = 5;
   settings.offspring_per_iteration = 40;
   settings.seed = 1;
