@@ -33,7 +33,7 @@ std::error_code NewFile::Create(const std::string& path) {
   return file_ >= 0 ? std::error_code() : LastError();
 }
 
-std::error_code NewFile::Write(std::string_view text) {
+std::error_code NewFile::Write(std::string_view text) const {
   while (!text.empty()) {
     const ssize_t written = ::write(file_, text.data(), text.size());
     if (written < 0 && errno == EINTR) {

@@ -22,7 +22,7 @@ class NewFile {
 
   /// "File exists" when anything of that name is there.
   std::error_code Create(const std::string& path);
-  std::error_code Write(std::string_view text);
+  std::error_code Write(std::string_view text) const;
 
   /// Waits until the disk holds every byte, and closes the file.
   std::error_code Finish();

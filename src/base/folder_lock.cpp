@@ -98,10 +98,10 @@ void FolderLock::ReadOwner() {
   owner_.assign(text.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
 }
 
-void FolderLock::WriteOwner(const std::string& owner) {
+void FolderLock::WriteOwner(const std::string& owner) const {
   // Only for the eyes of others: a full disk does not matter.
   if (::ftruncate(file_, 0) == 0) {
-    (void)!::pwrite(file_, owner.data(), owner.size(), 0);
+    [[maybe_unused]] const ssize_t written = ::pwrite(file_, owner.data(), owner.size(), 0);
   }
 }
 

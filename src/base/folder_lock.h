@@ -39,7 +39,7 @@ class FolderLock {
   bool Open();
   bool IsStillInPlace() const;
   void ReadOwner();
-  void WriteOwner(const std::string& owner);
+  void WriteOwner(const std::string& owner) const;
 
   std::string path_;
   int file_ = -1;

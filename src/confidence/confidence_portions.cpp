@@ -51,6 +51,7 @@ std::vector<IdenticalParents> IdenticalOnEachSide(const ConfidenceInput& input) 
     sides[1].push_back(group.second);
   }
   std::vector<IdenticalParents> identical;
+  identical.reserve(sides.size());
   for (const auto& side : sides) {
     identical.emplace_back(input.table, input.loci, side);
   }

@@ -59,8 +59,8 @@ bool EvidenceFinder::ScoreStranger(Slot offspring) {
 
 double EvidenceFinder::TwoStrangers() const {
   double product = 1;
-  for (std::size_t k = 0; k < stranger_.size(); ++k) {
-    product *= Factor(stranger_[k], stranger_[k]);
+  for (const auto& scores : stranger_) {
+    product *= Factor(scores, scores);
   }
   return product;
 }

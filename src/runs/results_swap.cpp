@@ -61,8 +61,7 @@ void ResultsSwap::SyncFolders() const {
   }
 }
 
-void ResultsSwap::Move(const std::string& from, const std::string& to,
-                       const std::string& shown) const {
+void ResultsSwap::Move(const std::string& from, const std::string& to, const std::string& shown) {
   std::error_code error;
   if (IsFolder(from)) {
     error = make_error_code(std::errc::is_a_directory);

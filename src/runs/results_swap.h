@@ -61,7 +61,7 @@ class ResultsSwap {
   void Finish(const std::vector<SwappedFile>& files) const;
   bool CanFinish(const std::vector<SwappedFile>& files) const;
   void Undo(const std::vector<SwappedFile>& files) const;
-  void Move(const std::string& from, const std::string& to, const std::string& shown) const;
+  static void Move(const std::string& from, const std::string& to, const std::string& shown);
   void SyncFolders() const;
 
   ProjectFolder project_;

@@ -120,7 +120,7 @@ bool PairSearcher::IsCrowded(Place first_parent, PlaceRange partners) const {
   for (Place place = partners.begin; place < partners.end; ++place) {
     within += listed_.CostAt(place) <= left ? 1 : 0;
   }
-  return within * kPlainShare >= SlotsAcross(partners).Size();
+  return std::size_t{within} * kPlainShare >= SlotsAcross(partners).Size();
 }
 
 void PairSearcher::ScoreParents() {

@@ -201,12 +201,9 @@ class PlainConfidence {
 
   bool IsTyped(std::size_t offspring) const {
     const auto slot = Slot{input_.offspring.begin + static_cast<std::uint32_t>(offspring)};
-    for (const LocusIndex locus : input_.loci) {
-      if (!input_.table.Genotype(locus, slot).IsMissing()) {
-        return true;
-      }
-    }
-    return false;
+    return std::any_of(input_.loci.begin(), input_.loci.end(), [&](LocusIndex locus) {
+      return !input_.table.Genotype(locus, slot).IsMissing();
+    });
   }
 
   void EstimateShares() {

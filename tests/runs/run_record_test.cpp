@@ -23,7 +23,7 @@ rc::Gen<std::string> AnyText() {
   const auto piece = rc::gen::oneOf(
       rc::gen::map(rc::gen::inRange(0, 256),
                    [](int byte) { return std::string(1, static_cast<char>(byte)); }),
-      rc::gen::element<std::string>("\"", "\\", "\\u", "'", "\"\"\"", "\n", "é", "鯉", "𝛼", "#",
+      rc::gen::element<std::string>("\"", "\\", "\\u", "'", R"(""")", "\n", "é", "鯉", "𝛼", "#",
                                     " ", "\xed\xa0\x80", "\xc0\xaf", "\xf4\x90\x80\x80"));
   return rc::gen::map(rc::gen::container<std::vector<std::string>>(piece),
                       [](const std::vector<std::string>& pieces) {

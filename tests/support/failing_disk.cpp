@@ -66,7 +66,8 @@ void Log(const char* what, const std::string& path) {
   const std::string line = std::string(what) + ' ' + path + '\n';
   const int file =
       System<int(const char*, int, ...)>("open")(log.c_str(), O_WRONLY | O_APPEND | O_CREAT, 0666);
-  (void)!System<ssize_t(int, const void*, size_t)>("write")(file, line.data(), line.size());
+  [[maybe_unused]] const ssize_t written =
+      System<ssize_t(int, const void*, size_t)>("write")(file, line.data(), line.size());
   ::close(file);
 }
 
@@ -161,7 +162,7 @@ int mkdir(const char* path, mode_t mode) {
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wshadow"  // the name is that of a struct, too
-int flock(int file, int operation) {
+int flock(int file, int operation) {       // NOLINT(readability-identifier-naming)
   if (Variable("KALDO_DISK_LOCKS") == "none") {
     errno = ENOLCK;
     return -1;
