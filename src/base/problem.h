@@ -42,8 +42,13 @@ std::string DetailLine(const Problem& problem);
 /// terminal would obey are escaped.
 std::string Quoted(std::string_view text);
 
-/// `text` with the bytes that a terminal would obey escaped.
+/// `text` with what a terminal would obey escaped: control characters, those of Unicode and stray
+/// bytes included, and characters that turn the direction of writing. Names of files and whatever
+/// stands in a run record pass through here before a user sees them: either may come from anybody.
 std::string Escaped(std::string_view text);
+
+/// The same for a text of several lines, whose line ends and tabs stay.
+std::string EscapedLines(std::string_view text);
 
 /// Ends a run from outside: a report that cannot be written, a folder that cannot be made.
 class RunFailure : public std::runtime_error {
