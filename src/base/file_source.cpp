@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/file_source.h"
 
-#include <array>
 #include <cerrno>
+#include <filesystem>
 #include <fstream>
 #include <system_error>
 
 #include <fmt/format.h>
-#include <openssl/evp.h>
 
 #include "base/input_limit.h"
+#include "base/stop_signal.h"
 
 namespace kaldo {
 
@@ -33,6 +33,9 @@ tl::expected<std::vector<char>, Problem> DiskFiles::Read(const std::string& path
   if (stream.is_open()) {
     std::vector<char> block(kBlockBytes);
     while (stream && bytes.size() <= kMaxInputBytes) {
+      if (StopSignalled()) {
+        throw RunStopped();
+      }
       stream.read(block.data(), static_cast<std::streamsize>(block.size()));
       bytes.insert(bytes.end(), block.begin(), block.begin() + stream.gcount());
     }
@@ -65,21 +68,38 @@ tl::expected<std::vector<char>, Problem> ReadText(const std::string& path, FileS
   return bytes;
 }
 
-FileDigest DigestOf(const std::vector<char>& bytes) {
-  std::array<unsigned char, EVP_MAX_MD_SIZE> hash{};
-  unsigned int length = 0;
-  if (EVP_Digest(bytes.data(), bytes.size(), hash.data(), &length, EVP_sha256(), nullptr) != 1) {
-    throw RunFailure("SHA-256 is not available on this machine.");
+std::optional<Problem> RefuseSpecialFile(const std::string& path, std::size_t most_bytes) {
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  if (!std::filesystem::exists(status)) {
+    return std::nullopt;
   }
-  FileDigest digest{bytes.size(), {}};
-  for (unsigned int i = 0; i < length; ++i) {
-    digest.sha256 += fmt::format("{:02x}", hash.at(i));
+  if (!std::filesystem::is_regular_file(status)) {
+    return CannotOpenFile(path, "it is no regular file");
   }
-  return digest;
+  if (std::filesystem::file_size(path, error) > most_bytes && !error) {
+    return CannotOpenFile(path, fmt::format("it holds more than {} kB", most_bytes / 1024));
+  }
+  return std::nullopt;
 }
 
 tl::expected<FileDigest, Problem> DigestOfFile(const std::string& path) {
-  return DiskFiles().Read(path).map(DigestOf);
+  errno = 0;
+  std::ifstream stream(path, std::ios::binary);
+  RunningDigest digest;
+  std::vector<char> block(stream.is_open() ? kBlockBytes : 0);
+  while (stream) {
+    if (StopSignalled()) {
+      throw RunStopped();
+    }
+    stream.read(block.data(), static_cast<std::streamsize>(block.size()));
+    digest.Add({block.data(), static_cast<std::size_t>(stream.gcount())});
+  }
+  if (!stream.eof()) {
+    const int error = errno != 0 ? errno : EIO;
+    return tl::unexpected(CannotOpenFile(path, std::generic_category().message(error)));
+  }
+  return digest.SoFar();
 }
 
 }  // namespace kaldo

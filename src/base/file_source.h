@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <tl/expected.hpp>
 
+#include "base/file_digest.h"
 #include "base/problem.h"
 
 namespace kaldo {
@@ -38,19 +40,14 @@ class DiskFiles final : public FileSource {
 /// is a Problem that says what to do.
 tl::expected<std::vector<char>, Problem> ReadText(const std::string& path, FileSource& source);
 
-/// What identifies the contents of an input file in a run record.
-struct FileDigest {
-  std::uint64_t bytes = 0;
-  std::string sha256;  ///< 64 hexadecimal digits
-
-  friend bool operator==(const FileDigest&, const FileDigest&) = default;
-};
-
-/// Throws RunFailure where this machine has no SHA-256.
-FileDigest DigestOf(const std::vector<char>& bytes);
-
-/// Size and SHA-256 of a file on disk, or a Problem when it cannot be read.
+/// Size and SHA-256 of a file of any length on disk, or a Problem when it cannot be read. Throws
+/// RunStopped when the user stops the program meanwhile.
 tl::expected<FileDigest, Problem> DigestOfFile(const std::string& path);
+
+/// A Problem when something other than a regular file has that name, or a file of more bytes: a
+/// device or a pipe that a record from somebody else names may never end. A file that does not
+/// exist is none here.
+std::optional<Problem> RefuseSpecialFile(const std::string& path, std::size_t most_bytes);
 
 /// `Cannot open file "x"!` and why.
 Problem CannotOpenFile(const std::string& path, std::string reason);

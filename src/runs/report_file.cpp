@@ -25,6 +25,7 @@ void ReportFile::Fail(std::string_view what, std::error_code error) const {
 
 void ReportFile::Append(std::string_view text) {
   pending_ += text;
+  digest_.Add(text);
   is_empty_ = is_empty_ && text.empty();
   if (pending_.size() >= kBlockBytes) {
     Write();

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/disk_file.h"
+#include "base/file_digest.h"
 
 namespace kaldo {
 
@@ -24,12 +25,16 @@ class ReportFile {
   /// True while nothing was appended.
   bool IsEmpty() const { return is_empty_; }
 
+  /// That of all text so far.
+  FileDigest Digest() const { return digest_.SoFar(); }
+
  private:
   void Write();
   [[noreturn]] void Fail(std::string_view what, std::error_code error) const;
 
   std::string shown_;
   std::string pending_;
+  RunningDigest digest_;
   NewFile file_;
   bool is_empty_ = true;
 };

@@ -144,6 +144,16 @@ std::vector<SwappedFile> ReportSet::FinishReports() {
   return files;
 }
 
+std::vector<RecordedOutput> ReportSet::Outputs() const {
+  std::vector<RecordedOutput> outputs;
+  for (const Report& report : reports_) {
+    if (report.name != kRunRecordFile && !(report.only_if_any && report.file->IsEmpty())) {
+      outputs.push_back({report.name.substr(1), report.file->Digest()});
+    }
+  }
+  return outputs;
+}
+
 void ReportSet::Commit() {
   // Whatever can fail for want of space fails here, before any earlier report is touched.
   const auto files = FinishReports();

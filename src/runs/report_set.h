@@ -67,6 +67,10 @@ class ReportSet {
   /// Throws RunRefused when `path`, which the run writes outside its folder, is an input of it.
   void RefuseInput(const std::string& path) const;
 
+  /// What identifies the reports, all of whose text has been appended, but for the run record,
+  /// which tells it and is written last.
+  std::vector<RecordedOutput> Outputs() const;
+
   /// Throws RunFailure when it cannot be done; the earlier results then are as they were.
   void Commit();
 

@@ -87,6 +87,12 @@ std::string FormatRunRecord(const RunRecord& record) {
     line("bytes", std::to_string(input.digest.bytes));
     line("sha256", TomlText(input.digest.sha256));
   }
+  for (const RecordedOutput& output : record.outputs) {
+    text += "\n[[output]]\n";
+    line("file", TomlText(output.file));
+    line("bytes", std::to_string(output.digest.bytes));
+    line("sha256", TomlText(output.digest.sha256));
+  }
   return text;
 }
 

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -34,6 +35,14 @@ struct RecordedInput {
   friend bool operator==(const RecordedInput&, const RecordedInput&) = default;
 };
 
+/// A file that a run left in its project folder.
+struct RecordedOutput {
+  std::string file;  ///< its name, without a folder
+  FileDigest digest;
+
+  friend bool operator==(const RecordedOutput&, const RecordedOutput&) = default;
+};
+
 /// Its name in the project folder.
 inline constexpr std::string_view kRunRecordFile = "/Run record.toml";
 
@@ -46,6 +55,7 @@ struct RunRecord {
   std::string folder;  ///< the working folder, from which relative paths are taken
   std::vector<std::pair<std::string, RecordValue>> settings;  ///< in the order of writing
   std::vector<RecordedInput> inputs;
+  std::vector<RecordedOutput> outputs;  ///< all but the record itself, which is written last
   std::optional<std::uint32_t> seed;
   std::int64_t threads = 1;
   double duration_seconds = 0;
@@ -72,6 +82,7 @@ class RecordedSettings {
   /// The setting, or nothing when the record does not have it.
   template <typename Value>
   std::optional<Value> Optional(std::string_view name) {
+    asked_.emplace(name);
     for (const auto& [key, value] : record_.settings) {
       if (key != name) {
         continue;
@@ -99,18 +110,22 @@ class RecordedSettings {
 
   void Note(std::string_view name, std::string_view fault);
 
-  /// The first fault met so far; `path` names the record in it.
+  /// The first fault met; a setting that was not asked for is one, since what it says would not be
+  /// done. `path` names the record in it.
   std::optional<Problem> Fault(const std::string& path) const;
 
  private:
   const RunRecord& record_;
+  std::set<std::string, std::less<>> asked_;
   std::string fault_;
 };
 
 /// The record as TOML text, every key in its place.
 std::string FormatRunRecord(const RunRecord& record);
 
-/// Reads a record back. A file that is no run record is a Problem that names file and line.
+/// Reads a record back. A file that is no run record is a Problem that names file and line: so are
+/// keys that are not known, values of another kind, repeated keys and more than 1 MB. A record may
+/// come from anybody.
 tl::expected<RunRecord, Problem> ReadRunRecord(const std::string& path);
 
 /// The same from its text; `path` names it in a Problem.

@@ -100,6 +100,9 @@ struct SimulationSettings {
   unsigned threads = 0;               ///< 0: as many as cores; results never depend on it
 
   bool may_replace_other_flow = false;  ///< as in AllocationSettings; in no run record
+  /// Whether the working folder keeps the names of the loci, as the windows offer them next time. A
+  /// run that repeats the record of somebody else leaves it alone.
+  bool saves_loci = true;
 
   std::span<const ParentalSet> Sets() const {
     return std::span(sets).first(flow == Flow::kSexed ? 2 : 1);

@@ -62,7 +62,9 @@ void AllocationReports::Write(const AllocationSettings& settings, const Allocati
     service_->Append(
         AlleleListing(input.loci, input.catalogues, input.table.NumberOfIndividuals()));
   }
-  record_.Append(FormatRunRecord(RecordOf(settings, input, result)));
+  RunRecord record = RecordOf(settings, input, result);
+  record.outputs = reports_.Outputs();
+  record_.Append(FormatRunRecord(record));
   reports_.Commit();
 }
 

@@ -63,7 +63,9 @@ SimulationReports::SimulationReports(const SimulationSettings& settings,
   for (const std::string_view file : texts_.group_files) {
     parents_.push_back(&reports_.AddIfAny(file));
   }
-  reports_.RefuseInput(std::string(kSavedLociFile));
+  if (settings.saves_loci) {
+    reports_.RefuseInput(std::string(kSavedLociFile));
+  }
 }
 
 void SimulationReports::WriteTables(const SimulationSettings& settings,
@@ -127,8 +129,13 @@ void SimulationReports::Write(const SimulationSettings& settings, const Simulati
   WriteTables(settings, input, result);
   WriteIndividuals(settings, input, result, last);
   WriteMatrices(settings, input, result, observer, workforce);
-  record_.Append(FormatRunRecord(RecordOf(settings, input, result)));
+  RunRecord record = RecordOf(settings, input, result);
+  record.outputs = reports_.Outputs();
+  record_.Append(FormatRunRecord(record));
   reports_.Commit();
+  if (!settings.saves_loci) {
+    return;
+  }
   if (const auto failure = SaveLoci(input.loci)) {
     observer.OnMessage(RunMessage::kWarning, *failure);
   }
