@@ -105,6 +105,7 @@ enum class ProblemKind : std::uint8_t {
   // Run records.
   kNotARunRecord,
   kUnusableRunRecord,
+  kInputsChanged,
   kRunMayDiffer,
 
   kCount,  ///< no kind, but how many there are
@@ -226,6 +227,7 @@ inline constexpr std::array<ProblemSentence, static_cast<std::size_t>(ProblemKin
         {ProblemKind::kOtherFlowThere, "{} Choose another project name, or add --replace."},
         {ProblemKind::kNotARunRecord, "This is not a run record!"},
         {ProblemKind::kUnusableRunRecord, "This run record cannot be used!"},
+        {ProblemKind::kInputsChanged, "An input file has changed since the recorded run!"},
         {ProblemKind::kRunMayDiffer, "The run may differ from the recorded one."},
     }};
 

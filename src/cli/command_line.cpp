@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/command_line.h"
 
-#include <filesystem>
 #include <new>
 #include <ostream>
 
@@ -11,13 +10,14 @@
 #include "allocation/allocation_command.h"
 #include "allocation/allocation_run.h"
 #include "base/version.h"
+#include "cli/recorded_run.h"
 #include "cli/short_result.h"
 #include "cli/simulation_result_text.h"
+#include "cli/tell.h"
 #include "cli/terminal_progress.h"
 #include "cli/typed_options.h"
 #include "runs/project_lock.h"
 #include "runs/report_set.h"
-#include "runs/value_kinds.h"
 #include "simulation/run_settings.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_command.h"
@@ -36,16 +36,10 @@ constexpr std::string_view kExamples =
     "                 --uncollected-sample parents.txt --uncollected 20 \\\n"
     "                 --iterations 100 --offspring-per-iteration 200 --seed 1\n"
     "  kaldo rerun \"lake/Run record.toml\"\n"
+    "  kaldo verify lake\n"
     "\n"
-    "Exit codes: 0 done, 1 failed while running, 2 bad input or usage, 130 stopped by Ctrl-C.";
-
-ExitCode Tell(const Problem& problem, const CommandLineStreams& streams) {
-  streams.err << SentenceOf(problem) << '\n';
-  if (const std::string detail = DetailLine(problem); !detail.empty()) {
-    streams.err << detail << '\n';
-  }
-  return ExitCode::kBadInput;
-}
+    "Exit codes: 0 done, 1 failed while running, 2 bad input or usage, 3 verify or rerun found a\n"
+    "difference, 130 stopped by Ctrl-C.";
 
 ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineStreams& streams,
                          Workforce& workforce) {
@@ -56,7 +50,7 @@ ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineSt
   if (!run) {
     return Tell(run.error(), streams);
   }
-  streams.out << ShortResult(settings, *run);
+  streams.out << EscapedLines(ShortResult(settings, *run));
   return ExitCode::kDone;
 }
 
@@ -72,7 +66,7 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
   if (!run) {
     return Tell(run.error(), streams);
   }
-  streams.out << ShortResult(settings, *run);
+  streams.out << EscapedLines(ShortResult(settings, *run));
   return ExitCode::kDone;
 }
 
@@ -95,7 +89,7 @@ ExitCode RunCheck(const TypedSettings& typed, const CommandLineStreams& streams)
     return Tell(settings.error(), streams);
   }
   if (const auto recovered = RecoverProject(ProjectFolder(settings->project))) {
-    streams.err << *recovered << '\n';
+    streams.err << Escaped(*recovered) << '\n';
   }
   const auto input = LoadAllocationInput(*settings);
   if (!input) {
@@ -104,43 +98,6 @@ ExitCode RunCheck(const TypedSettings& typed, const CommandLineStreams& streams)
   streams.err << InputSummary(settings->flow, *input) << '\n';
   streams.out << "ok\n";
   return ExitCode::kDone;
-}
-
-/// What may make a repeated run differ, or its files be missing.
-void TellChanges(const RunRecord& record, const CommandLineStreams& streams) {
-  if (record.version != Version()) {
-    streams.err << fmt::format("Warning: the record was made by KALDO {}, this is KALDO {}.\n",
-                               record.version, Version());
-  }
-  for (const std::string& changed : ChangedInputs(record)) {
-    streams.err << "Warning: " << changed << '\n';
-  }
-  std::error_code ignored;
-  if (std::filesystem::current_path(ignored).string() != record.folder) {
-    streams.err << fmt::format("Note: the recorded run was started in the folder {}\n",
-                               Quoted(record.folder));
-  }
-}
-
-ExitCode RunRerun(const std::string& path, const std::optional<std::string>& threads,
-                  bool may_replace_other_flow, const CommandLineStreams& streams,
-                  Workforce& workforce) {
-  const auto record = ReadRunRecord(path);
-  if (!record) {
-    return Tell(record.error(), streams);
-  }
-  auto settings = RunSettingsOf(*record, path);
-  if (HasKnownFlow(*record)) {
-    TellChanges(*record, streams);
-  }
-  if (settings && threads) {
-    const auto number = ParseThreads("--threads", *threads);
-    if (!number) {
-      return Tell(number.error(), streams);
-    }
-    std::visit([&](auto& each) { each.threads = *number; }, *settings);
-  }
-  return RunAndTell(std::move(settings), may_replace_other_flow, streams, workforce);
 }
 
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
@@ -156,12 +113,14 @@ struct Commands {
   CLI::App* check = app.add_subcommand("check", "Check files and choices; write nothing");
   CLI::App* simulate =
       app.add_subcommand("simulate", "Estimate how far allocations with these loci can be trusted");
-  CLI::App* rerun = app.add_subcommand("rerun", "Repeat a run from its run record");
+  CLI::App* rerun =
+      app.add_subcommand("rerun", "Repeat a run from its run record and compare the results");
+  CLI::App* verify = app.add_subcommand("verify", "Tell whether results and inputs are unchanged");
 
   TypedOptions allocation;  ///< of allocate and check
   TypedOptions simulation;
-  std::string record;
-  std::optional<std::string> rerun_threads;
+  RerunChoices rerun_choices;
+  std::string verified;
   bool may_replace_other_flow = false;
 
   Commands() {
@@ -169,21 +128,37 @@ struct Commands {
     allocation.AddTo(*allocate, AllocationSettingTable());
     allocation.AddTo(*check, AllocationSettingTable());
     simulation.AddTo(*simulate, SimulationSettingTable());
-    rerun->add_option("record", record, "The file \"Run record.toml\" of a project folder")
-        ->type_name("FILE")
-        ->required();
-    rerun
-        ->add_option("--threads", rerun_threads,
-                     "Threads; default: all cores (kaldo-mpi: 1 per process)")
-        ->type_name("N");
+    AddRecordOptions();
     for (CLI::App* const command : {allocate, simulate, rerun}) {
       command->add_flag("--replace", may_replace_other_flow,
                         "Replace results of another flow in the project folder, too");
     }
-    for (CLI::App* const command : {&app, allocate, simulate, check, rerun}) {
+    for (CLI::App* const command : {&app, allocate, simulate, check, rerun, verify}) {
       command->set_version_flag("--version", VersionLine());
       command->footer(std::string(kExamples));
     }
+  }
+
+ private:
+  void AddRecordOptions() {
+    RerunChoices& choices = rerun_choices;
+    rerun->add_option("record", choices.record, "The file \"Run record.toml\" of a project folder")
+        ->type_name("FILE")
+        ->required();
+    rerun
+        ->add_option("--threads", choices.threads,
+                     "Threads; default: all cores (kaldo-mpi: 1 per process)")
+        ->type_name("N");
+    CLI::Option* const project =
+        rerun->add_option("--project", choices.project, "Write the results into this folder")
+            ->type_name("DIR");
+    rerun->add_flag("--overwrite", choices.overwrites, "Replace the results beside the record")
+        ->excludes(project);
+    rerun->add_flag("--with-changed-inputs", choices.with_changed_inputs,
+                    "Run although input files have changed");
+    verify->add_option("record", verified, "A project folder, or the run record in it")
+        ->type_name("FILE")
+        ->required();
   }
 };
 
@@ -209,8 +184,13 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
     return RunCheck(commands.allocation.Given(), streams);
   }
   if (commands.rerun->parsed()) {
-    return RunRerun(commands.record, commands.rerun_threads, commands.may_replace_other_flow,
-                    streams, workforce);
+    return RunRerun(commands.rerun_choices, streams,
+                    [&](const RunSettings& settings, const CommandLineStreams& told) {
+                      return RunAndTell(settings, commands.may_replace_other_flow, told, workforce);
+                    });
+  }
+  if (commands.verify->parsed()) {
+    return RunVerify(commands.verified, streams);
   }
   streams.err << commands.app.help();
   return ExitCode::kBadInput;
@@ -236,7 +216,7 @@ ExitCode RunCommandLine(const std::vector<std::string>& arguments,
   } catch (const std::bad_alloc&) {
     streams.err << "Out of memory. The results of earlier runs are as they were.\n";
   } catch (const std::exception& error) {
-    streams.err << error.what() << '\n';
+    streams.err << Escaped(error.what()) << '\n';
   }
   return ExitCode::kFailed;
 }

@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 
+#include "base/problem.h"
 #include "base/stop_signal.h"
 
 namespace kaldo {
@@ -78,7 +79,7 @@ void TerminalProgress::OnNote(std::string_view note) {
 void TerminalProgress::OnMessage(RunMessage kind, std::string_view sentence) {
   const std::lock_guard lock(mutex_);
   stream_ << (is_drawn_ ? kEraseLine : "")
-          << (kind == RunMessage::kWarning ? "Warning: " : "Note: ") << sentence << '\n'
+          << (kind == RunMessage::kWarning ? "Warning: " : "Note: ") << Escaped(sentence) << '\n'
           << std::flush;
   is_drawn_ = false;
 }

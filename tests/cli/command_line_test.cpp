@@ -73,7 +73,7 @@ class CommandLineTest : public testing::Test {
 };
 
 TEST_F(CommandLineTest, HelpAndVersionAreAnswersNotFaults) {
-  for (const std::string command : {"", "allocate", "check", "simulate", "rerun"}) {
+  for (const std::string command : {"", "allocate", "check", "simulate", "rerun", "verify"}) {
     const Arguments head = command.empty() ? Arguments{} : Arguments{command};
     const Outcome help = RunCommand(head + Arguments{"--help"});
     EXPECT_EQ(help.code, ExitCode::kDone) << command;
@@ -194,7 +194,12 @@ TEST_F(CommandLineTest, RerunReproducesTheReports) {
     const Outcome first = RunCommand(Allocate(choice));
     ASSERT_EQ(first.code, ExitCode::kDone);
     const auto reports = TakeReports();
-    const Outcome again = RunCommand({"rerun", RecordPath(), "--threads", "2"});
+    const Outcome compared = RunCommand({"rerun", RecordPath()});
+    EXPECT_EQ(compared.code, ExitCode::kDone);
+    EXPECT_EQ(compared.out, fmt::format("identical, {0} of {0} files\n", reports.size()));
+    EXPECT_THAT(compared.err, IsEmpty());
+    EXPECT_THAT(TakeReports(), IsEmpty()) << "nothing is written";
+    const Outcome again = RunCommand({"rerun", RecordPath(), "--threads", "2", "--overwrite"});
     EXPECT_EQ(again.code, ExitCode::kDone);
     EXPECT_EQ(again.out, first.out);
     EXPECT_THAT(again.err, StartsWith("Note: The results of 2"));
@@ -203,10 +208,62 @@ TEST_F(CommandLineTest, RerunReproducesTheReports) {
   }
 }
 
-TEST_F(CommandLineTest, RerunWarnsOfWhatHasChanged) {
+TEST_F(CommandLineTest, VerifyTellsEveryFileThatIsNotAsTheRunLeftIt) {
+  ASSERT_EQ(RunCommand(Allocate({})).code, ExitCode::kDone);
+  for (const std::string& path : {RecordPath(), folder_.Path("project")}) {
+    const Outcome intact = RunCommand({"verify", path});
+    EXPECT_EQ(intact.code, ExitCode::kDone) << intact.err;
+    EXPECT_EQ(intact.out, "Results: intact, 4 of 4 files\nInputs: unchanged, 3 of 3 files\n");
+  }
+  folder_.Write("project/notes.txt", "my own");
+  folder_.Write("project/Summary.xls", "of a simulation");
+  folder_.Write("project/Max like pairs.txt", Report("Max like pairs.txt") + ' ');
+  std::filesystem::remove(folder_.Path("project/Allocation results.xls"));
+  std::filesystem::remove(folder_.Path("parents.txt"));
+  const Outcome mixed = RunCommand({"verify", folder_.Path("project")});
+  EXPECT_EQ(mixed.code, ExitCode::kDiffers);
+  EXPECT_EQ(mixed.out,
+            "Results: not intact, 2 of 4 files\n"
+            "  \"Allocation results.xls\" is missing\n"
+            "  \"Max like pairs.txt\" has other contents: it was edited, or is of another run\n"
+            "  \"Summary.xls\" is of another run: the record does not list it\n"
+            "Inputs: changed, 2 of 3 files\n"
+            "  parents (\"" +
+                folder_.Path("parents.txt") + "\") cannot be read.\n");
+}
+
+// Whoever sends a record must not decide what is written where, nor what the terminal does.
+TEST_F(CommandLineTest, ARecordFromElsewhereIsNotTrusted) {
+  const std::string aim = folder_.Path("aim");
+  EditRecord("\nproject = .*", "\nproject = \"" + aim + "\"");
+  EXPECT_EQ(RunCommand({"rerun", RecordPath()}).code, ExitCode::kDone);
+  EXPECT_EQ(RunCommand({"rerun", RecordPath(), "--overwrite"}).code, ExitCode::kDone);
+  EXPECT_FALSE(std::filesystem::exists(aim));
+  EXPECT_EQ(RunCommand({"rerun", RecordPath(), "--project", aim}).code, ExitCode::kDone);
+  EXPECT_EQ(folder_.FilesIn("aim").size(), 5U);
+  EditRecord("\nfolder = .*", "\nfolder = \"/\\u001b[2J\\u009b\"");
+  std::filesystem::remove(folder_.Path("parents.txt"));
+  EXPECT_THAT(RunCommand({"rerun", RecordPath()}).err, HasSubstr("\"/\\x1b[2J\\xc2\\x9b\""));
+  for (const std::string path : {"/dev/zero", "/"}) {
+    folder_.Write("parents.txt", "P1 100102 200204 150150 120124\n");
+    EditRecord("\"[^\"]*/parents.txt\"", '"' + path + '"');
+    for (const std::string command : {"rerun", "verify"}) {
+      ExpectRefusal({command, RecordPath()}, "Cannot open file \"" + path + "\"!\n");
+    }
+  }
+}
+
+TEST_F(CommandLineTest, RerunTellsWhatHasChanged) {
   EditRecord("version = \".*\"", "version = \"0.9.0\"");
   folder_.Write("offspring.txt", "O1 100104 204208 150152 124128\n");
-  const Outcome outcome = RunCommand({"rerun", RecordPath()});
+  const Outcome refused = RunCommand({"rerun", RecordPath()});
+  EXPECT_EQ(refused.code, ExitCode::kBadInput);
+  EXPECT_THAT(refused.err, HasSubstr("\nAn input file has changed since the recorded run!\n"));
+  const Outcome compared = RunCommand({"rerun", RecordPath(), "--with-changed-inputs"});
+  EXPECT_EQ(compared.code, ExitCode::kDiffers);
+  EXPECT_THAT(compared.out, StartsWith("different, "));
+  const Outcome outcome =
+      RunCommand({"rerun", RecordPath(), "--with-changed-inputs", "--overwrite"});
   EXPECT_EQ(outcome.code, ExitCode::kDone);
   EXPECT_THAT(outcome.err, StartsWith("Warning: the record was made by KALDO 0.9.0, "));
   EXPECT_THAT(outcome.err, HasSubstr("\nWarning: offspring (\"" + folder_.Path("offspring.txt") +
@@ -231,6 +288,9 @@ TEST_F(CommandLineTest, RerunRefusesWhatItCannotRepeat) {
       {"error = .*", "error = \"some\"", "This run record cannot be used!\n"},
       {"0.98,", "0.98, 0.01,", "This run record cannot be used!\n"},
       {"\nproject = .*", "", "This run record cannot be used!\n"},
+      {"tolerance = 1\n", "tolerance = 1\nsqeuence = [1]\n",
+       "the setting \"sqeuence\" has no place"},
+      {"\nparents = .*", "\nparents = \"/etc/passwd\"", "names a file that is none of its"},
       // A setting that is there but not understood must not silently become another run.
       {"(tolerance = 1)\n", "$1\nuse = \"A\"\n", ""},
       {"(tolerance = 1)\n", "$1\nsequence = [1.0, 2.0, 3.0, 4.0]\n", ""},

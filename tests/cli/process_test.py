@@ -110,14 +110,29 @@ class ExitCodes(ProgramTest):
             self.assertIn(0, [run.returncode for run in runs])
             self.assertFalse(list((self.folder / "project").glob(".*")))
 
-    def test_rerun_counts_paths_from_the_working_folder(self):
-        self.assertEqual(self.run_program(allocation("project")).returncode, 0)
-        record = str(self.folder / "project" / RUN_RECORD)
-        self.assertEqual(self.run_program([KALDO, "rerun", record]).returncode, 0)
-        elsewhere = programs.run([KALDO, "rerun", record], self.folder / "project")
-        self.assertEqual(elsewhere.returncode, 2)
-        self.assertIn(b'Cannot open file "parents.txt"!', elsewhere.stderr)
-        self.assertIn(os.fsencode(self.folder), elsewhere.stderr)
+    def test_rerun_finds_the_files_of_a_study_that_was_moved(self):
+        self.assertEqual(self.run_program(allocation("a/project")).returncode, 0)
+        moved = self.folder / "moved"
+        moved.mkdir()
+        for path in list(self.folder.iterdir()):
+            if path != moved:
+                path.rename(moved / path.name)
+        record = moved / "a" / "project" / RUN_RECORD
+        elsewhere = programs.run([KALDO, "rerun", str(record)], self.folder)
+        self.assertEqual((elsewhere.returncode, elsewhere.stdout), (0, b"identical, 4 of 4 files\n"))
+        self.assertIn(b"Note: parents is read from", elsewhere.stderr)
+        (moved / "parents.txt").unlink()
+        missing = programs.run([KALDO, "rerun", str(record)], moved / "a")
+        self.assertEqual(missing.returncode, 2)
+        self.assertIn(b'Cannot open file "parents.txt"!', missing.stderr)
+        self.assertIn(os.fsencode(self.folder), missing.stderr)
+
+    def test_records_that_would_end_a_parser(self):
+        for text in ("a." * 40000 + "a = 1", "a = " + "[" * 100000, "a = " + "{a=" * 40000,
+                     'a = ["""x" """, ' + "[" * 100000, "[" + "a." * 40000 + "a]", "x" * 2000000):
+            (self.folder / "record").write_text(f'program = "KALDO"\n{text}\n')
+            refused = self.run_program([KALDO, "rerun", "record"])
+            self.assertEqual(refused.returncode, 2, text[:20])
 
 
 class LongRuns(ProgramTest):

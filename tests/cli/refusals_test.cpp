@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "base/problem.h"
+#include "base/version.h"
 #include "tests/cli/command_support.h"
 #include "tests/support/temp_folder.h"
 
@@ -93,6 +94,12 @@ const std::string kRows = "X1 1112 1314\nX2 1112 1314\n";
 const std::string kManySizes = Repeated("X {0:03}{0:03} 200204\n", 101);
 const std::string kDance = "program = \"KALDO\"\nflow = \"a dance\"\n[settings]\n";
 
+const std::string kChanged =
+    "program = \"KALDO\"\nversion = \"" + std::string(Version()) +
+    "\"\nflow = \"allocation, non-sexed\"\n[settings]\nproject = \"results\"\n"
+    "loci = \"loci\"\nparents = \"loci\"\noffspring = \"loci\"\ntolerance = 1\n"
+    "error = \"none\"\n[[input]]\nrole = \"loci\"\npath = \"loci\"\n";
+
 const std::vector<Refusal> kRefusals = {
     {kNoProject, "allocate", ""},
     {kNoProject, "parental -project", ""},
@@ -138,6 +145,7 @@ const std::vector<Refusal> kRefusals = {
     {kNameTooLong, "pond", "young, line 1", "young", "X234567890123456 150152 200204"},
     {kNotARunRecord, "rerun parents", "parents, line 1"},
     {kUnusableRunRecord, "rerun record", "record: the flow \"a dance\"", "record", kDance},
+    {kInputsChanged, "rerun record", "record: loci (\"loci\") has changed", "record", kChanged},
     {kNoErrorModel, "pond error=uniform=0,1", "--error: \"uniform=0,1\" is none of"},
     {kNoErrorModel, "parental error=nonuniform=", "--error: "},
     {kNotAProbability, "pond error=uniform=ten", "--error: \"ten\" is not a number"},

@@ -139,16 +139,21 @@ TEST_F(SimulateCommand, RerunReproducesTheFiles) {
     if (seed[1].str().size() > 1) {
       record = std::regex_replace(record, std::regex(seed[1].str()), "1735689600");
       folder_.Write("p/Run record.toml", record);
-      const Outcome other = RunCommand({"rerun", "p/Run record.toml"});
+      const Outcome other = RunCommand({"rerun", "p/Run record.toml", "--overwrite"});
       EXPECT_THAT(other.out, HasSubstr("\n  seed 1735689600\n"));
       EXPECT_NE(TakeReports(), reports);
       record = std::regex_replace(record, std::regex("1735689600"), seed[1].str());
       folder_.Write("p/Run record.toml", record);
     }
-    const Outcome again = RunCommand({"rerun", "p/Run record.toml", "--threads", "2"});
+    std::filesystem::remove("SAUVLOCUSTULM.txt");
+    const Outcome again =
+        RunCommand({"rerun", "p/Run record.toml", "--threads", "2", "--overwrite"});
+    EXPECT_FALSE(std::filesystem::exists("SAUVLOCUSTULM.txt")) << "not in the folder of the record";
     EXPECT_EQ(again.code, ExitCode::kDone);
     EXPECT_EQ(again.out, first.out);
     EXPECT_THAT(again.err, EndsWith(" were replaced; the input files are the same.\n"));
+    EXPECT_EQ(RunCommand({"rerun", "p/Run record.toml"}).out,
+              fmt::format("identical, {0} of {0} files\n", reports.size()));
     EXPECT_EQ(TakeReports(), reports) << testing::PrintToString(choice);
   }
 }

@@ -122,7 +122,7 @@ class SameFiles(Clusters):
         first = files_of(folder)
         shutil.move(folder / "lake" / RUN_RECORD, folder / RUN_RECORD)
         shutil.rmtree(folder / "lake")
-        again = self.run_in(folder, self.launch(2, ["rerun", RUN_RECORD, "--threads", "2"]))
+        again = self.run_in(folder, self.launch(2, ["rerun", RUN_RECORD, "--threads", "2", "--project", "lake"]))
         self.assertEqual((again.returncode, again.stderr), (0, ""))
         (folder / RUN_RECORD).unlink()
         self.assertEqual(files_of(folder), first)

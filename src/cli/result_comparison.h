@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "runs/run_record.h"
+
+namespace kaldo {
+
+/// The files of a folder beside those that a record lists.
+struct ResultComparison {
+  std::size_t same = 0;                  ///< files with the recorded contents
+  std::vector<std::string> differences;  ///< a phrase per file that is otherwise
+
+  bool IsIntact(const RunRecord& record) const {
+    return differences.empty() && same > 0 && same == record.outputs.size();
+  }
+};
+
+/// Compares by size and SHA-256. A file with the name of a result that the record does not list is
+/// a difference, too: it is of another run. Other files are the user's own affair.
+ResultComparison CompareResults(const RunRecord& record, const std::string& folder);
+
+}  // namespace kaldo
