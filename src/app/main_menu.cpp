@@ -240,7 +240,8 @@ void MainMenu::ShowFolder() {
       QDir::toNativeSeparators(QDir::current().absoluteFilePath(project_->text()));
   folder_->setText(folder);
   // Of a long path the line shows the end only.
-  folder_->setToolTip(folder + Text("\nMade when the first screen of a flow is confirmed"));
+  folder_->setToolTip(
+      TipText(folder + Text("\nMade when the first screen of a flow is confirmed")));
 }
 
 void MainMenu::closeEvent(QCloseEvent* event) {

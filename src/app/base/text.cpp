@@ -2,6 +2,7 @@
 #include "app/base/text.h"
 
 #include <QFile>
+#include <QTextDocument>
 
 namespace kaldo {
 
@@ -10,6 +11,10 @@ QString Text(std::string_view text) {
 }
 
 std::string Bytes(const QString& text) { return text.toStdString(); }
+
+QString TipText(const QString& text) {
+  return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
+}
 
 QString PathText(const std::string& path) {
   return QFile::decodeName(QByteArray::fromStdString(path));

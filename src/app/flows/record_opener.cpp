@@ -9,6 +9,7 @@
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
 #include "base/version.h"
+#include "simulation/recorded_files.h"
 
 namespace kaldo {
 
@@ -62,6 +63,11 @@ std::optional<RunSettings> OpenRunRecord(QWidget* parent, const std::string& pat
     return std::nullopt;
   }
   OfferFolder(parent, *record);
+  // The screens read the files at once to tell what they hold.
+  if (const auto problem = RefuseRecordedFiles(*record, path)) {
+    ShowProblem(parent, *problem);
+    return std::nullopt;
+  }
   TellChanges(parent, *record, opened);
   return *settings;
 }

@@ -30,6 +30,7 @@ ComparisonPanel::ComparisonPanel(SharedAllocation allocation, QWidget* parent)
   pair_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   verdict_->setObjectName(Text("ComparisonVerdict"));
   verdict_->setWordWrap(true);
+  verdict_->setTextFormat(Qt::PlainText);
   verdict_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   table_->setObjectName(Text("ComparisonTable"));
   model_->SetColours(FitColoursOf(palette()));

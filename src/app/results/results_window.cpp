@@ -38,7 +38,7 @@ ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget
 QWidget* ResultsWindow::ButtonRow() {
   auto* open = new QPushButton(Text("Open &folder"));
   open->setObjectName(Text("OpenFolder"));
-  open->setToolTip(Text("Show the reports of this run: %1").arg(folder_));
+  open->setToolTip(TipText(Text("Show the reports of this run: %1").arg(folder_)));
   copy_command_->setObjectName(Text("CopyCommand"));
   copy_command_->setToolTip(
       Text("Copy the command line that repeats this run, for a script or a colleague."));

@@ -35,6 +35,7 @@ QLayout* SearchableTable::NewChoiceRow(const SearchableTexts& texts) {
   find_->setClearButtonEnabled(true);
   choices_->setObjectName(Text(texts.name) + Text("Show"));
   choices_->setToolTip(Text(texts.show_help));
+  count_->setTextFormat(Qt::PlainText);
   count_->setObjectName(Text(texts.name) + Text("Count"));
   auto* find_label = new QLabel(Text("Fi&nd:"));
   find_label->setBuddy(find_);

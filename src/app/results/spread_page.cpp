@@ -27,6 +27,7 @@ SpreadPage::SpreadPage(std::vector<Correctness> classes, QString note, const QSt
   class_->setCurrentIndex(class_->count() - 1);
   figures_->setObjectName(Text("SpreadFigures"));
   figures_->setWordWrap(true);
+  figures_->setTextFormat(Qt::PlainText);
   auto* label = new QLabel(Text("Cl&ass:"));
   label->setBuddy(class_);
   auto* row = new QHBoxLayout;
