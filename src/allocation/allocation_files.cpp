@@ -7,6 +7,7 @@
 
 #include "genotypes/capacities.h"
 #include "genotypes/file_wide_checks.h"
+#include "genotypes/name_rules.h"
 #include "genotypes/record_checks.h"
 
 namespace kaldo {
@@ -80,6 +81,24 @@ std::optional<Problem> CheckNotEmpty(const AllocationFile& file, const LociList&
                  .subject = std::string(file.role.name),
                  .file = file.tokens.Path(),
                  .found = file.tokens.Tokens().empty() ? "the file is empty" : ""};
+}
+
+/// The reports would tell such a parent as one that was not collected.
+std::optional<Problem> CheckParentNames(const AllocationFile& file, const LociList& loci) {
+  RecordCursor cursor(file.tokens.Tokens(), LayoutOf(file, loci));
+  while (!cursor.AtEnd()) {
+    cursor.Next();
+    const Token& name = cursor.Name();
+    if (IsSignOfNoParent(name.text)) {
+      return Problem{.kind = ProblemKind::kParentNamedNone,
+                     .file = file.tokens.Path(),
+                     .line = name.line,
+                     .record = cursor.Record(),
+                     .individual = std::string(name.text),
+                     .found = "give the parent another name"};
+    }
+  }
+  return std::nullopt;
 }
 
 /// Parents share one table, whatever files they come from; so do the offspring.
@@ -156,6 +175,12 @@ std::optional<Problem> CheckAllocationRecords(const AllocationFiles& files, cons
       return problem;
     }
     if (auto problem = CheckRecords(file.tokens, LayoutOf(file, loci), loci, digits_per_field)) {
+      return problem;
+    }
+    if (!file.role.holds_parents) {
+      continue;
+    }
+    if (auto problem = CheckParentNames(file, loci)) {
       return problem;
     }
   }

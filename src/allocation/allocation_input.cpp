@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "allocation/input_warnings.h"
 #include "genotypes/genotype_reader.h"
 #include "genotypes/record_checks.h"
 #include "method/cumulative_sequence.h"
@@ -165,6 +166,7 @@ std::optional<Problem> ApplyChoices(const AllocationSettings& settings,
     return TooManyAllelesProblem(files, input, catalogues.error());
   }
   input.catalogues = std::move(*catalogues);
+  input.warnings = InputWarnings(settings, files, input);
   return std::nullopt;
 }
 

@@ -6,6 +6,7 @@
 #include <tl/expected.hpp>
 
 #include "allocation/allocation_files.h"
+#include "base/warning.h"
 #include "genotypes/catalogued_loci.h"
 #include "genotypes/genotype_table.h"
 #include "genotypes/loci_list.h"
@@ -33,6 +34,8 @@ struct AllocationInput {
   std::vector<std::vector<LocusIndex>> combinations;
 
   std::vector<RecordedInput> files;
+
+  std::vector<Warning> warnings;  ///< of files and choices that can run: every single case
 
   /// The slots of all collected parents, separators included.
   SlotRange Parents() const { return {0, offspring.begin}; }

@@ -13,7 +13,7 @@ namespace kaldo {
 namespace {
 
 std::vector<std::string> WarningsOf(const AllocationInput& input, const AllocationResult& result) {
-  std::vector<std::string> warnings;
+  std::vector<std::string> warnings = WarningLines(input.warnings);
   if (result.stepping.any_out_of_step) {
     warnings.emplace_back(ClosingSentence(result));
   }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/file_source.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -16,6 +18,11 @@ namespace kaldo {
 namespace {
 
 constexpr std::size_t kBlockBytes = std::size_t{1} << 16U;
+
+/// Without its mark: every other byte of ASCII letters and digits is zero, which no other text has.
+bool LooksLikeUtf16(std::string_view text) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\0')) > text.size() / 3;
+}
 
 }  // namespace
 
@@ -61,7 +68,7 @@ tl::expected<std::vector<char>, Problem> ReadText(const std::string& path, FileS
     return bytes;
   }
   const std::string_view text(bytes->data(), bytes->size());
-  if (text.starts_with("\xff\xfe") || text.starts_with("\xfe\xff")) {
+  if (text.starts_with("\xff\xfe") || text.starts_with("\xfe\xff") || LooksLikeUtf16(text)) {
     return tl::unexpected(CannotOpenFile(
         path, "it is written in UTF-16 (\"Unicode text\"); save it as plain text or UTF-8"));
   }

@@ -37,9 +37,13 @@ std::size_t BytesOfFirst(std::string_view text) {
   return 1;
 }
 
-/// Controls of both sets, and the characters that make a terminal or a window begin a line or turn
-/// the direction of writing, so that a name would not be read as it is.
-bool IsObeyed(std::uint32_t character) {
+/// Controls of both sets, bytes that are no UTF-8, and the characters that make a terminal or a
+/// window begin a line or turn the direction of writing, so that a name would not be read as it is.
+bool IsObeyed(std::string_view bytes) {
+  if (bytes.size() == 1 && static_cast<unsigned char>(bytes.front()) >= 0x80) {
+    return true;
+  }
+  const std::uint32_t character = utf8::unchecked::peek_next(bytes.begin());
   return character < 0x20 || (character >= 0x7f && character < 0xa0) ||
          (character >= 0x200e && character <= 0x200f) ||
          (character >= 0x2028 && character <= 0x202e) ||
@@ -51,10 +55,7 @@ std::string EscapedBut(std::string_view kept, std::string_view text) {
   while (!text.empty()) {
     const std::string_view character = text.substr(0, BytesOfFirst(text));
     text.remove_prefix(character.size());
-    const std::uint32_t code = character.size() == 1
-                                   ? static_cast<unsigned char>(character.front())
-                                   : utf8::unchecked::peek_next(character.begin());
-    if (!IsObeyed(code) || kept.find(character) != std::string_view::npos) {
+    if (!IsObeyed(character) || kept.find(character) != std::string_view::npos) {
       shown += character;
       continue;
     }
@@ -63,6 +64,15 @@ std::string EscapedBut(std::string_view kept, std::string_view text) {
     }
   }
   return shown;
+}
+
+/// At most 40 bytes of a text; no character of UTF-8 is cut.
+std::string_view Shortened(std::string_view text) {
+  std::size_t end = std::min(text.size(), kQuotedBytes);
+  while (end > 0 && end < text.size() && (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80) {
+    --end;
+  }
+  return text.substr(0, end);
 }
 
 }  // namespace
@@ -84,7 +94,7 @@ std::string Quoted(std::string_view text) {
   if (text.size() <= kQuotedBytes) {
     return '"' + Escaped(text) + '"';
   }
-  return '"' + Escaped(text.substr(0, kQuotedBytes)) + "...\"";
+  return '"' + Escaped(Shortened(text)) + "...\"";
 }
 
 std::string DetailLine(const Problem& problem) {
@@ -99,7 +109,7 @@ std::string DetailLine(const Problem& problem) {
     places.push_back(problem.individual.empty()
                          ? fmt::format("record {}", problem.record)
                          : fmt::format("record {} ({})", problem.record,
-                                       Escaped(problem.individual.substr(0, kQuotedBytes))));
+                                       Escaped(Shortened(problem.individual))));
   }
   if (!problem.locus.empty()) {
     places.push_back(fmt::format("locus {}", Escaped(problem.locus)));

@@ -54,6 +54,9 @@ enum class ProblemKind : std::uint8_t {
   kFieldOfOtherWidth,
   kAlleleTooLong,
   kNameTooLong,
+  kNameHasControl,
+  kNameNotUtf8,
+  kParentNamedNone,
 
   // The model of error.
   kNoErrorModel,
@@ -174,6 +177,9 @@ inline constexpr std::array<ProblemSentence, static_cast<std::size_t>(ProblemKin
         {ProblemKind::kFieldOfOtherWidth, "A genotype field has another number of digits!"},
         {ProblemKind::kAlleleTooLong, "An allele has more than {} digits!"},
         {ProblemKind::kNameTooLong, "A name has more than {} characters!"},
+        {ProblemKind::kNameHasControl, "A name holds a character that cannot be shown!"},
+        {ProblemKind::kNameNotUtf8, "A name is not written in UTF-8!"},
+        {ProblemKind::kParentNamedNone, "A parent has a name that stands for no parent!"},
 
         {ProblemKind::kNoErrorModel, "Choose a model of error"},
         {ProblemKind::kEpsilonOutOfRange, "Espilon should be between 0 and 0.1"},

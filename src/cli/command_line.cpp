@@ -16,6 +16,7 @@
 #include "cli/tell.h"
 #include "cli/terminal_progress.h"
 #include "cli/typed_options.h"
+#include "cli/usage_error.h"
 #include "runs/project_lock.h"
 #include "runs/report_set.h"
 #include "simulation/run_settings.h"
@@ -41,6 +42,12 @@ constexpr std::string_view kExamples =
     "Exit codes: 0 done, 1 failed while running, 2 bad input or usage, 3 verify or rerun found a\n"
     "difference, 130 stopped by Ctrl-C.";
 
+void TellWarnings(const std::vector<Warning>& warnings, const CommandLineStreams& streams) {
+  for (const std::string& line : WarningLines(warnings)) {
+    streams.err << "Warning: " << line << '\n';
+  }
+}
+
 ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineStreams& streams,
                          Workforce& workforce) {
   const auto run = [&] {
@@ -50,6 +57,7 @@ ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineSt
   if (!run) {
     return Tell(run.error(), streams);
   }
+  TellWarnings(run->input.warnings, streams);
   streams.out << EscapedLines(ShortResult(settings, *run));
   return ExitCode::kDone;
 }
@@ -66,6 +74,7 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
   if (!run) {
     return Tell(run.error(), streams);
   }
+  TellWarnings(run->input.warnings, streams);
   streams.out << EscapedLines(ShortResult(settings, *run));
   return ExitCode::kDone;
 }
@@ -95,6 +104,7 @@ ExitCode RunCheck(const TypedSettings& typed, const CommandLineStreams& streams)
   if (!input) {
     return Tell(input.error(), streams);
   }
+  TellWarnings(input->warnings, streams);
   streams.err << InputSummary(settings->flow, *input) << '\n';
   streams.out << "ok\n";
   return ExitCode::kDone;
@@ -169,8 +179,13 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
   try {
     commands.app.parse(std::move(backwards));
   } catch (const CLI::ParseError& error) {
-    const int code = commands.app.exit(error, streams.out, streams.err);
-    return code == 0 ? ExitCode::kDone : ExitCode::kBadInput;
+    if (error.get_exit_code() == 0) {
+      commands.app.exit(error, streams.out, streams.err);
+      return ExitCode::kDone;
+    }
+    streams.err << UsageErrorText(commands.app, error)
+                << "\nRun with --help for more information.\n";
+    return ExitCode::kBadInput;
   }
   if (commands.allocate->parsed()) {
     return RunAndTell(AllocationFrom(commands.allocation.Given()), commands.may_replace_other_flow,

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "genotypes/file_wide_checks.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
+#include "genotypes/layout_hints.h"
 #include "genotypes/record_checks.h"
 
 namespace kaldo {
@@ -54,9 +57,32 @@ Problem ProblemAt(const FieldPlace& place, const FileWideCheck& check, const Loc
           .found = std::move(found)};
 }
 
+/// Spreadsheets drop the zeros before a number. That it happened shows where the first record has
+/// one digit more.
+std::string LostZeroText(std::string_view field, std::span<const Token> tokens,
+                         RecordLayout layout) {
+  RecordCursor cursor(tokens, layout);
+  while (!cursor.AtEnd() && cursor.Fields().empty()) {
+    cursor.Next();
+  }
+  const auto fields = cursor.Fields();
+  const bool one_less = std::any_of(fields.begin(), fields.end(), [field](const Token& other) {
+    return other.text.size() == field.size() + 1 && IsAllDigits(other.text);
+  });
+  return one_less && IsAllDigits(field)
+             ? fmt::format("; is it \"0{}\" without its leading zero?", field)
+             : "";
+}
+
 Problem OddDigits(const FileWideCheck& check, const LociList& loci, RecordLayout layout,
                   const std::optional<FieldPlace>& odd, const TokenCounts& counts) {
   const auto tokens = check.file->Tokens();
+  if (const auto hint = FindLayoutHint(*check.file, layout)) {
+    return {.kind = check.odd_digits,
+            .file = check.file->Path(),
+            .line = hint->line,
+            .found = hint->found};
+  }
   const bool torn = (counts.tokens - counts.separators) % (layout.number_of_loci + 1) != 0;
   if (torn || !odd || !IsAllDigits(odd->field.text)) {
     if (auto problem = FindMisshapenRecord(*check.file, layout, check.odd_digits)) {
@@ -70,8 +96,9 @@ Problem OddDigits(const FileWideCheck& check, const LociList& loci, RecordLayout
     }
     return ProblemAt(
         *odd, check, loci, check.odd_digits,
-        fmt::format("{} has {} characters; both alleles need the same number of digits",
-                    Quoted(odd->field.text), odd->field.text.size()));
+        fmt::format("{} has {} characters; both alleles need the same number of digits{}",
+                    Quoted(odd->field.text), odd->field.text.size(),
+                    LostZeroText(odd->field.text, tokens, layout)));
   }
   return {.kind = check.odd_digits,
           .file = check.file->Path(),

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "genotypes/capacities.h"
+#include "genotypes/name_rules.h"
 
 namespace kaldo {
 
@@ -74,6 +75,12 @@ std::optional<Problem> CheckLoci(const TokenFile& file) {
           .line = token.line,
           .locus = shown(token),
           .found = fmt::format("{} has {} characters", Quoted(token.text), token.text.size())};
+    }
+    if (auto fault = FaultOfName(token.text)) {
+      fault->file = file.Path();
+      fault->line = token.line;
+      fault->locus = shown(token);
+      return fault;
     }
     const auto [earlier, is_new] = line_of.emplace(token.text, token.line);
     if (!is_new) {

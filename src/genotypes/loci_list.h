@@ -36,7 +36,8 @@ class LociList {
   std::vector<bool> in_use_;
 };
 
-/// What no names-of-loci file may have: no name, more than 50, a name over 14 bytes, a name twice.
+/// What no names-of-loci file may have: no name, more than 50, a name over 14 bytes or that cannot
+/// be shown, a name twice.
 std::optional<Problem> CheckLoci(const TokenFile& file);
 
 }  // namespace kaldo

@@ -6,25 +6,13 @@
 #include <fmt/format.h>
 
 #include "genotypes/capacities.h"
+#include "genotypes/layout_hints.h"
+#include "genotypes/lines.h"
+#include "genotypes/name_rules.h"
 
 namespace kaldo {
 
 namespace {
-
-/// The words of one line of the file.
-using Line = std::span<const Token>;
-
-std::vector<Line> LinesOf(std::span<const Token> tokens) {
-  std::vector<Line> lines;
-  std::size_t begin = 0;
-  for (std::size_t i = 1; i <= tokens.size(); ++i) {
-    if (i == tokens.size() || tokens[i].line != tokens[begin].line) {
-      lines.push_back(tokens.subspan(begin, i - begin));
-      begin = i;
-    }
-  }
-  return lines;
-}
 
 bool IsOneRecord(Line line, RecordLayout layout) {
   return layout.IsSeparator(line.front().text) ? line.size() == 1
@@ -43,6 +31,12 @@ std::string FieldCountText(Line line, RecordLayout layout) {
 }
 
 Problem WrongFieldCount(const TokenFile& file, RecordLayout layout) {
+  if (const auto hint = FindLayoutHint(file, layout)) {
+    return {.kind = ProblemKind::kWrongFieldCount,
+            .file = file.Path(),
+            .line = hint->line,
+            .found = hint->found};
+  }
   if (auto problem = FindMisshapenRecord(file, layout, ProblemKind::kWrongFieldCount)) {
     return *problem;
   }
@@ -82,6 +76,17 @@ std::optional<Problem> FaultOfField(std::string_view field, std::size_t digits_p
         .found = fmt::format("{} has {} digits for both alleles", Quoted(field), field.size())};
   }
   return std::nullopt;
+}
+
+/// What is wrong with a name by itself, without its place. No report tells the name of a separator,
+/// which may be of any length.
+std::optional<Problem> FaultOfRecordName(std::string_view name, bool is_separator) {
+  if (!is_separator && name.size() > kMaxNameLength) {
+    return Problem{.kind = ProblemKind::kNameTooLong,
+                   .subject = fmt::format("{}", kMaxNameLength),
+                   .found = fmt::format("{} has {} characters", Quoted(name), name.size())};
+  }
+  return FaultOfName(name);
 }
 
 }  // namespace
@@ -149,6 +154,12 @@ std::optional<Problem> CheckRecords(const TokenFile& file, RecordLayout layout,
       }
       // A name where a genotype should be means that an earlier record lost or gained a field.
       if (fault->kind == ProblemKind::kFieldNotDigits) {
+        if (const auto hint = FindLayoutHint(file, layout)) {
+          return Problem{.kind = ProblemKind::kFieldNotDigits,
+                         .file = file.Path(),
+                         .line = hint->line,
+                         .found = hint->found};
+        }
         if (auto torn = FindMisshapenRecord(file, layout, ProblemKind::kWrongFieldCount)) {
           return torn;
         }
@@ -160,15 +171,12 @@ std::optional<Problem> CheckRecords(const TokenFile& file, RecordLayout layout,
       fault->locus = loci.Names()[locus];
       return fault;
     }
-    if (!cursor.IsSeparator() && name.text.size() > kMaxNameLength) {
-      return Problem{
-          .kind = ProblemKind::kNameTooLong,
-          .subject = fmt::format("{}", kMaxNameLength),
-          .file = file.Path(),
-          .line = name.line,
-          .record = cursor.Record(),
-          .individual = std::string(name.text),
-          .found = fmt::format("{} has {} characters", Quoted(name.text), name.text.size())};
+    if (auto fault = FaultOfRecordName(name.text, cursor.IsSeparator())) {
+      fault->file = file.Path();
+      fault->line = name.line;
+      fault->record = cursor.Record();
+      fault->individual = name.text;
+      return fault;
     }
   }
   return std::nullopt;

@@ -32,7 +32,8 @@ std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout l
 std::size_t DigitsPerField(const TokenFile& first_parents_file, RecordLayout layout);
 
 /// Tests every record of a genotype file for itself, after the file-wide checks: the number of
-/// fields, digits only, `digits_per_field` of them and at most 8, names of at most 15 bytes.
+/// fields, digits only, `digits_per_field` of them and at most 8, names of at most 15 bytes in
+/// UTF-8 that can be shown.
 std::optional<Problem> CheckRecords(const TokenFile& file, RecordLayout layout,
                                     const LociList& loci, std::size_t digits_per_field);
 

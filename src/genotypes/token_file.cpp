@@ -9,13 +9,19 @@ bool IsBlank(char character) {
   return character == ' ' || (character >= '\t' && character <= '\r');
 }
 
+/// LF, CR LF, or a CR alone, as old programs write it.
+bool EndsLine(std::string_view text, std::size_t position) {
+  const bool before_lf = position + 1 < text.size() && text[position + 1] == '\n';
+  return text[position] == '\n' || (text[position] == '\r' && !before_lf);
+}
+
 std::vector<Token> CutIntoTokens(std::string_view text) {
   std::vector<Token> tokens;
   std::uint32_t line = 1;
   std::size_t position = 0;
   while (position < text.size()) {
     if (IsBlank(text[position])) {
-      line += text[position] == '\n' ? 1 : 0;
+      line += EndsLine(text, position) ? 1 : 0;
       ++position;
       continue;
     }

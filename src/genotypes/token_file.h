@@ -23,8 +23,8 @@ struct Token {
 
 /// A whole input file cut into words at blanks, tabs and line ends. Line ends carry no meaning for
 /// the method, but each word knows its line so that a message can tell where to look. A byte-order
-/// mark is skipped, and CR LF ends a line as LF does. Nothing changes the contents once they have
-/// been read; copies share them.
+/// mark is skipped, and CR LF or CR ends a line as LF does. Nothing changes the contents once they
+/// have been read; copies share them.
 class TokenFile {
  public:
   /// Reads the file once. A file that cannot be opened or read is a Problem with the sentence

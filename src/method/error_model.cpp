@@ -75,6 +75,23 @@ std::optional<Problem> ValidateForAllocation(const ErrorModel& model) {
   return Problem{.kind = ProblemKind::kNoErrorModel};
 }
 
+std::optional<Warning> WarnOfNegative(const ErrorModel& model) {
+  for (const NamedErrorModel& named : kModels) {
+    if (named.kind != model.kind) {
+      continue;
+    }
+    for (const ErrorProbability& probability : named.probabilities) {
+      if (model.*probability.value < 0) {
+        return Warning{
+            .kind = WarningKind::kNegativeProbability,
+            .found = fmt::format("{} of the model of error \"{}\" is {}.", probability.name,
+                                 named.name, FormatDouble(model.*probability.value))};
+      }
+    }
+  }
+  return std::nullopt;
+}
+
 std::string Describe(const ErrorModel& model) {
   switch (model.kind) {
     case ErrorKind::kNoError:

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/problem.h"
+#include "base/warning.h"
 
 namespace kaldo {
 
@@ -70,6 +71,9 @@ std::span<const NamedErrorModel> NamedErrorModels();
 /// values, added from minus2 to plus2, give exactly 1 in double precision, and focal lies in
 /// [0.9, 1]; single values are not tested.
 std::optional<Problem> ValidateForAllocation(const ErrorModel& model);
+
+/// Tells a negative probability of a model that the checks accept.
+std::optional<Warning> WarnOfNegative(const ErrorModel& model);
 
 /// The description of the model in the heading of a report, of one or two lines; no line end behind
 /// it. Empty while no model is chosen.

@@ -26,7 +26,8 @@ tl::expected<std::vector<double>, Problem> ParseProbabilities(std::string_view o
     if (!value) {
       return NotUnderstood(
           ProblemKind::kNotAProbability,
-          fmt::format("{}: {} is not a number such as 0.008", option, Quoted(part)));
+          fmt::format("{}: {} is not a number such as 0.008{}", option, Quoted(part),
+                      part.find(' ') == std::string::npos ? "" : "; write commas between several"));
     }
     values.push_back(*value);
   }

@@ -108,6 +108,9 @@ struct Setting {
 
   bool Applies(const Settings& settings) const { return !applies || applies(settings); }
   bool IsFlag() const { return metavar.empty(); }
+
+  /// Files and folders have no default either; a window tells them one by one.
+  bool MustBeGiven() const { return needed || metavar == "FILE" || metavar == "DIR"; }
 };
 
 /// All settings of a run, in the order of the help and of the run record.
@@ -120,8 +123,24 @@ using TypedSettings = std::map<std::string, std::string, std::less<>>;
 /// Told when a text that a user typed is not what is wanted.
 tl::unexpected<Problem> NotUnderstood(ProblemKind kind, std::string found);
 
-/// Told when a setting without a default was not given.
-Problem MissingNumber(std::string_view option);
+/// Told when a setting without a default was not given: its option, and all others that are
+/// missing.
+Problem MissingNumber(const std::string& option, const std::vector<std::string>& all_missing);
+
+/// The options of the settings without a default that play a role and were not given.
+template <typename Settings>
+std::vector<std::string> MissingOptions(SettingTable<Settings> table, const TypedSettings& typed,
+                                        const Settings& settings) {
+  std::vector<std::string> options;
+  for (const Setting<Settings>& setting : table) {
+    const auto text = typed.find(setting.key);
+    const bool given = text != typed.end() && (setting.needed || !text->second.empty());
+    if (setting.MustBeGiven() && setting.Applies(settings) && !given) {
+      options.push_back(setting.option);
+    }
+  }
+  return options;
+}
 
 /// Reads what was typed into the settings. Of several faults a number that is missing or cannot be
 /// read is told before a choice that does not exist.
@@ -136,7 +155,7 @@ std::optional<Problem> ReadTyped(SettingTable<Settings> table, const TypedSettin
       const auto text = typed.find(setting.key);
       if (text == typed.end()) {
         if (setting.needed) {
-          return MissingNumber(setting.option);
+          return MissingNumber(setting.option, MissingOptions(table, typed, settings));
         }
         continue;
       }

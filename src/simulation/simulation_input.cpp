@@ -9,6 +9,7 @@
 
 #include "genotypes/genotype_reader.h"
 #include "genotypes/record_checks.h"
+#include "genotypes/record_warnings.h"
 #include "method/cumulative_sequence.h"
 #include "simulation/figures/class_sizes.h"
 #include "simulation/figures/class_weights.h"
@@ -125,6 +126,26 @@ std::optional<Problem> LoadGroups(const SimulationSettings& settings, const Simu
   return std::nullopt;
 }
 
+/// What is odd about collected parents that are read from files, and about the choices. Samples are
+/// drawn from: who is in them does not matter.
+std::vector<Warning> InputWarnings(const SimulationSettings& settings, const SimulationFiles& files,
+                                   const SimulationInput& input) {
+  RecordWarnings records(input.collected, input.loci);
+  for (const GroupFile& file : files.groups) {
+    if (file.holds_parents) {
+      records.AddFile(file.tokens, {input.loci.Count(), Separators::kNone});
+    }
+  }
+  const SlotRange collected{0, static_cast<std::uint32_t>(input.collected.NumberOfIndividuals())};
+  records.SearchNamesTwice(collected);
+  records.SearchSameGenotypes(collected);
+  auto warnings = records.Take();
+  if (auto warning = WarnOfNegative(settings.error_model)) {
+    warnings.push_back(std::move(*warning));
+  }
+  return warnings;
+}
+
 /// The parents of an iteration share one catalogue, which must hold what any of them may carry.
 std::optional<Problem> CheckAlleles(const SimulationInput& input) {
   for (const LocusIndex locus : input.loci.LociInUse()) {
@@ -215,6 +236,7 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
   if (auto problem = CheckGroupSizes(settings.flow, input)) {
     return tl::unexpected(std::move(*problem));
   }
+  input.warnings = InputWarnings(settings, files, input);
   return input;
 }
 

@@ -6,6 +6,7 @@
 
 #include <tl/expected.hpp>
 
+#include "base/warning.h"
 #include "genotypes/genotype_table.h"
 #include "genotypes/loci_list.h"
 #include "runs/run_record.h"
@@ -38,6 +39,8 @@ struct SimulationInput {
   LocusSubsets subsets;
 
   std::vector<RecordedInput> files;
+
+  std::vector<Warning> warnings;  ///< of files and choices that can run: every single case
 
   /// Collected, pseudo-collected and uncollected ones: the slots of the parent table.
   std::uint32_t NumberOfParents() const { return groups.back().slots.end; }

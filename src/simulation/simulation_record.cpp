@@ -19,6 +19,7 @@ RunRecord RecordOf(const SimulationSettings& settings, const SimulationInput& in
   record.seed = result.seed;
   record.threads = result.threads;
   record.duration_seconds = result.duration.count();
+  record.warnings = WarningLines(input.warnings);
   if (result.stepping.any_out_of_step) {
     record.warnings.emplace_back(kSteppingSentence);
   }

@@ -93,13 +93,23 @@ TEST_F(CommandLineTest, RefusesACommandLineThatIsNone) {
   EXPECT_THAT(nothing.out, IsEmpty());
   EXPECT_THAT(nothing.err, HasSubstr("Usage: kaldo"));
 
-  ExpectRefusal({"simulate-nothing"}, "The following argument was not expected: simulate-nothing");
-  ExpectRefusal(Check({"--tolerence", "2"}), "The following arguments were not expected:");
-  ExpectRefusal(Check({"--tol", "2"}), "The following arguments were not expected:");
-  ExpectRefusal(Check({"--tolerance"}), "--tolerance");
-  ExpectRefusal(Check({"extra"}), "The following argument was not expected: extra");
-  ExpectRefusal(Check(Loci()), "--loci");
-  ExpectRefusal({"rerun"}, "record is required");
+  ExpectRefusal({"simulate-nothing"}, "There is no command \"simulate-nothing\".\n");
+  ExpectRefusal({"alocate"}, "There is no command \"alocate\". Did you mean allocate?\n");
+  for (const std::string option : {"--tolerence", "--tol"}) {
+    ExpectRefusal(Check({option, "2"}), fmt::format("There is no option \"{}\". Did you mean "
+                                                    "--tolerance?\n",
+                                                    option));
+  }
+  ExpectRefusal(Check({"--dance=2"}), "There is no option \"--dance\".\n");
+  ExpectRefusal(Check({"--tolerance"}), "--tolerance needs a value: --tolerance N\n");
+  ExpectRefusal(Check({"extra"}), "\"extra\" belongs to no option.\n");
+  ExpectRefusal(Check({"--error", "nonuniform=0.1", "0.9"}),
+                "\"0.9\" belongs to no option. The values of one option have commas");
+  ExpectRefusal(Check({"--error", "nonuniform=0.1 0.9"}),
+                "A probability is not understood!\n--error: \"0.1 0.9\" is not a number such as "
+                "0.008; write commas");
+  ExpectRefusal(Check(Loci()), "--loci is given 2 times.\n");
+  ExpectRefusal({"rerun"}, "The run record is missing");
 }
 
 TEST_F(CommandLineTest, ReadsTheToleranceAsDecimal) {

@@ -10,6 +10,7 @@
 
 #include "base/problem.h"
 #include "base/version.h"
+#include "base/warning.h"
 #include "tests/cli/command_support.h"
 #include "tests/support/temp_folder.h"
 
@@ -136,6 +137,23 @@ const std::vector<Refusal> kRefusals = {
     {kHalfDefinedInFemaleSample, "sexed", "females" + kPlace, "females", kHalf},
     {kWrongFieldCount, "pond", "parents, line 3, record 3", "parents", kRows + "X3 1112 1314 1516"},
     {kFieldNotDigits, "pond", "young" + kPlace + "\"NA\" should be", "young", "X1 150152 NA"},
+    {kFieldNotDigits, "pond", "young, line 1: \"ID\" ... looks like a line of headings", "young",
+     "ID L1 L2\nX1 150152 200204"},
+    {kOddDigitsInParents, "pond",
+     "parents, line 1: every line holds 5 words, expected 3: alleles apart? write both", "parents",
+     "A 150 152 200 204\n*\nB 150 152 200 204\n"},
+    {kWrongFieldCount, "parental",
+     "sample, line 1: every line holds 4 words, expected 3: a blank in", "sample",
+     "Fish A 150152 200204\rFish B 150152 200204\r"},
+    {kOddDigitsInOffspring, "pond", "young, line 1: every line holds 4 words, expected 3: is this",
+     "young", "A 150152 200204 111111\nB 150152 200204 111111\n"},
+    {kFieldNotDigits, "pond", "young, line 1: every line holds semicolons", "young",
+     "A; 150152; 200204\nB; 150152; 200204"},
+    {kOddDigitsInOffspring, "pond",
+     "young, line 2, record 2 (B), locus L1: \"95100\" has 5 characters; both alleles need the "
+     "same "
+     "number of digits; is it \"095100\" without its leading zero?",
+     "young", "A 150152 200204\nB 95100 200204"},
     {kFieldOfOtherWidth, "pond",
      "young" + kPlace +
          "\"2004\" has 4 digits, the first parents file uses 6; spreadsheets drop leading zeros: "
@@ -143,6 +161,15 @@ const std::vector<Refusal> kRefusals = {
      "young", "X1 150152 2004"},
     {kAlleleTooLong, "pond", "parents, line 1", "parents", "X1 0015000152 0020000204"},
     {kNameTooLong, "pond", "young, line 1", "young", "X234567890123456 150152 200204"},
+    {kNameHasControl, "pond", "parents, line 2, record 2 (B\\x1b): ", "parents",
+     "A 150152 200204 B\x1b 150152 200204"},
+    {kNameHasControl, "pond", "loci, line 1, locus L\\x9b: ", "loci", "L1 L\xc2\x9b"},
+    {kNameNotUtf8, "parental",
+     "sample, line 1, record 1 (J\\xf6rg): \"J\\xf6rg\" has bytes of another", "sample",
+     "J\xf6rg 150152 200204"},
+    {kParentNamedNone, "pond", "parents, line 2, record 3 (--): give the parent", "parents",
+     "*\nNone 150152 200204 -- 150152 200204"},
+    {kParentNamedNone, "couple", "females, line 1, record 1 (UC)", "females", "UC 150152 200204"},
     {kNotARunRecord, "rerun parents", "parents, line 1"},
     {kUnusableRunRecord, "rerun record", "record: the flow \"a dance\"", "record", kDance},
     {kInputsChanged, "rerun record", "record: loci (\"loci\") has changed", "record", kChanged},
@@ -175,7 +202,8 @@ const std::vector<Refusal> kRefusals = {
     {kImpossibleEstimate, "sexed estimated-collected-females=0 estimated-uncollected-females=0",
      ""},
     {kTooFewParents, "sexed uncollected-males=0", "1 pseudo-offspring of origin"},
-    {kNumberMissing, "parental -iterations", "--iterations is needed"},
+    {kNumberMissing, "parental -iterations -uncollected -project",
+     "--iterations is needed; so are --project, --uncollected\n"},
     {kNumberMissing, "parental -offspring-per-iteration", "--offspring-per-iteration is needed"},
     {kNumberMissing, "parental -uncollected", "--uncollected is needed"},
     {kNumberMissing, "preparental -pseudo-collected", "--pseudo-collected is needed"},
@@ -205,6 +233,45 @@ const std::vector<Refusal> kRefusals = {
      "SAUVLOCUSTULM.txt: it is \"SAUVLOCUSTULM.txt\"", "SAUVLOCUSTULM.txt", "X1 150152 150152\n"},
     {kOtherFlowThere, "parental project=other", "", "other/Run record.toml",
      "program = \"KALDO\"\nflow = \"allocation, sexed\"\n[settings]\n"},
+};
+
+struct Oddity {
+  WarningKind kind;
+  std::string command;
+  std::string place;  ///< what is told behind the sentence
+  std::string file = {};
+  std::string text = {};
+};
+
+const std::string kStations =
+    "Station04_01 150152 200204\nStation04_02 150150 200204\nStation04_03 152152 200204\n"
+    "Station04 150154 200204\nStation04 154154 200204\n";
+
+/// Other genotypes than those of the other files, but for the last one's.
+const std::string kTwins =
+    "A 150150 200204\nB 152150 200200\nC 150152 200200\nD 000000 200204\n"
+    "E 000000 200204\n";
+
+const std::vector<Oddity> kOddities = {
+    {WarningKind::kSameNameKey, "pond",
+     "parents, line 2: \"Station04_02\" is like \"Station04_01\" in line 1 (and 1 more)", "parents",
+     kStations},
+    {WarningKind::kSameNameKey, "couple", "females, line 2: \"Station04_02\"", "females",
+     kStations},
+    {WarningKind::kNameTwice, "pond",
+     "parents, line 5: \"Station04\" is like \"Station04\" in line 4", "parents", kStations},
+    {WarningKind::kNameTwice, "couple",
+     "females, line 1: \"X1\" is like \"X1\" in line 1 of males"},
+    {WarningKind::kNameTwice, "parental", "parents, line 5: \"Station04\"", "parents", kStations},
+    {WarningKind::kParentAmongOffspring, "pond",
+     "young, line 1: \"X1\" in line 1 of parents (and 1 more)"},
+    {WarningKind::kSameGenotypes, "pond", "young, line 3: \"C\" is like \"B\" in line 2\n", "young",
+     kTwins},
+    {WarningKind::kOffspringNameOfNoParent, "couple", "young, line 2: \"NA\"\n", "young",
+     "na 150152 200204\nNA 150152 200204"},
+    {WarningKind::kNegativeProbability, "pond error=uniform=-0.1",
+     "EPS of the model of error \"uniform\" is -0.1"},
+    {WarningKind::kNegativeProbability, "parental error=nonuniform=-0.1,0,1,0.1,0", "M2 of the"},
 };
 
 class RefusalsTest : public testing::Test {
@@ -263,6 +330,40 @@ TEST_F(RefusalsTest, EveryKindIsToldWithItsPlaceBeforeAnythingIsWritten) {
   }
   for (const auto& [kind, sentence] : kProblemSentences) {
     EXPECT_TRUE(told.contains(kind)) << sentence;
+  }
+}
+
+TEST_F(RefusalsTest, EveryKindOfWarningIsToldWithItsPlaceByARunThatGoesOn) {
+  std::set<WarningKind> told = {WarningKind::kSpreadsheetName};
+  for (const Oddity& oddity : kOddities) {
+    WriteStudy(2);
+    if (!oddity.file.empty()) {
+      folder_.Write(oddity.file, oddity.text);
+    }
+    const auto outcome = test::RunCommand(CommandOf(oddity.command));
+    EXPECT_EQ(outcome.code, ExitCode::kDone) << outcome.err;
+    const auto sentence = kWarningSentences.at(static_cast<std::size_t>(oddity.kind)).text;
+    EXPECT_THAT(outcome.err,
+                testing::HasSubstr(fmt::format("Warning: {} {}", sentence, oddity.place)));
+    told.insert(oddity.kind);
+  }
+  EXPECT_EQ(told.size(), kWarningSentences.size());
+}
+
+TEST_F(RefusalsTest, NamesThatASpreadsheetChangesAreWarnedOf) {
+  for (const auto& [reading, names] : std::map<std::string, std::string>{
+           {"becomes a date", "MAR1 1-2 3/4/21 sept2 1dec 5-1999 12-MAY-07"},
+           {"becomes a number", "00012 1E5 12e+3 1.50 07"},
+           {"becomes a formula", "=1+1 @SUM -A1 +3"},
+           {"2 offspring", "A1 MARY 12 Young01 1-2-3-4 13-45 1-345 E5 12E F3 MAR"}}) {
+    for (const std::string& name : test::Words(names)) {
+      WriteStudy(2);
+      folder_.Write("young", name + " 150150 200200\nB 150154 200200\n");
+      const auto outcome = test::RunCommand(CommandOf("pond"));
+      EXPECT_THAT(outcome.err, testing::HasSubstr(reading)) << name;
+      EXPECT_EQ(outcome.err.find("becomes") != std::string::npos, reading.starts_with("becomes"))
+          << name;
+    }
   }
 }
 

@@ -89,7 +89,7 @@ TEST(CheckFileWide, NamesTheFirstRecordAtFault) {
   const std::vector<Case> cases = {
       {"A1 100102 100104\nA2 100102 10010\nA3 10010 100102\n", kParents, kOdd,
        ", line 2, record 2 (A2), locus L2: \"10010\" has 5 characters; both alleles need the same "
-       "number of digits"},
+       "number of digits; is it \"010010\" without its leading zero?"},
       {"*\nA1 100102 100104\nA2 000102 100104\n", kParents, kUndefined,
        ", line 3, record 3 (A2), locus L1: \"000102\" holds an undefined allele"},
       {"A1 100102 102000\n", kParents, kUndefined,
@@ -111,7 +111,7 @@ TEST(CheckFileWide, NamesTheFirstRecordAtFault) {
       // Odd digits hide undefined alleles: they are told first.
       {"A1 000102 100104\nA2 100102 10010\n", kParents, kOdd,
        ", line 2, record 2 (A2), locus L2: \"10010\" has 5 characters; both alleles need the same "
-       "number of digits"},
+       "number of digits; is it \"010010\" without its leading zero?"},
   };
   const Files files(2);
   for (const Case& one : cases) {

@@ -48,7 +48,11 @@ void AddFiles(const AllocationSettings& settings, Summary& summary) {
   summary.lines.emplace_back(Text("names of loci file"), PathText(settings.loci_file));
 }
 
-void AddWarnings(const AllocationResult& result, Summary& summary) {
+void AddWarnings(const AllocationRun& run, Summary& summary) {
+  for (const std::string& line : WarningLines(run.input.warnings)) {
+    summary.warnings += Text(line);
+  }
+  const AllocationResult& result = run.result;
   const auto count = [&result](auto is_one) {
     return std::count_if(result.outcomes.begin(), result.outcomes.end(), is_one);
   };
@@ -89,7 +93,7 @@ Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
   summary.lines.emplace_back(Text("error model"), Text(ShortDescription(settings.error_model)));
   summary.lines.emplace_back(Text("maximal offset tolerance"),
                              Text(std::to_string(settings.tolerance.Value())));
-  AddWarnings(run.result, summary);
+  AddWarnings(run, summary);
   if (settings.sequence) {
     summary.notes += Text(
         "A cumulative sequence of loci was run. These results are those of its last combination; "

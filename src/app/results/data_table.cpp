@@ -8,14 +8,27 @@
 
 #include "app/base/text.h"
 #include "base/number_text.h"
+#include "genotypes/name_rules.h"
 
 namespace kaldo {
 
 namespace {
 
+/// The cell so that a spreadsheet shows it as it is: an apostrophe makes a text of what would
+/// become a formula, a date or a number without its zeros. Numbers of the tables stay numbers.
+QString AsShown(const QString& cell) {
+  bool is_number = false;
+  cell.toDouble(&is_number);
+  const std::string text = cell.toStdString();
+  const bool has_leading_zero =
+      text.size() > 1 && text[0] == '0' && text[1] != '.' && text[1] != 'e';
+  const bool changes = SpreadsheetReading(text).has_value() && (!is_number || has_leading_zero);
+  return changes ? QLatin1Char('\'') + cell : cell;
+}
+
 void AppendCsvRow(const QStringList& cells, QByteArray& csv) {
   for (qsizetype column = 0; column < cells.size(); ++column) {
-    QByteArray cell = cells[column].toUtf8();
+    QByteArray cell = AsShown(cells[column]).toUtf8();
     if (cell.contains('"') || cell.contains(',') || cell.contains('\n') || cell.contains('\r')) {
       cell = '"' + cell.replace('"', "\"\"") + '"';
     }

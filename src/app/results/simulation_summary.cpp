@@ -120,6 +120,9 @@ Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
                        LastCombinationNote(settings.strategy)));
   AddParents(settings, summary);
   AddFigures(settings, run, summary);
+  for (const std::string& line : WarningLines(run.input.warnings)) {
+    summary.warnings += Text(line);
+  }
   if (run.result.stepping.any_out_of_step) {
     summary.warnings += Text(kSteppingSentence);
   }
