@@ -2,6 +2,7 @@
 #include "genotypes/record_warnings.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <utility>
 

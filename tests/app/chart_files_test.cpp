@@ -128,7 +128,9 @@ TEST_F(ChartFilesTest, WritesTheNumbersInFullAlsoInACommaCountry) {
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
   std::setlocale(LC_NUMERIC, "de_DE.UTF-8");
   ChartPanel panel(Text("Figures"), Qt::Horizontal, Text("."), nullptr);
-  panel.Show(SomeBars());
+  BarChart chart = SomeBars();
+  chart.categories[0] = Text("1-2");  // which a spreadsheet takes for a date
+  panel.Show(chart);
   EXPECT_EQ(Column(*test::Find<QTableView>(panel, "FiguresTable").model(), 1)[0], Text("0.333333"));
   auto& view = test::Find<ChartView>(panel, "FiguresChart");
   EXPECT_TRUE(view.SaveChart(Text("chart.svg")) && view.SaveChart(Text("chart.csv")));
@@ -138,6 +140,7 @@ TEST_F(ChartFilesTest, WritesTheNumbersInFullAlsoInACommaCountry) {
   std::setlocale(LC_NUMERIC, "C");
   ASSERT_EQ(rows.size(), 4U);
   EXPECT_EQ(rows[0], QStringList({Text("class"), Text("share"), Text("share sd")}));
+  EXPECT_EQ(rows[1][0], Text("'1-2"));
   EXPECT_EQ(rows[1][1].toDouble(), 1.0 / 3);
   EXPECT_EQ(rows[1][2].toDouble(), 0.0123456789);
   EXPECT_EQ(rows[2], QStringList({Text("C + UC"), Text("NA"), Text("NA")}));

@@ -14,16 +14,17 @@ namespace kaldo {
 
 namespace {
 
-/// The cell so that a spreadsheet shows it as it is: an apostrophe makes a text of what would
-/// become a formula, a date or a number without its zeros. Numbers of the tables stay numbers.
+/// The cell so that a spreadsheet shows it as it is: an apostrophe makes a text of a name that
+/// would become a formula, a date or another number. Figures stay figures.
 QString AsShown(const QString& cell) {
-  bool is_number = false;
-  cell.toDouble(&is_number);
   const std::string text = cell.toStdString();
-  const bool has_leading_zero =
-      text.size() > 1 && text[0] == '0' && text[1] != '.' && text[1] != 'e';
-  const bool changes = SpreadsheetReading(text).has_value() && (!is_number || has_leading_zero);
-  return changes ? QLatin1Char('\'') + cell : cell;
+  if (IsSignOfNoParent(text) || !SpreadsheetReading(text)) {
+    return cell;
+  }
+  bool is_number = false;
+  const double value = cell.toDouble(&is_number);
+  const bool is_figure = is_number && (cell == ShortNumber(value) || cell == FullNumber(value));
+  return is_figure ? cell : QLatin1Char('\'') + cell;
 }
 
 void AppendCsvRow(const QStringList& cells, QByteArray& csv) {
