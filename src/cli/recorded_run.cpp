@@ -78,10 +78,23 @@ void TellPlaces(const RunRecord& then, const LocatedRecord& now,
   }
 }
 
+/// What the repeated run calls its files, and what the recorded run called them.
+PathsThen PathsOf(const RunRecord& then, const RunRecord& now, const std::string& project) {
+  PathsThen paths;
+  for (std::size_t i = 0; i < then.inputs.size(); ++i) {
+    paths[now.inputs[i].path] = then.inputs[i].path;
+  }
+  const ProjectFolder folder_then(then.Setting<std::string>("project").value_or(""));
+  for (const RecordedOutput& output : then.outputs) {
+    paths[ProjectFolder(project).Path('/' + output.file)] = folder_then.Path('/' + output.file);
+  }
+  return paths;
+}
+
 /// Repeats the run where nobody sees it and tells how its results compare with those recorded.
-ExitCode RepeatAndCompare(const RunRecord& record, const RerunChoices& choices,
-                          RunSettings settings, const CommandLineStreams& streams,
-                          const Runner& run) {
+ExitCode RepeatAndCompare(const RunRecord& record, const RunRecord& now,
+                          const RerunChoices& choices, RunSettings settings,
+                          const CommandLineStreams& streams, const Runner& run) {
   if (record.outputs.empty()) {
     return Tell({.kind = ProblemKind::kUnusableRunRecord,
                  .file = choices.record,
@@ -96,7 +109,7 @@ ExitCode RepeatAndCompare(const RunRecord& record, const RerunChoices& choices,
   if (code != ExitCode::kDone) {
     return code;
   }
-  const auto comparison = CompareResults(record, project);
+  const auto comparison = CompareResults(record, project, PathsOf(record, now, project));
   if (comparison.IsIntact(record)) {
     streams.out << fmt::format("identical, {0} of {0} files\n", comparison.same);
     return ExitCode::kDone;
@@ -164,7 +177,7 @@ ExitCode RunRerun(const RerunChoices& choices, const CommandLineStreams& streams
   }
   return choices.project || choices.overwrites
              ? run(*settings, streams)
-             : RepeatAndCompare(*record, choices, *settings, streams, run);
+             : RepeatAndCompare(*record, located->record, choices, *settings, streams, run);
 }
 
 ExitCode RunVerify(const std::string& path, const CommandLineStreams& streams) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <fstream>
 #include <limits>
 #include <set>
 
@@ -20,8 +21,32 @@ namespace {
 constexpr std::array kFlows = {kNonSexedAllocationFlow, kSexedAllocationFlow,
                                kNonSexedSimulationFlow, kSexedSimulationFlow};
 
+/// No report names a file further down.
+constexpr int kLinesWithPaths = 12;
+
+/// The digest of a report as the recorded run would have written it.
+FileDigest DigestWithPathsThen(const std::string& path, const PathsThen& then) {
+  std::ifstream file(path, std::ios::binary);
+  RunningDigest digest;
+  std::string line;
+  for (int i = 0; i < kLinesWithPaths && std::getline(file, line); ++i) {
+    const std::size_t begin = line.rfind('\t') + 1;
+    if (const auto known = then.find(std::string_view(line).substr(begin)); known != then.end()) {
+      line.replace(begin, std::string::npos, known->second);
+    }
+    digest.Add(line);
+    digest.Add(file.eof() ? "" : "\n");
+  }
+  std::array<char, std::size_t{1} << 16U> bytes{};
+  while (file.read(bytes.data(), bytes.size()) || file.gcount() > 0) {
+    digest.Add({bytes.data(), static_cast<std::size_t>(file.gcount())});
+  }
+  return digest.SoFar();
+}
+
 /// What is to be said of a result that should be there, or nothing when it is as recorded.
-std::string Difference(const RecordedOutput& output, const std::string& path) {
+std::string Difference(const RecordedOutput& output, const std::string& path,
+                       const PathsThen& then) {
   std::error_code ignored;
   if (!std::filesystem::exists(path, ignored)) {
     return "is missing";
@@ -33,17 +58,20 @@ std::string Difference(const RecordedOutput& output, const std::string& path) {
   if (!now) {
     return "cannot be read";
   }
-  return *now == output.digest ? "" : "has other contents: it was edited, or is of another run";
+  const bool is_same =
+      *now == output.digest || (!then.empty() && DigestWithPathsThen(path, then) == output.digest);
+  return is_same ? "" : "has other contents: it was edited, or is of another run";
 }
 
 }  // namespace
 
-ResultComparison CompareResults(const RunRecord& record, const std::string& folder) {
+ResultComparison CompareResults(const RunRecord& record, const std::string& folder,
+                                const PathsThen& then) {
   ResultComparison comparison;
   std::set<std::string> listed;
   for (const RecordedOutput& output : record.outputs) {
     listed.insert('/' + output.file);
-    const std::string difference = Difference(output, folder + '/' + output.file);
+    const std::string difference = Difference(output, folder + '/' + output.file, then);
     if (difference.empty()) {
       ++comparison.same;
     } else {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -19,8 +20,15 @@ struct ResultComparison {
   }
 };
 
+/// The paths by which a repeated run calls its files, and those by which the recorded run called
+/// them.
+using PathsThen = std::map<std::string, std::string, std::less<>>;
+
 /// Compares by size and SHA-256. A file with the name of a result that the record does not list is
-/// a difference, too: it is of another run. Other files are the user's own affair.
-ResultComparison CompareResults(const RunRecord& record, const std::string& folder);
+/// a difference, too: it is of another run. Other files are the user's own affair. The reports name
+/// their files in their first lines; there a path of `then` counts as what it was, so that a study
+/// that was moved is still found to give the same results.
+ResultComparison CompareResults(const RunRecord& record, const std::string& folder,
+                                const PathsThen& then = {});
 
 }  // namespace kaldo

@@ -61,7 +61,7 @@ TEST(DetailLine, EscapesWhatATerminalObeys) {
                         .found = Quoted("\033]0;\x7f") + " \xc2\x9b \x9b \u202e é 鯉 \xe8"};
   EXPECT_EQ(DetailLine(problem),
             "a\\x0ab, record 1 (\\x1b[2J), locus L1\\x07: \"\\x1b]0;\\x7f\" \\xc2\\x9b \\x9b "
-            "\\xe2\\x80\\xae é 鯉 \xe8");
+            "\\xe2\\x80\\xae é 鯉 \\xe8");
   EXPECT_EQ(SentenceOf({.kind = ProblemKind::kCannotOpenFile, .subject = "a\033c"}),
             "Cannot open file \"a\\x1bc\"!");
   EXPECT_EQ(EscapedLines("a\tb\n\r"), "a\tb\n\\x0d");

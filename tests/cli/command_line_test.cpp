@@ -238,7 +238,7 @@ TEST_F(CommandLineTest, VerifyTellsEveryFileThatIsNotAsTheRunLeftIt) {
             "  \"Max like pairs.txt\" has other contents: it was edited, or is of another run\n"
             "  \"Summary.xls\" is of another run: the record does not list it\n"
             "Inputs: changed, 2 of 3 files\n"
-            "  parents (\"" +
+            "  collected parents (\"" +
                 folder_.Path("parents.txt") + "\") cannot be read.\n");
 }
 

@@ -114,7 +114,7 @@ class FailingDisk(unittest.TestCase):
         what = f"change {at} failed with {error}: {failed.stderr!r}"
         if failed.returncode == 0:       # nothing that the results need
             self.assertEqual(contents(folder), new, what)
-            self.assertRegex(failed.stderr, r"^Note: [^\n]*\n$", what)
+            self.assertRegex(failed.stderr, r"^Note: [^\n]*\n(Warning: [^\n]*\n)*$", what)
         else:
             self.assertEqual(failed.returncode, 1, what)
             self.assertEqual(contents(folder), contents(earlier), what)

@@ -120,7 +120,7 @@ class ExitCodes(ProgramTest):
         record = moved / "a" / "project" / RUN_RECORD
         elsewhere = programs.run([KALDO, "rerun", str(record)], self.folder)
         self.assertEqual((elsewhere.returncode, elsewhere.stdout), (0, b"identical, 4 of 4 files\n"))
-        self.assertIn(b"Note: parents is read from", elsewhere.stderr)
+        self.assertIn(b"Note: collected parents is read from", elsewhere.stderr)
         (moved / "parents.txt").unlink()
         missing = programs.run([KALDO, "rerun", str(record)], moved / "a")
         self.assertEqual(missing.returncode, 2)
