@@ -152,7 +152,7 @@ struct Commands {
  private:
   void AddRecordOptions() {
     RerunChoices& choices = rerun_choices;
-    rerun->add_option("record", choices.record, "The file \"Run record.toml\" of a project folder")
+    rerun->add_option("record", choices.record, "A project folder, or the run record in it")
         ->type_name("FILE")
         ->required();
     rerun

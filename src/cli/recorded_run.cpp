@@ -50,6 +50,19 @@ std::string FolderOf(const std::string& record) {
   return folder.empty() ? "." : folder;
 }
 
+/// The record that is meant where it or its folder is named. What a crashed run left half done in
+/// the folder is settled first.
+std::string RecordToRead(const std::string& path, const CommandLineStreams& streams) {
+  std::error_code ignored;
+  const std::string record = std::filesystem::is_directory(path, ignored)
+                                 ? ProjectFolder(path).Path(kRunRecordFile)
+                                 : path;
+  if (const auto recovered = RecoverProject(ProjectFolder(FolderOf(record)))) {
+    streams.err << Escaped(*recovered) << '\n';
+  }
+  return record;
+}
+
 void TellEach(const std::vector<std::string>& phrases, std::ostream& stream) {
   for (const std::string& phrase : phrases) {
     stream << "  " << Escaped(phrase) << '\n';
@@ -145,8 +158,8 @@ std::optional<Problem> Adapt(const RerunChoices& choices, RunSettings& settings)
 
 }  // namespace
 
-ExitCode RunRerun(const RerunChoices& choices, const CommandLineStreams& streams,
-                  const Runner& run) {
+ExitCode RunRerun(RerunChoices choices, const CommandLineStreams& streams, const Runner& run) {
+  choices.record = RecordToRead(choices.record, streams);
   const auto record = ReadRunRecord(choices.record);
   if (!record) {
     return Tell(record.error(), streams);
@@ -181,13 +194,7 @@ ExitCode RunRerun(const RerunChoices& choices, const CommandLineStreams& streams
 }
 
 ExitCode RunVerify(const std::string& path, const CommandLineStreams& streams) {
-  std::error_code ignored;
-  const bool is_folder = std::filesystem::is_directory(path, ignored);
-  const std::string record_path = is_folder ? path + std::string(kRunRecordFile) : path;
-  const std::string folder = FolderOf(record_path);
-  if (const auto recovered = RecoverProject(ProjectFolder(folder))) {
-    streams.err << Escaped(*recovered) << '\n';
-  }
+  const std::string record_path = RecordToRead(path, streams);
   const auto record = ReadRunRecord(record_path);
   if (!record) {
     return Tell(record.error(), streams);
@@ -196,7 +203,7 @@ ExitCode RunVerify(const std::string& path, const CommandLineStreams& streams) {
   if (!located) {
     return Tell(located.error(), streams);
   }
-  const auto results = CompareResults(*record, folder);
+  const auto results = CompareResults(*record, FolderOf(record_path));
   const bool intact = results.IsIntact(*record);
   streams.out << fmt::format("Results: {}, {} of {} files\n", intact ? "intact" : "not intact",
                              results.same, record->outputs.size());

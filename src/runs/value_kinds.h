@@ -51,6 +51,7 @@ struct NamedChoice {
 /// The names of several such things.
 std::vector<std::string_view> NamesIn(const auto& choices) {
   std::vector<std::string_view> names;
+  names.reserve(std::size(choices));
   for (const auto& each : choices) {
     names.push_back(each.name);
   }

@@ -267,6 +267,7 @@ std::vector<Declared> Method() {
 
 std::string StrategiesHelp() {
   std::vector<std::string> strategies;
+  strategies.reserve(kStrategies.size());
   for (const auto& each : kStrategies) {
     strategies.push_back(fmt::format("{}: {}", each.name, each.help));
   }

@@ -10,6 +10,7 @@ namespace {
 
 std::vector<double> ValuesIn(const std::vector<IterationSeries>& columns, std::size_t iteration) {
   std::vector<double> values;
+  values.reserve(columns.size());
   for (const IterationSeries& column : columns) {
     values.push_back(column.values[iteration]);
   }

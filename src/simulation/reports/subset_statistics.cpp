@@ -10,6 +10,7 @@ namespace {
 
 std::vector<double> Collect(const std::vector<Spread>& spreads, double Spread::*value) {
   std::vector<double> values;
+  values.reserve(spreads.size());
   for (const Spread& spread : spreads) {
     values.push_back(spread.*value);
   }
