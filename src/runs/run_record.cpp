@@ -67,7 +67,9 @@ std::string FormatRunRecord(const RunRecord& record) {
   };
   line("program", TomlText("KALDO"));
   line("version", TomlText(record.version));
-  line("date", record.date);
+  if (!record.date.empty()) {  // a record that was cut by hand may have none
+    line("date", record.date);
+  }
   line("flow", TomlText(record.flow));
   line("folder", TomlText(record.folder));
   if (record.seed) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <charconv>
+#include <initializer_list>
 #include <limits>
 #include <set>
 
@@ -103,6 +104,17 @@ class TableReader {
     return table_.get(key);
   }
 
+  /// A table without that key says too little.
+  void Need(std::initializer_list<std::string_view> keys) {
+    for (const std::string_view key : keys) {
+      if (table_.get(key) == nullptr && !fault_) {
+        fault_ = Problem{.kind = ProblemKind::kNotARunRecord,
+                         .line = table_.source().begin.line,
+                         .found = fmt::format("{} is missing", key)};
+      }
+    }
+  }
+
   std::string Text(std::string_view key) {
     const auto text = Value<std::string>(key, "no text").value_or("");
     auto decoded = Decoded(text);
@@ -186,6 +198,7 @@ FileDigest ReadDigest(TableReader& reader) {
 std::optional<Problem> ReadInputs(const toml::array& tables, RunRecord& record) {
   for (const toml::node& node : tables) {
     TableReader reader(*node.as_table());
+    reader.Need({"role", "path", "bytes", "sha256"});
     RecordedInput input{reader.Text("role"), reader.Text("path"), {}};
     input.digest = ReadDigest(reader);
     if (auto fault = reader.Fault()) {
@@ -205,6 +218,7 @@ bool IsPlainName(std::string_view name) {
 std::optional<Problem> ReadOutputs(const toml::array& tables, RunRecord& record) {
   for (const toml::node& node : tables) {
     TableReader reader(*node.as_table());
+    reader.Need({"file", "bytes", "sha256"});
     RecordedOutput output{reader.Text("file"), {}};
     output.digest = ReadDigest(reader);
     if (!IsPlainName(output.file)) {

@@ -107,6 +107,22 @@ TEST_F(ExampleRun, GivesTheSameReportsForAnyNumberOfThreads) {
   }
 }
 
+TEST(AllocationRecord, CountsEveryOffspringWithTwoEquallyLikelyPairsOrMore) {
+  const TempFolder folder;
+  AllocationSettings settings = NonSexedSettings();
+  settings.project = folder.Path("project");
+  settings.loci_file = folder.Write("loci", "L1\n");
+  settings.parents_file = folder.Write("parents", "A 150150 B 152152 C 152152 D 160160 E 170170\n");
+  // X comes of A with B or with C, Y of D and E alone, Z of B and C alone.
+  settings.offspring_file = folder.Write("offspring", "X 150152 Y 160170 Z 152152\n");
+  settings.error_model.kind = ErrorKind::kNoError;
+  RunObserver observer;
+  ASSERT_TRUE(RunAllocation(settings, observer));
+  EXPECT_NE(ReadFile(folder.Path("project/Run record.toml"))
+                .find("\"1 of 3 offspring have several equally likely pairs;"),
+            std::string::npos);
+}
+
 TEST_F(ExampleRun, StoppedRunLeavesEarlierResultsAsTheyWere) {
   AllocationSettings settings = Settings(Flow::kSexed);
   RunObserver observer;

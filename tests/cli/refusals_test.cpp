@@ -99,7 +99,7 @@ const std::string kChanged =
     "program = \"KALDO\"\nversion = \"" + std::string(Version()) +
     "\"\nflow = \"allocation, non-sexed\"\n[settings]\nproject = \"results\"\n"
     "loci = \"loci\"\nparents = \"loci\"\noffspring = \"loci\"\ntolerance = 1\n"
-    "error = \"none\"\n[[input]]\nrole = \"loci\"\npath = \"loci\"\n";
+    "error = \"none\"\n[[input]]\nrole = \"loci\"\npath = \"loci\"\nbytes = 1\nsha256 = \"0\"\n";
 
 const std::vector<Refusal> kRefusals = {
     {kNoProject, "allocate", ""},
