@@ -142,7 +142,8 @@ tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSetti
   }
   AllocationFiles files;
   for (const AllocationFileRole& role : roles) {
-    auto tokens = open(settings.*role.path);
+    const bool is_loci = role.path == kLoci.path;
+    auto tokens = open(settings.*role.path, is_loci ? kMaxLociBytes : kMaxInputBytes);
     if (!tokens) {
       return tl::unexpected(std::move(tokens.error()));
     }

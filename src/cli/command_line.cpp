@@ -157,7 +157,7 @@ struct Commands {
         ->required();
     rerun
         ->add_option("--threads", choices.threads,
-                     "Threads; default: all cores (kaldo-mpi: 1 per process)")
+                     "Threads; default: all usable cores (kaldo-mpi: 1 per process)")
         ->type_name("N");
     CLI::Option* const project =
         rerun->add_option("--project", choices.project, "Write the results into this folder")

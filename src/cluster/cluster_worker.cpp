@@ -18,6 +18,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+/// Longer than process 0 takes to end a part when it was told to stop, too.
+constexpr auto kPatienceWithProcess0 = std::chrono::milliseconds(250);
+
 /// Longer than process 0 takes to answer, shorter than launchers leave a run before its end.
 constexpr auto kPatienceWhenStopped = std::chrono::milliseconds(600);
 
@@ -34,7 +37,7 @@ class Worker {
       if (SendFinished(pause.Next())) {
         pause.Reset();
       }
-      WatchProcess0();
+      WatchSignals();
     }
   }
 
@@ -75,14 +78,24 @@ class Worker {
     }
   }
 
-  /// A launcher that sees a process die tells the others to stop. In the middle of a part process 0
-  /// then ends it at once, unless it is the one that died: only then another one speaks.
-  void WatchProcess0() {
-    if (session_.Rank() != 1 || !crew_ || !StopSignalled()) {
+  /// A launcher that sees a process die, and a user who presses Ctrl-C, tell all processes to stop:
+  /// in the middle of a part process 0 then ends it at once. It does not when this process alone
+  /// was told, which it hears of then, nor when it is the one that died: then another one speaks.
+  void WatchSignals() {
+    if (!crew_ || !StopSignalled()) {
       return;
     }
-    stopped_ = stopped_.value_or(Clock::now());
-    if (Clock::now() - *stopped_ > kPatienceWhenStopped) {
+    const auto now = Clock::now();
+    stopped_ = stopped_.value_or(now);
+    if (!has_told_ && now - *stopped_ > kPatienceWithProcess0) {
+      has_told_ = true;
+      session_.Send(
+          0, MessageKind::kFailure,
+          fmt::format("Process {} of {} on {} was told to stop, and the run ends with it. "
+                      "The results of earlier runs are as they were.",
+                      session_.Rank(), session_.Size(), MpiSession::MachineName()));
+    }
+    if (session_.Rank() == 1 && now - *stopped_ > kPatienceWhenStopped) {
       throw RunFailure(EndedUnexpectedly(0, session_.Size()));
     }
   }
@@ -125,6 +138,7 @@ class Worker {
   MpiSession& session_;
   std::unique_ptr<WorkerCrew> crew_;
   std::optional<Clock::time_point> stopped_;
+  bool has_told_ = false;
   bool quit_ = false;
 };
 

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
@@ -28,15 +30,33 @@ kaldo::ExitCode Lead(const std::vector<std::string>& arguments, kaldo::MpiSessio
   return code;
 }
 
+/// Words on the program itself need no other process, and a login node has no launcher. Where one
+/// started this process, process 0 alone answers.
+bool AnswersAlone(const std::vector<std::string>& arguments) {
+  constexpr std::array kLaunched = {"OMPI_COMM_WORLD_SIZE", "PMI_SIZE", "PMIX_RANK",
+                                    "SLURM_STEP_ID"};
+  const bool launched = std::any_of(kLaunched.begin(), kLaunched.end(), [](const char* name) {
+    return std::getenv(name) != nullptr;  // NOLINT(concurrency-mt-unsafe): there is one thread yet
+  });
+  return !launched && std::any_of(arguments.begin(), arguments.end(), [](const auto& word) {
+    return word == "--version" || word == "--help" || word == "-h";
+  });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  if (AnswersAlone(arguments)) {
+    return static_cast<int>(
+        kaldo::RunCommandLine(arguments, {std::cout, std::cerr, kaldo::MessagesGoToTerminal()}));
+  }
   kaldo::MpiSession session;
   // Launchers send them to all processes: process 0 hears them and tells the others.
   kaldo::CatchStopSignals();
   try {
     if (session.Rank() == 0) {
-      return static_cast<int>(Lead({argv + 1, argv + argc}, session));
+      return static_cast<int>(Lead(arguments, session));
     }
     kaldo::WorkForProcess0(session);
     return static_cast<int>(kaldo::ExitCode::kDone);

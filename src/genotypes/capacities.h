@@ -14,6 +14,10 @@ inline constexpr std::size_t kMaxIndividuals = 50'000;
 /// Loci in a names-of-loci file.
 inline constexpr std::size_t kMaxLoci = 50;
 
+/// Bytes of a names-of-loci file: many times what so many names take. A large genotype file chosen
+/// by mistake is not taken apart word by word to be told that it has too many loci.
+inline constexpr std::size_t kMaxLociBytes = std::size_t{64} * 1024;
+
 /// Distinct allele sizes at one locus, parents and offspring together.
 inline constexpr std::size_t kMaxAlleles = 100;
 

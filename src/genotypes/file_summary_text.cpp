@@ -155,7 +155,7 @@ std::string DescribeGenotypeFile(const std::string& path, const std::string& loc
   if (path.empty()) {
     return {};
   }
-  const auto file = open(path);
+  const auto file = open(path, kMaxInputBytes);
   if (!file) {
     return "cannot be read: " + file.error().found;
   }
@@ -165,7 +165,7 @@ std::string DescribeGenotypeFile(const std::string& path, const std::string& loc
   if (loci_path.empty()) {
     return unread("choose the names-of-loci file");
   }
-  const auto loci = open(loci_path);
+  const auto loci = open(loci_path, kMaxLociBytes);
   if (!loci || CheckLoci(*loci)) {
     return unread("correct the names-of-loci file");
   }
@@ -176,7 +176,7 @@ std::string DescribeLociFile(const std::string& path, const FileOpener& open) {
   if (path.empty()) {
     return {};
   }
-  const auto file = open(path);
+  const auto file = open(path, kMaxLociBytes);
   if (!file) {
     return "cannot be read: " + file.error().found;
   }

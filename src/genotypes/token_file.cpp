@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "genotypes/token_file.h"
 
+#include <fmt/format.h>
+
 namespace kaldo {
 
 namespace {
@@ -41,10 +43,17 @@ tl::expected<TokenFile, Problem> TokenFile::Read(const std::string& path) {
   return Read(path, disk);
 }
 
-tl::expected<TokenFile, Problem> TokenFile::Read(const std::string& path, FileSource& source) {
+tl::expected<TokenFile, Problem> TokenFile::Read(const std::string& path, FileSource& source,
+                                                 std::size_t most_bytes) {
   auto bytes = ReadText(path, source);
   if (!bytes) {
     return tl::unexpected(std::move(bytes.error()));
+  }
+  if (bytes->size() > most_bytes) {
+    return tl::unexpected(CannotOpenFile(
+        path, fmt::format("it holds {} kB; the names of all loci take at most {} kB: is it a "
+                          "genotype file?",
+                          bytes->size() / 1024, most_bytes / 1024)));
   }
   auto contents = std::make_shared<Contents>();
   contents->bytes = std::move(*bytes);
@@ -67,7 +76,9 @@ TokenFile TokenFile::At(std::string path) const {
 }
 
 FileOpener OpenAnew(FileSource& source) {
-  return [&source](const std::string& path) { return TokenFile::Read(path, source); };
+  return [&source](const std::string& path, std::size_t most_bytes) {
+    return TokenFile::Read(path, source, most_bytes);
+  };
 }
 
 }  // namespace kaldo

@@ -12,6 +12,7 @@
 #include <tl/expected.hpp>
 
 #include "base/file_source.h"
+#include "base/input_limit.h"
 
 namespace kaldo {
 
@@ -28,9 +29,11 @@ struct Token {
 class TokenFile {
  public:
   /// Reads the file once. A file that cannot be opened or read is a Problem with the sentence
-  /// `Cannot open file "x"!`; so is one that cannot be text (UTF-16, larger than any input).
+  /// `Cannot open file "x"!`; so is one that cannot be text (UTF-16), and one of more bytes than a
+  /// file of its kind can have.
   static tl::expected<TokenFile, Problem> Read(const std::string& path);
-  static tl::expected<TokenFile, Problem> Read(const std::string& path, FileSource& source);
+  static tl::expected<TokenFile, Problem> Read(const std::string& path, FileSource& source,
+                                               std::size_t most_bytes = kMaxInputBytes);
 
   /// The same contents, with the path as the user typed it this time.
   TokenFile At(std::string path) const;
@@ -52,7 +55,8 @@ class TokenFile {
 };
 
 /// How input files are opened by their paths as typed: read anew, or kept from before.
-using FileOpener = std::function<tl::expected<TokenFile, Problem>(const std::string& path)>;
+using FileOpener = std::function<tl::expected<TokenFile, Problem>(const std::string& path,
+                                                                  std::size_t most_bytes)>;
 
 /// Reads each file anew; the source must live as long.
 FileOpener OpenAnew(FileSource& source);

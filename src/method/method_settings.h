@@ -91,7 +91,7 @@ Setting<Settings> ThreadsSetting() {
           .metavar = "N",
           .group = "Machine",
           .help =
-              "Threads; default: all cores (kaldo-mpi: 1 per process). The results never "
+              "Threads; default: all usable cores (kaldo-mpi: 1 per process). The results never "
               "depend on it",
           .value = Member(&Settings::threads, ThreadsKind()),
           .in_head_of_record = true};

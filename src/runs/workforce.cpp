@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <system_error>
 
+#include "runs/usable_threads.h"
+
 namespace kaldo {
 
 namespace {
@@ -50,8 +52,7 @@ void StartThreads(std::size_t number, std::vector<std::jthread>& threads,
 }
 
 unsigned LocalThreads::Threads(unsigned wanted) const {
-  const unsigned cores = std::thread::hardware_concurrency();
-  return wanted != 0 ? wanted : std::max(cores, 1U);
+  return wanted != 0 ? wanted : UsableThreads();
 }
 
 void LocalThreads::Do(const PortionJob& job, unsigned wanted, RunObserver& observer) {

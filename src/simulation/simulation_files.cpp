@@ -95,7 +95,7 @@ tl::expected<TokenFile, Problem> OpenSimulationLoci(const SimulationSettings& se
   if (settings.loci_file.empty()) {
     return tl::unexpected(Problem{.kind = ProblemKind::kNoLociFile});
   }
-  return open(settings.loci_file);
+  return open(settings.loci_file, kMaxLociBytes);
 }
 
 tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSettings& settings,
@@ -111,13 +111,13 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
     }
   }
   SimulationFiles files;
-  auto loci = open(settings.loci_file);
+  auto loci = open(settings.loci_file, kMaxLociBytes);
   if (!loci) {
     return tl::unexpected(std::move(loci.error()));
   }
   files.loci = std::move(*loci);
   for (GroupPath& path : paths) {
-    auto tokens = open(*path.path);
+    auto tokens = open(*path.path, kMaxInputBytes);
     if (!tokens) {
       return tl::unexpected(std::move(tokens.error()));
     }

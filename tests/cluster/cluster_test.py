@@ -215,6 +215,20 @@ class Ends(Clusters):
         self.assertEqual(now, earlier)
 
 
+    def test_a_batch_system_that_stops_another_process(self):
+        code, err, now, earlier = self.disturb(lambda _, ranks: ranks[2], signal.SIGTERM)
+        self.assertEqual(code, 1)
+        self.assertRegex(err, "^Process 2 of 3 on [^ \n]+ was told to stop, and the run ends with it. ")
+        self.assertEqual(now, earlier)
+
+    def test_answers_without_a_launcher(self):
+        for words in (["--version"], ["allocate", "--help"]):
+            answer = subprocess.run([KALDO_MPI, *words], env={"PATH": "/nowhere"},
+                                    capture_output=True, check=False, timeout=GENEROUS)
+            self.assertEqual((answer.returncode, answer.stderr), (0, b""))
+            self.assertEqual(answer.stdout, subprocess.check_output([KALDO, *words]))
+
+
 def ranks_below(launcher):
     """The processes that the launcher started, by rank."""
     ranks = {}

@@ -15,7 +15,8 @@ namespace {
 
 using test::TempFolder;
 
-const FileOpener kFromDisk = [](const std::string& path) { return TokenFile::Read(path); };
+DiskFiles disk;
+const FileOpener kFromDisk = OpenAnew(disk);
 
 /// The line under a file of two loci.
 std::string Describe(const std::string& text, Separators separators = Separators::kAllowed) {

@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <deque>
+#include <filesystem>
 #include <set>
 #include <stdexcept>
 #include <thread>
@@ -12,6 +13,8 @@
 
 #include "base/byte_packing.h"
 #include "base/problem.h"
+#include "runs/usable_threads.h"
+#include "tests/support/temp_folder.h"
 
 namespace kaldo {
 namespace {
@@ -312,6 +315,26 @@ TEST(BytePacking, RefusesBytesThatWereCut) {
   for (const std::size_t cut : {whole - 1, whole - 7, std::size_t{5}}) {
     EXPECT_THROW(unpack(std::string_view(bytes).substr(0, cut)), std::runtime_error) << cut;
   }
+}
+
+TEST(UsableThreads, FollowsTheNarrowestControlGroup) {
+  const test::TempFolder root;
+  const auto write = [&](const std::string& path, std::string_view text) {
+    std::filesystem::create_directories(std::filesystem::path(root.Path(path)).parent_path());
+    root.Write(path, text);
+  };
+  const auto granted = [&] { return ProcessorsOfControlGroup(root.Path("")); };
+  EXPECT_EQ(granted(), std::nullopt);
+  write("proc/self/cgroup", "12:cpuset:/\n4:cpu,cpuacct:/jobs/7\n0::/lake/trout\n");
+  write("sys/fs/cgroup/lake/trout/cpu.max", "max 100000\n");
+  EXPECT_EQ(granted(), std::nullopt);
+  write("sys/fs/cgroup/lake/cpu.max", "350000 100000\n");
+  EXPECT_EQ(granted(), 3.5);
+  write("sys/fs/cgroup/cpu,cpuacct/cpu.cfs_quota_us", "-1\n");
+  write("sys/fs/cgroup/cpu,cpuacct/jobs/7/cpu.cfs_quota_us", "200000\n");
+  EXPECT_EQ(granted(), 3.5) << "a quota without its period";
+  write("sys/fs/cgroup/cpu,cpuacct/jobs/7/cpu.cfs_period_us", "100000\n");
+  EXPECT_EQ(granted(), 2.0);
 }
 
 }  // namespace

@@ -29,19 +29,21 @@ std::optional<OpenedFiles::Looks> OpenedFiles::LooksNow(const std::filesystem::p
   return error ? std::nullopt : std::optional(looks);
 }
 
-tl::expected<TokenFile, Problem> OpenedFiles::Open(const std::string& path) {
+tl::expected<TokenFile, Problem> OpenedFiles::Open(const std::string& path,
+                                                   std::size_t most_bytes) {
   std::error_code ignored;
   const std::filesystem::path place = std::filesystem::absolute(path, ignored);
   // Before it is read: a change meanwhile shows the next time.
   const auto looks = LooksNow(place);
   const auto now = std::filesystem::file_time_type::clock::now();
   if (const auto kept = kept_.find(place); kept != kept_.end()) {
-    if (looks == kept->second.looks) {
+    // One that is too large for what it is wanted for now is read again, and refused.
+    if (looks == kept->second.looks && kept->second.file.Digest().bytes <= most_bytes) {
       return kept->second.file.At(path);
     }
     kept_.erase(kept);
   }
-  auto file = TokenFile::Read(path, *source_);
+  auto file = TokenFile::Read(path, *source_, most_bytes);
   // What has just been changed may be changed again without looking different.
   if (file && looks && now - looks->changed > kClockStep) {
     if (kept_.size() == kMostKept) {
@@ -53,7 +55,7 @@ tl::expected<TokenFile, Problem> OpenedFiles::Open(const std::string& path) {
 }
 
 FileOpener OpenedFiles::Opener() {
-  return [this](const std::string& path) { return Open(path); };
+  return [this](const std::string& path, std::size_t most_bytes) { return Open(path, most_bytes); };
 }
 
 }  // namespace kaldo

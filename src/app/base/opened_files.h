@@ -20,7 +20,8 @@ class OpenedFiles {
   explicit OpenedFiles(std::unique_ptr<FileSource> source = std::make_unique<DiskFiles>());
 
   /// The words of the file as it is on disk now. Relative paths start from the working folder.
-  tl::expected<TokenFile, Problem> Open(const std::string& path);
+  tl::expected<TokenFile, Problem> Open(const std::string& path,
+                                        std::size_t most_bytes = kMaxInputBytes);
 
   /// Open() for whoever opens several files; valid as long as this.
   FileOpener Opener();

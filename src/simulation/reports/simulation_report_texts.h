@@ -3,15 +3,17 @@
 
 #include <string>
 
+#include "runs/report_file.h"
 #include "simulation/reports/simulation_texts.h"
 #include "simulation/simulation_run.h"
 
 namespace kaldo {
 
 /// "/Summary.xls": parameters, averages, correct frequencies of every iteration, statistics of
-/// every class, and the statistics of every subset where they were wanted.
-std::string SummaryReport(const SimulationSettings& settings, const SimulationInput& input,
-                          const SimulationResult& result);
+/// every class, and the statistics of every subset where they were wanted. Piece by piece: the
+/// subsets of many loci fill hundreds of megabytes.
+void WriteSummary(const SimulationSettings& settings, const SimulationInput& input,
+                  const SimulationResult& result, ReportFile& file);
 
 /// The detailed file: for every iteration, the frequency of each kind of decision and how the
 /// frequency of correct ones follows from them.

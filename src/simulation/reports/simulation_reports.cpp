@@ -70,7 +70,7 @@ SimulationReports::SimulationReports(const SimulationSettings& settings,
 
 void SimulationReports::WriteTables(const SimulationSettings& settings,
                                     const SimulationInput& input, const SimulationResult& result) {
-  summary_.Append(SummaryReport(settings, input, result));
+  WriteSummary(settings, input, result, summary_);
   for (std::size_t origin = 0; origin < result.origins.size(); ++origin) {
     tables_[origin]->Append(IterationTableReport(settings, input, result, origin));
   }

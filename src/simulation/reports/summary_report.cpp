@@ -102,20 +102,19 @@ std::string FigureText(double value, bool is_empty) {
   return is_empty ? "       NA" : FormatDouble(value);
 }
 
-std::string SummaryReport(const SimulationSettings& settings, const SimulationInput& input,
-                          const SimulationResult& result) {
+void WriteSummary(const SimulationSettings& settings, const SimulationInput& input,
+                  const SimulationResult& result, ReportFile& file) {
   const SimulationTexts& texts = TextsOf(settings.flow);
-  std::string text = ParameterBlock(settings, input, result);
-  text += AverageLines(texts, result.LastSubset());
-  text += CorrectFrequencyLines(texts, result);
-  text.append("STATISTICS OVER ALL ITERATIONS :\n").append(texts.statistics_legend).append("\n\n");
+  file.Append(ParameterBlock(settings, input, result));
+  file.Append(AverageLines(texts, result.LastSubset()));
+  file.Append(CorrectFrequencyLines(texts, result));
+  file.Append(fmt::format("STATISTICS OVER ALL ITERATIONS :\n{}\n\n", texts.statistics_legend));
   for (std::size_t k = 0; k < result.origins.size(); ++k) {
-    text += StatisticsBlock(texts, texts.origins[k], result.origins[k]);
+    file.Append(StatisticsBlock(texts, texts.origins[k], result.origins[k]));
   }
   for (const SubsetFigures& subset : result.subsets) {
-    text += SubsetStatistics(texts, input.loci, subset);
+    file.Append(SubsetStatistics(texts, input.loci, subset));
   }
-  return text;
 }
 
 }  // namespace kaldo
