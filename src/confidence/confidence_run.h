@@ -21,6 +21,7 @@ struct ConfidenceSettings {
   ErrorModel error_model;                  ///< of the run; see FreeReading for what is added
   double level = kDefaultConfidenceLevel;  ///< of the verdicts, see IsConfidenceLevel
   unsigned threads = 0;                    ///< in a process; 0: as many as fit
+  bool relatives = false;                  ///< explain by full sibs of candidates too
 
   friend bool operator==(const ConfidenceSettings&, const ConfidenceSettings&) = default;
 };
@@ -55,6 +56,13 @@ struct ConfidenceResult {
 
   /// How often the evidence of some offspring was gathered, to keep what is left out small.
   int gatherings = 0;
+
+  /// The estimated share of genes misread at each locus of the run, in its order.
+  std::vector<double> error_rates;
+
+  /// By how much the logarithm of the likelihood grows when parents that were not collected may be
+  /// full sibs of candidates; none where that was not tested. See RelativesNote.
+  std::optional<double> relatives_gain;
 };
 
 /// The part of a run in which the evidence is gathered.
