@@ -7,10 +7,13 @@ namespace kaldo {
 
 // The names of the files of an allocation in its project folder, with their leading "/". The
 // endings ".xls" mean tab-separated text that a spreadsheet opens. Released names are fixed,
-// "Transmision" included.
+// "Transmision" included. ".tsv" are tables for statistics programs.
 inline constexpr std::string_view kMaxLikePairsFile = "/Max like pairs.txt";
 inline constexpr std::string_view kAllocationResultsFile = "/Allocation results.xls";
 inline constexpr std::string_view kTransmissionMatricesFile = "/Transmision matrices.xls";
+
+inline constexpr std::string_view kConfidenceFile = "/Confidence.tsv";
+inline constexpr std::string_view kLociFile = "/Loci.tsv";
 
 // These three a simulation writes, too.
 inline constexpr std::string_view kServiceFile = "/Service file.xls";

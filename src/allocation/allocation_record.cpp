@@ -26,6 +26,9 @@ std::vector<std::string> WarningsOf(const AllocationInput& input, const Allocati
                     "one found decided.",
                     ambiguous, input.NumberOfOffspring()));
   }
+  if (result.confidence && !result.confidence->is_meaningful) {
+    warnings.emplace_back(kNegativeProbabilitySentence);
+  }
   return warnings;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "allocation/allocation_run.h"
 
+#include "allocation/allocation_confidence.h"
 #include "allocation/allocation_portions.h"
 #include "allocation/allocation_record.h"
 #include "allocation/reports/allocation_reports.h"
@@ -24,6 +25,9 @@ AllocationResult Allocate(const AllocationSettings& settings, const AllocationIn
                settings.threads, observer);
   for (const AllocationCounters& counters : result.counters) {
     result.shares.push_back(SharesOf(settings.flow, counters));
+  }
+  if (settings.confidence.computed) {
+    AddConfidence(settings, input, observer, workforce, result);
   }
   result.duration = std::chrono::steady_clock::now() - clock_start;
   return result;

@@ -9,6 +9,8 @@
 
 #include "allocation/allocation_input.h"
 #include "base/run_observer.h"
+#include "confidence/confidence_run.h"
+#include "confidence/locus_quality.h"
 #include "genotypes/stepping_condition.h"
 #include "method/allocation_decision.h"
 #include "method/allocation_shares.h"
@@ -27,6 +29,11 @@ struct AllocationResult {
   std::vector<AllocationOutcome> outcomes;  ///< one per offspring, in file order
 
   SteppingReport stepping;
+
+  /// How sure the allocation is, with the loci of the last combination; nothing where this was not
+  /// wanted.
+  std::optional<ConfidenceResult> confidence;
+  std::vector<LocusQuality> loci_quality;  ///< beside `loci.loci`; empty where it was not wanted
 
   std::string folder;    ///< the working folder at the start
   unsigned threads = 1;  ///< that computed, of all processes together

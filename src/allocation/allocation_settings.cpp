@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "allocation/allocation_settings.h"
 
+#include "confidence/confidence_level_setting.h"
 #include "method/method_settings.h"
 
 namespace kaldo {
@@ -40,6 +41,30 @@ Declared ParentFileSetting() {
   return setting;
 }
 
+/// A place in the wanted confidence.
+template <typename Value>
+auto InConfidence(Value WantedConfidence::*member) {
+  return [member](auto& settings) -> auto& { return settings.confidence.*member; };
+}
+
+Declared ComputedSetting() {
+  return {.key = "confidence",
+          .option = "--no-confidence",
+          .group = "Method",
+          .help = "Do not compute how sure each allocation is",
+          .value = ValueAt<AllocationSettings>(InConfidence(&WantedConfidence::computed),
+                                               FlagKind(true))};
+}
+
+Declared RelativesSetting() {
+  return {
+      .key = "relatives",
+      .option = "--relatives",
+      .group = "Method",
+      .help = "How sure, when parents that were not collected may be full sibs of collected ones",
+      .value = ValueAt<AllocationSettings>(InConfidence(&WantedConfidence::relatives), FlagKind())};
+}
+
 std::vector<Declared> DeclareSettings() {
   return {
       ProjectSetting<AllocationSettings>(),
@@ -62,6 +87,9 @@ std::vector<Declared> DeclareSettings() {
                "of each locus of the names file, between commas",
        .value = Member(&AllocationSettings::sequence, SequenceKind()),
        .may_stand_alone = true},
+      ComputedSetting(),
+      ConfidenceLevelSetting<AllocationSettings>(InConfidence(&WantedConfidence::level)),
+      RelativesSetting(),
       ThreadsSetting<AllocationSettings>(),
   };
 }

@@ -6,12 +6,22 @@
 #include <string>
 #include <vector>
 
+#include "confidence/verdict.h"
 #include "method/error_model.h"
 #include "method/flow.h"
 #include "method/offset_tolerance.h"
 #include "runs/setting.h"
 
 namespace kaldo {
+
+/// Whether it is computed how sure each allocation is, and how.
+struct WantedConfidence {
+  bool computed = true;
+  double level = kDefaultConfidenceLevel;  ///< of the verdicts, see IsConfidenceLevel
+  bool relatives = false;  ///< parents that were not collected may be full sibs of candidates
+
+  friend bool operator==(const WantedConfidence&, const WantedConfidence&) = default;
+};
 
 /// Everything a user chooses for an allocation. The command line and the windows fill it; no rule
 /// of the method is theirs. Each member but `flow`, which follows from the files, and the last
@@ -29,7 +39,7 @@ struct AllocationSettings {
   std::string loci_file;
 
   OffsetTolerance tolerance{1};
-  ErrorModel error_model;
+  ErrorModel error_model = kErrorModelUnlessTold;
 
   /// Names of the loci in use; all when nothing is said.
   std::optional<std::vector<std::string>> loci_in_use;
@@ -37,6 +47,8 @@ struct AllocationSettings {
   /// Set for a run over a cumulative sequence of loci: the position of each locus of the
   /// names-of-loci file. An empty vector stands for the file order.
   std::optional<std::vector<std::int32_t>> sequence;
+
+  WantedConfidence confidence;
 
   unsigned threads = 0;  ///< 0: as many as the machine has cores. Results never depend on it.
 

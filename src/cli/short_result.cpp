@@ -7,6 +7,8 @@
 
 #include "allocation/allocation_file_names.h"
 #include "base/version.h"
+#include "cli/confidence_text.h"
+#include "method/method_settings.h"
 #include "runs/project_folder.h"
 #include "runs/run_record.h"
 
@@ -54,7 +56,20 @@ std::string SequenceRows(const AllocationInput& input, const AllocationResult& r
   return text;
 }
 
-std::string Doubts(const AllocationResult& result) {
+/// Said where so many offspring are without a pair that the model must be asked.
+std::string DoubtsOfModel(const ErrorModel& model, std::size_t without, std::size_t offspring) {
+  const bool excludes = model.kind == ErrorKind::kNoError || model.kind == ErrorKind::kNonUniform;
+  if (!excludes || without * 10 < offspring) {
+    return {};
+  }
+  return fmt::format(
+      "  The model holds some readings for impossible. A collected parent whose mate is missing "
+      "is\n"
+      "  lost with it where every other mate would need one: compare with --error {}.\n",
+      *ErrorModelKind().text(kErrorModelUnlessTold));
+}
+
+std::string Doubts(const ErrorModel& model, const AllocationResult& result) {
   const auto count = [&result](auto is_one) {
     return std::count_if(result.outcomes.begin(), result.outcomes.end(), is_one);
   };
@@ -71,16 +86,23 @@ std::string Doubts(const AllocationResult& result) {
   }
   if (without > 0) {
     text += fmt::format("  {} offspring have no possible pair.\n", without);
+    text += DoubtsOfModel(model, static_cast<std::size_t>(without), result.outcomes.size());
   }
   return text.empty() ? text : '\n' + text;
 }
 
-std::string FilesWritten(const AllocationSettings& settings) {
+std::string FilesWritten(const AllocationSettings& settings, const AllocationResult& result) {
   std::string text = fmt::format("\nFiles in \"{}\":\n", settings.project);
   std::vector<std::string_view> files = {kAllocationResultsFile, kMaxLikePairsFile,
                                          kTransmissionMatricesFile, kSteppingErrorFile};
   if (settings.sequence) {
     files.insert(files.end(), {kSequenceResultsFile, kServiceFile});
+  }
+  if (result.confidence && result.confidence->is_meaningful) {
+    files.push_back(kConfidenceFile);
+  }
+  if (result.confidence) {
+    files.push_back(kLociFile);
   }
   files.push_back(kRunRecordFile);
   for (const std::string_view file : files) {
@@ -109,8 +131,9 @@ std::string ShortResult(const AllocationSettings& settings, const AllocationRun&
   if (settings.sequence) {
     text += SequenceRows(input, result);
   }
-  text += Doubts(result);
-  text += FilesWritten(settings);
+  text += Doubts(settings.error_model, result);
+  text += ConfidenceText(settings, run);
+  text += FilesWritten(settings, result);
   return text + '\n' + std::string(ClosingSentence(result)) + '\n';
 }
 

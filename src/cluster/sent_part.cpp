@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "allocation/allocation_confidence.h"
 #include "allocation/allocation_portions.h"
 #include "allocation/allocation_record.h"
 #include "base/byte_packing.h"
@@ -53,6 +54,23 @@ class SentAllocation final : public PortionTask {
   AllocationSettings settings_;
   AllocationInput input_;
   AllocationTask task_;
+};
+
+class SentEvidence final : public PortionTask {
+ public:
+  SentEvidence(const RunRecord& record, FileSource& files)
+      : settings_(Expect(SettingsOf(record, {}))),
+        input_(Expect(LoadAllocationInput(settings_, files))),
+        evidence_(settings_, input_),
+        task_(evidence_.Settings(), evidence_.Input({})) {}
+
+  std::unique_ptr<PortionWorker> MakeWorker() const override { return task_.MakeWorker(); }
+
+ private:
+  AllocationSettings settings_;
+  AllocationInput input_;
+  AllocationEvidence evidence_;
+  EvidenceTask task_;
 };
 
 class SentSimulation final : public PortionTask {
@@ -107,6 +125,9 @@ std::unique_ptr<PortionTask> MakeTask(const SentPart& sent) {
   SentFiles files(sent.files);
   if (sent.part == kAllocatingPart) {
     return std::make_unique<SentAllocation>(record, files);
+  }
+  if (sent.part == kWeighingPart) {
+    return std::make_unique<SentEvidence>(record, files);
   }
   return std::make_unique<SentSimulation>(
       record, files,

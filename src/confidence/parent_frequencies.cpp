@@ -9,18 +9,27 @@ constexpr double kExtraCopies = 0.5;
 
 }  // namespace
 
-AlleleFrequencies ParentFrequencies(std::span<const LocusGenotype> genotypes,
-                                    std::span<const SlotRange> parents, std::size_t alleles) {
-  AlleleFrequencies copies(alleles, kExtraCopies);
-  double total = kExtraCopies * static_cast<double>(alleles);
+std::vector<double> ParentCopies(std::span<const LocusGenotype> genotypes,
+                                 std::span<const SlotRange> parents, std::size_t alleles) {
+  std::vector<double> copies(alleles);
   for (const SlotRange range : parents) {
     for (const LocusGenotype& genotype : genotypes.subspan(range.begin, range.Size())) {
       if (!genotype.IsMissing()) {
         copies[genotype.index1.Value()] += 1;
         copies[genotype.index2.Value()] += 1;
-        total += 2;
       }
     }
+  }
+  return copies;
+}
+
+AlleleFrequencies ParentFrequencies(std::span<const LocusGenotype> genotypes,
+                                    std::span<const SlotRange> parents, std::size_t alleles) {
+  std::vector<double> copies = ParentCopies(genotypes, parents, alleles);
+  double total = 0;
+  for (double& copy : copies) {
+    copy += kExtraCopies;
+    total += copy;
   }
   for (double& copy : copies) {
     copy /= total;

@@ -13,6 +13,11 @@ namespace kaldo {
 /// to 1.
 using AlleleFrequencies = std::vector<double>;
 
+/// The copies of every catalogued allele among the collected parents that are typed at the locus,
+/// by its place in the catalogue.
+std::vector<double> ParentCopies(std::span<const LocusGenotype> genotypes,
+                                 std::span<const SlotRange> parents, std::size_t alleles);
+
 /// The frequencies among the collected parents, both sexes together, where the locus is typed.
 /// Every catalogued size gets half a copy more, so that an allele met in offspring only is rare
 /// and not impossible (the prior of Jeffreys 1946 for a binomial share, doi:10.1098/rspa.1946.0056,

@@ -18,6 +18,9 @@ std::string_view Label(Verdict verdict);
 /// The level unless something else is said: four of five verdicts near it are right.
 inline constexpr double kDefaultConfidenceLevel = 0.8;
 
+/// Verdicts at this level can be relied on one by one: one of twenty near it is wrong.
+inline constexpr double kSureLevel = 0.95;
+
 /// A level lies between 0.5 and 1: below it, two contradicting verdicts could both be reached.
 bool IsConfidenceLevel(double level);
 

@@ -44,6 +44,11 @@ struct ErrorModel {
   friend bool operator==(const ErrorModel&, const ErrorModel&) = default;
 };
 
+/// The model of a run whose command names none: any other allele of the locus, one reading in a
+/// hundred. It holds no reading for impossible, so that a collected parent whose mate is missing is
+/// not lost with it. The windows ask for a model.
+inline constexpr ErrorModel kErrorModelUnlessTold{.kind = ErrorKind::kUniform, .epsilon = 0.01};
+
 /// A probability that a model takes: as the help calls it, and what the error screen shows before
 /// anything is typed.
 struct ErrorProbability {

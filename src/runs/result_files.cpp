@@ -10,12 +10,14 @@ namespace kaldo {
 
 namespace {
 
-constexpr std::array<std::string_view, 6> kOfAllocations = {
-    "/Allocation results.xls",  "/Max like pairs.txt",   "/Transmision matrices.xls",
-    "/Stepping error file.xls", "/Sequence results.xls", "/Service file.xls",
+constexpr std::array<std::string_view, 8> kOfAllocations = {
+    "/Allocation results.xls",   "/Max like pairs.txt",
+    "/Transmision matrices.xls", "/Stepping error file.xls",
+    "/Sequence results.xls",     "/Service file.xls",
+    "/Confidence.tsv",           "/Loci.tsv",
 };
 
-constexpr std::array<std::string_view, 13> kOfNonSexedSimulations = {
+constexpr std::array<std::string_view, 14> kOfNonSexedSimulations = {
     "/Summary.xls",
     "/Iterations - global results.xls",
     "/Iterations - results_2collpar.xls",
@@ -29,9 +31,10 @@ constexpr std::array<std::string_view, 13> kOfNonSexedSimulations = {
     "/pseudo-collected parents.txt",
     "/uncollected parents.txt",
     "/pseudo-offspring.txt",
+    "/Reliability.tsv",
 };
 
-constexpr std::array<std::string_view, 16> kOfSexedSimulations = {
+constexpr std::array<std::string_view, 17> kOfSexedSimulations = {
     "/Summary.xls",
     "/Iterations-global results.xls",
     "/Iterations-results_coll_m_coll_f.xls",
@@ -48,6 +51,7 @@ constexpr std::array<std::string_view, 16> kOfSexedSimulations = {
     "/uncollected males.txt",
     "/uncollected females.txt",
     "/pseudo-offspring.txt",
+    "/Reliability.tsv",
 };
 
 }  // namespace

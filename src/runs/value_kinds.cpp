@@ -151,14 +151,17 @@ ValueKind<double> WholeRealKind() {
   return kind;
 }
 
-ValueKind<bool> FlagKind() {
-  return {.parse = [](std::string_view /*option*/,
-                      std::string_view /*text*/) -> tl::expected<bool, Problem> { return true; },
-          .text = [](const bool& value) -> std::optional<std::string> {
-            return value ? std::optional(std::string()) : std::nullopt;
+ValueKind<bool> FlagKind(bool by_default) {
+  return {.parse = [by_default](std::string_view /*option*/, std::string_view /*text*/)
+              -> tl::expected<bool, Problem> { return !by_default; },
+          .text = [by_default](const bool& value) -> std::optional<std::string> {
+            return value != by_default ? std::optional(std::string()) : std::nullopt;
           },
           .record = RecordPlainly<bool>,
-          .recorded = RecordedPlainly<bool>};
+          .recorded =
+              [by_default](const std::string& key, RecordedSettings& recorded) {
+                return recorded.Optional<bool>(key).value_or(by_default);
+              }};
 }
 
 ValueKind<std::optional<std::vector<std::string>>> NamesKind() {

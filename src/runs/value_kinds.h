@@ -27,8 +27,8 @@ ValueKind<std::int32_t> WholeKind();
 ValueKind<double> RealKind();
 ValueKind<double> WholeRealKind();
 
-/// Said or not.
-ValueKind<bool> FlagKind();
+/// What a flag turns against its default. A record that does not tell it has the default.
+ValueKind<bool> FlagKind(bool by_default = false);
 
 /// Names between commas; nothing said stands for all.
 ValueKind<std::optional<std::vector<std::string>>> NamesKind();

@@ -83,7 +83,7 @@ struct SimulationSettings {
   std::int32_t iterations = 1;
   std::int32_t offspring_per_iteration = 1;
   OffsetTolerance tolerance{1};
-  ErrorModel error_model;
+  ErrorModel error_model = kErrorModelUnlessTold;
 
   std::optional<std::vector<std::string>> loci_in_use;  ///< by name; all when nothing is said
 

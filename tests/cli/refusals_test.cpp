@@ -220,6 +220,7 @@ const std::vector<Refusal> kRefusals = {
     {kNotASeed, "parental seed=4294967296", "--seed: \"4294967296\" is not a whole number from"},
     {kNotASeed, "parental seed=-1", "--seed: \"-1\""},
     {kNotAThreadCount, "pond threads=0", "--threads: 0 is not between 1 and"},
+    {kNotAConfidenceLevel, "pond confidence-level=0.49", "--confidence-level: \"0.49\" is not"},
     {kNoStrategy, "parental strategy=All", "--strategy: \"All\" is none of: choice"},
     {kUnknownKeptFile, "parental keep=parents,pets", "--keep: \"pets\" is none of: parents"},
     {kUnknownKeptFile, "parental keep=parents,none", "--keep: \"none\""},

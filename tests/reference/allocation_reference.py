@@ -4,11 +4,13 @@ It exists to be compared with the fast program: the same options, the same repor
 files, written without any thought for speed.
 """
 
+from confidence_reference import Posteriors, confidence_fault, loci_fault
 from reference_input import parse_allocation, read_allocation
 from reference_reports import (max_like_block, non_sexed_results, result_line,
                                sequence_results, sexed_results, transmission_block)
 from reference_search import judge_first_pair, search_pairs
-from reference_tables import Catalogue, allele_listing, stepping_report, transmission_matrix
+from reference_tables import (Catalogue, allele_listing, is_out_of_step, stepping_report,
+                              transmission_matrix)
 
 RESULTS = "Allocation results.xls"
 MAX_LIKE = "Max like pairs.txt"
@@ -16,6 +18,8 @@ MATRICES = "Transmision matrices.xls"
 STEPPING = "Stepping error file.xls"
 SEQUENCE = "Sequence results.xls"
 SERVICE = "Service file.xls"
+CONFIDENCE = "Confidence.tsv"
+LOCI = "Loci.tsv"
 REPORT_NAMES = (RESULTS, MAX_LIKE, MATRICES, STEPPING, SEQUENCE, SERVICE)
 
 COMPLETED = "Calculations completed!"
@@ -34,7 +38,11 @@ def combinations_of(settings, in_use):
 
 
 def allocate(arguments, folder):
-    """Allocate the files found in folder; the reports by name, and the closing sentence."""
+    """Allocate the files found in folder.
+
+    The reports by name, the closing sentence, and for each table a function that says what is wrong
+    with it.
+    """
     settings = parse_allocation(arguments)
     inputs = read_allocation(settings, folder)
     names, in_use, slots = inputs.locus_names, inputs.in_use, inputs.slots
@@ -73,4 +81,8 @@ def allocate(arguments, folder):
     if settings.sequence is not None:
         reports[SEQUENCE] = sequence_results(settings, inputs, combinations, outcomes_of_each)
         reports[SERVICE] = allele_listing(names, in_use, catalogues, len(slots))
-    return reports, OUT_OF_STEP if out_of_step else COMPLETED
+    posteriors = Posteriors(settings, inputs, loci, catalogues, matrices)
+    odd = {locus for locus in loci if is_out_of_step(catalogues[locus])}
+    tables = {CONFIDENCE: lambda text: confidence_fault(text, posteriors, last),
+              LOCI: lambda text: loci_fault(text, posteriors, names, odd)}
+    return reports, OUT_OF_STEP if out_of_step else COMPLETED, tables

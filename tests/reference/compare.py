@@ -47,9 +47,12 @@ class Allocations:
         self.situations = Situations(ALLOCATIONS)
 
     def expected(self, options, folder):
-        """All files but the inputs, None for one that must not be, and the last lines told."""
-        reports, closing = allocate(options, folder)
-        return {f"results/{name}": reports.get(name) for name in REPORT_NAMES}, [closing], ""
+        """All files but the inputs, None for one that must not be, the last lines told, and what
+        says what is wrong with a table.
+        """
+        reports, closing, tables = allocate(options, folder)
+        return ({f"results/{name}": reports.get(name) for name in REPORT_NAMES}, [closing], "",
+                {f"results/{name}": fault for name, fault in tables.items()})
 
 
 class Simulations:
@@ -65,14 +68,14 @@ class Simulations:
         for situation in decisions_met(done):
             self.situations.counts[situation] += 1
         files = {f"{done.settings.project}/{name}": text for name, text in done.files.items()}
-        return files | {SAVED_LOCI: done.saved_loci}, done.closing, done.warning
+        return files | {SAVED_LOCI: done.saved_loci}, done.closing, done.warning, {}
 
 
 def compare_set(kind, binary, input_set, folder):
     """Run both on one set; None, or what is wrong with the files and the output of the program."""
     write_files(input_set.files, folder)
-    files, closing, warning = kind.expected(input_set.options, folder)
-    old = {name: OLD_CONTENT for name in files if input_set.stale}
+    files, closing, warning, tables = kind.expected(input_set.options, folder)
+    old = {name: OLD_CONTENT for name in [*files, *tables] if input_set.stale}
     write_files(old, folder)
     kind.situations.see(input_set.options, [data.decode("latin-1") for data in
                                             [*input_set.files.values(), *old.values()]],
@@ -81,7 +84,12 @@ def compare_set(kind, binary, input_set, folder):
                                   for name, text in files.items() if text is not None}
     command = [binary, kind.subcommand, *input_set.options, *input_set.threads]
     done = run(command, folder)
-    fault = judge(done, closing, warning, expected, files_of(folder))
+    found = files_of(folder)
+    written = {name: found.pop(name, None) for name in tables}
+    fault = judge(done, closing, warning, expected, found)
+    for name, fault_of in tables.items():
+        text = written[name] and written[name].decode("latin-1")
+        fault = fault or (what := fault_of(text)) and f"{name}: {what}"
     return fault and f"{fault}\n  in {folder}: {shlex.join(command)}"
 
 

@@ -65,7 +65,7 @@ def common_parser():
     for name in ("project", "loci"):
         parser.add_argument("--" + name)
     parser.add_argument("--tolerance", type=int, default=1)
-    parser.add_argument("--error", type=parse_error_model, default=ErrorModel("nonuniform"))
+    parser.add_argument("--error", type=parse_error_model, default=ErrorModel("uniform", epsilon=0.01))
     parser.add_argument("--use", type=lambda text: text.split(","))
     return parser
 

@@ -16,7 +16,7 @@ BOTH_ALLELES = ("cond_RJ_RJ_par1", "cond_RJ_RJ_par2")
 COMMON = {
     "fields of two digits": r"^[A-Z]\S* +\d\d[ \r\n]", "fields of eight digits": r"\s\d{8}\s",
     "no error": r"--error[ =]none", "uniform": r"--error[ =]uniform",
-    "non-uniform by default": r"(?s)\A(?!.*--error)", "non-uniform as typed": "nonuniform=",
+    "uniform by default": r"(?s)\A(?!.*--error)", "non-uniform": r"--error[ =]nonuniform( |$|\0)", "non-uniform as typed": "nonuniform=",
     **{f"tolerance {number}": rf"--tolerance[ =]{number}" for number in range(4)},
     "loci not in use": "--use", "sequence by index": r"--sequence[ =]-?\d",
     "CR LF": "\r\n", "byte-order mark": "^\xef\xbb\xbf", "tabs": r"\S \t \d",

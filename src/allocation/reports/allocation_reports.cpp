@@ -3,6 +3,8 @@
 
 #include "allocation/allocation_file_names.h"
 #include "allocation/allocation_record.h"
+#include "allocation/reports/confidence_report.h"
+#include "allocation/reports/loci_report.h"
 #include "allocation/reports/matrices_report.h"
 #include "allocation/reports/max_like_report.h"
 #include "allocation/reports/result_line.h"
@@ -23,6 +25,13 @@ AllocationReports::AllocationReports(const AllocationSettings& settings,
       matrices_(reports_.Add(kTransmissionMatricesFile)),
       stepping_(reports_.Add(kSteppingErrorFile)),
       record_(reports_.Add(kRunRecordFile)) {
+  if (settings.confidence.computed) {
+    confidence_ = &reports_.AddIfAny(kConfidenceFile);
+    loci_ = &reports_.Add(kLociFile);
+  } else {
+    reports_.Remove(kConfidenceFile);
+    reports_.Remove(kLociFile);
+  }
   if (settings.sequence) {
     sequence_ = &reports_.Add(kSequenceResultsFile);
     service_ = &reports_.Add(kServiceFile);
@@ -37,6 +46,10 @@ void AllocationReports::WriteOffspring(const AllocationSettings& settings,
                                        RunObserver& observer) {
   const MatricesReport matrices{settings.flow, settings.tolerance, input.digits_per_field,
                                 input.table, result.loci};
+  const bool has_confidence = result.confidence && result.confidence->is_meaningful;
+  if (has_confidence) {
+    confidence_->Append(ConfidenceHead(settings.flow));
+  }
   observer.OnPart("Writing the reports", result.outcomes.size());
   for (std::size_t offspring = 0; offspring < result.outcomes.size(); ++offspring) {
     if (observer.StopRequested()) {
@@ -46,6 +59,9 @@ void AllocationReports::WriteOffspring(const AllocationSettings& settings,
     const Slot slot{input.offspring.begin + static_cast<std::uint32_t>(offspring)};
     matrices_.Append(MatricesBlock(matrices, slot, result.outcomes[offspring]));
     results_.Append(ResultLine(settings.flow, input, result, offspring));
+    if (has_confidence) {
+      confidence_->Append(ConfidenceLine(settings.flow, input, result, offspring));
+    }
     observer.OnSteps(1);
   }
 }
@@ -57,6 +73,9 @@ void AllocationReports::Write(const AllocationSettings& settings, const Allocati
   results_.Append(ResultsProportions(settings.flow, result.LastShares()));
 
   stepping_.Append(result.stepping.text);
+  if (loci_ != nullptr) {
+    loci_->Append(LociReport(input.loci, result.loci_quality));
+  }
   if (sequence_ != nullptr) {
     sequence_->Append(SequenceReport(settings, input, result));
     service_->Append(

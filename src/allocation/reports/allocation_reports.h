@@ -29,6 +29,8 @@ class AllocationReports {
   ReportFile& pairs_;
   ReportFile& matrices_;
   ReportFile& stepping_;
+  ReportFile* confidence_ = nullptr;  ///< only where it is wanted how sure all is, as the next
+  ReportFile* loci_ = nullptr;
   ReportFile* sequence_ = nullptr;  ///< only with a sequence, as the next
   ReportFile* service_ = nullptr;
   ReportFile& record_;

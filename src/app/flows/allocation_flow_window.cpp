@@ -34,6 +34,7 @@ AllocationFlowWindow::AllocationFlowWindow(Flow flow, OpenedFiles& opened, QWidg
 
 void AllocationFlowWindow::Set(const AllocationSettings& settings) {
   files_->Set(settings);
+  confidence_ = settings.confidence;
   error_->Box().Set(settings.error_model);
   loci_.Set(Opened().Open(settings.loci_file), settings.loci_in_use, settings.sequence);
 }
@@ -65,6 +66,7 @@ AllocationSettings AllocationFlowWindow::FileSettings() const {
   AllocationSettings settings;
   settings.flow = flow_;
   settings.project = Project();
+  settings.confidence = confidence_;
   files_->FillIn(settings);
   return settings;
 }

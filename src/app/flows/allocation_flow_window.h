@@ -52,6 +52,9 @@ class AllocationFlowWindow : public FlowWindow {
   ErrorPage* error_;
   LociScreens loci_;
 
+  /// No screen asks for it: as a record has it, else nothing is computed.
+  WantedConfidence confidence_{.computed = false};
+
   /// The individuals of the confirmed files, before any choice of loci.
   std::optional<AllocationInput> confirmed_;
 };

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "confidence/confidence_summary.h"
+
+namespace kaldo {
+
+namespace {
+
+void CountVerdict(const SideConfidence& side, ConfidenceSummary& summary) {
+  if (side.verdict == Verdict::kNamed) {
+    ++(side.candidate->probability >= kSureLevel ? summary.surely_named : summary.named);
+    summary.wrong_names += 1 - side.candidate->probability;
+  } else {
+    ++(side.verdict == Verdict::kOpen ? summary.open : summary.uncollected);
+  }
+}
+
+void CountReported(double probability, ConfidenceSummary& summary) {
+  ++summary.reported;
+  summary.reported_improbable += probability < kImprobable ? 1U : 0U;
+  summary.wrong_reported += 1 - probability;
+}
+
+}  // namespace
+
+ConfidenceSummary SummaryOf(std::span<const OffspringConfidence> offspring,
+                            std::span<const ReportedParents> reported) {
+  ConfidenceSummary summary;
+  for (std::size_t i = 0; i < offspring.size(); ++i) {
+    for (std::size_t k = 0; k < 2; ++k) {
+      const SideConfidence& side = offspring[i].sides[k];
+      CountVerdict(side, summary);
+      if (!reported.empty() && reported[i][k] && side.p_reported) {
+        CountReported(*side.p_reported, summary);
+      }
+    }
+  }
+  return summary;
+}
+
+}  // namespace kaldo

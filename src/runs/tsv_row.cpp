@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "runs/tsv_row.h"
+
+#include <fmt/format.h>
+
+namespace kaldo {
+
+TsvRow& TsvRow::Plain(std::string_view word) {
+  if (!text_.empty()) {
+    text_ += '\t';
+  }
+  text_ += word;
+  return *this;
+}
+
+TsvRow& TsvRow::Text(std::string_view text) {
+  if (text.find('"') == std::string_view::npos) {
+    return Plain(text);
+  }
+  std::string quoted;
+  for (const char character : text) {
+    quoted.append(character == '"' ? 2 : 1, character);
+  }
+  return Plain('"' + quoted + '"');
+}
+
+TsvRow& TsvRow::Number(double number) {
+  // Adding 0 makes -0 a 0.
+  return Plain(fmt::format("{:.8g}", number + 0.0));
+}
+
+}  // namespace kaldo
