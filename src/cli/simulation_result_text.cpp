@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "base/version.h"
+#include "confidence/confidence_run.h"
 #include "runs/project_folder.h"
 #include "simulation/reports/parameter_block.h"
 #include "simulation/reports/simulation_file_names.h"
@@ -78,11 +79,34 @@ std::string SubsetRows(const SimulationSettings& settings, const SimulationRun& 
   return text + "\nWith the last of them:\n";
 }
 
+/// Whether the posteriors are as good as they say.
+std::string ReliabilityText(const SimulationSettings& settings, const SimulationResult& result) {
+  if (!settings.scores_confidence) {
+    return {};
+  }
+  if (!result.reliability) {
+    return fmt::format("\n{}\n", kNegativeProbabilitySentence);
+  }
+  constexpr std::string_view kRow = "  {:<14}{:>10}{:>10}{:>16}{:>16}\n";
+  const Reliability& found = *result.reliability;
+  std::string text = fmt::format("\nHow sure allocations are ({} sides have a collected parent):\n",
+                                 found.collected_sides);
+  text += fmt::format(kRow, "named at", "named", "found", "wrong predicted", "wrong counted");
+  const auto at = ReliabilityLevels(settings.confidence_level);
+  for (std::size_t k = 0; k < at.size(); ++k) {
+    text += fmt::format(
+        kRow, fmt::format("{:g} or more", at[k]), found.levels[k].sides, found.levels[k].right,
+        fmt::format("{:.1f}", found.levels[k].ExpectedWrong()), found.levels[k].Wrong());
+  }
+  return text;
+}
+
 }  // namespace
 
 std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run) {
   std::string text = ParametersText(settings, run) + SubsetRows(settings, run) +
                      CorrectRows(TextsOf(settings.flow), run.result);
+  text += ReliabilityText(settings, run.result);
   text += fmt::format("\nFiles in \"{}\", first of all {}\n\n", settings.project,
                       kSummaryFile.substr(1));
   if (run.result.stepping.any_out_of_step) {

@@ -129,9 +129,7 @@ std::unique_ptr<PortionTask> MakeTask(const SentPart& sent) {
   if (sent.part == kWeighingPart) {
     return std::make_unique<SentEvidence>(record, files);
   }
-  return std::make_unique<SentSimulation>(
-      record, files,
-      sent.part == kMatricesPart ? IterationProduct::kMatrices : IterationProduct::kCounts);
+  return std::make_unique<SentSimulation>(record, files, ProductOf(sent.part));
 }
 
 tl::expected<std::vector<char>, Problem> RememberedFiles::Read(const std::string& path) {

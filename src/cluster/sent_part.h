@@ -17,7 +17,7 @@ using FileBytes = std::map<std::string, std::vector<char>>;
 /// All that a process needs to take part in a part of a run: it need not see the disk on which the
 /// input files are.
 struct SentPart {
-  std::string part;      ///< kAllocatingPart, kWeighingPart, kSimulatingPart or kMatricesPart
+  std::string part;      ///< kAllocatingPart, kWeighingPart, kSimulatingPart, ...
   unsigned threads = 1;  ///< of each process
   std::string record;    ///< the settings, as text of a run record
   FileBytes files;

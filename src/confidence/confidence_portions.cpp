@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "confidence/confidence_portions.h"
 
+#include <algorithm>
+
 #include "base/byte_packing.h"
 #include "confidence/confidence_matrix.h"
 #include "confidence/stranger_scores.h"
@@ -44,6 +46,15 @@ std::vector<std::vector<double>> ScoresOfStrangers(const ConfidenceInput& input,
   return scores;
 }
 
+/// The slots up to the last candidate; others may follow before the offspring.
+std::size_t SlotsOfCandidates(const ConfidenceInput& input) {
+  std::uint32_t slots = 0;
+  for (const SlotRange range : RangesOfParents(input.flow, input.groups)) {
+    slots = std::max(slots, range.end);
+  }
+  return slots;
+}
+
 std::vector<IdenticalParents> IdenticalOnEachSide(const ConfidenceInput& input) {
   std::array<std::vector<SlotRange>, 2> sides;
   for (const CandidateGroup& group : input.groups) {
@@ -66,7 +77,7 @@ EvidenceTask::EvidenceTask(const ConfidenceSettings& settings, const ConfidenceI
       matrices_(ConfidenceMatrices(settings.error_model, input.catalogues)),
       strangers_(ScoresOfStrangers(input, matrices_)),
       identical_(IdenticalOnEachSide(input)),
-      study_{{input.table, input.offspring.begin, input.loci, matrices_},
+      study_{{input.table, SlotsOfCandidates(input), input.loci, matrices_},
              input.flow,
              input.groups,
              CountWays(input.flow, input.groups),

@@ -30,7 +30,7 @@ struct ConfidenceSettings {
 struct ConfidenceInput {
   Flow flow = Flow::kNonSexed;
 
-  /// An indexed table: the collected parents in front, the offspring behind them.
+  /// An indexed table: the collected parents in front, the offspring somewhere behind them.
   const GenotypeTable& table;
   SlotRange offspring;
   std::span<const CandidateGroup> groups;

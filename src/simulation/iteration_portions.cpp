@@ -4,6 +4,7 @@
 #include "allocation/reports/matrices_report.h"
 #include "base/byte_packing.h"
 #include "base/problem.h"
+#include "simulation/reliability.h"
 #include "simulation/simulated_iteration.h"
 
 namespace kaldo {
@@ -31,24 +32,31 @@ class IterationWorker final : public PortionWorker {
     ByteUnpacker unpacker(order);
     UseLoci(unpacker.GetAll<LocusIndex>());
     const auto states = unpacker.GetAll<std::uint32_t>();
-    BytePacker counts;
-    std::string matrices;
+    BytePacker products;
     for (const std::uint32_t state : states) {
       if (observer.StopRequested()) {
         throw RunStopped();
       }
       const IterationCounts found = iteration_.Run(state, observer);
-      if (product_ == IterationProduct::kCounts) {
-        counts.Add(found);
-      } else {
-        matrices += MatricesOf(settings_, input_, iteration_);
-      }
+      AddProduct(found, observer, products);
       observer.OnSteps(1);
     }
-    return product_ == IterationProduct::kCounts ? counts.Take() : matrices;
+    return products.Take();
   }
 
  private:
+  void AddProduct(const IterationCounts& found, const RunObserver& observer,
+                  BytePacker& products) const {
+    switch (product_) {
+      case IterationProduct::kCounts:
+        return products.Add(found);
+      case IterationProduct::kReliability:
+        return products.Add(ReliabilityOf(settings_, iteration_, observer));
+      case IterationProduct::kMatrices:
+        return products.AddRest(MatricesOf(settings_, input_, iteration_));
+    }
+  }
+
   void UseLoci(LocusSubset loci) {
     if (loci != loci_) {
       loci_ = std::move(loci);
@@ -64,6 +72,13 @@ class IterationWorker final : public PortionWorker {
 };
 
 }  // namespace
+
+IterationProduct ProductOf(std::string_view part) {
+  if (part == kReliabilityPart) {
+    return IterationProduct::kReliability;
+  }
+  return part == kMatricesPart ? IterationProduct::kMatrices : IterationProduct::kCounts;
+}
 
 std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> states) {
   BytePacker packer;

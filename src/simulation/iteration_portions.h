@@ -12,13 +12,18 @@ namespace kaldo {
 
 // The parts of a run in which iterations are simulated.
 inline constexpr std::string_view kSimulatingPart = "Simulating";
+inline constexpr std::string_view kReliabilityPart = "Scoring how sure the allocations are";
 inline constexpr std::string_view kMatricesPart = "Writing the transmission matrices";
 
 /// What a stretch of iterations gives back.
 enum class IterationProduct {
-  kCounts,    ///< the IterationCounts of each
-  kMatrices,  ///< their listings of transmission matrices, as text
+  kCounts,       ///< the IterationCounts of each
+  kReliability,  ///< the Reliability of each
+  kMatrices,     ///< their listings of transmission matrices, as text
 };
+
+/// The product of a part of a run.
+IterationProduct ProductOf(std::string_view part);
 
 /// A stretch of iterations, as bytes: with which loci, and where in the stream of random numbers
 /// each starts. All a worker needs beside settings and input.

@@ -39,6 +39,7 @@ class SimulatedIteration {
   std::span<const AllocationOutcome> Outcomes() const { return outcomes_; }
   const LociOfRun& Loci() const { return loci_; }
   const AlleleCatalogues& Catalogues() const { return catalogues_; }
+  std::span<const CandidateGroup> Candidates() const { return candidates_; }
 
   /// The catalogues over parents and pseudo-offspring, for the listing of alleles.
   AlleleCatalogues CataloguesOfAll() const;

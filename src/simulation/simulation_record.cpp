@@ -2,6 +2,7 @@
 #include "simulation/simulation_record.h"
 
 #include "base/version.h"
+#include "confidence/confidence_run.h"
 
 namespace kaldo {
 
@@ -22,6 +23,9 @@ RunRecord RecordOf(const SimulationSettings& settings, const SimulationInput& in
   record.warnings = WarningLines(input.warnings);
   if (result.stepping.any_out_of_step) {
     record.warnings.emplace_back(kSteppingSentence);
+  }
+  if (settings.scores_confidence && WarnOfNegative(settings.error_model)) {
+    record.warnings.emplace_back(kNegativeProbabilitySentence);
   }
   SimulationSettings told = settings;
   told.keep = KeptFilesOf(settings);

@@ -4,6 +4,7 @@
 #include "base/this_process.h"
 #include "simulation/counts_plan.h"
 #include "simulation/iteration_portions.h"
+#include "simulation/reliability_plan.h"
 #include "simulation/reports/simulation_reports.h"
 #include "simulation/simulated_iteration.h"
 #include "simulation/simulation_record.h"
@@ -15,6 +16,15 @@ namespace {
 /// The seed of a run that was given none: the calendar time in seconds.
 std::uint32_t TimeSeed(std::chrono::system_clock::time_point time) {
   return static_cast<std::uint32_t>(std::chrono::system_clock::to_time_t(time));
+}
+
+void ScoreConfidence(const SimulationSettings& settings, const SimulationInput& input,
+                     RunObserver& observer, Workforce& workforce, SimulationResult& result) {
+  const IterationTask task(settings, input, IterationProduct::kReliability);
+  ReliabilityPlan plan(result);
+  observer.OnPart(kReliabilityPart, plan.ItemsPerGroup());
+  workforce.Do({kReliabilityPart, task, plan, [&] { return RecordOf(settings, input, result); }},
+               settings.threads, observer);
 }
 
 /// Runs all subsets and iterations. Leaves the last iteration as it was made in `last`: the workers
@@ -38,6 +48,9 @@ SimulationResult Simulate(const SimulationSettings& settings, const SimulationIn
 
   last.UseLoci(result.LastSubset().loci);
   last.Run(result.states.back(), observer);
+  if (settings.scores_confidence && !WarnOfNegative(settings.error_model)) {
+    ScoreConfidence(settings, input, observer, workforce, result);
+  }
   result.stepping = CheckStepping(input.loci, last.CataloguesOfAll());
   result.duration = std::chrono::steady_clock::now() - clock_start;
   return result;

@@ -12,6 +12,7 @@
 #include "runs/workforce.h"
 #include "simulation/figures/origin_statistics.h"
 #include "simulation/figures/subset_figures.h"
+#include "simulation/reliability.h"
 #include "simulation/simulation_input.h"
 
 namespace kaldo {
@@ -28,6 +29,10 @@ struct SimulationResult {
 
   /// Of the last subset: where in the stream of random numbers each iteration starts.
   std::vector<std::uint32_t> states;
+
+  /// Of the last subset, all iterations together; nothing where this was not wanted or means
+  /// nothing.
+  std::optional<Reliability> reliability;
 
   SteppingReport stepping;  ///< of the last iteration
 

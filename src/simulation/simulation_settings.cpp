@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "confidence/confidence_level_setting.h"
 #include "method/method_settings.h"
 
 namespace kaldo {
@@ -262,6 +263,12 @@ std::vector<Declared> Method() {
           "Maximal offset tolerance, in whole unit distances (repeats)"),
       ErrorModelSetting<SimulationSettings>(""),
       LociInUseSetting<SimulationSettings>(),
+      {.key = "confidence",
+       .option = "--confidence",
+       .group = "Method",
+       .help = "Compare how sure allocations are said to be with the truth",
+       .value = Member(&SimulationSettings::scores_confidence, FlagKind())},
+      ConfidenceLevelSetting<SimulationSettings>(&SimulationSettings::confidence_level),
   };
 }
 

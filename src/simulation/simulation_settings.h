@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "confidence/verdict.h"
 #include "method/error_model.h"
 #include "method/flow.h"
 #include "method/offset_tolerance.h"
@@ -95,6 +96,9 @@ struct SimulationSettings {
   bool print_iterations = false;
   bool print_subset_statistics = false;
   std::optional<KeptFiles> keep;  ///< nothing said: see KeptFilesOf
+
+  bool scores_confidence = false;  ///< whether posterior probabilities are compared with the truth
+  double confidence_level = kDefaultConfidenceLevel;  ///< scored beside the usual ones
 
   std::optional<std::uint32_t> seed;  ///< nothing said: the calendar time in seconds
   unsigned threads = 0;               ///< 0: as many as cores; results never depend on it

@@ -68,6 +68,9 @@ std::string RandomText(const Setting<Settings>& setting) {
   if (kind == "X" || kind == "U") {
     return fmt::format("{}", *RandomReal());
   }
+  if (kind == "LEVEL") {
+    return fmt::format("{}", *rc::gen::inRange(50, 101) / 100.0);
+  }
   if (kind == "S") {
     return std::to_string(*rc::gen::arbitrary<std::uint32_t>());
   }

@@ -12,6 +12,8 @@ namespace kaldo {
 inline constexpr std::string_view kSummaryFile = "/Summary.xls";
 inline constexpr std::string_view kPseudoOffspringFile = "/pseudo-offspring.txt";
 
+inline constexpr std::string_view kReliabilityFile = "/Reliability.tsv";
+
 /// The names of the loci of the last simulation, in the working folder.
 inline constexpr std::string_view kSavedLociFile = "SAUVLOCUSTULM.txt";
 

@@ -6,6 +6,7 @@
 #include "genotypes/allele_listing.h"
 #include "runs/run_record.h"
 #include "simulation/iteration_portions.h"
+#include "simulation/reports/reliability_report.h"
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_report_texts.h"
 #include "simulation/saved_loci.h"
@@ -55,6 +56,7 @@ SimulationReports::SimulationReports(const SimulationSettings& settings,
       stepping_(reports_.AddIfAny(kSteppingErrorFile)),
       offspring_(reports_.AddIfAny(kPseudoOffspringFile)),
       matrices_(reports_.AddIfAny(texts_.matrices_file)),
+      reliability_(reports_.AddIfAny(kReliabilityFile)),
       service_(reports_.Add(kServiceFile)),
       record_(reports_.Add(kRunRecordFile)) {
   for (const auto& origin : texts_.origins) {
@@ -79,6 +81,9 @@ void SimulationReports::WriteTables(const SimulationSettings& settings,
   }
   if (settings.strategy == LociStrategy::kCumulative) {
     sequence_.Append(SimulationSequenceReport(settings, input, result));
+  }
+  if (result.reliability) {
+    reliability_.Append(ReliabilityReport(*result.reliability, settings.confidence_level));
   }
   if (result.stepping.any_out_of_step) {
     stepping_.Append(result.stepping.text);

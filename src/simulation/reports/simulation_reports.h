@@ -45,6 +45,7 @@ class SimulationReports {
   ReportFile& stepping_;
   ReportFile& offspring_;
   ReportFile& matrices_;
+  ReportFile& reliability_;
   ReportFile& service_;
   ReportFile& record_;
 };
