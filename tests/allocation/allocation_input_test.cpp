@@ -83,6 +83,7 @@ TEST_F(InputTest, TellsTheLastFaultOfTheFilesInTheOrderOfTheScreen) {
 TEST_F(InputTest, TellsFilesBeforeChoicesAndChoicesInTheOrderOfTheScreens) {
   settings_.sequence = {0, 3};
   settings_.loci_in_use.emplace();
+  settings_.error_model = ErrorModel{};
   settings_.error_model.focal = 0.5;
   settings_.tolerance = OffsetTolerance{-1};
   settings_.loci_file = folder_.Path("absent");

@@ -360,6 +360,7 @@ TEST_F(ResultsAllocationTest, ShowsTheSequenceOfTheReport) {
 
 TEST_F(ResultsAllocationTest, TellsWhatWasRun) {
   Shown shown(Flow::kSexed);
+  shown.settings.error_model = ErrorModel{};
   shown.Run();
   const QString text = Find<QTextBrowser>(*shown.window, "SummaryText").toPlainText();
   for (const char* part :

@@ -131,14 +131,14 @@ TEST_F(CommandLineTest, ReadsTheToleranceAsDecimal) {
 TEST_F(CommandLineTest, ABareSequenceIsFileOrder) {
   ASSERT_EQ(RunCommand(Allocate({"--sequence", "1,2,3,4"})).code, ExitCode::kDone);
   const auto typed = TakeReports();
-  EXPECT_EQ(typed.size(), 6U);
+  EXPECT_EQ(typed.size(), 8U);
   ASSERT_EQ(RunCommand(Allocate({"--tolerance", "1", "--sequence"})).code, ExitCode::kDone);
   EXPECT_EQ(TakeReports(), typed);
   ASSERT_EQ(RunCommand(Allocate({"--sequence", "--tolerance", "1"})).code, ExitCode::kDone);
   EXPECT_THAT(Report("Sequence results.xls"), HasSubstr("\nCombin #\t"));
   // A later run without a sequence leaves no report of the earlier one behind.
   ASSERT_EQ(RunCommand(Allocate({})).code, ExitCode::kDone);
-  EXPECT_EQ(TakeReports().size(), 4U);
+  EXPECT_EQ(TakeReports().size(), 6U);
 }
 
 TEST_F(CommandLineTest, UsesTheNamedLoci) {
@@ -167,7 +167,7 @@ TEST_F(CommandLineTest, BadInputLeavesTheEarlierResults) {
                     folder_.Path("offspring.txt") +
                     ", line 2, record 2 (O2), locus B: \"000208\" holds an undefined allele\n");
   EXPECT_EQ(ReadFile(RecordPath()), record);
-  EXPECT_EQ(TakeReports().size(), 4U);
+  EXPECT_EQ(TakeReports().size(), 6U);
 }
 
 TEST_F(CommandLineTest, TellsAResultsFolderThatCannotBeMade) {
@@ -223,7 +223,7 @@ TEST_F(CommandLineTest, VerifyTellsEveryFileThatIsNotAsTheRunLeftIt) {
   for (const std::string& path : {RecordPath(), folder_.Path("project")}) {
     const Outcome intact = RunCommand({"verify", path});
     EXPECT_EQ(intact.code, ExitCode::kDone) << intact.err;
-    EXPECT_EQ(intact.out, "Results: intact, 4 of 4 files\nInputs: unchanged, 3 of 3 files\n");
+    EXPECT_EQ(intact.out, "Results: intact, 6 of 6 files\nInputs: unchanged, 3 of 3 files\n");
   }
   folder_.Write("project/notes.txt", "my own");
   folder_.Write("project/Summary.xls", "of a simulation");
@@ -233,7 +233,7 @@ TEST_F(CommandLineTest, VerifyTellsEveryFileThatIsNotAsTheRunLeftIt) {
   const Outcome mixed = RunCommand({"verify", folder_.Path("project")});
   EXPECT_EQ(mixed.code, ExitCode::kDiffers);
   EXPECT_EQ(mixed.out,
-            "Results: not intact, 2 of 4 files\n"
+            "Results: not intact, 4 of 6 files\n"
             "  \"Allocation results.xls\" is missing\n"
             "  \"Max like pairs.txt\" has other contents: it was edited, or is of another run\n"
             "  \"Summary.xls\" is of another run: the record does not list it\n"
@@ -250,7 +250,7 @@ TEST_F(CommandLineTest, ARecordFromElsewhereIsNotTrusted) {
   EXPECT_EQ(RunCommand({"rerun", RecordPath(), "--overwrite"}).code, ExitCode::kDone);
   EXPECT_FALSE(std::filesystem::exists(aim));
   EXPECT_EQ(RunCommand({"rerun", RecordPath(), "--project", aim}).code, ExitCode::kDone);
-  EXPECT_EQ(folder_.FilesIn("aim").size(), 5U);
+  EXPECT_EQ(folder_.FilesIn("aim").size(), 7U);
   EditRecord("\nfolder = .*", "\nfolder = \"/\\u001b[2J\\u009b\"");
   std::filesystem::remove(folder_.Path("parents.txt"));
   EXPECT_THAT(RunCommand({"rerun", RecordPath()}).err, HasSubstr("\"/\\x1b[2J\\xc2\\x9b\""));
@@ -296,7 +296,9 @@ TEST_F(CommandLineTest, RerunRefusesWhatItCannotRepeat) {
       {"tolerance = 1", "tolerance = 1.5", "This run record cannot be used!\n"},
       {"tolerance = 1", "tolerance = -1", "Enter a positive number\n"},
       {"error = .*", "error = \"some\"", "This run record cannot be used!\n"},
-      {"0.98,", "0.98, 0.01,", "This run record cannot be used!\n"},
+      {"error = .*\nepsilon = .*", "error = \"nonuniform\"\nerror_values = [0.1, 0.9]",
+       "This run record cannot be used!\n"},
+      {"confidence_level = .*", "confidence_level = 0.4", "is not between 0.5 and 1"},
       {"\nproject = .*", "", "This run record cannot be used!\n"},
       {"tolerance = 1\n", "tolerance = 1\nsqeuence = [1]\n",
        "the setting \"sqeuence\" has no place"},

@@ -119,7 +119,7 @@ class ExitCodes(ProgramTest):
                 path.rename(moved / path.name)
         record = moved / "a" / "project" / RUN_RECORD
         elsewhere = programs.run([KALDO, "rerun", str(record)], self.folder)
-        self.assertEqual((elsewhere.returncode, elsewhere.stdout), (0, b"identical, 4 of 4 files\n"))
+        self.assertEqual((elsewhere.returncode, elsewhere.stdout), (0, b"identical, 6 of 6 files\n"))
         self.assertIn(b"Note: collected parents is read from", elsewhere.stderr)
         (moved / "parents.txt").unlink()
         missing = programs.run([KALDO, "rerun", str(record)], moved / "a")

@@ -131,7 +131,7 @@ class SameFiles(Clusters):
         loci = (SOURCE / "examples" / flow / "loci.txt").read_text().split()
         for number, (strategy, more) in enumerate(STRATEGIES.items()):
             options = [each.format(*loci, criterion=criterion) for each in more]
-            keep = ["--keep", "all", "--print-iterations"] if number % 2 else ["--threads", "2"]
+            keep = ["--keep", "all", "--print-iterations"] if number % 2 else ["--threads", "2", "--confidence"]
             told = self.compare(flow, ["simulate", "--project", "trial", "--loci", "data/loci.txt",
                                        *sets[number % 2], "--iterations", "23",
                                        "--offspring-per-iteration", "40", "--seed", "7",

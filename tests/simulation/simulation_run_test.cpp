@@ -2,12 +2,17 @@
 // Whole simulations from files to files.
 #include "simulation/simulation_run.h"
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <filesystem>
+#include <map>
+#include <sstream>
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
+#include "allocation/allocation_run.h"
 #include "runs/project_folder.h"
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_texts.h"
@@ -145,6 +150,7 @@ TEST_F(ExampleSimulation, GivesTheSameFilesForAnyNumberOfThreadsAndOthersForAnot
     SimulationSettings settings = Settings(flow);
     settings.keep = KeptFiles{true, true, true};
     settings.print_iterations = true;
+    settings.scores_confidence = true;
     settings.start_with = 7;
     settings.criterion = 0.4;  // reached by a later subset: those behind it are begun in vain
     Files of_one_thread;
@@ -172,6 +178,131 @@ TEST_F(ExampleSimulation, GivesTheSameFilesForAnyNumberOfThreadsAndOthersForAnot
       } else if (tells_genotypes || name == "Service file.xls") {
         EXPECT_NE(text, of_another_seed[i].second) << name;
       }
+    }
+    std::filesystem::remove_all("project");
+  }
+}
+
+/// The cells of a table by the text of its first three.
+std::map<std::string, std::vector<double>> ReadReliability() {
+  std::istringstream table(ReadFile("project/Reliability.tsv"));
+  std::map<std::string, std::vector<double>> rows;
+  std::string line;
+  std::getline(table, line);
+  while (std::getline(table, line)) {
+    std::istringstream cells(line);
+    std::string row;
+    std::string from;
+    std::string to;
+    cells >> row >> from >> to;
+    for (std::string cell; cells >> cell;) {
+      rows[row + ' ' + from + ' ' + to].push_back(cell == "NA" ? -1 : std::stod(cell));
+    }
+  }
+  return rows;
+}
+
+/// The names that an allocation of the pseudo-offspring is sure of, with their probabilities.
+struct Name {
+  double probability;
+  bool is_right;
+};
+
+void ExpectNames(const std::vector<double>& cells, const std::vector<Name>& names, double from,
+                 double to, double collected_sides) {
+  double sides = 0;
+  double right = 0;
+  double sum = 0;
+  for (const Name& name : names) {
+    if (name.probability >= from && (name.probability < to || to == 1)) {
+      sides += 1;
+      right += name.is_right ? 1 : 0;
+      sum += name.probability;
+    }
+  }
+  const std::vector<double> expected = {sides,
+                                        right,
+                                        right / collected_sides,
+                                        sides - sum,
+                                        sides - right,
+                                        sides > 0 ? sum / sides : -1,
+                                        sides > 0 ? right / sides : -1};
+  ASSERT_EQ(cells.size(), expected.size());
+  for (std::size_t k = 0; k < cells.size(); ++k) {
+    EXPECT_NEAR(cells[k], expected[k], 1e-5) << from << " to " << to << ", cell " << k;
+  }
+}
+
+// Kept pseudo-offspring are allocated like real ones. The sample has no allele that the collected
+// parents lack, so that both runs know the same alleles.
+TEST_F(ExampleSimulation, ScoresThePosteriorsOfAnAllocationOfItsPseudoOffspring) {
+  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
+    SimulationSettings settings = Settings(flow, Procedure::kParental);
+    const std::string parents = settings.sets[0].collected_file;
+    for (ParentalSet& set : settings.sets) {
+      set.uncollected_sample = parents;
+      set.uncollected = 20;
+      set.estimated_uncollected = 3;
+    }
+    settings.error_model = ErrorModel{};
+    settings.iterations = 1;
+    settings.offspring_per_iteration = 120;
+    settings.loci_in_use = {"Mir03Di", "Mir14Di", "Mir05Tet"};
+    settings.keep = KeptFiles{true, true, true};
+    settings.confidence_level = 0.7;
+    RunWell(settings);
+    const Files without = Results();
+    settings.scores_confidence = true;
+    RunWell(settings);
+    const Files with_scores = Results();
+    EXPECT_EQ(with_scores.size(), without.size() + 1);
+    for (const auto& file : without) {
+      EXPECT_NE(std::find(with_scores.begin(), with_scores.end(), file), with_scores.end())
+          << file.first << " is another one";
+    }
+
+    std::vector<std::array<std::uint32_t, 2>> truth;
+    std::string young;
+    std::istringstream kept(ReadFile("project/pseudo-offspring.txt"));
+    for (std::string line; std::getline(kept, line);) {
+      std::istringstream words(line);
+      words >> truth.emplace_back()[0] >> truth.back()[1];
+      std::string genotypes;
+      std::getline(words, genotypes);
+      young += 'K' + std::to_string(truth.size()) + genotypes + '\n';
+    }
+    AllocationSettings allocation;
+    allocation.flow = flow;
+    allocation.project = "allocation";
+    allocation.may_replace_other_flow = true;
+    allocation.loci_file = settings.loci_file;
+    allocation.parents_file = allocation.males_file = allocation.females_file = parents;
+    allocation.offspring_file = folder_.Write("young.txt", young);
+    allocation.loci_in_use = settings.loci_in_use;
+    allocation.error_model = settings.error_model;
+    RunObserver observer;
+    const auto run = RunAllocation(allocation, observer);
+    ASSERT_TRUE(run) << SentenceOf(run.error()) << ' ' << DetailLine(run.error());
+
+    std::vector<Name> names;
+    double collected = 0;
+    for (std::size_t i = 0; i < truth.size(); ++i) {
+      for (std::size_t k = 0; k < 2; ++k) {
+        collected += truth[i][k] < run->input.offspring.begin ? 1 : 0;
+        const auto& named = *run->result.confidence->offspring[i].sides[k].candidate;
+        names.push_back({named.probability,
+                         named.slot.Value() == truth[i][k] ||
+                             (flow == Flow::kNonSexed && named.slot.Value() == truth[i][1 - k])});
+      }
+    }
+    const auto rows = ReadReliability();
+    EXPECT_EQ(rows.size(), 12U);
+    for (const auto& [row, cells] : rows) {
+      std::istringstream limits(row.substr(row.find(' ')));
+      double from = 0;
+      double to = 0;
+      limits >> from >> to;
+      ExpectNames(cells, names, from, to, collected);
     }
     std::filesystem::remove_all("project");
   }
