@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/confidence_text.h"
 
+#include <algorithm>
+#include <array>
+
 #include <fmt/format.h>
 
 #include "allocation/allocation_confidence.h"
 #include "allocation/allocation_file_names.h"
 #include "confidence/confidence_summary.h"
+#include "confidence/identical_parents.h"
 #include "confidence/relatives_note.h"
 
 namespace kaldo {
@@ -42,6 +46,66 @@ std::string WrongNames(const ConfidenceSummary& summary) {
   }
   return text;
 }
+
+/// Names the parents that share a side since they have the same genotypes: together they would
+/// reach the level.
+class SharedSides {
+ public:
+  SharedSides(const AllocationSettings& settings, const AllocationRun& run)
+      : settings_(settings), run_(run) {
+    std::array<std::vector<SlotRange>, 2> sides;
+    for (const CandidateGroup& group : run.input.groups) {
+      sides[0].push_back(group.first);
+      sides[1].push_back(settings.flow == Flow::kSexed ? group.second : group.first);
+    }
+    for (std::size_t k = 0; k < 2; ++k) {
+      identical_[k] = IdenticalParents(run.input.table, run.result.loci.loci, sides[k]);
+    }
+  }
+
+  std::string Text() const {
+    constexpr std::size_t kMostLines = 5;
+    std::string text;
+    std::size_t lines = 0;
+    const auto& offspring = run_.result.confidence->offspring;
+    for (std::size_t i = 0; i < offspring.size(); ++i) {
+      for (std::size_t k = 0; k < 2; ++k) {
+        if (IsShared(offspring[i].sides[k]) && ++lines <= kMostLines) {
+          text += Line(i, k, offspring[i].sides[k]);
+        }
+      }
+    }
+    if (lines > kMostLines) {
+      text += fmt::format("    and {} more\n", lines - kMostLines);
+    }
+    return text.empty() ? text : "  Sides of parents that no locus tells apart:\n" + text;
+  }
+
+ private:
+  bool IsShared(const SideConfidence& side) const {
+    return side.verdict == Verdict::kOpen && side.alike > 1 &&
+           side.p_all_alike >= settings_.confidence.level;
+  }
+
+  std::string Line(std::size_t offspring, std::size_t k, const SideConfidence& side) const {
+    constexpr std::size_t kMostNames = 4;
+    const auto& table = run_.input.table;
+    std::vector<std::string_view> names;
+    for (const Slot slot : identical_[k].Like(side.candidate->slot)) {
+      names.push_back(names.size() < kMostNames ? table.Name(slot).Text() : "...");
+      if (names.size() > kMostNames) {
+        break;
+      }
+    }
+    const Slot slot{run_.input.offspring.begin + static_cast<std::uint32_t>(offspring)};
+    return fmt::format("    {}: one of {} (together {:.2f})\n", table.Name(slot).Text(),
+                       fmt::join(names, ", "), std::min(side.p_all_alike, 1.0));
+  }
+
+  const AllocationSettings& settings_;
+  const AllocationRun& run_;
+  std::array<IdenticalParents, 2> identical_;
+};
 
 /// Loci that do harm, each with what is odd about it.
 std::string LociToLookAt(const AllocationRun& run) {
@@ -84,7 +148,8 @@ std::string ConfidenceText(const AllocationSettings& settings, const AllocationR
   return fmt::format("\nHow sure each allocation is:\n  {:<28}{:>17.4f}  standard error {:.4f}\n",
                      "parents collected", confidence->shares.collected,
                      confidence->shares.standard_error) +
-         SideRows(summary, settings.confidence.level) + WrongNames(summary) + LociToLookAt(run) +
+         SideRows(summary, settings.confidence.level) + WrongNames(summary) +
+         SharedSides(settings, run).Text() + LociToLookAt(run) +
          NoteOn(*confidence, settings.confidence.relatives);
 }
 
