@@ -63,9 +63,9 @@ std::string DoubtsOfModel(const ErrorModel& model, std::size_t without, std::siz
     return {};
   }
   return fmt::format(
-      "  The model holds some readings for impossible. A collected parent whose mate is missing "
-      "is\n"
-      "  lost with it where every other mate would need one: compare with --error {}.\n",
+      "  This model holds some readings for impossible: where one parent was not collected, no\n"
+      "  other may fit in its place, and the collected one is lost, too. Compare with --error "
+      "{}.\n",
       *ErrorModelKind().text(kErrorModelUnlessTold));
 }
 
