@@ -188,7 +188,7 @@ void Row(const Shape& shape, std::string_view name, const ErrorModel& model,
   EvidenceFinder finder(task.Study());
   for (std::uint32_t i = 0; i < plain_offspring; ++i) {
     const Slot slot{input.offspring.begin + i};
-    const Evidence found = finder.Find(slot, EvidenceLimits{}, {}, observer);
+    const Evidence found = finder.Find(slot, {EvidenceLimits{}, {}, false}, observer);
     // In the units of each: over the best pair.
     const double ratio = found.fixed.mean[Explanation::kBoth] / found.fixed.best_pair.likelihood;
     TransmissionScores scores(shape.loci, shape.parents);

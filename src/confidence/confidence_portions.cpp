@@ -23,7 +23,7 @@ class EvidenceWorker final : public PortionWorker {
     BytePacker packer;
     for (const auto& one : ByteUnpacker(order).GetAll<EvidenceOrder>()) {
       const Slot slot{offspring_.begin + one.offspring};
-      finder_.Find(slot, one.limits, one.asked, observer).Pack(packer);
+      finder_.Find(slot, one.wish, observer).Pack(packer);
       observer.OnSteps(1);
     }
     return packer.Take();

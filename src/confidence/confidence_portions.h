@@ -11,11 +11,10 @@
 
 namespace kaldo {
 
-/// What of one offspring is to be found; see EvidenceFinder::Find.
+/// What of one offspring is to be found.
 struct EvidenceOrder {
   std::uint32_t offspring = 0;  ///< counted from 0
-  std::optional<EvidenceLimits> limits;
-  AskedCandidates asked;
+  EvidenceWish wish;
 };
 
 /// The gathering of evidence for stretches of offspring. Every process can make it from settings

@@ -6,13 +6,17 @@
 #include "confidence/confidence_matrix.h"
 #include "confidence/confidence_portions.h"
 #include "confidence/evidence_limits.h"
+#include "confidence/locus_error_rates.h"
 
 namespace kaldo {
 
 namespace {
 
-AskedCandidates AskedFor(const ConfidenceInput& input, std::size_t offspring) {
-  return input.reported.empty() ? AskedCandidates{} : input.reported[offspring];
+EvidenceOrder OrderFor(const ConfidenceInput& input, std::uint32_t offspring,
+                       std::optional<EvidenceLimits> limits) {
+  return {offspring,
+          {limits, input.reported.empty() ? AskedCandidates{} : input.reported[offspring],
+           TellsOfErrorRates(offspring, input.offspring.Size())}};
 }
 
 /// What tells something about the shares, in file order, each over its largest value.
@@ -41,7 +45,7 @@ std::vector<EvidenceOrder> OrdersForMore(const ConfidenceInput& input,
   std::vector<EvidenceOrder> orders;
   for (std::uint32_t i = 0; i < evidence.size(); ++i) {
     if (LeavesOutTooMuch(evidence[i], theta)) {
-      orders.push_back({i, HalfOf(LimitsFor(theta, evidence[i].fixed.mean)), AskedFor(input, i)});
+      orders.push_back(OrderFor(input, i, HalfOf(LimitsFor(theta, evidence[i].fixed.mean))));
     }
   }
   return orders;
@@ -50,7 +54,7 @@ std::vector<EvidenceOrder> OrdersForMore(const ConfidenceInput& input,
 std::vector<EvidenceOrder> FirstOrders(const ConfidenceInput& input) {
   std::vector<EvidenceOrder> orders;
   for (std::uint32_t i = 0; i < input.offspring.Size(); ++i) {
-    orders.push_back({i, std::nullopt, AskedFor(input, i)});
+    orders.push_back(OrderFor(input, i, std::nullopt));
   }
   return orders;
 }
@@ -78,6 +82,7 @@ ConfidenceResult ComputeConfidence(const ConfidenceSettings& settings, const Con
     result.shares = EstimateShares(informative, result.ways);
     orders = OrdersForMore(input, evidence, result.shares.theta);
   }
+  result.error_rates = EstimateErrorRates(input, result.ways, evidence);
   for (std::size_t i = 0; i < evidence.size(); ++i) {
     const auto reported =
         input.reported.empty() ? std::nullopt : std::optional<ReportedParents>(input.reported[i]);

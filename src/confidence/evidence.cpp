@@ -12,6 +12,9 @@ void Evidence::Pack(BytePacker& packer) const {
   for (const auto& shortlist : shortlists) {
     packer.AddAll(std::span<const ShortlistedCandidate>(shortlist));
   }
+  for (const auto& listed : most_likely) {
+    packer.AddAll(std::span<const LikelyParents>(listed));
+  }
 }
 
 Evidence Evidence::Unpack(ByteUnpacker& unpacker) {
@@ -19,6 +22,9 @@ Evidence Evidence::Unpack(ByteUnpacker& unpacker) {
   evidence.fixed = unpacker.Get<Fixed>();
   for (auto& shortlist : evidence.shortlists) {
     shortlist = unpacker.GetAll<ShortlistedCandidate>();
+  }
+  for (auto& listed : evidence.most_likely) {
+    listed = unpacker.GetAll<LikelyParents>();
   }
   return evidence;
 }

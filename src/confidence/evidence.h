@@ -54,6 +54,16 @@ struct BestCandidate {
   double likelihood = 0;
 };
 
+/// One way to explain an offspring: candidates by side, none for a stranger.
+struct LikelyParents {
+  std::array<std::optional<Slot>, 2> parents;
+  double likelihood = 0;
+};
+
+/// So many of the most likely ways of an explanation are listed where that is asked for.
+inline constexpr std::size_t kMostPairsListed = 500;
+inline constexpr std::size_t kMostCandidatesListed = 100;
+
 /// What the genotypes say about one offspring, before anything is known about how many parents
 /// were collected.
 struct Evidence {
@@ -81,6 +91,10 @@ struct Evidence {
 
   /// By side; in the non-sexed flow all stand on the first.
   std::array<std::vector<ShortlistedCandidate>, 2> shortlists;
+
+  /// The most likely ways of each explanation but that of two strangers; empty where not asked
+  /// for. By kAllExplanations.
+  std::array<std::vector<LikelyParents>, 3> most_likely;
 
   void Pack(BytePacker& packer) const;
   static Evidence Unpack(ByteUnpacker& unpacker);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "confidence/evidence_finder.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/problem.h"
@@ -74,7 +75,24 @@ CandidateEvidence& EvidenceFinder::At(std::size_t side, Slot slot) {
   return found.evidence;
 }
 
-void EvidenceFinder::FindWithStranger(double limit, Evidence& evidence) {
+/// The most likely candidates with a stranger, the likeliest first, equals in file order.
+void EvidenceFinder::ListWithStranger(std::size_t side, Evidence& evidence) {
+  auto& listed = evidence.most_likely[static_cast<std::size_t>(kOneCollected[side])];
+  listed.clear();
+  const std::size_t count = std::min(kMostCandidatesListed, with_stranger_.size());
+  const auto is_before = [](const ParentLikelihood& a, const ParentLikelihood& b) {
+    return a.likelihood > b.likelihood || (a.likelihood == b.likelihood && a.parent < b.parent);
+  };
+  std::partial_sort(with_stranger_.begin(),
+                    with_stranger_.begin() + static_cast<std::ptrdiff_t>(count),
+                    with_stranger_.end(), is_before);
+  for (std::size_t i = 0; i < count; ++i) {
+    listed.push_back({{}, with_stranger_[i].likelihood});
+    listed.back().parents[side] = with_stranger_[i].parent;
+  }
+}
+
+void EvidenceFinder::FindWithStranger(double limit, bool list, Evidence& evidence) {
   for (std::size_t side = 0; side < Sides(); ++side) {
     const Explanation explanation = kOneCollected[side];
     if (study_.ways[explanation] == 0) {
@@ -97,14 +115,22 @@ void EvidenceFinder::FindWithStranger(double limit, Evidence& evidence) {
       }
     }
     evidence.fixed.mean[explanation] = sum / study_.ways[explanation];
+    if (list) {
+      ListWithStranger(side, evidence);
+    }
   }
 }
 
-void EvidenceFinder::FindPairs(double limit, Evidence& evidence, const RunObserver& observer) {
+void EvidenceFinder::FindPairs(double limit, bool list, Evidence& evidence,
+                               const RunObserver& observer) {
   if (study_.ways[Explanation::kBoth] == 0) {
     return;
   }
-  sums_.SumUp(limit, observer);
+  sums_.SumUp(limit, list ? kMostPairsListed : 0, observer);
+  for (const PairLikelihood& one : sums_.MostLikely()) {
+    evidence.most_likely[static_cast<std::size_t>(Explanation::kBoth)].push_back(
+        {{one.pair.parent1, one.pair.parent2}, one.likelihood});
+  }
   evidence.fixed.mean[Explanation::kBoth] = sums_.Total() / study_.ways[Explanation::kBoth];
   for (std::size_t side = 0; side < Sides(); ++side) {
     for (const ParentSum& one : side == 0 ? sums_.SumsOfFirst() : sums_.SumsOfSecond()) {
@@ -185,8 +211,8 @@ void EvidenceFinder::Answer(const AskedCandidates& asked, bool is_typed, Evidenc
   }
 }
 
-Evidence EvidenceFinder::Find(Slot offspring, const std::optional<EvidenceLimits>& limits,
-                              const AskedCandidates& asked, const RunObserver& observer) {
+Evidence EvidenceFinder::Find(Slot offspring, const EvidenceWish& wish,
+                              const RunObserver& observer) {
   if (observer.StopRequested()) {
     throw RunStopped();
   }
@@ -198,17 +224,18 @@ Evidence EvidenceFinder::Find(Slot offspring, const std::optional<EvidenceLimits
     auto& used = evidence.fixed.limits;
     sums_.GoTo(offspring, scales_);
     mean[Explanation::kNone] = TwoStrangers();
-    used.candidates = limits ? limits->candidates : HalfOf(LimitsFor(equal, mean)).candidates;
-    FindWithStranger(used.candidates, evidence);
-    used.pairs = limits ? limits->pairs : HalfOf(LimitsFor(equal, mean)).pairs;
-    FindPairs(used.pairs, evidence, observer);
+    used.candidates =
+        wish.limits ? wish.limits->candidates : HalfOf(LimitsFor(equal, mean)).candidates;
+    FindWithStranger(used.candidates, wish.list_most_likely, evidence);
+    used.pairs = wish.limits ? wish.limits->pairs : HalfOf(LimitsFor(equal, mean)).pairs;
+    FindPairs(used.pairs, wish.list_most_likely, evidence, observer);
   } else {
     FillUntyped(evidence);
   }
   for (std::size_t side = 0; side < Sides(); ++side) {
     TakeShortlist(side, evidence);
   }
-  Answer(asked, evidence.fixed.is_typed, evidence);
+  Answer(wish.asked, evidence.fixed.is_typed, evidence);
   for (std::size_t side = 0; side < Sides(); ++side) {
     for (const Slot slot : listed_[side]) {
       found_[side][slot.Value()] = {};

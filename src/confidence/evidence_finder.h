@@ -16,6 +16,14 @@ namespace kaldo {
 /// Candidates of which a result has to tell, by side, however improbable they are.
 using AskedCandidates = std::array<std::optional<Slot>, 2>;
 
+/// What is wanted about one offspring.
+struct EvidenceWish {
+  /// What may be left out; none: what equal shares of the explanations allow.
+  std::optional<EvidenceLimits> limits;
+  AskedCandidates asked;
+  bool list_most_likely = false;  ///< see Evidence::most_likely
+};
+
 /// What is the same for every offspring of a run. It refers to everything but the ways.
 struct EvidenceStudy {
   SearchStudy search;  ///< with the matrices M' of this room
@@ -36,16 +44,15 @@ class EvidenceFinder {
  public:
   explicit EvidenceFinder(const EvidenceStudy& study);
 
-  /// Leaves out what lies below the limits; without any, what equal shares of the explanations
-  /// allow. Throws RunStopped when the observer asks.
-  Evidence Find(Slot offspring, const std::optional<EvidenceLimits>& limits,
-                const AskedCandidates& asked, const RunObserver& observer);
+  /// Throws RunStopped when the observer asks.
+  Evidence Find(Slot offspring, const EvidenceWish& wish, const RunObserver& observer);
 
  private:
   bool ScoreStranger(Slot offspring);
   double TwoStrangers() const;
-  void FindWithStranger(double limit, Evidence& evidence);
-  void FindPairs(double limit, Evidence& evidence, const RunObserver& observer);
+  void FindWithStranger(double limit, bool list, Evidence& evidence);
+  void ListWithStranger(std::size_t side, Evidence& evidence);
+  void FindPairs(double limit, bool list, Evidence& evidence, const RunObserver& observer);
   void FillUntyped(Evidence& evidence);
   void SetPartnersOfUntyped(const CandidateGroup& group, Evidence& evidence);
   CandidateEvidence& At(std::size_t side, Slot slot);

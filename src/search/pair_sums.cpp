@@ -266,6 +266,24 @@ void PairSums::AddRow(std::size_t first_parent, std::size_t begin,
   }
 }
 
+void PairSums::ListRow(std::size_t first_parent, std::size_t begin,
+                       std::span<const double> likelihoods, std::size_t most) {
+  const auto is_more_likely = [](const PairLikelihood& a, const PairLikelihood& b) {
+    return a.likelihood > b.likelihood;
+  };
+  for (std::size_t i = 0; i < likelihoods.size(); ++i) {
+    if (most_likely_.size() == most) {
+      if (likelihoods[i] <= most_likely_.front().likelihood) {
+        continue;
+      }
+      std::pop_heap(most_likely_.begin(), most_likely_.end(), is_more_likely);
+      most_likely_.pop_back();
+    }
+    most_likely_.push_back({PairAt(first_parent, begin + i), likelihoods[i]});
+    std::push_heap(most_likely_.begin(), most_likely_.end(), is_more_likely);
+  }
+}
+
 void PairSums::TakeSums() {
   for (std::size_t side = 0; side < (flow_ == Flow::kSexed ? 2U : 1U); ++side) {
     for (std::size_t i = 0; i < sides_[side].Count(); ++i) {
@@ -276,8 +294,9 @@ void PairSums::TakeSums() {
   }
 }
 
-void PairSums::SumUp(double limit, const RunObserver& observer) {
+void PairSums::SumUp(double limit, std::size_t most_listed, const RunObserver& observer) {
   total_ = 0;
+  most_likely_.clear();
   sums_[0].clear();
   sums_[1].clear();
   best_ = {};
@@ -285,11 +304,14 @@ void PairSums::SumUp(double limit, const RunObserver& observer) {
   cost_limit_ = CostLimit(limit);
   for (const CandidateGroup& group : groups_) {
     if (Arrange(group)) {
-      WalkGroup(observer,
-                [this](std::size_t parent, std::size_t begin, std::span<const double> likelihoods) {
-                  AddRow(parent, begin, likelihoods);
-                  CompareRow(parent, begin, likelihoods);
-                });
+      WalkGroup(observer, [this, most_listed](std::size_t parent, std::size_t begin,
+                                              std::span<const double> likelihoods) {
+        AddRow(parent, begin, likelihoods);
+        CompareRow(parent, begin, likelihoods);
+        if (most_listed > 0) {
+          ListRow(parent, begin, likelihoods, most_listed);
+        }
+      });
       TakeSums();
     }
   }

@@ -25,6 +25,12 @@ struct ParentLikelihood {
   double likelihood = 0;
 };
 
+/// A pair with its likelihood.
+struct PairLikelihood {
+  ParentPair pair;
+  double likelihood = 0;
+};
+
 /// The most likely pair, and how far it stands out.
 struct BestPair {
   ParentPair pair;
@@ -60,8 +66,9 @@ class PairSums {
   void GoTo(Slot offspring, std::span<const double> scales);
 
   /// All pairs that may have a scaled likelihood of `limit` or more, which is above 0, and some
-  /// below it. Throws RunStopped when the observer asks.
-  void SumUp(double limit, const RunObserver& observer);
+  /// below it. Keeps the `most_listed` most likely of them. Throws RunStopped when the observer
+  /// asks.
+  void SumUp(double limit, std::size_t most_listed, const RunObserver& observer);
 
   /// The sum over those pairs.
   double Total() const { return total_; }
@@ -70,6 +77,9 @@ class PairSums {
   /// non-sexed flow every parent is a first one, whatever its place in the pair.
   std::span<const ParentSum> SumsOfFirst() const { return sums_[0]; }
   std::span<const ParentSum> SumsOfSecond() const { return sums_[1]; }
+
+  /// The most likely pairs that were summed up, in no particular order.
+  std::span<const PairLikelihood> MostLikely() const { return most_likely_; }
 
   /// The most likely pair of all. Of several that are exactly so likely the first one in the order
   /// of the scan. To be asked after SumUp().
@@ -112,6 +122,8 @@ class PairSums {
                    std::span<double> likelihoods) const;
   void AddRow(std::size_t first_parent, std::size_t begin, std::span<const double> likelihoods);
   void CompareRow(std::size_t first_parent, std::size_t begin, std::span<const double> likelihoods);
+  void ListRow(std::size_t first_parent, std::size_t begin, std::span<const double> likelihoods,
+               std::size_t most);
   void TakeSums();
   ParentPair PairAt(std::size_t first_parent, std::size_t partner) const;
   const Side& Partners() const { return sides_[flow_ == Flow::kSexed ? 1 : 0]; }
@@ -140,6 +152,7 @@ class PairSums {
   double total_ = 0;
   std::array<std::vector<ParentSum>, 2> sums_;
   BestPair best_;
+  std::vector<PairLikelihood> most_likely_;  ///< a heap, the least likely one in front
   std::vector<std::uint64_t> order_;
 };
 

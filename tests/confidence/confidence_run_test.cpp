@@ -7,50 +7,25 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/confidence/known_parents.h"
 #include "tests/confidence/plain_confidence.h"
-#include "tests/support/random_study.h"
+#include "tests/confidence/study_runs.h"
 
 namespace kaldo {
 namespace {
 
+using test::Compute;
+using test::InputOf;
+using test::KnownParents;
+using test::NoError;
 using test::PlainConfidence;
 using test::RandomStudy;
 using test::RandomStudyMaker;
 using test::StudyShape;
+using test::Uniform;
 
 // Pairs and candidates left out have less than this share of the evidence of each offspring.
 constexpr double kTolerance = 1e-6;
-
-ErrorModel Uniform(double epsilon) {
-  ErrorModel model;
-  model.kind = ErrorKind::kUniform;
-  model.epsilon = epsilon;
-  return model;
-}
-
-ErrorModel NoError() {
-  ErrorModel model;
-  model.kind = ErrorKind::kNoError;
-  return model;
-}
-
-ConfidenceInput InputOf(const RandomStudy& study) {
-  return {study.flow,
-          study.table,
-          {study.parents, static_cast<std::uint32_t>(study.table.NumberOfIndividuals())},
-          study.groups,
-          study.catalogues,
-          study.loci,
-          {}};
-}
-
-ConfidenceResult Compute(const ErrorModel& model, const ConfidenceInput& input,
-                         unsigned threads = 1) {
-  LocalThreads workforce;
-  RunObserver observer;
-  return ComputeConfidence({model, kDefaultConfidenceLevel, threads}, input, workforce, observer,
-                           [] { return RunRecord(); });
-}
 
 /// What the comparison met.
 using Coverage = std::map<std::string, int>;
@@ -324,89 +299,6 @@ TEST_F(TwoLoci, NothingIsComputedFromNegativeProbabilities) {
   EXPECT_TRUE(result.offspring.empty());
 }
 
-/// A population with known parents, a share of them collected.
-class KnownParents {
- public:
-  KnownParents(unsigned seed, std::uint32_t loci, std::uint32_t alleles, double collected)
-      : random_(seed), table_(loci), alleles_(alleles) {
-    constexpr std::uint32_t kMales = 40;
-    constexpr std::uint32_t kFemales = 40;
-    constexpr int kOffspring = 400;
-    for (std::uint32_t i = 0; i < kMales + kFemales; ++i) {
-      AddStranger(table_.AddIndividual("parent"));
-    }
-    groups_ = {{{0, kMales}, {kMales, kMales + kFemales}}};
-    offspring_ = {kMales + kFemales, kMales + kFemales + kOffspring};
-    GenotypeTable uncollected(loci);
-    for (int i = 0; i < kOffspring; ++i) {
-      std::array<std::optional<Slot>, 2> parents;
-      for (std::uint32_t side = 0; side < 2; ++side) {
-        if (Share() < collected) {
-          parents[side] = Slot{side * kMales + Draw(kMales)};
-        }
-      }
-      AddOffspring(parents);
-      truth_.push_back(parents);
-    }
-    for (std::uint32_t locus = 0; locus < loci; ++locus) {
-      loci_.emplace_back(locus);
-      catalogues_.push_back(AlleleCatalogue::Build(table_.Locus(LocusIndex{locus})).value());
-      catalogues_.back().SortSizes();
-      catalogues_.back().ReIndex(table_.Locus(LocusIndex{locus}));
-    }
-  }
-
-  ConfidenceInput Input() const {
-    return {Flow::kSexed, table_, offspring_, groups_, catalogues_, loci_, {}};
-  }
-  bool IsParent(std::size_t offspring, std::size_t side, std::optional<Slot> slot) const {
-    return truth_[offspring][side] == slot;
-  }
-
- private:
-  static constexpr double kTypingError = 0.01;
-
-  std::uint32_t Draw(std::uint32_t count) { return static_cast<std::uint32_t>(random_() % count); }
-  double Share() { return static_cast<double>(random_()) / 4294967296.0; }
-  AlleleSize RandomAllele() { return AlleleSize{100 + 2 * Draw(alleles_)}; }
-
-  void AddStranger(Slot slot) {
-    for (std::uint32_t locus = 0; locus < table_.NumberOfLoci(); ++locus) {
-      LocusGenotype& genotype = table_.Genotype(LocusIndex{locus}, slot);
-      genotype.allele1 = RandomAllele();
-      genotype.allele2 = RandomAllele();
-    }
-  }
-
-  AlleleSize Given(LocusIndex locus, std::optional<Slot> parent) {
-    if (!parent || Share() < kTypingError) {
-      return RandomAllele();
-    }
-    const LocusGenotype& genotype = table_.Genotype(locus, *parent);
-    return Draw(2) == 0 ? genotype.allele1 : genotype.allele2;
-  }
-
-  void AddOffspring(const std::array<std::optional<Slot>, 2>& parents) {
-    const Slot slot = table_.AddIndividual("offspring");
-    for (std::uint32_t l = 0; l < table_.NumberOfLoci(); ++l) {
-      const LocusIndex locus{l};
-      const AlleleSize one = Given(locus, parents[0]);
-      const AlleleSize other = Given(locus, parents[1]);
-      table_.Genotype(locus, slot).allele1 = one;
-      table_.Genotype(locus, slot).allele2 = other;
-    }
-  }
-
-  std::mt19937 random_;
-  GenotypeTable table_;
-  std::uint32_t alleles_;
-  std::vector<LocusIndex> loci_;
-  AlleleCatalogues catalogues_;
-  std::vector<CandidateGroup> groups_;
-  SlotRange offspring_;
-  std::vector<std::array<std::optional<Slot>, 2>> truth_;
-};
-
 /// Of what is predicted with a probability of 0.7, seven of ten come true.
 TEST(Confidence, PredictsHowOftenItIsRight) {
   struct Bin {
@@ -416,7 +308,7 @@ TEST(Confidence, PredictsHowOftenItIsRight) {
   };
   std::array<Bin, 5> bins;
   for (const unsigned seed : {1U, 2U, 3U}) {
-    const KnownParents study(seed, 5, 8, 0.6);
+    const KnownParents study({.seed = seed, .loci = 5, .alleles = 8, .collected = 0.6});
     const ConfidenceResult result = Compute(Uniform(0.01), study.Input());
     EXPECT_NEAR(result.shares.collected, 0.6, 3 * result.shares.standard_error);
     for (std::size_t i = 0; i < result.offspring.size(); ++i) {
@@ -454,7 +346,7 @@ void ExpectSame(const OffspringConfidence& a, const OffspringConfidence& b) {
 }
 
 TEST(Confidence, IsTheSameForAnyNumberOfThreads) {
-  const KnownParents study(7, 6, 8, 0.5);
+  const KnownParents study({.seed = 7, .loci = 6, .alleles = 8});
   const ConfidenceResult one = Compute(ErrorModel{}, study.Input(), 1);
   for (const unsigned threads : {2U, 3U, 7U}) {
     const ConfidenceResult many = Compute(ErrorModel{}, study.Input(), threads);

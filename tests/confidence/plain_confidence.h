@@ -31,10 +31,7 @@ class PlainConfidence {
     for (const LocusIndex locus : input.loci) {
       CountAlleles(locus);
     }
-    for (std::uint32_t slot = input.offspring.begin; slot < input.offspring.end; ++slot) {
-      ways_.push_back(AllWays(Slot{slot}));
-    }
-    EstimateShares();
+    Explain();
   }
 
   const std::array<Number, 4>& Theta() const { return theta_; }
@@ -67,7 +64,78 @@ class PlainConfidence {
     return sums;
   }
 
+  /// The share of genes misread at every locus; the posteriors are those under these rates then.
+  std::vector<double> ErrorRates() {
+    constexpr Number kWeight = 20;
+    for (const LocusIndex locus : input_.loci) {
+      rates_[locus] = 0.01L;
+    }
+    Number move = 1;
+    for (int sweep = 0; sweep < 25 && move >= 1e-4L; ++sweep) {
+      Explain();
+      std::map<LocusIndex, Number> misread;
+      std::map<LocusIndex, Number> genes;
+      Number all_misread = 0;
+      Number all_genes = 0;
+      for (std::size_t i = 0; i < ways_.size(); ++i) {
+        for (const LocusIndex locus : input_.loci) {
+          const LocusGenotype& child = input_.table.Genotype(locus, SlotAt(i));
+          if (child.IsMissing() || input_.catalogues[locus.Value()].Sizes().size() == 1) {
+            continue;
+          }
+          genes[locus] += 2;
+          all_genes += 2;
+          for (const Way& way : ways_[i]) {
+            const Number one = Probability(i, way) * Misread(locus, child, way);
+            misread[locus] += one;
+            all_misread += one;
+          }
+        }
+      }
+      move = 0;
+      for (auto& [locus, count] : genes) {
+        const Number rate = std::clamp(
+            (misread[locus] + kWeight * all_misread / all_genes) / (count + kWeight), 1e-4L, 0.5L);
+        move = std::max(move, std::abs(rate - rates_[locus]));
+        rates_[locus] = rate;
+      }
+    }
+    std::vector<double> rates;
+    for (const LocusIndex locus : input_.loci) {
+      rates.push_back(static_cast<double>(rates_[locus]));
+    }
+    return rates;
+  }
+
  private:
+  /// What a score counts: alleles read right, misread, or both.
+  enum class Part { kRight, kMisread, kAll };
+
+  void Explain() {
+    ways_.clear();
+    means_.clear();
+    for (std::uint32_t slot = input_.offspring.begin; slot < input_.offspring.end; ++slot) {
+      ways_.push_back(AllWays(Slot{slot}));
+    }
+    EstimateShares();
+  }
+
+  Slot SlotAt(std::size_t offspring) const {
+    return Slot{input_.offspring.begin + static_cast<std::uint32_t>(offspring)};
+  }
+
+  /// The genes of an offspring that one way holds for misread at a locus: (f1 + 2 f2) / f.
+  Number Misread(LocusIndex locus, const LocusGenotype& child, const Way& way) const {
+    const auto factor = [&](Part first, Part second) {
+      const Scores a = ScoresAt(locus, child, way.parents[0], first);
+      const Scores b = ScoresAt(locus, child, way.parents[1], second);
+      return a.r * b.j + a.j * b.r;
+    };
+    return (factor(Part::kRight, Part::kMisread) + factor(Part::kMisread, Part::kRight) +
+            2 * factor(Part::kMisread, Part::kMisread)) /
+           factor(Part::kAll, Part::kAll);
+  }
+
   struct Scores {
     Number r = 1;
     Number j = 0.5L;
@@ -109,6 +177,10 @@ class PlainConfidence {
     const auto at = [&](AlleleSize size) {
       return static_cast<std::size_t>(std::find(sizes.begin(), sizes.end(), size) - sizes.begin());
     };
+    if (rates_.count(locus) > 0) {
+      const Number rate = rates_.at(locus);
+      return carried == read ? 1 - rate : rate / static_cast<Number>(sizes.size() - 1);
+    }
     const Number m = BuildMatrix(model_, sizes)(at(carried), at(read));
     const bool leaky = model_.kind == ErrorKind::kUniform && model_.epsilon > 0;
     const Number lambda = leaky ? 0 : 0.01L;
@@ -144,15 +216,21 @@ class PlainConfidence {
     return slots;
   }
 
-  Scores ScoresAt(LocusIndex locus, const LocusGenotype& child, std::optional<Slot> parent) const {
+  Scores ScoresAt(LocusIndex locus, const LocusGenotype& child, std::optional<Slot> parent,
+                  Part part = Part::kAll) const {
+    const auto reading = [&](AlleleSize carried, AlleleSize read) {
+      return part == Part::kAll || (carried == read) == (part == Part::kRight)
+                 ? Reading(locus, carried, read)
+                 : 0;
+    };
     const auto gives = [&](AlleleSize read) {
       if (parent) {
         const LocusGenotype& genotype = input_.table.Genotype(locus, *parent);
-        return Reading(locus, genotype.allele1, read) + Reading(locus, genotype.allele2, read);
+        return reading(genotype.allele1, read) + reading(genotype.allele2, read);
       }
       Number sum = 0;
       for (const auto& [size, frequency] : frequencies_.at(locus)) {
-        sum += 2 * frequency * Reading(locus, size, read);
+        sum += 2 * frequency * reading(size, read);
       }
       return sum;
     };
@@ -200,9 +278,8 @@ class PlainConfidence {
   }
 
   bool IsTyped(std::size_t offspring) const {
-    const auto slot = Slot{input_.offspring.begin + static_cast<std::uint32_t>(offspring)};
     return std::any_of(input_.loci.begin(), input_.loci.end(), [&](LocusIndex locus) {
-      return !input_.table.Genotype(locus, slot).IsMissing();
+      return !input_.table.Genotype(locus, SlotAt(offspring)).IsMissing();
     });
   }
 
@@ -242,6 +319,7 @@ class PlainConfidence {
   ErrorModel model_;
   ConfidenceInput input_;
   std::map<LocusIndex, std::map<AlleleSize, Number>> frequencies_;
+  std::map<LocusIndex, Number> rates_;  ///< in the place of the model
   std::vector<std::vector<Way>> ways_;
   std::vector<std::array<Number, 4>> means_;
   std::array<Number, 4> theta_{};

@@ -114,7 +114,7 @@ void CompareStudy(const RandomStudy& study, RandomStudyMaker& random, PairSums& 
     const BestPair best = BestOf(pairs);
     const double limit = SomeLimit(random, best);
     sums.GoTo(Slot{i}, ones);
-    sums.SumUp(limit, observer);
+    sums.SumUp(limit, 0, observer);
     ExpectSums(sums.SumsOfFirst(), BoundsByParent(study, pairs, limit, false));
     if (study.flow == Flow::kSexed) {
       ExpectSums(sums.SumsOfSecond(), BoundsByParent(study, pairs, limit, true));
