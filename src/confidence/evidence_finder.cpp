@@ -2,7 +2,6 @@
 #include "confidence/evidence_finder.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "base/problem.h"
 #include "confidence/evidence_limits.h"
@@ -11,59 +10,16 @@ namespace kaldo {
 
 namespace {
 
-// No factor of a locus is larger: scores are at most 2.
-constexpr double kLargestFactor = 8;
-
-/// The factor of a locus.
-double Factor(PairSums::Scores one, PairSums::Scores other) {
-  return one.r * other.j + one.j * other.r;
-}
-
-/// The power of two by which the scores of a locus are multiplied: the factor of two strangers and
-/// the largest one that can be then lie about as far below 1 as above. With 50 loci of 50,000
-/// parents the products of both stay within the range of a double.
-double ScaleOf(double strangers_factor) {
-  return std::exp2(-std::round(std::log2(kLargestFactor * strangers_factor) / 4));
-}
-
 constexpr std::array<Explanation, 2> kOneCollected = {Explanation::kFirst, Explanation::kSecond};
 
 }  // namespace
 
-EvidenceFinder::EvidenceFinder(const EvidenceStudy& study) : study_(study) {
+EvidenceFinder::EvidenceFinder(const EvidenceStudy& study)
+    : study_(study), stranger_(study.search, study.strangers) {
   sums_.Prepare(study_.search, study_.flow, study_.groups);
-  stranger_.resize(study_.search.loci.size());
-  scales_.resize(study_.search.loci.size());
   for (std::size_t side = 0; side < Sides(); ++side) {
     found_[side].resize(study_.search.parents);
   }
-}
-
-/// The scores of a stranger; false where nothing is typed.
-bool EvidenceFinder::ScoreStranger(Slot offspring) {
-  bool is_typed = false;
-  for (std::size_t k = 0; k < stranger_.size(); ++k) {
-    const LocusGenotype& genotype = study_.search.Genotypes(k)[offspring.Value()];
-    stranger_[k] = {1, 0.5};
-    scales_[k] = 1;
-    if (!genotype.IsMissing()) {
-      is_typed = true;
-      const auto& scores = study_.strangers[study_.search.loci[k].Value()];
-      const PairSums::Scores own = {scores[genotype.index1.Value()],
-                                    scores[genotype.index2.Value()]};
-      scales_[k] = ScaleOf(Factor(own, own));
-      stranger_[k] = {own.r * scales_[k], own.j * scales_[k]};
-    }
-  }
-  return is_typed;
-}
-
-double EvidenceFinder::TwoStrangers() const {
-  double product = 1;
-  for (const auto& scores : stranger_) {
-    product *= Factor(scores, scores);
-  }
-  return product;
 }
 
 CandidateEvidence& EvidenceFinder::At(std::size_t side, Slot slot) {
@@ -99,11 +55,11 @@ void EvidenceFinder::FindWithStranger(double limit, bool list, Evidence& evidenc
       continue;
     }
     with_stranger_.clear();
-    sums_.PairWith(stranger_, side == 1, limit, with_stranger_);
+    sums_.PairWith(stranger_.OfLoci(), side == 1, Kin::kSelf, limit, with_stranger_);
     if (with_stranger_.size() < kCandidatesTold) {
       // Somebody is the most probable candidate, however improbable.
       with_stranger_.clear();
-      sums_.PairWith(stranger_, side == 1, 0, with_stranger_);
+      sums_.PairWith(stranger_.OfLoci(), side == 1, Kin::kSelf, 0, with_stranger_);
     }
     double sum = 0;
     BestCandidate& best = evidence.fixed.best_with_stranger[side];
@@ -143,8 +99,8 @@ void EvidenceFinder::FindPairs(double limit, bool list, Evidence& evidence,
                                 best.likelihood,
                                 best.second,
                                 best.pairs,
-                                sums_.LikelihoodWith(stranger_, best.pair.parent2),
-                                sums_.LikelihoodWith(stranger_, best.pair.parent1)};
+                                sums_.LikelihoodWith(stranger_.OfLoci(), best.pair.parent2),
+                                sums_.LikelihoodWith(stranger_.OfLoci(), best.pair.parent1)};
   }
 }
 
@@ -204,7 +160,7 @@ void EvidenceFinder::Answer(const AskedCandidates& asked, bool is_typed, Evidenc
     if (asked[i]) {
       CandidateEvidence answer = found_[Sides() == 2 ? i : 0][asked[i]->Value()].evidence;
       if (is_typed) {
-        answer.with_stranger = sums_.LikelihoodWith(stranger_, *asked[i]);
+        answer.with_stranger = sums_.LikelihoodWith(stranger_.OfLoci(), *asked[i]);
       }
       evidence.fixed.asked[i] = answer;
     }
@@ -217,13 +173,13 @@ Evidence EvidenceFinder::Find(Slot offspring, const EvidenceWish& wish,
     throw RunStopped();
   }
   Evidence evidence;
-  evidence.fixed.is_typed = ScoreStranger(offspring);
+  evidence.fixed.is_typed = stranger_.GoTo(offspring);
   if (evidence.fixed.is_typed) {
     const ByExplanation<double> equal = EqualShares(study_.ways);
     auto& mean = evidence.fixed.mean;
     auto& used = evidence.fixed.limits;
-    sums_.GoTo(offspring, scales_);
-    mean[Explanation::kNone] = TwoStrangers();
+    sums_.GoTo(offspring, stranger_.Scales());
+    mean[Explanation::kNone] = stranger_.LikelihoodOfTwo();
     used.candidates =
         wish.limits ? wish.limits->candidates : HalfOf(LimitsFor(equal, mean)).candidates;
     FindWithStranger(used.candidates, wish.list_most_likely, evidence);

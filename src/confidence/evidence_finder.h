@@ -9,6 +9,7 @@
 #include "base/run_observer.h"
 #include "confidence/evidence.h"
 #include "confidence/identical_parents.h"
+#include "confidence/scaled_stranger.h"
 #include "search/pair_sums.h"
 
 namespace kaldo {
@@ -48,8 +49,6 @@ class EvidenceFinder {
   Evidence Find(Slot offspring, const EvidenceWish& wish, const RunObserver& observer);
 
  private:
-  bool ScoreStranger(Slot offspring);
-  double TwoStrangers() const;
   void FindWithStranger(double limit, bool list, Evidence& evidence);
   void ListWithStranger(std::size_t side, Evidence& evidence);
   void FindPairs(double limit, bool list, Evidence& evidence, const RunObserver& observer);
@@ -70,8 +69,7 @@ class EvidenceFinder {
   PairSums sums_;
 
   // Of the current offspring:
-  std::vector<PairSums::Scores> stranger_;  ///< scaled, by locus of the run
-  std::vector<double> scales_;              ///< by locus of the run
+  ScaledStranger stranger_;
   std::vector<ParentLikelihood> with_stranger_;
   std::array<std::vector<Found>, 2> found_;  ///< by side and slot
   std::array<std::vector<Slot>, 2> listed_;  ///< those with anything found

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <vector>
 
+#include "confidence/delta_method.h"
+
 namespace kaldo {
 
 namespace {
@@ -52,12 +54,11 @@ std::vector<Explanation> FreeExplanations(const ByExplanation<double>& theta) {
   return free;
 }
 
-using Matrix = std::vector<std::vector<double>>;
-
-Matrix Information(Evidence offspring, const ByExplanation<double>& theta,
-                   const ByExplanation<double>& theta0, std::span<const Explanation> free) {
+SquareMatrix Information(Evidence offspring, const ByExplanation<double>& theta,
+                         const ByExplanation<double>& theta0, std::span<const Explanation> free) {
   const auto prior = [&](Explanation k) { return theta0[k] / (theta[k] * theta[k]); };
-  Matrix information(free.size(), std::vector<double>(free.size(), prior(Explanation::kNone)));
+  SquareMatrix information(free.size(),
+                           std::vector<double>(free.size(), prior(Explanation::kNone)));
   for (std::size_t a = 0; a < free.size(); ++a) {
     information[a][a] += prior(free[a]);
   }
@@ -73,23 +74,6 @@ Matrix Information(Evidence offspring, const ByExplanation<double>& theta,
     }
   }
   return information;
-}
-
-/// weights' x information^-1 x weights, by elimination; the information is positive definite.
-double Variance(Matrix information, std::vector<double> weights) {
-  double variance = 0;
-  for (std::size_t a = 0; a < weights.size(); ++a) {
-    const double pivot = information[a][a];
-    variance += weights[a] * weights[a] / pivot;
-    for (std::size_t b = a + 1; b < weights.size(); ++b) {
-      const double factor = information[b][a] / pivot;
-      weights[b] -= factor * weights[a];
-      for (std::size_t c = a; c < weights.size(); ++c) {
-        information[b][c] -= factor * information[a][c];
-      }
-    }
-  }
-  return variance;
 }
 
 }  // namespace
@@ -118,7 +102,7 @@ ExplanationShares EstimateShares(std::span<const ByExplanation<double>> evidence
     weights.push_back(CollectedShare(k));
   }
   shares.standard_error =
-      std::sqrt(Variance(Information(evidence, shares.theta, theta0, free), weights));
+      std::sqrt(VarianceOfSum(Information(evidence, shares.theta, theta0, free), weights));
   return shares;
 }
 

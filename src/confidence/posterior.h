@@ -67,6 +67,35 @@ struct OffspringConfidence {
 /// What the allocation says about an offspring, by side: the slot of a parent, none for UC.
 using ReportedParents = std::array<std::optional<Slot>, 2>;
 
+/// A candidate with its probability, and what all have together that no genotype tells apart.
+struct RankedCandidate {
+  Slot slot;
+  double probability = 0;
+  std::uint32_t alike = 1;
+  double p_all_alike = 0;
+};
+
+/// The explanations of one offspring once their shares are known. Trivially copyable.
+struct WeighedExplanations {
+  bool is_possible = true;  ///< false where every likelihood is 0: nothing else means anything
+  ByExplanation<double> p_explanation;
+
+  /// By side, the most probable one first; in the non-sexed flow all stand on the first side.
+  std::array<std::array<std::optional<RankedCandidate>, kCandidatesTold>, 2> ranked;
+
+  std::array<std::optional<double>, 2> asked;  ///< the probability of a candidate asked for
+
+  /// The most probable candidate of a side with a parent that was not collected, and how probable
+  /// just that is.
+  std::array<std::optional<ProbableParent>, 2> best_alone;
+  double p_best_pair = 0;
+};
+
+/// Puts down what follows for an offspring.
+OffspringConfidence Conclude(const WeighedExplanations& weighed, const Evidence::Fixed& evidence,
+                             Flow flow, double level,
+                             const std::optional<ReportedParents>& reported);
+
 /// The posterior probabilities of one offspring (Bayes' rule): a pair has
 ///
 ///   theta_both L(i,j) / pairs

@@ -67,13 +67,13 @@ class Measures {
   std::size_t in_use_ = 0;
 };
 
+}  // namespace
+
 std::uint8_t CostOf(double log_length, double log_largest) {
   const double cost = kCostsPerNat * (log_largest - log_length) - kRoundingMargin;
   // Above 0, so that cutting off the fraction rounds down. No number is no cost.
   return cost > 0 ? static_cast<std::uint8_t>(std::min(cost, kLargestCost)) : std::uint8_t{0};
 }
-
-}  // namespace
 
 void LocusBounds::Build(const ParentClasses& parents, const TransmissionMatrix& matrix,
                         AlleleIndex r, AlleleIndex j, double side_ratio) {

@@ -12,6 +12,9 @@ namespace kaldo {
 /// Units of a cost per factor of e in a likelihood.
 inline constexpr double kCostsPerNat = 16;
 
+/// The cost of a parent with this logarithm of |v| at a locus, rounded down.
+std::uint8_t CostOf(double log_length, double log_largest);
+
 /// What the parents can have given to one genotype of the offspring at one locus, shared by all
 /// offspring with that genotype.
 ///

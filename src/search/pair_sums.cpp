@@ -15,11 +15,9 @@ namespace {
 // Partners whose likelihoods are computed together, so that they stay in the nearest cache.
 constexpr std::size_t kPartnersAtOnce = 128;
 
-// Parents whose scores are looked up together, for the same reason.
-constexpr std::size_t kParentsAtOnce = 64;
-
 constexpr std::uint16_t kNobody = 0xffff;
 constexpr std::int32_t kNoLimit = 0x7fff;
+constexpr std::uint32_t kNowhere = 0xffff'ffff;
 
 // Limits are this much too wide, in costs, against rounding in logarithms and products.
 constexpr double kLimitMargin = 1e-6;
@@ -46,7 +44,7 @@ double Factor(PairSums::Scores one, PairSums::Scores other) {
   return one.r * other.j + one.j * other.r;
 }
 
-double LogLength(PairSums::Scores scores) { return std::log(std::hypot(scores.r, scores.j)); }
+double LogLengthOf(PairSums::Scores scores) { return std::log(std::hypot(scores.r, scores.j)); }
 
 }  // namespace
 
@@ -58,8 +56,11 @@ void PairSums::Prepare(const SearchStudy& study, Flow flow,
   bounds_.Prepare(study);
   const std::size_t blocks = (study.parents + kBlock - 1) / kBlock;
   everybody_.assign(blocks, ~std::uint64_t{0});
-  costs_.resize(blocks * kBlock);
+  for (ClassScores& scored : scored_) {
+    scored.costs.resize(blocks * kBlock);
+  }
   minima_.resize(blocks);
+  place_of_partner_.resize(study.parents);
 }
 
 void PairSums::GoTo(Slot offspring, std::span<const double> scales) {
@@ -70,13 +71,14 @@ void PairSums::GoTo(Slot offspring, std::span<const double> scales) {
     }
   }
   bounds_.Collect(offspring, typed_, everybody_);
-  bounds_.AddUpCosts(kNobody, costs_, minima_);
-  log_scale_ = 0;
-  first_class_.clear();
-  class_scores_.clear();
+  ClassScores& own = scored_[0];
+  bounds_.AddUpCosts(kNobody, own.costs, minima_);
+  own.log_largest = bounds_.LogLargestOfOne();
+  own.first.clear();
+  own.scores.clear();
   for (const std::uint32_t k : typed_) {
-    log_scale_ += 2 * std::log(scales[k]);
-    first_class_.push_back(class_scores_.size());
+    own.log_largest += std::log(scales[k]);
+    own.first.push_back(own.scores.size());
     ScoreClasses(k, study_->Genotypes(k)[offspring.Value()], scales[k]);
   }
 }
@@ -90,8 +92,46 @@ void PairSums::ScoreClasses(std::size_t k, const LocusGenotype& offspring, doubl
   for (std::size_t number = 0; number < classes.Count(); ++number) {
     const std::size_t p1 = classes.Genotype(number).index1.Value();
     const std::size_t p2 = classes.Genotype(number).index2.Value();
-    class_scores_.push_back(
+    scored_[0].scores.push_back(
         {(matrix(p1, r) + matrix(p2, r)) * scale, (matrix(p1, j) + matrix(p2, j)) * scale});
+  }
+}
+
+void PairSums::AddSibs(std::span<const Scores> stranger) {
+  const ClassScores& own = scored_[0];
+  ClassScores& sibs = scored_[1];
+  sibs.first = own.first;
+  sibs.scores.clear();
+  for (std::size_t i = 0; i < typed_.size(); ++i) {
+    const Scores other = stranger[typed_[i]];
+    for (std::size_t at = own.first[i]; at < own.End(i); ++at) {
+      sibs.scores.push_back({(own.scores[at].r + other.r) / 2, (own.scores[at].j + other.j) / 2});
+    }
+  }
+  AddUpCostsOfSibs();
+}
+
+void PairSums::AddUpCostsOfSibs() {
+  ClassScores& sibs = scored_[1];
+  sibs.log_largest = 0;
+  std::fill(sibs.costs.begin(), sibs.costs.end(), std::uint16_t{0});
+  std::vector<double> log_lengths;
+  std::vector<std::uint8_t> costs;
+  for (std::size_t i = 0; i < typed_.size(); ++i) {
+    log_lengths.clear();
+    for (std::size_t at = sibs.first[i]; at < sibs.End(i); ++at) {
+      log_lengths.push_back(LogLengthOf(sibs.scores[at]));
+    }
+    const double largest = *std::max_element(log_lengths.begin(), log_lengths.end());
+    sibs.log_largest += largest;
+    costs.clear();
+    for (const double log_length : log_lengths) {
+      costs.push_back(CostOf(log_length, largest));
+    }
+    const auto classes = bounds_.Classes(typed_[i]).OfParents();
+    for (std::size_t slot = 0; slot < classes.size(); ++slot) {
+      sibs.costs[slot] = static_cast<std::uint16_t>(sibs.costs[slot] + costs[classes[slot]]);
+    }
   }
 }
 
@@ -99,61 +139,21 @@ std::int32_t PairSums::CostLimit(double limit) const {
   if (limit == 0) {
     return kNoLimit;
   }
-  const double costs =
-      kCostsPerNat * (bounds_.LogLargest() + log_scale_ - std::log(limit)) + kLimitMargin;
+  const double largest = Scored(kin_[0]).log_largest + Scored(kin_[1]).log_largest;
+  const double costs = kCostsPerNat * (largest - std::log(limit)) + kLimitMargin;
   // Rounded down; below 0 no pair comes near the limit.
   return static_cast<std::int32_t>(std::floor(std::clamp(costs, -1.0, double{kNoLimit})));
-}
-
-std::int32_t PairSums::SmallestCost(SlotRange slots) const {
-  return *std::min_element(costs_.begin() + slots.begin, costs_.begin() + slots.end);
 }
 
 std::int32_t PairSums::SmallestCostOfAnyPair() const {
   std::int32_t smallest = kNoLimit;
   for (const CandidateGroup& group : groups_) {
     if (group.first.Size() > 0 && group.second.Size() > 0) {
-      smallest = std::min(smallest, SmallestCost(group.first) + SmallestCost(group.second));
+      smallest = std::min(
+          smallest, scored_[0].SmallestCost(group.first) + scored_[0].SmallestCost(group.second));
     }
   }
   return smallest;
-}
-
-void PairSums::SortByCost(SlotRange slots, std::int32_t most, Side& side) {
-  order_.clear();
-  for (std::uint32_t slot = slots.begin; slot < slots.end; ++slot) {
-    if (costs_[slot] <= most) {
-      order_.push_back(std::uint64_t{costs_[slot]} << 32U | slot);
-    }
-  }
-  std::sort(order_.begin(), order_.end());
-  side.slots.clear();
-  side.costs.clear();
-  for (const std::uint64_t one : order_) {
-    side.slots.emplace_back(static_cast<std::uint32_t>(one));
-    side.costs.push_back(static_cast<std::uint16_t>(one >> 32U));
-  }
-  side.sums.assign(side.Count(), 0);
-  LookUpScores(side);
-}
-
-void PairSums::LookUpScores(Side& side) const {
-  const std::size_t count = side.Count();
-  side.scores.resize(2 * count * typed_.size());
-  for (std::size_t begin = 0; begin < count; begin += kParentsAtOnce) {
-    const std::size_t end = std::min(begin + kParentsAtOnce, count);
-    double* r = side.scores.data();
-    for (std::size_t i = 0; i < typed_.size(); ++i) {
-      double* const j = r + count;
-      const Scores* const of_classes = class_scores_.data() + first_class_[i];
-      for (std::size_t parent = begin; parent < end; ++parent) {
-        const Scores scores = of_classes[bounds_.ClassesOf(side.slots[parent])[typed_[i]]];
-        r[parent] = scores.r;
-        j[parent] = scores.j;
-      }
-      r += 2 * count;
-    }
-  }
 }
 
 /// Lists the parents of a group that may be in a pair within the limit; false without any.
@@ -161,58 +161,55 @@ bool PairSums::Arrange(const CandidateGroup& group) {
   if (group.first.Size() == 0 || group.second.Size() == 0) {
     return false;
   }
-  SortByCost(group.first, cost_limit_ - SmallestCost(group.second), sides_[0]);
-  if (flow_ == Flow::kSexed) {
-    SortByCost(group.second, cost_limit_ - SmallestCost(group.first), sides_[1]);
+  const ClassScores& first = Scored(kin_[0]);
+  const ClassScores& second = Scored(kin_[1]);
+  sides_[0].Rank(group.first, first, cost_limit_ - second.SmallestCost(group.second), bounds_);
+  if (!SharesList()) {
+    sides_[1].Rank(group.second, second, cost_limit_ - first.SmallestCost(group.first), bounds_);
+  }
+  if (MayMeetOwnSib()) {
+    std::fill(place_of_partner_.begin(), place_of_partner_.end(), kNowhere);
+    for (std::uint32_t i = 0; i < sides_[1].Count(); ++i) {
+      place_of_partner_[sides_[1].SlotAt(i).Value()] = i;
+    }
   }
   return sides_[0].Count() > 0 && Partners().Count() > 0;
 }
 
-void PairSums::MultiplyRow(std::size_t first_parent, std::size_t begin,
-                           std::span<double> likelihoods) const {
-  const std::size_t first_count = sides_[0].Count();
-  const std::size_t partner_count = Partners().Count();
-  const double* first = sides_[0].scores.data() + first_parent;
-  const double* partners = Partners().scores.data() + begin;
-  for (std::size_t i = 0; i < typed_.size(); ++i) {
-    const double r1 = first[0];
-    const double j1 = first[first_count];
-    const double* const r2 = partners;
-    const double* const j2 = partners + partner_count;
-    if (i == 0) {
-      for (std::size_t n = 0; n < likelihoods.size(); ++n) {
-        likelihoods[n] = r1 * j2[n] + j1 * r2[n];
-      }
-    } else {
-      for (std::size_t n = 0; n < likelihoods.size(); ++n) {
-        likelihoods[n] *= r1 * j2[n] + j1 * r2[n];
-      }
-    }
-    first += 2 * first_count;
-    partners += 2 * partner_count;
+/// Nobody is paired with its own sib.
+void PairSums::LeaveOutOwnSib(std::size_t first_parent, std::size_t begin,
+                              std::span<double> likelihoods) const {
+  const std::uint32_t place = place_of_partner_[sides_[0].SlotAt(first_parent).Value()];
+  if (place != kNowhere && place >= begin && place - begin < likelihoods.size()) {
+    likelihoods[place - begin] = 0;
   }
 }
 
 template <typename TakeRow>
 void PairSums::WalkGroup(const RunObserver& observer, const TakeRow& take_row) {
   std::array<double, kPartnersAtOnce> likelihoods;
-  const Side& first = sides_[0];
-  const Side& partners = Partners();
+  const RankedParents& first = sides_[0];
+  const RankedParents& partners = Partners();
+  const auto costs = partners.Costs();
   for (std::size_t parent = 0; parent < first.Count(); ++parent) {
     if (observer.StopRequested()) {
       throw RunStopped();
     }
-    // Every pair of the non-sexed flow comes once: the dearer parent is the partner.
-    std::size_t begin = flow_ == Flow::kSexed ? 0 : parent + 1;
+    const std::int32_t own = first.Costs()[parent];
+    // Every pair of one list comes once: the dearer parent is the partner.
+    std::size_t begin = SharesList() ? parent + 1 : 0;
     // The limit may come down on the way.
-    while (begin < partners.Count() && first.costs[parent] + partners.costs[begin] <= cost_limit_) {
-      const auto left = static_cast<std::uint16_t>(cost_limit_ - first.costs[parent]);
-      const auto from = partners.costs.begin() + static_cast<std::ptrdiff_t>(begin);
+    while (begin < partners.Count() && own + costs[begin] <= cost_limit_) {
+      const auto left = static_cast<std::uint16_t>(cost_limit_ - own);
+      const auto from = costs.begin() + static_cast<std::ptrdiff_t>(begin);
       const auto to =
           from + static_cast<std::ptrdiff_t>(std::min(kPartnersAtOnce, partners.Count() - begin));
       const auto count = static_cast<std::size_t>(std::upper_bound(from, to, left) - from);
       const auto row = std::span(likelihoods).first(count);
-      MultiplyRow(parent, begin, row);
+      first.Multiply(parent, partners, begin, row);
+      if (MayMeetOwnSib()) {
+        LeaveOutOwnSib(parent, begin, row);
+      }
       take_row(parent, begin, row);
       begin += count;
     }
@@ -229,8 +226,8 @@ void PairSums::Walk(const RunObserver& observer, const TakeRow& take_row) {
 }
 
 ParentPair PairSums::PairAt(std::size_t first_parent, std::size_t partner) const {
-  const Slot one = sides_[0].slots[first_parent];
-  const Slot other = Partners().slots[partner];
+  const Slot one = sides_[0].SlotAt(first_parent);
+  const Slot other = Partners().SlotAt(partner);
   return flow_ == Flow::kSexed || one < other ? ParentPair{one, other} : ParentPair{other, one};
 }
 
@@ -259,8 +256,8 @@ void PairSums::AddRow(std::size_t first_parent, std::size_t begin,
                       std::span<const double> likelihoods) {
   const double sum = SumOf(likelihoods);
   total_ += sum;
-  sides_[0].sums[first_parent] += sum;
-  double* const sums = Partners().sums.data() + begin;
+  sides_[0].Sums()[first_parent] += sum;
+  double* const sums = Partners().Sums().data() + begin;
   for (std::size_t i = 0; i < likelihoods.size(); ++i) {
     sums[i] += likelihoods[i];
   }
@@ -285,23 +282,42 @@ void PairSums::ListRow(std::size_t first_parent, std::size_t begin,
 }
 
 void PairSums::TakeSums() {
-  for (std::size_t side = 0; side < (flow_ == Flow::kSexed ? 2U : 1U); ++side) {
-    for (std::size_t i = 0; i < sides_[side].Count(); ++i) {
-      if (sides_[side].sums[i] > 0) {
-        sums_[side].push_back({sides_[side].slots[i], sides_[side].sums[i]});
+  for (std::size_t side = 0; side < (SharesList() ? 1U : 2U); ++side) {
+    const auto sums = sides_[side].Sums();
+    for (std::size_t i = 0; i < sums.size(); ++i) {
+      if (sums[i] > 0) {
+        sums_[side].push_back({sides_[side].SlotAt(i), sums[i]});
       }
     }
   }
 }
 
-void PairSums::SumUp(double limit, std::size_t most_listed, const RunObserver& observer) {
+void PairSums::Begin(Kin first, Kin second, double limit) {
   total_ = 0;
-  most_likely_.clear();
   sums_[0].clear();
   sums_[1].clear();
+  kin_ = {first, second};
+  cost_limit_ = CostLimit(limit);
+}
+
+void PairSums::SumUp(Kin first, Kin second, double limit, const RunObserver& observer) {
+  Begin(first, second, limit);
+  for (const CandidateGroup& group : groups_) {
+    if (Arrange(group)) {
+      WalkGroup(observer,
+                [this](std::size_t parent, std::size_t begin, std::span<const double> likelihoods) {
+                  AddRow(parent, begin, likelihoods);
+                });
+      TakeSums();
+    }
+  }
+}
+
+void PairSums::SumUp(double limit, std::size_t most_listed, const RunObserver& observer) {
+  Begin(Kin::kSelf, Kin::kSelf, limit);
+  most_likely_.clear();
   best_ = {};
   limit_ = limit;
-  cost_limit_ = CostLimit(limit);
   for (const CandidateGroup& group : groups_) {
     if (Arrange(group)) {
       WalkGroup(observer, [this, most_listed](std::size_t parent, std::size_t begin,
@@ -345,19 +361,16 @@ BestPair PairSums::FindBest(const RunObserver& observer) {
   return best_;
 }
 
-std::size_t PairSums::EndOfClasses(std::size_t i) const {
-  return i + 1 < first_class_.size() ? first_class_[i + 1] : class_scores_.size();
-}
-
-void PairSums::PairWith(std::span<const Scores> partner, bool second_parents, double limit,
+void PairSums::PairWith(std::span<const Scores> partner, bool second_parents, Kin kin, double limit,
                         std::vector<ParentLikelihood>& likelihoods) {
-  double log_largest = bounds_.LogLargestOfOne() + log_scale_ / 2;
-  class_factors_.resize(class_scores_.size());
+  const ClassScores& scored = Scored(kin);
+  double log_largest = scored.log_largest;
+  class_factors_.resize(scored.scores.size());
   for (std::size_t i = 0; i < typed_.size(); ++i) {
     const Scores with = partner[typed_[i]];
-    log_largest += LogLength(with);
-    for (std::size_t at = first_class_[i]; at < EndOfClasses(i); ++at) {
-      class_factors_[at] = Factor(class_scores_[at], with);
+    log_largest += LogLengthOf(with);
+    for (std::size_t at = scored.first[i]; at < scored.End(i); ++at) {
+      class_factors_[at] = Factor(scored.scores[at], with);
     }
   }
   const double most =
@@ -365,7 +378,7 @@ void PairSums::PairWith(std::span<const Scores> partner, bool second_parents, do
   for (const CandidateGroup& group : groups_) {
     const SlotRange range = second_parents ? group.second : group.first;
     for (std::uint32_t slot = range.begin; slot < range.end; ++slot) {
-      if (costs_[slot] <= most) {
+      if (scored.costs[slot] <= most) {
         likelihoods.push_back({Slot{slot}, MultiplyFactors(Slot{slot})});
       }
     }
@@ -376,7 +389,7 @@ double PairSums::MultiplyFactors(Slot parent) const {
   const std::uint16_t* const classes = bounds_.ClassesOf(parent);
   double product = 1;
   for (std::size_t i = 0; i < typed_.size(); ++i) {
-    product *= class_factors_[first_class_[i] + classes[typed_[i]]];
+    product *= class_factors_[scored_[0].first[i] + classes[typed_[i]]];
   }
   return product;
 }
@@ -385,7 +398,8 @@ double PairSums::LikelihoodWith(std::span<const Scores> partner, Slot parent) co
   const std::uint16_t* const classes = bounds_.ClassesOf(parent);
   double product = 1;
   for (std::size_t i = 0; i < typed_.size(); ++i) {
-    product *= Factor(class_scores_[first_class_[i] + classes[typed_[i]]], partner[typed_[i]]);
+    product *=
+        Factor(scored_[0].scores[scored_[0].first[i] + classes[typed_[i]]], partner[typed_[i]]);
   }
   return product;
 }

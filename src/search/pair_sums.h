@@ -10,6 +10,7 @@
 #include "base/run_observer.h"
 #include "method/candidate_groups.h"
 #include "search/offspring_bounds.h"
+#include "search/ranked_parents.h"
 
 namespace kaldo {
 
@@ -38,6 +39,9 @@ struct BestPair {
   double second = 0;        ///< of the most likely other pair; the same in a tie, 0 without one
   std::uint64_t pairs = 0;  ///< that are exactly so likely, the pair itself included
 };
+
+/// Who stands for a candidate: itself, or a full sib of it that is in no table.
+enum class Kin { kSelf = 0, kSib = 1 };
 
 /// Sums up the likelihoods of the candidate pairs of one offspring after the other, leaving out
 /// pairs that are proven to lie below a limit. The sibling of PairSearcher: it looks at the same
@@ -70,11 +74,23 @@ class PairSums {
   /// asks.
   void SumUp(double limit, std::size_t most_listed, const RunObserver& observer);
 
+  /// Prepares for sums with full sibs of the candidates. Each of a sib's genes comes from one of
+  /// the two parents that it shares with the candidate: half the chance of a copy that the
+  /// candidate has, half of one that a stranger would have, so that its scores are the mean of
+  /// both. To be called after GoTo(), with the scores of a stranger, scaled like all others.
+  void AddSibs(std::span<const Scores> stranger);
+
+  /// Sums up likewise with sibs in the place of the candidates of one or both sides; nobody is
+  /// paired with its own sib. In the non-sexed flow a candidate is the first parent and a sib the
+  /// second.
+  void SumUp(Kin first, Kin second, double limit, const RunObserver& observer);
+
   /// The sum over those pairs.
   double Total() const { return total_; }
 
   /// The sums of the parents in them, in no particular order: first parents or second ones. In the
-  /// non-sexed flow every parent is a first one, whatever its place in the pair.
+  /// non-sexed flow every parent is a first one, whatever its place in the pair, unless a candidate
+  /// is paired with a sib.
   std::span<const ParentSum> SumsOfFirst() const { return sums_[0]; }
   std::span<const ParentSum> SumsOfSecond() const { return sums_[1]; }
 
@@ -82,52 +98,45 @@ class PairSums {
   std::span<const PairLikelihood> MostLikely() const { return most_likely_; }
 
   /// The most likely pair of all. Of several that are exactly so likely the first one in the order
-  /// of the scan. To be asked after SumUp().
+  /// of the scan. To be asked after the first SumUp().
   BestPair FindBest(const RunObserver& observer);
 
-  /// The likelihood of every candidate of a side with one partner of the given scores (scaled
-  /// like all others, by locus of the run), but those proven to lie below `limit`; in slot order
-  /// inside groups.
-  void PairWith(std::span<const Scores> partner, bool second_parents, double limit,
+  /// The likelihood of every candidate of a side, or of its sib, with one partner of the given
+  /// scores (scaled like all others, by locus of the run), but those proven to lie below `limit`;
+  /// in slot order inside groups.
+  void PairWith(std::span<const Scores> partner, bool second_parents, Kin kin, double limit,
                 std::vector<ParentLikelihood>& likelihoods);
 
   /// The likelihood of one parent with such a partner.
   double LikelihoodWith(std::span<const Scores> partner, Slot parent) const;
 
  private:
-  /// The parents of one side of a group that are worth a look, by rising cost.
-  struct Side {
-    std::vector<Slot> slots;
-    std::vector<std::uint16_t> costs;
-    std::vector<double> scores;  ///< by typed locus: P_R of all, then P_J of all
-    std::vector<double> sums;
-
-    std::size_t Count() const { return slots.size(); }
-  };
-
   void ScoreClasses(std::size_t k, const LocusGenotype& offspring, double scale);
-  std::size_t EndOfClasses(std::size_t i) const;
+  void AddUpCostsOfSibs();
+  const ClassScores& Scored(Kin kin) const { return scored_[static_cast<std::size_t>(kin)]; }
   double MultiplyFactors(Slot parent) const;
   std::int32_t CostLimit(double limit) const;
-  std::int32_t SmallestCost(SlotRange slots) const;
   std::int32_t SmallestCostOfAnyPair() const;
-  void SortByCost(SlotRange slots, std::int32_t most, Side& side);
-  void LookUpScores(Side& side) const;
   bool Arrange(const CandidateGroup& group);
   template <typename TakeRow>
   void Walk(const RunObserver& observer, const TakeRow& take_row);
   template <typename TakeRow>
   void WalkGroup(const RunObserver& observer, const TakeRow& take_row);
-  void MultiplyRow(std::size_t first_parent, std::size_t begin,
-                   std::span<double> likelihoods) const;
+  void LeaveOutOwnSib(std::size_t first_parent, std::size_t begin,
+                      std::span<double> likelihoods) const;
+  void Begin(Kin first, Kin second, double limit);
   void AddRow(std::size_t first_parent, std::size_t begin, std::span<const double> likelihoods);
   void CompareRow(std::size_t first_parent, std::size_t begin, std::span<const double> likelihoods);
   void ListRow(std::size_t first_parent, std::size_t begin, std::span<const double> likelihoods,
                std::size_t most);
   void TakeSums();
   ParentPair PairAt(std::size_t first_parent, std::size_t partner) const;
-  const Side& Partners() const { return sides_[flow_ == Flow::kSexed ? 1 : 0]; }
-  Side& Partners() { return sides_[flow_ == Flow::kSexed ? 1 : 0]; }
+
+  /// Whether both parents of a pair come from one list, each pair once.
+  bool SharesList() const { return flow_ == Flow::kNonSexed && kin_[0] == kin_[1]; }
+  bool MayMeetOwnSib() const { return flow_ == Flow::kNonSexed && kin_[0] != kin_[1]; }
+  const RankedParents& Partners() const { return sides_[SharesList() ? 0 : 1]; }
+  RankedParents& Partners() { return sides_[SharesList() ? 0 : 1]; }
 
   std::optional<SearchStudy> study_;
   Flow flow_ = Flow::kNonSexed;
@@ -137,23 +146,21 @@ class PairSums {
 
   // Of the current offspring:
   std::vector<std::uint32_t> typed_;
-  double log_scale_ = 0;                  ///< of a likelihood
-  std::vector<std::uint16_t> costs_;      ///< by slot
-  std::vector<std::uint16_t> minima_;     ///< by block of slots
-  std::vector<std::size_t> first_class_;  ///< by typed locus, in class_scores_
-  std::vector<Scores> class_scores_;      ///< scaled
-  std::vector<double> class_factors_;     ///< with the partner at hand
+  std::vector<std::uint16_t> minima_;  ///< of costs, by block of slots
+  std::array<ClassScores, 2> scored_;  ///< by Kin
+  std::vector<double> class_factors_;  ///< with the partner at hand
 
   // Of the current group:
-  std::array<Side, 2> sides_;
-  std::int32_t cost_limit_ = 0;  ///< costs of a pair above it: it is left out
+  std::array<RankedParents, 2> sides_;
+  std::vector<std::uint32_t> place_of_partner_;  ///< by slot
+  std::int32_t cost_limit_ = 0;                  ///< costs of a pair above it: it is left out
 
+  std::array<Kin, 2> kin_{};
   double limit_ = 0;
   double total_ = 0;
   std::array<std::vector<ParentSum>, 2> sums_;
   BestPair best_;
   std::vector<PairLikelihood> most_likely_;  ///< a heap, the least likely one in front
-  std::vector<std::uint64_t> order_;
 };
 
 }  // namespace kaldo
