@@ -14,25 +14,51 @@ namespace {
 /// Offspring typed at few loci among many parents take a tenth of a second each.
 constexpr std::size_t kMostOffspringPerPortion = 32;
 
+/// What an order begins with.
+enum class OrderKind : std::uint8_t { kEvidence, kRelatives };
+
+constexpr OrderKind KindOf(const EvidenceOrder&) { return OrderKind::kEvidence; }
+constexpr OrderKind KindOf(const RelativesOrder&) { return OrderKind::kRelatives; }
+
 class EvidenceWorker final : public PortionWorker {
  public:
   EvidenceWorker(const EvidenceStudy& study, SlotRange offspring)
-      : finder_(study), offspring_(offspring) {}
+      : study_(study), finder_(study), offspring_(offspring) {}
 
   std::string Do(std::string_view order, RunObserver& observer) override {
+    ByteUnpacker unpacker(order);
     BytePacker packer;
-    for (const auto& one : ByteUnpacker(order).GetAll<EvidenceOrder>()) {
-      const Slot slot{offspring_.begin + one.offspring};
-      finder_.Find(slot, one.wish, observer).Pack(packer);
+    if (unpacker.Get<OrderKind>() == OrderKind::kEvidence) {
+      for (const auto& one : unpacker.GetAll<EvidenceOrder>()) {
+        finder_.Find(SlotAt(one.offspring), one.wish, observer).Pack(packer);
+        observer.OnSteps(1);
+      }
+      return packer.Take();
+    }
+    if (!relatives_finder_) {
+      relatives_finder_.emplace(study_);
+    }
+    for (const auto& one : unpacker.GetAll<RelativesOrder>()) {
+      packer.Add(relatives_finder_->Find(SlotAt(one.offspring), one.wish, observer));
       observer.OnSteps(1);
     }
     return packer.Take();
   }
 
  private:
+  Slot SlotAt(std::uint32_t offspring) const { return Slot{offspring_.begin + offspring}; }
+
+  const EvidenceStudy& study_;
   EvidenceFinder finder_;
+  std::optional<RelativesFinder> relatives_finder_;  ///< when it is first wanted
   SlotRange offspring_;
 };
+
+void TakeFrom(ByteUnpacker& unpacker, Evidence& evidence) { evidence = Evidence::Unpack(unpacker); }
+
+void TakeFrom(ByteUnpacker& unpacker, RelativesEvidence& evidence) {
+  evidence = unpacker.Get<RelativesEvidence>();
+}
 
 std::vector<std::vector<double>> ScoresOfStrangers(const ConfidenceInput& input,
                                                    std::span<const TransmissionMatrix> matrices) {
@@ -88,20 +114,30 @@ std::unique_ptr<PortionWorker> EvidenceTask::MakeWorker() const {
   return std::make_unique<EvidenceWorker>(study_, offspring_);
 }
 
-std::size_t EvidencePlan::MostItemsPerPortion() const { return kMostOffspringPerPortion; }
+template <typename GivenOrder, typename GivenEvidence>
+std::size_t GatheringPlan<GivenOrder, GivenEvidence>::MostItemsPerPortion() const {
+  return kMostOffspringPerPortion;
+}
 
-std::string EvidencePlan::Order(const Portion& portion) {
+template <typename GivenOrder, typename GivenEvidence>
+std::string GatheringPlan<GivenOrder, GivenEvidence>::Order(const Portion& portion) {
   BytePacker packer;
+  packer.Add(KindOf(orders_.front()));
   packer.AddAll(orders_.subspan(portion.begin, portion.Size()));
   return packer.Take();
 }
 
-bool EvidencePlan::Take(const Portion& portion, std::string_view result) {
+template <typename GivenOrder, typename GivenEvidence>
+bool GatheringPlan<GivenOrder, GivenEvidence>::Take(const Portion& portion,
+                                                    std::string_view result) {
   ByteUnpacker unpacker(result);
-  for (const EvidenceOrder& order : orders_.subspan(portion.begin, portion.Size())) {
-    evidence_[order.offspring] = Evidence::Unpack(unpacker);
+  for (const GivenOrder& order : orders_.subspan(portion.begin, portion.Size())) {
+    TakeFrom(unpacker, evidence_[order.offspring]);
   }
   return true;
 }
+
+template class GatheringPlan<EvidenceOrder, Evidence>;
+template class GatheringPlan<RelativesOrder, RelativesEvidence>;
 
 }  // namespace kaldo

@@ -7,6 +7,7 @@
 #include "confidence/confidence_run.h"
 #include "confidence/evidence_finder.h"
 #include "confidence/identical_parents.h"
+#include "confidence/relatives_finder.h"
 #include "runs/portions.h"
 
 namespace kaldo {
@@ -15,6 +16,12 @@ namespace kaldo {
 struct EvidenceOrder {
   std::uint32_t offspring = 0;  ///< counted from 0
   EvidenceWish wish;
+};
+
+/// The same when relatives count.
+struct RelativesOrder {
+  std::uint32_t offspring = 0;  ///< counted from 0
+  RelativesWish wish;
 };
 
 /// The gathering of evidence for stretches of offspring. Every process can make it from settings
@@ -36,10 +43,11 @@ class EvidenceTask final : public PortionTask {
   EvidenceStudy study_;
 };
 
-/// One gathering for some offspring: fills their evidence.
-class EvidencePlan final : public PortionPlan {
+/// One gathering for some offspring: fills their evidence, of one kind or the other.
+template <typename GivenOrder, typename GivenEvidence>
+class GatheringPlan final : public PortionPlan {
  public:
-  EvidencePlan(std::span<const EvidenceOrder> orders, std::span<Evidence> evidence)
+  GatheringPlan(std::span<const GivenOrder> orders, std::span<GivenEvidence> evidence)
       : orders_(orders), evidence_(evidence) {}
 
   std::size_t Groups() const override { return 1; }
@@ -49,8 +57,11 @@ class EvidencePlan final : public PortionPlan {
   bool Take(const Portion& portion, std::string_view result) override;
 
  private:
-  std::span<const EvidenceOrder> orders_;
-  std::span<Evidence> evidence_;  ///< by offspring
+  std::span<const GivenOrder> orders_;
+  std::span<GivenEvidence> evidence_;  ///< by offspring
 };
+
+using EvidencePlan = GatheringPlan<EvidenceOrder, Evidence>;
+using RelativesPlan = GatheringPlan<RelativesOrder, RelativesEvidence>;
 
 }  // namespace kaldo

@@ -7,6 +7,7 @@
 #include "confidence/confidence_portions.h"
 #include "confidence/evidence_limits.h"
 #include "confidence/locus_error_rates.h"
+#include "confidence/relatives_run.h"
 
 namespace kaldo {
 
@@ -83,11 +84,24 @@ ConfidenceResult ComputeConfidence(const ConfidenceSettings& settings, const Con
     orders = OrdersForMore(input, evidence, result.shares.theta);
   }
   result.error_rates = EstimateErrorRates(input, result.ways, evidence);
+  std::vector<RelativesEvidence> with_relatives;
+  if (settings.relatives || IsRelativesTestQuick(input, result.ways)) {
+    RelativesFindings found = FindRelatives(settings, input, task, workforce, observer, record);
+    result.relatives_gain = found.gain;
+    if (settings.relatives) {
+      result.shares = found.shares.explanations;
+      result.sibs_of_candidates = found.shares.origins.sibs;
+      with_relatives = std::move(found.evidence);
+    }
+  }
   for (std::size_t i = 0; i < evidence.size(); ++i) {
     const auto reported =
         input.reported.empty() ? std::nullopt : std::optional<ReportedParents>(input.reported[i]);
-    result.offspring.push_back(Posterior(evidence[i], input.flow, result.shares.theta, result.ways,
-                                         settings.level, reported));
+    result.offspring.push_back(settings.relatives
+                                   ? Conclude(with_relatives[i].weighed, evidence[i].fixed,
+                                              input.flow, settings.level, reported)
+                                   : Posterior(evidence[i], input.flow, result.shares.theta,
+                                               result.ways, settings.level, reported));
   }
   return result;
 }

@@ -63,6 +63,10 @@ struct ConfidenceResult {
   /// By how much the logarithm of the likelihood grows when parents that were not collected may be
   /// full sibs of candidates; none where that was not tested. See RelativesNote.
   std::optional<double> relatives_gain;
+
+  /// Of the parents that were not collected, the share that are full sibs of candidates; none
+  /// unless relatives count.
+  std::optional<double> sibs_of_candidates;
 };
 
 /// The part of a run in which the evidence is gathered.

@@ -33,7 +33,7 @@ class ExplanationWeigher {
     }
     const auto& fixed = evidence_.fixed;
     weighed.p_explanation = p_explanation_;
-    weighed.p_best_pair = per_way_[Explanation::kBoth] * fixed.best_pair.likelihood;
+    weighed.p_per_likelihood_of_pair = per_way_[Explanation::kBoth];
     for (std::size_t side = 0; side < 2; ++side) {
       weighed.ranked[side] = Ranked(side);
       const BestCandidate& alone = fixed.best_with_stranger[side];
@@ -121,7 +121,8 @@ void FindBestAssignment(const WeighedExplanations& weighed, const BestPairEviden
     }
   };
   if (best_pair.pairs > 0) {
-    offer(Explanation::kBoth, weighed.p_best_pair, best_pair.pair.parent1, best_pair.pair.parent2);
+    offer(Explanation::kBoth, weighed.p_per_likelihood_of_pair * best_pair.likelihood,
+          best_pair.pair.parent1, best_pair.pair.parent2);
   }
   const auto& alone = weighed.best_alone;
   if (alone[0]) {

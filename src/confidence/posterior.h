@@ -88,7 +88,9 @@ struct WeighedExplanations {
   /// The most probable candidate of a side with a parent that was not collected, and how probable
   /// just that is.
   std::array<std::optional<ProbableParent>, 2> best_alone;
-  double p_best_pair = 0;
+
+  /// What the likelihood of a pair of candidates is multiplied by to become its probability.
+  double p_per_likelihood_of_pair = 0;
 };
 
 /// Puts down what follows for an offspring.

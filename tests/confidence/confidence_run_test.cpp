@@ -9,16 +9,19 @@
 
 #include "tests/confidence/known_parents.h"
 #include "tests/confidence/plain_confidence.h"
+#include "tests/confidence/plain_relatives.h"
 #include "tests/confidence/study_runs.h"
 
 namespace kaldo {
 namespace {
 
+using test::Assignments;
 using test::Compute;
 using test::InputOf;
 using test::KnownParents;
 using test::NoError;
 using test::PlainConfidence;
+using test::PlainRelatives;
 using test::RandomStudy;
 using test::RandomStudyMaker;
 using test::StudyShape;
@@ -33,9 +36,13 @@ using Coverage = std::map<std::string, int>;
 /// Compares one offspring with the plain sums.
 class Comparison {
  public:
-  Comparison(const ConfidenceInput& input, const PlainConfidence& plain, std::size_t offspring,
-             const OffspringConfidence& found)
-      : sexed_(input.flow == Flow::kSexed), plain_(plain), offspring_(offspring), found_(found) {}
+  Comparison(const ConfidenceInput& input, const PlainConfidence& plain, Assignments all,
+             std::size_t offspring, const OffspringConfidence& found)
+      : sexed_(input.flow == Flow::kSexed),
+        plain_(plain),
+        all_(std::move(all)),
+        offspring_(offspring),
+        found_(found) {}
 
   void Compare(Coverage& coverage) const {
     for (const Explanation k : kAllExplanations) {
@@ -49,14 +56,31 @@ class Comparison {
 
  private:
   double P(Explanation k) const {
-    return static_cast<double>(plain_.ProbabilityOfExplanation(offspring_, k));
+    long double sum = 0;
+    for (const auto& [assignment, probability] : all_) {
+      sum += assignment.first == k ? probability : 0;
+    }
+    return static_cast<double>(sum);
+  }
+
+  /// The probability of every candidate: of a side, or in the non-sexed flow of any.
+  std::map<Slot, long double> Candidates(std::size_t side) const {
+    std::map<Slot, long double> sums;
+    for (const auto& [assignment, probability] : all_) {
+      for (std::size_t i = 0; i < 2; ++i) {
+        if (assignment.second[i] && (i == side || !sexed_)) {
+          sums[*assignment.second[i]] += probability;
+        }
+      }
+    }
+    return sums;
   }
 
   /// The n-th candidate in order of probability, counted from 0; its own probability must be right
   /// too. Candidates are many with the same one.
   void ExpectCandidate(std::size_t side, std::size_t n,
                        const std::optional<ProbableParent>& found) const {
-    auto candidates = plain_.Candidates(offspring_, side);
+    auto candidates = Candidates(side);
     std::vector<double> sorted;
     for (const auto& one : candidates) {
       sorted.push_back(static_cast<double>(one.second));
@@ -84,14 +108,12 @@ class Comparison {
   }
 
   void CompareBestAssignment() const {
-    PlainConfidence::Number best = 0;
-    PlainConfidence::Number own = 0;
-    for (const auto& way : plain_.Ways(offspring_)) {
-      best = std::max(best, plain_.Probability(offspring_, way));
-      if (way.explanation == found_.best_explanation && way.parents == found_.best) {
-        own = plain_.Probability(offspring_, way);
-      }
+    long double best = 0;
+    for (const auto& one : all_) {
+      best = std::max(best, one.second);
     }
+    ASSERT_EQ(all_.count({found_.best_explanation, found_.best}), 1);
+    const long double own = all_.at({found_.best_explanation, found_.best});
     EXPECT_NEAR(found_.p_best, static_cast<double>(best), kTolerance);
     EXPECT_NEAR(found_.p_best, static_cast<double>(own), kTolerance);
   }
@@ -130,9 +152,25 @@ class Comparison {
 
   bool sexed_;
   const PlainConfidence& plain_;
+  Assignments all_;
   std::size_t offspring_;
   const OffspringConfidence& found_;
 };
+
+void CompareWithRelatives(const ConfidenceInput& input, const ErrorModel& model,
+                          const PlainConfidence& plain, Coverage& coverage) {
+  const PlainRelatives with_sibs(plain, input, true);
+  const PlainRelatives without(plain, input, false);
+  const ConfidenceResult result = Compute(model, input, 1, true);
+  EXPECT_NEAR(result.shares.collected, static_cast<double>(with_sibs.Collected()), kTolerance);
+  EXPECT_NEAR(*result.sibs_of_candidates, static_cast<double>(with_sibs.Sibs()), kTolerance);
+  EXPECT_NEAR(*result.relatives_gain,
+              static_cast<double>(with_sibs.LogLikelihood() - without.LogLikelihood()), 1e-4);
+  for (std::size_t i = 0; i < result.offspring.size(); ++i) {
+    Comparison(input, plain, with_sibs.All(i), i, result.offspring[i]).Compare(coverage);
+  }
+  coverage["relatives"] += 1;
+}
 
 void CompareStudy(const RandomStudy& study, const ErrorModel& model, Coverage& coverage) {
   const ConfidenceInput input = InputOf(study);
@@ -144,7 +182,10 @@ void CompareStudy(const RandomStudy& study, const ErrorModel& model, Coverage& c
                 kTolerance);
   }
   for (std::size_t i = 0; i < result.offspring.size(); ++i) {
-    Comparison(input, plain, i, result.offspring[i]).Compare(coverage);
+    Comparison(input, plain, plain.All(i), i, result.offspring[i]).Compare(coverage);
+  }
+  if (input.table.NumberOfIndividuals() < 30) {
+    CompareWithRelatives(input, model, plain, coverage);
   }
   coverage["several groups"] += study.groups.size() > 1 ? 1 : 0;
   coverage["gathered again"] += result.gatherings > 1 ? 1 : 0;
@@ -172,7 +213,7 @@ TEST(Confidence, IsThePlainSumOverAllPairs) {
   for (const char* const what :
        {"named", "uncollected", "open", "alike", "nothing typed", "tied pairs", "several groups",
         "no pair at all", "one offspring", "sexed", "non-sexed", "fewer than two pairs",
-        "pairs near the smallest number"}) {
+        "pairs near the smallest number", "relatives"}) {
     EXPECT_GE(coverage[what], 10) << what;
   }
   EXPECT_GT(coverage["gathered again"], 0);

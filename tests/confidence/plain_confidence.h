@@ -13,6 +13,11 @@
 
 namespace kaldo::test {
 
+/// An explanation with its candidates by side, none for a parent that was not collected, and the
+/// probability of each.
+using Assignment = std::pair<Explanation, std::array<std::optional<Slot>, 2>>;
+using Assignments = std::map<Assignment, long double>;
+
 /// The posterior probabilities of a run the slow way: every pair of every offspring, in long
 /// doubles, whose range no likelihood leaves.
 class PlainConfidence {
@@ -43,25 +48,41 @@ class PlainConfidence {
            Total(offspring);
   }
 
-  Number ProbabilityOfExplanation(std::size_t offspring, Explanation k) const {
-    Number sum = 0;
+  Assignments All(std::size_t offspring) const {
+    Assignments all;
     for (const Way& way : ways_[offspring]) {
-      sum += way.explanation == k ? Probability(offspring, way) : 0;
+      all[{way.explanation, way.parents}] = Probability(offspring, way);
     }
-    return sum;
+    return all;
   }
 
-  /// The probability of every candidate: of a side, or in the non-sexed flow of any.
-  std::map<Slot, Number> Candidates(std::size_t offspring, std::size_t side) const {
-    std::map<Slot, Number> sums;
-    for (const Way& way : ways_[offspring]) {
-      for (std::size_t i = 0; i < 2; ++i) {
-        if (way.parents[i] && (i == side || input_.flow == Flow::kNonSexed)) {
-          sums[*way.parents[i]] += Probability(offspring, way);
-        }
-      }
+  struct Scores {
+    Number r = 1;
+    Number j = 0.5L;
+  };
+
+  /// By locus of the run; of a stranger without a parent.
+  std::vector<Scores> AllScores(Slot offspring, std::optional<Slot> parent) const {
+    std::vector<Scores> scores;
+    for (const LocusIndex locus : input_.loci) {
+      const LocusGenotype& child = input_.table.Genotype(locus, offspring);
+      scores.push_back(child.IsMissing() ? Scores{} : ScoresAt(locus, child, parent));
     }
-    return sums;
+    return scores;
+  }
+
+  static Number Likelihood(const std::vector<Scores>& a, const std::vector<Scores>& b) {
+    Number product = 1;
+    for (std::size_t k = 0; k < a.size(); ++k) {
+      product *= a[k].r * b[k].j + a[k].j * b[k].r;
+    }
+    return product;
+  }
+
+  bool IsTyped(std::size_t offspring) const {
+    return std::any_of(input_.loci.begin(), input_.loci.end(), [&](LocusIndex locus) {
+      return !input_.table.Genotype(locus, SlotAt(offspring)).IsMissing();
+    });
   }
 
   /// The share of genes misread at every locus; the posteriors are those under these rates then.
@@ -135,11 +156,6 @@ class PlainConfidence {
             2 * factor(Part::kMisread, Part::kMisread)) /
            factor(Part::kAll, Part::kAll);
   }
-
-  struct Scores {
-    Number r = 1;
-    Number j = 0.5L;
-  };
 
   static std::size_t Index(Explanation k) { return static_cast<std::size_t>(k); }
 
@@ -237,23 +253,6 @@ class PlainConfidence {
     return {gives(child.allele1), gives(child.allele2)};
   }
 
-  std::vector<Scores> AllScores(Slot offspring, std::optional<Slot> parent) const {
-    std::vector<Scores> scores;
-    for (const LocusIndex locus : input_.loci) {
-      const LocusGenotype& child = input_.table.Genotype(locus, offspring);
-      scores.push_back(child.IsMissing() ? Scores{} : ScoresAt(locus, child, parent));
-    }
-    return scores;
-  }
-
-  static Number Likelihood(const std::vector<Scores>& a, const std::vector<Scores>& b) {
-    Number product = 1;
-    for (std::size_t k = 0; k < a.size(); ++k) {
-      product *= a[k].r * b[k].j + a[k].j * b[k].r;
-    }
-    return product;
-  }
-
   std::vector<Way> AllWays(Slot offspring) const {
     std::map<Slot, std::vector<Scores>> scores;
     for (const Slot slot : Parents()) {
@@ -275,12 +274,6 @@ class PlainConfidence {
       }
     }
     return ways;
-  }
-
-  bool IsTyped(std::size_t offspring) const {
-    return std::any_of(input_.loci.begin(), input_.loci.end(), [&](LocusIndex locus) {
-      return !input_.table.Genotype(locus, SlotAt(offspring)).IsMissing();
-    });
   }
 
   void EstimateShares() {
