@@ -33,6 +33,14 @@ std::vector<OneEvidence> Informative(std::span<const RelativesEvidence> evidence
   return informative;
 }
 
+/// What two sibs are worth when nothing of one side said anything about the other.
+double TwoSibsRoughly(const OneEvidence& mean, Flow flow) {
+  const double unknown = mean[{Origin::kUnknown, Origin::kUnknown}];
+  const double first = mean[{Origin::kSib, Origin::kUnknown}];
+  const double second = flow == Flow::kSexed ? mean[{Origin::kUnknown, Origin::kSib}] : first;
+  return unknown > 0 ? first / unknown * second : 0;
+}
+
 /// The gatherings of one run.
 class RelativesRun {
  public:
@@ -109,6 +117,12 @@ class RelativesRun {
     RelativesPlan plan(orders, evidence_);
     observer_.OnPart(kWeighingPart, orders.size());
     workforce_.Do({kWeighingPart, task_, plan, record_}, settings_.threads, observer_);
+    for (const RelativesOrder& order : orders) {
+      OneEvidence& mean = evidence_[order.offspring].mean;
+      if (!two_sibs_) {
+        mean[{Origin::kSib, Origin::kSib}] = TwoSibsRoughly(mean, input_.flow);
+      }
+    }
   }
 
   const ConfidenceSettings& settings_;

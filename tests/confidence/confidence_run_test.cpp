@@ -374,6 +374,46 @@ TEST(Confidence, PredictsHowOftenItIsRight) {
   }
 }
 
+/// What a run names at the default level.
+struct Named {
+  double predicted = 0;  ///< sum of probabilities
+  int right = 0;
+  int wrong = 0;
+
+  Named(const KnownParents& study, const ConfidenceResult& result) {
+    for (std::size_t i = 0; i < result.offspring.size(); ++i) {
+      for (std::size_t side = 0; side < 2; ++side) {
+        const SideConfidence& one = result.offspring[i].sides[side];
+        if (one.verdict == Verdict::kNamed) {
+          predicted += one.candidate->probability;
+          ++(study.IsParent(i, side, one.candidate->slot) ? right : wrong);
+        }
+      }
+    }
+  }
+};
+
+/// Among breeders of large families a candidate stands in for its uncollected sib, unless sibs
+/// count.
+TEST(Confidence, NamesFewerSibsOfTheTrueParentWhenRelativesCount) {
+  for (const unsigned seed : {1U, 2U}) {
+    const KnownParents families({.seed = seed, .loci = 10, .family = 5});
+    const ConfidenceResult plain = Compute(Uniform(0.01), families.Input());
+    const ConfidenceResult with_sibs = Compute(Uniform(0.01), families.Input(), 1, true);
+    EXPECT_GT(*plain.relatives_gain, 10);
+    EXPECT_NEAR(*plain.relatives_gain, *with_sibs.relatives_gain, 0.1);
+    const Named before(families, plain);
+    const Named after(families, with_sibs);
+    EXPECT_GT(before.predicted, before.right + before.wrong / 2.0);
+    EXPECT_LT(after.wrong, 0.7 * before.wrong);
+    EXPECT_GT(after.right, 0.8 * before.right);
+    EXPECT_GT(*with_sibs.sibs_of_candidates, 0.5);
+
+    const KnownParents strangers({.seed = seed, .loci = 10});
+    EXPECT_LT(*Compute(Uniform(0.01), strangers.Input()).relatives_gain, 3);
+  }
+}
+
 void ExpectSame(const OffspringConfidence& a, const OffspringConfidence& b) {
   EXPECT_EQ(a.p_explanation, b.p_explanation);
   EXPECT_EQ(a.best, b.best);
@@ -388,13 +428,16 @@ void ExpectSame(const OffspringConfidence& a, const OffspringConfidence& b) {
 
 TEST(Confidence, IsTheSameForAnyNumberOfThreads) {
   const KnownParents study({.seed = 7, .loci = 6, .alleles = 8});
-  const ConfidenceResult one = Compute(ErrorModel{}, study.Input(), 1);
-  for (const unsigned threads : {2U, 3U, 7U}) {
-    const ConfidenceResult many = Compute(ErrorModel{}, study.Input(), threads);
-    EXPECT_EQ(many.shares.theta, one.shares.theta);
-    EXPECT_EQ(many.shares.standard_error, one.shares.standard_error);
-    for (std::size_t i = 0; i < one.offspring.size(); ++i) {
-      ExpectSame(many.offspring[i], one.offspring[i]);
+  for (const bool relatives : {false, true}) {
+    const ConfidenceResult one = Compute(ErrorModel{}, study.Input(), 1, relatives);
+    for (const unsigned threads : {2U, 3U, 7U}) {
+      const ConfidenceResult many = Compute(ErrorModel{}, study.Input(), threads, relatives);
+      EXPECT_EQ(many.shares.theta, one.shares.theta);
+      EXPECT_EQ(many.shares.standard_error, one.shares.standard_error);
+      EXPECT_EQ(many.relatives_gain, one.relatives_gain);
+      for (std::size_t i = 0; i < one.offspring.size(); ++i) {
+        ExpectSame(many.offspring[i], one.offspring[i]);
+      }
     }
   }
 }
