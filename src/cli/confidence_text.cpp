@@ -126,10 +126,6 @@ std::string LociToLookAt(const AllocationRun& run) {
 }
 
 std::string NoteOn(const ConfidenceResult& confidence, bool with_relatives) {
-  // Where no error rates were estimated, relatives were not asked about either.
-  if (confidence.error_rates.empty()) {
-    return {};
-  }
   const auto note = RelativesNote(with_relatives, confidence.relatives_gain);
   return note.empty() ? std::string() : fmt::format("  {}\n", note);
 }

@@ -13,11 +13,11 @@ namespace kaldo {
 
 namespace {
 
-EvidenceOrder OrderFor(const ConfidenceInput& input, std::uint32_t offspring,
+EvidenceOrder OrderFor(const ConfidenceInput& input, std::uint32_t offspring, bool with_error_rates,
                        std::optional<EvidenceLimits> limits) {
   return {offspring,
           {limits, input.reported.empty() ? AskedCandidates{} : input.reported[offspring],
-           TellsOfErrorRates(offspring, input.offspring.Size())}};
+           with_error_rates && TellsOfErrorRates(offspring, input.offspring.Size())}};
 }
 
 /// What tells something about the shares, in file order, each over its largest value.
@@ -40,22 +40,23 @@ std::vector<ByExplanation<double>> Informative(std::span<const Evidence> evidenc
 }
 
 /// The offspring whose evidence leaves out too much under these shares.
-std::vector<EvidenceOrder> OrdersForMore(const ConfidenceInput& input,
+std::vector<EvidenceOrder> OrdersForMore(const ConfidenceInput& input, bool with_error_rates,
                                          std::span<const Evidence> evidence,
                                          const ByExplanation<double>& theta) {
   std::vector<EvidenceOrder> orders;
   for (std::uint32_t i = 0; i < evidence.size(); ++i) {
     if (LeavesOutTooMuch(evidence[i], theta)) {
-      orders.push_back(OrderFor(input, i, HalfOf(LimitsFor(theta, evidence[i].fixed.mean))));
+      orders.push_back(
+          OrderFor(input, i, with_error_rates, HalfOf(LimitsFor(theta, evidence[i].fixed.mean))));
     }
   }
   return orders;
 }
 
-std::vector<EvidenceOrder> FirstOrders(const ConfidenceInput& input) {
+std::vector<EvidenceOrder> FirstOrders(const ConfidenceInput& input, bool with_error_rates) {
   std::vector<EvidenceOrder> orders;
   for (std::uint32_t i = 0; i < input.offspring.Size(); ++i) {
-    orders.push_back(OrderFor(input, i, std::nullopt));
+    orders.push_back(OrderFor(input, i, with_error_rates, std::nullopt));
   }
   return orders;
 }
@@ -73,7 +74,7 @@ ConfidenceResult ComputeConfidence(const ConfidenceSettings& settings, const Con
   }
   result.ways = task.Study().ways;
   std::vector<Evidence> evidence(input.offspring.Size());
-  for (std::vector<EvidenceOrder> orders = FirstOrders(input); !orders.empty();) {
+  for (std::vector<EvidenceOrder> orders = FirstOrders(input, settings.advises); !orders.empty();) {
     EvidencePlan plan(orders, evidence);
     observer.OnPart(kWeighingPart, orders.size());
     workforce.Do({kWeighingPart, task, plan, record}, settings.threads, observer);
@@ -81,11 +82,13 @@ ConfidenceResult ComputeConfidence(const ConfidenceSettings& settings, const Con
     const auto informative = Informative(evidence);
     result.informative_offspring = informative.size();
     result.shares = EstimateShares(informative, result.ways);
-    orders = OrdersForMore(input, evidence, result.shares.theta);
+    orders = OrdersForMore(input, settings.advises, evidence, result.shares.theta);
   }
-  result.error_rates = EstimateErrorRates(input, result.ways, evidence);
+  if (settings.advises) {
+    result.error_rates = EstimateErrorRates(input, result.ways, evidence);
+  }
   std::vector<RelativesEvidence> with_relatives;
-  if (settings.relatives || IsRelativesTestQuick(input, result.ways)) {
+  if (settings.relatives || (settings.advises && IsRelativesTestQuick(input, result.ways))) {
     RelativesFindings found = FindRelatives(settings, input, task, workforce, observer, record);
     result.relatives_gain = found.gain;
     if (settings.relatives) {

@@ -23,6 +23,9 @@ struct ConfidenceSettings {
   unsigned threads = 0;                    ///< in a process; 0: as many as fit
   bool relatives = false;                  ///< explain by full sibs of candidates too
 
+  /// Also tells of misread loci and of relatives, which changes no probability and takes its time.
+  bool advises = true;
+
   friend bool operator==(const ConfidenceSettings&, const ConfidenceSettings&) = default;
 };
 
@@ -57,7 +60,8 @@ struct ConfidenceResult {
   /// How often the evidence of some offspring was gathered, to keep what is left out small.
   int gatherings = 0;
 
-  /// The estimated share of genes misread at each locus of the run, in its order.
+  /// The estimated share of genes misread at each locus of the run, in its order; NaN where there
+  /// is no estimate, empty without advice.
   std::vector<double> error_rates;
 
   /// By how much the logarithm of the likelihood grows when parents that were not collected may be

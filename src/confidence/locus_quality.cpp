@@ -2,6 +2,7 @@
 #include "confidence/locus_quality.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "confidence/parent_frequencies.h"
 #include "genotypes/stepping_condition.h"
@@ -89,7 +90,7 @@ std::vector<LocusQuality> QualityOfLoci(const ConfidenceInput& input,
     if (result.is_meaningful) {
       quality.mismatches = MismatchesAt(input.table.Locus(input.loci[k]), named);
     }
-    if (k < result.error_rates.size()) {
+    if (k < result.error_rates.size() && !std::isnan(result.error_rates[k])) {
       quality.error_rate = result.error_rates[k];
     }
     loci.push_back(quality);

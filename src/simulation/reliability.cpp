@@ -93,6 +93,7 @@ Reliability ReliabilityOf(const SimulationSettings& settings, const SimulatedIte
   wanted.error_model = settings.error_model;
   wanted.level = settings.confidence_level;
   wanted.threads = 1;
+  wanted.advises = false;
   LocalThreads this_thread;
   OnlyStops only_stops(observer);
   const ConfidenceResult result =
