@@ -141,6 +141,9 @@ tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSetti
     }
   }
   AllocationFiles files;
+  if (settings.allow_undefined_parents) {
+    files.in_parents = UndefinedAlleles::kWholeLoci;
+  }
   for (const AllocationFileRole& role : roles) {
     const bool is_loci = role.path == kLoci.path;
     auto tokens = open(settings.*role.path, is_loci ? kMaxLociBytes : kMaxInputBytes);
@@ -161,10 +164,9 @@ std::optional<Problem> CheckAllocationFiles(const AllocationFiles& files, const 
   }
   std::vector<FileWideCheck> checks;
   for (const AllocationFile& file : files.genotypes) {
-    checks.push_back(
-        {&file.tokens, file.SeparatorsHere(),
-         file.role.holds_parents ? UndefinedAlleles::kNone : UndefinedAlleles::kWholeLoci,
-         file.role.odd_digits, file.role.undefined, !file.role.holds_parents});
+    checks.push_back({&file.tokens, file.SeparatorsHere(),
+                      file.role.holds_parents ? files.in_parents : UndefinedAlleles::kWholeLoci,
+                      file.role.odd_digits, file.role.undefined, !file.role.holds_parents});
   }
   return CheckFilesWide(checks, loci, std::move(problem));
 }

@@ -8,6 +8,7 @@
 #include <tl/expected.hpp>
 
 #include "allocation/allocation_settings.h"
+#include "genotypes/file_wide_checks.h"
 #include "genotypes/loci_list.h"
 #include "genotypes/record_cursor.h"
 #include "runs/run_record.h"
@@ -39,6 +40,8 @@ struct AllocationFiles {
   /// One file of parents or a file of males and one of females, then the offspring.
   std::vector<AllocationFile> genotypes;
   AllocationFile loci;
+
+  UndefinedAlleles in_parents = UndefinedAlleles::kNone;  ///< those that parents may have
 
   /// What a run record says of them.
   std::vector<RecordedInput> Recorded() const;

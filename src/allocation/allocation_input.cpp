@@ -9,6 +9,7 @@
 #include "genotypes/genotype_reader.h"
 #include "genotypes/record_checks.h"
 #include "method/cumulative_sequence.h"
+#include "method/undefined_parents.h"
 
 namespace kaldo {
 
@@ -166,6 +167,12 @@ std::optional<Problem> ApplyChoices(const AllocationSettings& settings,
     return TooManyAllelesProblem(files, input, catalogues.error());
   }
   input.catalogues = std::move(*catalogues);
+  if (settings.allow_undefined_parents) {
+    for (const LocusIndex locus : input.loci.LociInUse()) {
+      IndexUndefinedParents(input.table.Locus(locus).first(input.Parents().Size()),
+                            input.catalogues[locus.Value()].Sizes().size());
+    }
+  }
   input.warnings = InputWarnings(settings, files, input);
   return std::nullopt;
 }

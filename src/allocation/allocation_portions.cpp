@@ -5,7 +5,9 @@
 #include <optional>
 
 #include "base/byte_packing.h"
+#include "confidence/parent_frequencies.h"
 #include "genotypes/unit_distance.h"
+#include "method/undefined_parents.h"
 #include "search/pair_searcher.h"
 
 namespace kaldo {
@@ -24,11 +26,19 @@ LociOfRun LociOfCombination(const AllocationInput& input, std::vector<LocusIndex
   return run;
 }
 
-std::vector<TransmissionMatrix> BuildMatrices(const ErrorModel& model,
+std::vector<TransmissionMatrix> BuildMatrices(const AllocationSettings& settings,
                                               const AllocationInput& input) {
   std::vector<TransmissionMatrix> matrices;
   for (const AlleleCatalogue& catalogue : input.catalogues) {
-    matrices.push_back(BuildMatrix(model, catalogue.Sizes()));
+    matrices.push_back(BuildMatrix(settings.error_model, catalogue.Sizes()));
+  }
+  if (settings.allow_undefined_parents) {
+    const auto parents = RangesOfParents(settings.flow, input.groups);
+    for (const LocusIndex locus : input.loci.LociInUse()) {
+      TransmissionMatrix& matrix = matrices[locus.Value()];
+      AddUndefinedAllele(ParentFrequencies(input.table.Locus(locus), parents, matrix.Alleles()),
+                         matrix);
+    }
   }
   return matrices;
 }
@@ -81,7 +91,7 @@ class AllocationWorker final : public PortionWorker {
 }  // namespace
 
 AllocationTask::AllocationTask(const AllocationSettings& settings, const AllocationInput& input)
-    : settings_(settings), input_(input), matrices_(BuildMatrices(settings.error_model, input)) {}
+    : settings_(settings), input_(input), matrices_(BuildMatrices(settings, input)) {}
 
 std::unique_ptr<PortionWorker> AllocationTask::MakeWorker() const {
   return std::make_unique<AllocationWorker>(settings_, input_, matrices_);

@@ -79,6 +79,7 @@ std::vector<Declared> DeclareSettings() {
           "Maximal offset tolerance, in whole unit distances (repeats), 0 or more"),
       ErrorModelSetting<AllocationSettings>(" (" + PlainErrorModels() + ")"),
       LociInUseSetting<AllocationSettings>(),
+      UndefinedParentsSetting<AllocationSettings>(),
       {.key = "sequence",
        .option = "--sequence",
        .metavar = "[I1,I2,...]",

@@ -44,6 +44,8 @@ struct AllocationSettings {
   /// Names of the loci in use; all when nothing is said.
   std::optional<std::vector<std::string>> loci_in_use;
 
+  bool allow_undefined_parents = false;  ///< see AddUndefinedAllele
+
   /// Set for a run over a cumulative sequence of loci: the position of each locus of the
   /// names-of-loci file. An empty vector stands for the file order.
   std::optional<std::vector<std::int32_t>> sequence;

@@ -108,7 +108,16 @@ EvidenceTask::EvidenceTask(const ConfidenceSettings& settings, const ConfidenceI
              input.groups,
              CountWays(input.flow, input.groups),
              strangers_,
-             identical_} {}
+             identical_} {
+  // A parent that is undefined at a locus gives what a stranger gives, for two equal alleles.
+  for (std::size_t locus = 0; locus < matrices_.size(); ++locus) {
+    std::vector<double> row = strangers_[locus];
+    for (double& score : row) {
+      score /= 2;
+    }
+    matrices_[locus].AddRow(row);
+  }
+}
 
 std::unique_ptr<PortionWorker> EvidenceTask::MakeWorker() const {
   return std::make_unique<EvidenceWorker>(study_, offspring_);

@@ -16,7 +16,7 @@ constexpr std::array<std::string_view, 12> kLabels = {
     "cond_RJ_J_par2",   "cond_RJ_RJ_par1",   "cond_RJ_RJ_par2"};
 
 bool Carries(const LocusGenotype& parent, AlleleSize allele) {
-  return parent.allele1 == allele || parent.allele2 == allele;
+  return !parent.IsMissing() && (parent.allele1 == allele || parent.allele2 == allele);
 }
 
 LocusCondition ConditionOfHomozygote(const LocusComparison& locus) {
@@ -111,6 +111,16 @@ Measured MeasuredUnder(LocusCondition condition) {
   return {};
 }
 
+Measured MeasuredAt(const LocusComparison& locus) {
+  if (!locus.par1.IsMissing() && !locus.par2.IsMissing()) {
+    return MeasuredUnder(locus.condition);
+  }
+  const auto measured = [](const LocusGenotype& parent) {
+    return parent.IsMissing() ? Unexplained::kNothing : Unexplained::kEither;
+  };
+  return {measured(locus.par1), measured(locus.par2)};
+}
+
 BasePairs Distance(AlleleSize a, AlleleSize b) {
   const auto difference =
       static_cast<std::int32_t>(a.Value()) - static_cast<std::int32_t>(b.Value());
@@ -133,7 +143,7 @@ LocusComparison ClassifyLocus(const LocusGenotype& offspring, const LocusGenotyp
       locus.homozygous ? ConditionOfHomozygote(locus) : ConditionOfHeterozygote(locus);
 
   if (!offspring.IsMissing()) {
-    const Measured measured = MeasuredUnder(locus.condition);
+    const Measured measured = MeasuredAt(locus);
     locus.distance_par1 = DistanceTo(measured.par1, offspring, par1);
     locus.distance_par2 = DistanceTo(measured.par2, offspring, par2);
     locus.offset_par1 = OffsetOf(locus.distance_par1, unit_distance);

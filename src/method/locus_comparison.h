@@ -45,6 +45,12 @@ struct Measured {
 /// The table of docs/method.md, "Offsets and tolerance".
 Measured MeasuredUnder(LocusCondition condition);
 
+struct LocusComparison;
+
+/// The same where a parent may be undefined, at a locus that is typed in the offspring: nothing is
+/// asked of that parent, and its partner is measured against the nearer allele.
+Measured MeasuredAt(const LocusComparison& locus);
+
 /// One locus of an offspring against the same locus of two parents: all that the reports tell of
 /// it. R is the first allele of the offspring as it stands in the file, J the second.
 struct LocusComparison {
@@ -74,8 +80,8 @@ struct LocusComparison {
 /// Classifies one locus and measures both parents. A locus missing in the offspring says nothing
 /// about the parents: condition "none", offsets 0. Under condition 3 both offsets are 0 although
 /// one allele comes from nowhere; the likelihood of the pair, not the offsets, speaks against it.
-/// A missing parental locus is measured like any genotype. At a locus with a single size, whose
-/// unit distance is not positive, offsets are 0.
+/// A locus undefined in a parent carries no allele of the offspring, see MeasuredAt. At a locus
+/// with a single size, whose unit distance is not positive, offsets are 0.
 LocusComparison ClassifyLocus(const LocusGenotype& offspring, const LocusGenotype& par1,
                               const LocusGenotype& par2, BasePairs unit_distance);
 

@@ -85,6 +85,15 @@ Setting<Settings> LociInUseSetting() {
 }
 
 template <typename Settings>
+Setting<Settings> UndefinedParentsSetting() {
+  return {.key = "allow_undefined_parents",
+          .option = "--allow-undefined-parents",
+          .group = "Method",
+          .help = "Take collected parents with undefined loci (zeros) for carriers of any allele",
+          .value = Member(&Settings::allow_undefined_parents, FlagKind())};
+}
+
+template <typename Settings>
 Setting<Settings> ThreadsSetting() {
   return {.key = "threads",
           .option = "--threads",

@@ -20,10 +20,20 @@ class TransmissionMatrix {
   /// Makes it a matrix of so many alleles, all cells 0. Memory once taken is kept.
   void Resize(std::size_t alleles) {
     alleles_ = alleles;
+    rows_ = alleles;
     cells_.assign(alleles * alleles, 0.0);
   }
 
+  /// Adds a row behind the others; see AddUndefinedAllele.
+  void AddRow(std::span<const double> row) {
+    ++rows_;
+    cells_.insert(cells_.end(), row.begin(), row.end());
+  }
+
   std::size_t Alleles() const { return alleles_; }
+
+  /// As many as there are alleles, and one more where parents may be undefined.
+  std::size_t Rows() const { return rows_; }
 
   double operator()(std::size_t parental, std::size_t offspring) const {
     return cells_[parental * alleles_ + offspring];
@@ -34,6 +44,7 @@ class TransmissionMatrix {
 
  private:
   std::size_t alleles_ = 0;
+  std::size_t rows_ = 0;
   std::vector<double> cells_;
 };
 

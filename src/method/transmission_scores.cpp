@@ -13,12 +13,12 @@ namespace {
 constexpr double kMissingR = 1.0;
 constexpr double kMissingJ = 0.5;
 
-/// The chance of each parental allele to be read as one offspring allele.
-using Column = std::array<double, kMaxAlleles>;
+/// The chance of each parental allele, and of an undefined one, to be read as one offspring allele.
+using Column = std::array<double, kMaxAlleles + 1>;
 
 Column ColumnOf(const TransmissionMatrix& matrix, AlleleIndex offspring_allele) {
   Column column;  // only the first alleles are looked at
-  for (std::size_t parental = 0; parental < matrix.Alleles(); ++parental) {
+  for (std::size_t parental = 0; parental < matrix.Rows(); ++parental) {
     column[parental] = matrix(parental, offspring_allele.Value());
   }
   return column;

@@ -18,7 +18,8 @@ namespace kaldo {
 /// locus. That is twice the probability to pass on that allele: the factor one half of Mendel's
 /// first law is left out, since it is the same for every parent. Where the offspring's locus is
 /// missing, P_R = 1 and P_J = 0.5, so that the locus multiplies every likelihood by exactly 1 (1 x
-/// 0.5 + 0.5 x 1). Parents have no missing loci; separators, which do, stand in no group.
+/// 0.5 + 0.5 x 1). For parents with undefined loci see AddUndefinedAllele; separators stand in no
+/// group.
 ///
 /// The scores of one locus lie side by side over all parents, because the search walks over
 /// parents.

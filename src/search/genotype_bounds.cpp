@@ -51,7 +51,7 @@ void GenotypeBounds::Prepare(const SearchStudy& study) {
     locus.matrix = &study.Matrix(k);
     locus.alleles = locus.matrix->Alleles();
     locus.numbers.assign(locus.alleles * locus.alleles, kNoBounds);
-    locus.classes.Sort(study.ParentGenotypes(k), locus.alleles);
+    locus.classes.Sort(study.ParentGenotypes(k), locus.matrix->Rows());
     const auto of_parents = locus.classes.OfParents();
     for (std::size_t parent = 0; parent < study.parents; ++parent) {
       classes_by_parent_[parent * loci + k] = of_parents[parent];

@@ -15,7 +15,8 @@ namespace kaldo {
 namespace {
 
 constexpr double kLargestCost = 254;
-constexpr std::size_t kMostClasses = kMaxAlleles * (kMaxAlleles + 1) / 2;
+// All genotypes, and the undefined one.
+constexpr std::size_t kMostClasses = kMaxAlleles * (kMaxAlleles + 1) / 2 + 1;
 // Logarithms are off by less than this many costs.
 constexpr double kRoundingMargin = 1e-6;
 

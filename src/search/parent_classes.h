@@ -14,8 +14,8 @@ namespace kaldo {
 /// order of the two alleles does not matter to a likelihood.
 class ParentClasses {
  public:
-  /// Sorts the parents, slots 0 to `parents` - 1, of an indexed locus with so many alleles into
-  /// classes. Memory once taken is kept.
+  /// Sorts the parents, slots 0 to `parents` - 1, of an indexed locus with so many alleles, an
+  /// undefined one included, into classes. Memory once taken is kept.
   void Sort(std::span<const LocusGenotype> parents, std::size_t alleles);
 
   std::size_t Count() const { return first_.size(); }

@@ -20,7 +20,7 @@ void PossibleParents::AddLocus(std::span<const LocusGenotype> parents,
                                const TransmissionMatrix& matrix) {
   const std::size_t alleles = matrix.Alleles();
   const std::size_t words = all_.size();
-  carriers_.assign(alleles * words, 0);
+  carriers_.assign(matrix.Rows() * words, 0);
   for (std::size_t slot = 0; slot < parents.size(); ++slot) {
     const std::uint64_t bit = std::uint64_t{1} << slot % kBlock;
     carriers_[parents[slot].index1.Value() * words + slot / kBlock] |= bit;
@@ -31,7 +31,7 @@ void PossibleParents::AddLocus(std::span<const LocusGenotype> parents,
   givers_.resize(givers_.size() + alleles * words, 0);
   std::uint64_t* givers = givers_.data() + locus.first_row;
   for (std::size_t given = 0; given < alleles; ++given, givers += words) {
-    for (std::size_t carried = 0; carried < alleles; ++carried) {
+    for (std::size_t carried = 0; carried < matrix.Rows(); ++carried) {
       if (matrix(carried, given) == 0) {
         locus.all_give_any = false;
         continue;

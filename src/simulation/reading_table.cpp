@@ -25,10 +25,10 @@ std::uint32_t FirstStepAbove(double sum, const UnitDraw& draw) {
 
 void ReadingTable::Build(const TransmissionMatrix& matrix, const UnitDraw& draw) {
   steps_ = draw.Steps();
-  readings_.resize(matrix.Alleles() * steps_);
+  readings_.resize(matrix.Rows() * steps_);
   const std::size_t last = matrix.Alleles() - 1;
   std::uint8_t* row = readings_.data();
-  for (std::size_t parental = 0; parental <= last; ++parental, row += steps_) {
+  for (std::size_t parental = 0; parental < matrix.Rows(); ++parental, row += steps_) {
     std::uint32_t done = 0;
     double sum = 0;
     for (std::size_t received = 0; received < last && done < steps_; ++received) {

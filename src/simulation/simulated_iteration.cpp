@@ -3,7 +3,9 @@
 
 #include <algorithm>
 
+#include "confidence/parent_frequencies.h"
 #include "genotypes/unit_distance.h"
+#include "method/undefined_parents.h"
 #include "simulation/iteration_states.h"
 #include "simulation/scoring.h"
 #include "simulation/simulated_parents.h"
@@ -87,13 +89,28 @@ void SimulatedIteration::CatalogueParents() {
     loci_.unit_distances[k] = UnitDistance(catalogue.Sizes());
     BuildMatrix(settings_.error_model, catalogue.Sizes(), production_matrices_[locus.Value()]);
     BuildMatrix(allocation_model_, catalogue.Sizes(), allocation_matrices_[locus.Value()]);
+    if (settings_.allow_undefined_parents) {
+      AddUndefinedParents(locus);
+    }
   }
+}
+
+/// A parent that is undefined at a locus passes on an allele drawn from the candidates'
+/// frequencies.
+void SimulatedIteration::AddUndefinedParents(LocusIndex locus) {
+  TransmissionMatrix& production = production_matrices_[locus.Value()];
+  const auto genotypes = table_.Locus(locus);
+  IndexUndefinedParents(genotypes.first(input_.NumberOfParents()), production.Alleles());
+  const AlleleFrequencies frequencies =
+      ParentFrequencies(genotypes, {&input_.candidates, 1}, production.Alleles());
+  AddUndefinedAllele(frequencies, production);
+  AddUndefinedAllele(frequencies, allocation_matrices_[locus.Value()]);
 }
 
 void SimulatedIteration::WriteReadingsOut() {
   std::size_t bytes = 0;
   for (const LocusIndex locus : loci_.loci) {
-    bytes += production_matrices_[locus.Value()].Alleles() * draw_.Steps();
+    bytes += production_matrices_[locus.Value()].Rows() * draw_.Steps();
   }
   // Every offspring reads two alleles a locus. Filling sixteen bytes takes less than one walk.
   const std::size_t walks = 2 * offspring_.Size() * loci_.loci.size();

@@ -47,6 +47,7 @@ class SimulatedIteration {
  private:
   void DrawAllParents(RandomNumbers& random);
   void CatalogueParents();
+  void AddUndefinedParents(LocusIndex locus);
   void WriteReadingsOut();
   void Produce(RandomNumbers& random);
 

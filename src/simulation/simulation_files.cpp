@@ -49,8 +49,9 @@ GroupPath PathOf(const SimulationSettings& settings, const GroupDesign& group) {
 }
 
 /// One allele of two is told first in the sexed flow, also for collected parents; then, for
-/// collected parents, any undefined allele.
-std::optional<Problem> CheckGroup(const GroupFile& group, const LociList& loci, bool tells_halves) {
+/// collected parents, any undefined allele that they may not have.
+std::optional<Problem> CheckGroup(const GroupFile& group, const LociList& loci, bool tells_halves,
+                                  UndefinedAlleles in_parents) {
   FileWideCheck check{&group.tokens, Separators::kNone, UndefinedAlleles::kWholeLoci,
                       ProblemKind::kOddDigitsInParents, group.half_defined};
   if (!group.holds_parents || tells_halves) {
@@ -61,7 +62,7 @@ std::optional<Problem> CheckGroup(const GroupFile& group, const LociList& loci, 
   if (!group.holds_parents) {
     return std::nullopt;
   }
-  check.undefined_alleles = UndefinedAlleles::kNone;
+  check.undefined_alleles = in_parents;
   check.undefined = ProblemKind::kUndefinedInParents;
   return CheckFileWide(check, loci);
 }
@@ -111,6 +112,9 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
     }
   }
   SimulationFiles files;
+  if (settings.allow_undefined_parents) {
+    files.in_parents = UndefinedAlleles::kWholeLoci;
+  }
   auto loci = open(settings.loci_file, kMaxLociBytes);
   if (!loci) {
     return tl::unexpected(std::move(loci.error()));
@@ -130,7 +134,7 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
 std::optional<Problem> CheckSimulationFiles(const SimulationFiles& files, const LociList& loci) {
   const bool sexed = files.groups.size() > 2;
   for (const GroupFile& group : files.groups) {
-    if (auto problem = CheckGroup(group, loci, sexed)) {
+    if (auto problem = CheckGroup(group, loci, sexed, files.in_parents)) {
       return problem;
     }
   }

@@ -5,6 +5,7 @@
 
 #include <tl/expected.hpp>
 
+#include "genotypes/file_wide_checks.h"
 #include "genotypes/loci_list.h"
 #include "runs/run_record.h"
 #include "simulation/simulation_settings.h"
@@ -24,6 +25,8 @@ struct GroupFile {
 struct SimulationFiles {
   TokenFile loci;
   std::vector<GroupFile> groups;  ///< as in the design of the flow
+
+  UndefinedAlleles in_parents = UndefinedAlleles::kNone;  ///< those that collected ones may have
 
   /// What a run record says of them.
   std::vector<RecordedInput> Recorded() const;

@@ -153,6 +153,12 @@ std::optional<Problem> CheckAlleles(const SimulationInput& input) {
     for (const LocusGenotype& genotype : input.collected.Locus(locus)) {
       sizes.insert({genotype.allele1, genotype.allele2});
     }
+    sizes.erase(kUndefinedAllele);
+    if (sizes.empty() && input.collected.NumberOfIndividuals() > 0) {
+      return Problem{.kind = ProblemKind::kNoAlleleInSample,
+                     .locus = input.loci.Name(locus),
+                     .found = "no collected parent is typed there; leave the locus out"};
+    }
     for (const ParentalGroup& group : input.groups) {
       if (group.sample) {
         sizes.insert(group.sample->Sizes(locus).begin(), group.sample->Sizes(locus).end());

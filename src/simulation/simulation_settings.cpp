@@ -269,6 +269,7 @@ std::vector<Declared> Method() {
        .help = "Compare how sure allocations are said to be with the truth",
        .value = Member(&SimulationSettings::scores_confidence, FlagKind())},
       ConfidenceLevelSetting<SimulationSettings>(&SimulationSettings::confidence_level),
+      UndefinedParentsSetting<SimulationSettings>(),
   };
 }
 

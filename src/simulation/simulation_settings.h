@@ -87,6 +87,7 @@ struct SimulationSettings {
   ErrorModel error_model = kErrorModelUnlessTold;
 
   std::optional<std::vector<std::string>> loci_in_use;  ///< by name; all when nothing is said
+  bool allow_undefined_parents = false;  ///< among collected ones, see AddUndefinedAllele
 
   LociStrategy strategy = LociStrategy::kChoice;
   double criterion = 0.95;             ///< kMinimal: the probability that any allocation is correct

@@ -203,8 +203,8 @@ TEST(Confidence, IsThePlainSumOverAllPairs) {
   for (std::size_t round = 0; round < 540; ++round) {
     SCOPED_TRACE(round);
     const ErrorModel& model = models[round % models.size()];
-    const StudyShape shape = round % 30 == 0 ? StudyShape{70, 12, 9, 20, true, true}
-                                             : StudyShape{12, 4, 4, 8, true, round % 2 == 0};
+    const StudyShape shape = round % 30 == 0 ? StudyShape{70, 12, 9, 20, true, true, true}
+                                             : StudyShape{12, 4, 4, 8, true, round % 2 == 0, true};
     CompareStudy(maker.Make(model, shape), model, coverage);
     if (HasFailure()) {
       return;

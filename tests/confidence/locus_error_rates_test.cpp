@@ -26,7 +26,7 @@ TEST(LocusErrorRates, AreThoseOfThePlainSumOverAllPairs) {
   for (int round = 0; round < 60; ++round) {
     SCOPED_TRACE(round);
     const ErrorModel model = round % 2 == 0 ? Uniform(0.01) : ErrorModel{};
-    const auto study = maker.Make(model, {10, 4, 5, 12, true, true});
+    const auto study = maker.Make(model, {10, 4, 5, 12, true, true, true});
     const ConfidenceInput input = InputOf(study);
     const auto rates = Compute(model, input).error_rates;
     const auto plain = PlainConfidence(model, input).ErrorRates();

@@ -212,9 +212,11 @@ class PlainConfidence {
     }
     for (const Slot slot : Parents()) {
       const LocusGenotype& genotype = input_.table.Genotype(locus, slot);
-      copies[genotype.allele1] += 1;
-      copies[genotype.allele2] += 1;
-      total += 2;
+      if (!genotype.IsMissing()) {
+        copies[genotype.allele1] += 1;
+        copies[genotype.allele2] += 1;
+        total += 2;
+      }
     }
     for (auto& [size, copy] : copies) {
       copy /= total;
@@ -240,7 +242,7 @@ class PlainConfidence {
                  : 0;
     };
     const auto gives = [&](AlleleSize read) {
-      if (parent) {
+      if (parent && !input_.table.Genotype(locus, *parent).IsMissing()) {
         const LocusGenotype& genotype = input_.table.Genotype(locus, *parent);
         return reading(genotype.allele1, read) + reading(genotype.allele2, read);
       }

@@ -2,6 +2,7 @@
 // The production search against the plain scan, bit for bit, over a hundred thousand searches.
 #include "search/pair_searcher.h"
 
+#include <algorithm>
 #include <bit>
 #include <hwy/targets.h>
 #include <map>
@@ -102,6 +103,10 @@ void CompareSearches(const RandomStudy& study, PairSearcher& searcher, Coverage&
     }
     coverage["all loci missing"] += all_missing ? 1 : 0;
   }
+  const auto genotypes = study.table.Locus(LocusIndex{0}).first(study.parents);
+  const auto undefined = std::count_if(genotypes.begin(), genotypes.end(),
+                                       [](const LocusGenotype& one) { return one.IsMissing(); });
+  coverage["undefined parents"] += undefined > 3 ? 1 : 0;
   coverage["several groups"] += study.groups.size() > 1 ? 1 : 0;
   coverage[study.flow == Flow::kSexed ? "sexed" : "non-sexed"] += 1;
 }
@@ -146,11 +151,12 @@ TEST(PairSearcher, FindsWhatTheScanFindsInSmallStudies) {
                 .alleles = 6,
                 .offspring = 8,
                 .groups = true,
-                .bred_offspring = true},
+                .bred_offspring = true,
+                .undefined_parents = true},
                15'000, 2, coverage);
   ExpectMet(coverage,
             {"no pair", "one pair", "tie", "mark", "better pair after the mark", "all loci missing",
-             "several groups", "sexed", "non-sexed"},
+             "several groups", "sexed", "non-sexed", "undefined parents"},
             100);
 }
 
@@ -161,14 +167,16 @@ TEST(PairSearcher, FindsWhatTheScanFindsAmongManyParents) {
                 .alleles = 12,
                 .offspring = 6,
                 .groups = true,
-                .bred_offspring = true},
+                .bred_offspring = true,
+                .undefined_parents = true},
                450, 3, coverage);
   CompareShape({.parents = 300,
                 .loci = 8,
                 .alleles = 12,
                 .offspring = 12,
                 .groups = true,
-                .bred_offspring = true},
+                .bred_offspring = true,
+                .undefined_parents = true},
                450, 4, coverage);
   CompareShape({.parents = 200,
                 .loci = 50,
@@ -184,12 +192,13 @@ TEST(PairSearcher, FindsWhatTheScanFindsAmongManyParents) {
                 .groups = true,
                 .bred_offspring = true},
                90, 8, coverage);
-  ExpectMet(coverage,
-            {"one pair", "tie", "mark", "several groups", "near the smallest number",
-             "fewer than two possible parents", "two or three possible parents",
-             "few parents possible", "many possible", "most possible", "all parents possible",
-             "answered without a pair", "answered from three parents", "rows scanned plainly"},
-            10);
+  ExpectMet(
+      coverage,
+      {"one pair", "tie", "mark", "several groups", "undefined parents", "near the smallest number",
+       "fewer than two possible parents", "two or three possible parents", "few parents possible",
+       "many possible", "most possible", "all parents possible", "answered without a pair",
+       "answered from three parents", "rows scanned plainly"},
+      10);
 }
 
 /// No memory for bounds but those of one offspring: they start anew with each.

@@ -144,8 +144,8 @@ TEST(PairSums, HoldEveryPairAboveTheLimitAndFindTheBestTwo) {
   for (int round = 0; round < 1'500; ++round) {
     SCOPED_TRACE(round);
     const std::array<ErrorModel, 4> models = {uniform, tiny, none, ErrorModel{}};
-    const StudyShape shape = round % 10 == 0 ? StudyShape{400, 14, 10, 3, true, true}
-                                             : StudyShape{40, 5, 5, 6, true, round % 2 == 0};
+    const StudyShape shape = round % 10 == 0 ? StudyShape{400, 14, 10, 3, true, true, true}
+                                             : StudyShape{40, 5, 5, 6, true, round % 2 == 0, true};
     CompareStudy(random.Make(models[static_cast<std::size_t>(round) % 4], shape), random, sums,
                  looks);
     if (HasFailure()) {

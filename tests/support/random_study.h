@@ -5,9 +5,11 @@
 
 #include <fmt/format.h>
 
+#include "confidence/parent_frequencies.h"
 #include "genotypes/catalogued_loci.h"
 #include "method/candidate_groups.h"
 #include "method/transmission_matrix.h"
+#include "method/undefined_parents.h"
 
 namespace kaldo::test {
 
@@ -29,8 +31,9 @@ struct StudyShape {
   std::uint32_t loci = 4;
   std::uint32_t alleles = 4;
   std::uint32_t offspring = 4;
-  bool groups = false;          ///< some studies have separators among the parents
-  bool bred_offspring = false;  ///< most offspring come from two of the parents
+  bool groups = false;             ///< some studies have separators among the parents
+  bool bred_offspring = false;     ///< most offspring come from two of the parents
+  bool undefined_parents = false;  ///< some parents of some studies are undefined at some loci
 };
 
 class RandomStudyMaker {
@@ -46,7 +49,12 @@ class RandomStudyMaker {
     study.parents = Draw(1, shape.parents);
     study.males = study.flow == Flow::kSexed ? Draw(0, study.parents) : study.parents;
     AddParents(study, shape.groups && Draw(0, 2) == 0);
+    if (shape.undefined_parents && Draw(0, 1) == 0) {
+      UndefineParents(study);
+    }
     AddOffspring(study, Draw(1, shape.offspring), shape.bred_offspring);
+    study.groups =
+        FormGroups(study.flow, study.table, {0, study.males}, {study.males, study.parents});
     for (std::uint32_t locus = 0; locus < loci; ++locus) {
       study.loci.emplace_back(locus);
       auto catalogue = AlleleCatalogue::Build(study.table.Locus(LocusIndex{locus})).value();
@@ -54,9 +62,10 @@ class RandomStudyMaker {
       catalogue.ReIndex(study.table.Locus(LocusIndex{locus}));
       study.matrices.push_back(BuildMatrix(model, catalogue.Sizes()));
       study.catalogues.push_back(catalogue);
+      if (shape.undefined_parents) {
+        AllowUndefinedParents(study, LocusIndex{locus});
+      }
     }
-    study.groups =
-        FormGroups(study.flow, study.table, {0, study.males}, {study.males, study.parents});
     return study;
   }
 
@@ -89,6 +98,26 @@ class RandomStudyMaker {
         genotype.allele2 = RandomAllele();
       }
     }
+  }
+
+  void UndefineParents(RandomStudy& study) {
+    const std::uint32_t one_in = Draw(2, 20);
+    for (std::uint32_t locus = 0; locus < study.table.NumberOfLoci(); ++locus) {
+      for (Slot slot{0}; slot < Slot{study.parents}; ++slot) {
+        if (Draw(1, one_in) == 1) {
+          study.table.Genotype(LocusIndex{locus}, slot) = {};
+        }
+      }
+    }
+  }
+
+  static void AllowUndefinedParents(RandomStudy& study, LocusIndex locus) {
+    TransmissionMatrix& matrix = study.matrices.back();
+    const auto genotypes = study.table.Locus(locus);
+    IndexUndefinedParents(genotypes.first(study.parents), matrix.Alleles());
+    AddUndefinedAllele(
+        ParentFrequencies(genotypes, RangesOfParents(study.flow, study.groups), matrix.Alleles()),
+        matrix);
   }
 
   AlleleSize Inherited(const LocusGenotype& parent) {

@@ -53,7 +53,23 @@ std::string MeasuredPart(Unexplained unexplained, const LocusGenotype& offspring
   return fmt::format("[dm={},{}]", distance.Value(), first.offspring.Value());
 }
 
+/// "[*,*]" for an undefined parent; its partner as where it alone is measured.
+std::string PartBesideUndefined(Unexplained unexplained, const LocusGenotype& offspring,
+                                const LocusGenotype& parent, BasePairs distance) {
+  if (parent.IsMissing()) {
+    return "[*,*]";
+  }
+  return distance == BasePairs{0} ? "[]" : MeasuredPart(unexplained, offspring, parent, distance);
+}
+
 std::string Correspondence(const LocusComparison& locus) {
+  if (locus.par1.IsMissing() || locus.par2.IsMissing()) {
+    const Measured measured = MeasuredAt(locus);
+    return fmt::format(
+        "[{},{}]",
+        PartBesideUndefined(measured.par1, locus.offspring, locus.par1, locus.distance_par1),
+        PartBesideUndefined(measured.par2, locus.offspring, locus.par2, locus.distance_par2));
+  }
   const Measured measured = MeasuredUnder(locus.condition);
   switch (locus.condition) {
     case LocusCondition::kComplete:
