@@ -64,6 +64,16 @@ TEST_F(InputTest, TellsTheLastFaultOfTheFilesInTheOrderOfTheScreen) {
       Sentence(),
       "Female parental loci should not contain undefined alleles i.e. represented by a string "
       "of 0s!");
+  settings_.allow_undefined_parents = true;
+  EXPECT_EQ(
+      Sentence(),
+      "Female parental loci should not contain undefined alleles i.e. represented by a string "
+      "of 0s!")
+      << "half a genotype is none";
+  Sexed(odd_male, "F 0000 2022\n");
+  EXPECT_EQ(Sentence(), "Some male parental loci are represented with an odd number of digits!");
+  settings_.allow_undefined_parents = false;
+  Sexed(odd_male, undefined_female);
   Offspring("K1 1000 2022\n");
   EXPECT_EQ(Sentence(),
             "Offspring loci should contain totally defined alleles(no string of 0s) or totally "

@@ -62,6 +62,30 @@ TEST(AllocationRun, WritesTheReportsOfASexedSequenceWorkedOutByHand) {
   ExpectCase("sexed-sequence", settings);
 }
 
+/// B may carry anything at L2: among the typed parents 200 and 202 have two copies each and half a
+/// copy more, so that B gives either with the scores 2 x 1/2. With A it gives 4 at L1 and
+/// 2 x 1 + 0 x 1 at L2; no other pair explains L1.
+TEST(AllocationRun, TakesAnUndefinedParentForACarrierOfAnyAllele) {
+  const TempFolder folder;
+  AllocationSettings settings = NonSexedSettings();
+  settings.project = folder.Path("project");
+  settings.loci_file = folder.Write("loci", "L1 L2\n");
+  settings.parents_file =
+      folder.Write("parents", "A 150150 200200\nB 154154 000000\nC 158158 202202\n");
+  settings.offspring_file = folder.Write("offspring", "K 150154 200202\n");
+  settings.error_model.kind = ErrorKind::kNoError;
+  RunObserver observer;
+  EXPECT_FALSE(RunAllocation(settings, observer)) << "parents have all loci unless it is allowed";
+  settings.allow_undefined_parents = true;
+  const auto run = RunAllocation(settings, observer);
+  ASSERT_TRUE(run);
+  const AllocationOutcome& outcome = run->result.outcomes.front();
+  EXPECT_EQ(outcome.best_likelihood, 8);
+  ASSERT_EQ(outcome.Pairs().size(), 1U);
+  EXPECT_EQ(outcome.Pairs()[0], (ParentPair{Slot{0}, Slot{1}}));
+  EXPECT_EQ(run->result.counters.back().both_collected, 1);
+}
+
 /// The example data sets, run in a folder of their own.
 class ExampleRun : public testing::Test {
  protected:

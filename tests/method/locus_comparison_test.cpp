@@ -95,5 +95,18 @@ TEST(LocusComparison, MissingLociAndLociWithASingleSizeHaveNoOffsets) {
   EXPECT_EQ(ConditionRecord(single), "cond_aucun\t\t[*,*]\t\t[*,*]\t/ -150\t[*,*]");
 }
 
+/// Nothing is asked of a parent that may carry anything, and little of its partner.
+TEST(LocusComparison, MeasuresThePartnerOfAnUndefinedParentAgainstTheNearerAllele) {
+  const auto record = [](LocusGenotype par1, LocusGenotype par2) {
+    return ConditionRecord(ClassifyLocus(Genotype(150, 156), par1, par2, BasePairs{2}));
+  };
+  const LocusGenotype undefined = Genotype(0, 0);
+  EXPECT_EQ(record(Genotype(150, 150), undefined),
+            "cond_RJ_R_par1\t\t[[],[*,*]]\t\t[0,0]\t/ 2\t[0,0]");
+  EXPECT_EQ(record(undefined, Genotype(140, 160)),
+            "cond_aucun\t\t[[*,*],[160,156]]\t\t[0,4]\t/ 2\t[0,2]");
+  EXPECT_EQ(record(undefined, undefined), "cond_aucun\t\t[[*,*],[*,*]]\t\t[0,0]\t/ 2\t[0,0]");
+}
+
 }  // namespace
 }  // namespace kaldo

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "method/undefined_parents.h"
 #include "simulation/pseudo_offspring.h"
 
 namespace kaldo {
@@ -28,9 +29,12 @@ TEST(ReadingTable, ReadsWhatTransmitReadsForEveryDraw) {
         matrix(i, j) = values[random() % (round % 3 == 0 ? 5 : 4)];
       }
     }
+    if (round % 2 == 0) {
+      AddUndefinedAllele(std::vector<double>(alleles, 1.0 / static_cast<double>(alleles)), matrix);
+    }
     table.Build(matrix, draw);
     for (std::uint32_t step = 0; step < draw.Steps(); ++step) {
-      for (std::uint8_t parental = 0; parental < alleles; ++parental) {
+      for (std::uint8_t parental = 0; parental < matrix.Rows(); ++parental) {
         ASSERT_EQ(table.Read(AlleleIndex{parental}, step),
                   Transmit(matrix, AlleleIndex{parental}, draw.At(step)))
             << round << ' ' << step;

@@ -308,6 +308,33 @@ TEST_F(ExampleSimulation, ScoresThePosteriorsOfAnAllocationOfItsPseudoOffspring)
   }
 }
 
+/// Where nobody is undefined nothing changes. A locus at which most parents are undefined tells
+/// less than one at which all are typed, and more than none.
+TEST_F(ExampleSimulation, TakesUndefinedParentsWhereTheyAreAllowed) {
+  SimulationSettings settings = Settings(Flow::kNonSexed, Procedure::kParental);
+  settings.error_model.kind = ErrorKind::kNoError;
+  settings.loci_in_use = {"Loc1"};
+  settings.offspring_per_iteration = 400;
+  folder_.Write("loci", "Loc1");
+  settings.loci_file = "loci";
+  const auto correct = [&](std::string_view parents) {
+    settings.sets[0].collected_file = folder_.Write("parents", parents);
+    settings.sets[0].uncollected_sample = folder_.Write("sample", "S 124126\nT 128130\n");
+    RunObserver observer;
+    const auto run = RunSimulation(settings, observer);
+    return run ? run->result.LastSubset().probabilities.any : -1;
+  };
+  const std::string_view all_typed = "A 100102\nB 104106\nC 108110\nD 112114\nE 116118\n";
+  const double of_all = correct(all_typed);
+  const std::string_view undefined = "A 100102\nB 000000\nC 108110\nD 000000\nE 116118\n";
+  EXPECT_EQ(correct(undefined), -1);
+  settings.allow_undefined_parents = true;
+  EXPECT_EQ(correct(all_typed), of_all);
+  const double of_some = correct(undefined);
+  EXPECT_LT(of_some, of_all);
+  EXPECT_GT(of_some, 0.3);
+}
+
 TEST_F(ExampleSimulation, RemovesFilesThatTheOptionsLeaveWithoutContent) {
   for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
     const bool sexed = flow == Flow::kSexed;
