@@ -3,19 +3,45 @@
 
 #include <algorithm>
 
+#include "runs/all_typed.h"
+
 namespace kaldo {
 
+namespace {
+
+bool IsSexed(const TypedSettings& typed) {
+  return typed.contains("males") || typed.contains("females");
+}
+
+std::optional<Problem> CheckFlow(const TypedSettings& typed) {
+  if (!IsSexed(typed) || !typed.contains("parents")) {
+    return std::nullopt;
+  }
+  return Problem{.kind = ProblemKind::kParentsAndSexes,
+                 .found = "--parents goes without --males and --females"};
+}
+
+}  // namespace
+
 tl::expected<AllocationSettings, Problem> AllocationFrom(const TypedSettings& typed) {
-  const bool sexed = typed.contains("males") || typed.contains("females");
-  if (sexed && typed.contains("parents")) {
-    return NotUnderstood(ProblemKind::kParentsAndSexes,
-                         "--parents goes without --males and --females");
+  if (auto problem = CheckFlow(typed)) {
+    return tl::unexpected(std::move(*problem));
   }
   AllocationSettings settings;
-  settings.flow = sexed ? Flow::kSexed : Flow::kNonSexed;
+  settings.flow = IsSexed(typed) ? Flow::kSexed : Flow::kNonSexed;
   if (auto problem = ReadTyped(AllocationSettingTable(), typed, settings)) {
     return tl::unexpected(std::move(*problem));
   }
+  return settings;
+}
+
+AllocationSettings ReadableAllocation(const TypedSettings& typed, AlikeGroups<Problem>& faults) {
+  if (auto problem = CheckFlow(typed)) {
+    faults.Add(std::move(*problem));
+  }
+  AllocationSettings settings;
+  settings.flow = IsSexed(typed) ? Flow::kSexed : Flow::kNonSexed;
+  ReadAllTyped(AllocationSettingTable(), typed, settings, faults);
   return settings;
 }
 

@@ -5,9 +5,10 @@
 
 #include <fmt/format.h>
 
+#include "base/counted_text.h"
+#include "genotypes/all_faults.h"
 #include "genotypes/capacities.h"
 #include "genotypes/file_wide_checks.h"
-#include "genotypes/name_rules.h"
 #include "genotypes/record_checks.h"
 
 namespace kaldo {
@@ -57,9 +58,10 @@ RecordLayout LayoutOf(const AllocationFile& file, const LociList& loci) {
 }
 
 /// Males of one group can only meet females of the group of the same number.
-std::optional<Problem> CheckEqualSeparators(const AllocationFiles& files, const LociList& loci) {
-  const AllocationFile& males = files.genotypes[0];
-  const AllocationFile& females = files.genotypes[1];
+std::optional<Problem> CheckEqualSeparators(std::span<const AllocationFile> files,
+                                            const LociList& loci) {
+  const AllocationFile& males = files[0];
+  const AllocationFile& females = files[1];
   const auto in_males = CountTokens(males.tokens.Tokens(), LayoutOf(males, loci)).separators;
   const auto in_females = CountTokens(females.tokens.Tokens(), LayoutOf(females, loci)).separators;
   if (in_males == in_females) {
@@ -68,9 +70,9 @@ std::optional<Problem> CheckEqualSeparators(const AllocationFiles& files, const 
   return Problem{
       .kind = ProblemKind::kSeparatorsDiffer,
       .file = females.tokens.Path(),
-      .found = fmt::format(
-          "{} separators here, {} in {}; group k of the males meets group k of the females",
-          in_females, in_males, males.tokens.Path())};
+      .found = fmt::format("{} here, {} in {}; group k of the males meets group k of the females",
+                           Counted(in_females, "separator", "separators"), in_males,
+                           males.tokens.Path())};
 }
 
 std::optional<Problem> CheckNotEmpty(const AllocationFile& file, const LociList& loci) {
@@ -83,28 +85,26 @@ std::optional<Problem> CheckNotEmpty(const AllocationFile& file, const LociList&
                  .found = file.tokens.Tokens().empty() ? "the file is empty" : ""};
 }
 
-/// The reports would tell such a parent as one that was not collected.
 std::optional<Problem> CheckParentNames(const AllocationFile& file, const LociList& loci) {
   RecordCursor cursor(file.tokens.Tokens(), LayoutOf(file, loci));
   while (!cursor.AtEnd()) {
     cursor.Next();
     const Token& name = cursor.Name();
-    if (IsSignOfNoParent(name.text)) {
-      return Problem{.kind = ProblemKind::kParentNamedNone,
-                     .file = file.tokens.Path(),
-                     .line = name.line,
-                     .record = cursor.Record(),
-                     .individual = std::string(name.text),
-                     .found = "give the parent another name"};
+    if (auto fault = FaultOfParentName(name.text)) {
+      fault->file = file.tokens.Path();
+      fault->line = name.line;
+      fault->record = cursor.Record();
+      fault->individual = name.text;
+      return fault;
     }
   }
   return std::nullopt;
 }
 
 /// Parents share one table, whatever files they come from; so do the offspring.
-std::optional<Problem> CheckCapacity(const AllocationFiles& files, const LociList& loci) {
+std::optional<Problem> CheckCapacity(std::span<const AllocationFile> files, const LociList& loci) {
   std::size_t parents = 0;
-  for (const AllocationFile& file : files.genotypes) {
+  for (const AllocationFile& file : files) {
     const std::size_t records = CountTokens(file.tokens.Tokens(), LayoutOf(file, loci)).records;
     parents += file.role.holds_parents ? records : 0;
     const std::size_t in_table = file.role.holds_parents ? parents : records;
@@ -117,6 +117,26 @@ std::optional<Problem> CheckCapacity(const AllocationFiles& files, const LociLis
     }
   }
   return std::nullopt;
+}
+
+std::size_t MostBytes(const AllocationFileRole& role) {
+  return role.path == kLoci.path ? kMaxLociBytes : kMaxInputBytes;
+}
+
+UndefinedAlleles UndefinedIn(const AllocationFileRole& role, const AllocationSettings& settings) {
+  return role.holds_parents && !settings.allow_undefined_parents ? UndefinedAlleles::kNone
+                                                                 : UndefinedAlleles::kWholeLoci;
+}
+
+FileWideCheck WideCheckOf(const AllocationFile& file) {
+  return {&file.tokens,         file.SeparatorsHere(), file.undefined_alleles,
+          file.role.odd_digits, file.role.undefined,   !file.role.holds_parents};
+}
+
+std::vector<AllocationFileRole> Roles(Flow flow) {
+  std::vector<AllocationFileRole> roles = GenotypeRoles(flow);
+  roles.push_back(kLoci);
+  return roles;
 }
 
 }  // namespace
@@ -133,40 +153,79 @@ std::vector<RecordedInput> AllocationFiles::Recorded() const {
 
 tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings,
                                                            const FileOpener& open) {
-  std::vector<AllocationFileRole> roles = GenotypeRoles(settings.flow);
-  roles.push_back(kLoci);
+  const std::vector<AllocationFileRole> roles = Roles(settings.flow);
   for (const AllocationFileRole& role : roles) {
     if ((settings.*role.path).empty()) {
       return tl::unexpected(Problem{.kind = role.no_name});
     }
   }
   AllocationFiles files;
-  if (settings.allow_undefined_parents) {
-    files.in_parents = UndefinedAlleles::kWholeLoci;
-  }
   for (const AllocationFileRole& role : roles) {
-    const bool is_loci = role.path == kLoci.path;
-    auto tokens = open(settings.*role.path, is_loci ? kMaxLociBytes : kMaxInputBytes);
+    auto tokens = open(settings.*role.path, MostBytes(role));
     if (!tokens) {
       return tl::unexpected(std::move(tokens.error()));
     }
-    files.genotypes.push_back({role, std::move(*tokens)});
+    files.genotypes.push_back({role, std::move(*tokens), UndefinedIn(role, settings)});
   }
   files.loci = std::move(files.genotypes.back());
   files.genotypes.pop_back();
   return files;
 }
 
+OpenedAllocationFiles OpenWhatIsThere(const AllocationSettings& settings, const FileOpener& open,
+                                      AlikeGroups<Problem>& faults) {
+  OpenedAllocationFiles files;
+  for (const AllocationFileRole& role : Roles(settings.flow)) {
+    const std::string& path = settings.*role.path;
+    if (path.empty()) {
+      faults.Add({.kind = role.no_name});
+      continue;
+    }
+    auto tokens = open(path, MostBytes(role));
+    if (!tokens) {
+      faults.Add(std::move(tokens.error()));
+    } else if (role.path == kLoci.path) {
+      files.loci = {role, std::move(*tokens)};
+    } else {
+      files.genotypes.push_back({role, std::move(*tokens), UndefinedIn(role, settings)});
+    }
+  }
+  return files;
+}
+
+void FindAllFaults(const OpenedAllocationFiles& files, const LociList& loci,
+                   AlikeGroups<Problem>& faults) {
+  const auto add = [&faults](std::optional<Problem> problem) {
+    if (problem) {
+      faults.Add(std::move(*problem));
+    }
+  };
+  if (files.genotypes.empty()) {
+    return;
+  }
+  const AllocationFile& first = files.genotypes.front();
+  const std::size_t digits = CommonDigitsPerField(first.tokens, LayoutOf(first, loci));
+  for (const AllocationFile& file : files.genotypes) {
+    if (auto none = CheckNotEmpty(file, loci)) {
+      faults.Add(std::move(*none));
+    } else {
+      FindAllFaults({{WideCheckOf(file)}, digits, file.role.holds_parents}, loci, faults);
+    }
+  }
+  if (files.genotypes.size() == 3) {
+    add(CheckEqualSeparators(files.genotypes, loci));
+  }
+  add(CheckCapacity(files.genotypes, loci));
+}
+
 std::optional<Problem> CheckAllocationFiles(const AllocationFiles& files, const LociList& loci) {
   std::optional<Problem> problem;
   if (files.genotypes.size() == 3) {
-    problem = CheckEqualSeparators(files, loci);
+    problem = CheckEqualSeparators(files.genotypes, loci);
   }
   std::vector<FileWideCheck> checks;
   for (const AllocationFile& file : files.genotypes) {
-    checks.push_back({&file.tokens, file.SeparatorsHere(),
-                      file.role.holds_parents ? files.in_parents : UndefinedAlleles::kWholeLoci,
-                      file.role.odd_digits, file.role.undefined, !file.role.holds_parents});
+    checks.push_back(WideCheckOf(file));
   }
   return CheckFilesWide(checks, loci, std::move(problem));
 }
@@ -187,7 +246,7 @@ std::optional<Problem> CheckAllocationRecords(const AllocationFiles& files, cons
       return problem;
     }
   }
-  return CheckCapacity(files, loci);
+  return CheckCapacity(files.genotypes, loci);
 }
 
 }  // namespace kaldo

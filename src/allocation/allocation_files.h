@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +9,7 @@
 #include <tl/expected.hpp>
 
 #include "allocation/allocation_settings.h"
+#include "base/alike.h"
 #include "genotypes/file_wide_checks.h"
 #include "genotypes/loci_list.h"
 #include "genotypes/record_cursor.h"
@@ -29,6 +31,7 @@ struct AllocationFileRole {
 struct AllocationFile {
   AllocationFileRole role;
   TokenFile tokens;
+  UndefinedAlleles undefined_alleles = UndefinedAlleles::kNone;  ///< those that it may have
 
   Separators SeparatorsHere() const {
     return role.holds_parents ? Separators::kAllowed : Separators::kNone;
@@ -41,8 +44,6 @@ struct AllocationFiles {
   std::vector<AllocationFile> genotypes;
   AllocationFile loci;
 
-  UndefinedAlleles in_parents = UndefinedAlleles::kNone;  ///< those that parents may have
-
   /// What a run record says of them.
   std::vector<RecordedInput> Recorded() const;
 };
@@ -50,6 +51,20 @@ struct AllocationFiles {
 /// Opens the files of a flow: first every name must be given, then every file must open.
 tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSettings& settings,
                                                            const FileOpener& open);
+
+/// The files of an allocation as far as they can be opened.
+struct OpenedAllocationFiles {
+  std::vector<AllocationFile> genotypes;
+  std::optional<AllocationFile> loci;
+};
+
+/// Opens every file that can be opened; the names and files that are missing are faults.
+OpenedAllocationFiles OpenWhatIsThere(const AllocationSettings& settings, const FileOpener& open,
+                                      AlikeGroups<Problem>& faults);
+
+/// All faults that the tests below would tell of these files, one after the other.
+void FindAllFaults(const OpenedAllocationFiles& files, const LociList& loci,
+                   AlikeGroups<Problem>& faults);
 
 /// The tests of the file screen, file by file and for all files together.
 std::optional<Problem> CheckAllocationFiles(const AllocationFiles& files, const LociList& loci);

@@ -154,12 +154,16 @@ tl::expected<AllocationInput, Problem> LoadIndividuals(const AllocationSettings&
   return input;
 }
 
-std::optional<Problem> ApplyChoices(const AllocationSettings& settings,
-                                    const AllocationFiles& files, AllocationInput& input) {
+std::optional<Problem> CheckChoices(const AllocationSettings& settings, AllocationInput& input) {
   if (auto problem = ValidateForAllocation(settings.error_model)) {
     return problem;
   }
-  if (auto problem = ChooseLoci(settings, input)) {
+  return ChooseLoci(settings, input);
+}
+
+std::optional<Problem> ApplyChoices(const AllocationSettings& settings,
+                                    const AllocationFiles& files, AllocationInput& input) {
+  if (auto problem = CheckChoices(settings, input)) {
     return problem;
   }
   auto catalogues = CatalogueAlleles(input.table, input.loci);

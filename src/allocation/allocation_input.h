@@ -61,6 +61,9 @@ tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSetti
 tl::expected<AllocationInput, Problem> LoadIndividuals(const AllocationSettings& settings,
                                                        const AllocationFiles& files);
 
+/// Tests error model, loci in use and sequence against the loci of the input, and chooses.
+std::optional<Problem> CheckChoices(const AllocationSettings& settings, AllocationInput& input);
+
 /// Tests error model, loci in use and sequence, and makes the input of these files ready for a run
 /// with them: its combinations of loci and the alleles of the loci in use.
 std::optional<Problem> ApplyChoices(const AllocationSettings& settings,

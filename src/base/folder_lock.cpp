@@ -24,6 +24,13 @@ void Close(int& file) {
   }
 }
 
+/// Who has written his name into the lock file.
+std::string TextIn(int file) {
+  std::array<char, 256> text{};
+  const ssize_t size = ::pread(file, text.data(), text.size(), 0);
+  return {text.data(), size > 0 ? static_cast<std::size_t>(size) : 0};
+}
+
 }  // namespace
 
 FolderLock::FolderLock(std::string path, const std::string& owner) : path_(std::move(path)) {
@@ -92,17 +99,25 @@ bool FolderLock::IsStillInPlace() const {
          opened.st_dev == in_place.st_dev && opened.st_ino == in_place.st_ino;
 }
 
-void FolderLock::ReadOwner() {
-  std::array<char, 256> text{};
-  const ssize_t size = ::pread(file_, text.data(), text.size(), 0);
-  owner_.assign(text.data(), size > 0 ? static_cast<std::size_t>(size) : 0);
-}
+void FolderLock::ReadOwner() { owner_ = TextIn(file_); }
 
 void FolderLock::WriteOwner(const std::string& owner) const {
   // Only for the eyes of others: a full disk does not matter.
   if (::ftruncate(file_, 0) == 0) {
     [[maybe_unused]] const ssize_t written = ::pwrite(file_, owner.data(), owner.size(), 0);
   }
+}
+
+std::optional<std::string> HolderOfLock(const std::string& path) {
+  int file = ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+  if (file < 0) {
+    return std::nullopt;
+  }
+  // Held for an instant where nobody else does, and shared with others who only ask.
+  const bool is_held = ::flock(file, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+  const auto holder = is_held ? std::optional(TextIn(file)) : std::nullopt;
+  Close(file);
+  return holder;
 }
 
 }  // namespace kaldo

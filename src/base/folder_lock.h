@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
 #include <system_error>
 
@@ -47,5 +48,9 @@ class FolderLock {
   std::string owner_;
   std::error_code error_;
 };
+
+/// Who holds the lock of that path at this moment, as written there; nothing when nobody does.
+/// Nothing is written.
+std::optional<std::string> HolderOfLock(const std::string& path);
 
 }  // namespace kaldo

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/command_line.h"
 
+#include <initializer_list>
 #include <new>
 #include <ostream>
+#include <utility>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -10,6 +12,10 @@
 #include "allocation/allocation_command.h"
 #include "allocation/allocation_run.h"
 #include "base/version.h"
+#include "cli/check_command.h"
+#include "cli/completion.h"
+#include "cli/help_footer.h"
+#include "cli/missing_options.h"
 #include "cli/recorded_run.h"
 #include "cli/short_result.h"
 #include "cli/simulation_result_text.h"
@@ -17,7 +23,6 @@
 #include "cli/terminal_progress.h"
 #include "cli/typed_options.h"
 #include "cli/usage_error.h"
-#include "runs/project_lock.h"
 #include "runs/report_set.h"
 #include "simulation/run_settings.h"
 #include "simulation/simulation_checks.h"
@@ -26,21 +31,6 @@
 namespace kaldo {
 
 namespace {
-
-constexpr std::string_view kExamples =
-    "Examples:\n"
-    "  kaldo allocate --project lake --loci loci.txt --parents parents.txt \\\n"
-    "                 --offspring young.txt\n"
-    "  kaldo allocate --project ponds --loci loci.txt --males males.txt --females females.txt \\\n"
-    "                 --offspring young.txt --tolerance 2 --sequence\n"
-    "  kaldo simulate --project trial --loci loci.txt --collected-parents parents.txt \\\n"
-    "                 --uncollected-sample parents.txt --uncollected 20 \\\n"
-    "                 --iterations 100 --offspring-per-iteration 200 --seed 1\n"
-    "  kaldo rerun \"lake/Run record.toml\"\n"
-    "  kaldo verify lake\n"
-    "\n"
-    "Exit codes: 0 done, 1 failed while running, 2 bad input or usage, 3 verify or rerun found a\n"
-    "difference, 130 stopped by Ctrl-C.";
 
 void TellWarnings(const std::vector<Warning>& warnings, const CommandLineStreams& streams) {
   for (const std::string& line : WarningLines(warnings)) {
@@ -55,7 +45,7 @@ ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineSt
     return RunAllocation(settings, progress, workforce);
   }();
   if (!run) {
-    return Tell(run.error(), streams);
+    return Tell(WithMissingOptions(run.error(), settings), streams);
   }
   TellWarnings(run->input.warnings, streams);
   streams.out << EscapedLines(ShortResult(settings, *run));
@@ -72,7 +62,7 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
     return RunSimulation(settings, progress, workforce);
   }();
   if (!run) {
-    return Tell(run.error(), streams);
+    return Tell(WithMissingOptions(run.error(), settings), streams);
   }
   TellWarnings(run->input.warnings, streams);
   streams.out << EscapedLines(ShortResult(settings, *run));
@@ -92,24 +82,6 @@ ExitCode RunAndTell(tl::expected<RunSettings, Problem> settings, bool may_replac
   return SimulateAndTell(std::get<SimulationSettings>(*settings), streams, workforce);
 }
 
-ExitCode RunCheck(const TypedSettings& typed, const CommandLineStreams& streams) {
-  const auto settings = AllocationFrom(typed);
-  if (!settings) {
-    return Tell(settings.error(), streams);
-  }
-  if (const auto recovered = RecoverProject(ProjectFolder(settings->project))) {
-    streams.err << Escaped(*recovered) << '\n';
-  }
-  const auto input = LoadAllocationInput(*settings);
-  if (!input) {
-    return Tell(input.error(), streams);
-  }
-  TellWarnings(input->warnings, streams);
-  streams.err << InputSummary(settings->flow, *input) << '\n';
-  streams.out << "ok\n";
-  return ExitCode::kDone;
-}
-
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
 
 /// The commands of the program with their options, and what was typed for them.
@@ -120,17 +92,25 @@ struct Commands {
       "kaldo"};
   CLI::App* allocate =
       app.add_subcommand("allocate", "Allocate every offspring to its most likely pair of parents");
-  CLI::App* check = app.add_subcommand("check", "Check files and choices; write nothing");
+  CLI::App* check =
+      app.add_subcommand("check", "Tell all that is wrong with files and choices; write nothing");
+  CLI::App* check_simulation =
+      check->add_subcommand("simulate", "Check the files and choices of a simulation");
   CLI::App* simulate =
       app.add_subcommand("simulate", "Estimate how far allocations with these loci can be trusted");
   CLI::App* rerun =
       app.add_subcommand("rerun", "Repeat a run from its run record and compare the results");
   CLI::App* verify = app.add_subcommand("verify", "Tell whether results and inputs are unchanged");
 
+  CLI::App* completion =
+      app.add_subcommand("completion", "Print a script that completes command lines in a shell");
+
   TypedOptions allocation;  ///< of allocate and check
-  TypedOptions simulation;
+  TypedOptions simulation;  ///< of simulate and check simulate
+  TypedCheck typed_check;
   RerunChoices rerun_choices;
   std::string verified;
+  std::string shell;
   bool may_replace_other_flow = false;
 
   Commands() {
@@ -138,18 +118,47 @@ struct Commands {
     allocation.AddTo(*allocate, AllocationSettingTable());
     allocation.AddTo(*check, AllocationSettingTable());
     simulation.AddTo(*simulate, SimulationSettingTable());
+    simulation.AddTo(*check_simulation, SimulationSettingTable());
+    AddCheckOptions();
     AddRecordOptions();
-    for (CLI::App* const command : {allocate, simulate, rerun}) {
+    for (CLI::App* const command : {allocate, simulate, check, check_simulation, rerun}) {
       command->add_flag("--replace", may_replace_other_flow,
                         "Replace results of another flow in the project folder, too");
     }
-    for (CLI::App* const command : {&app, allocate, simulate, check, rerun, verify}) {
+    AddCompletionOptions();
+    for (const auto& [command, name] :
+         std::initializer_list<std::pair<CLI::App*, std::string_view>>{
+             {&app, ""},
+             {allocate, "allocate"},
+             {simulate, "simulate"},
+             {check, "check"},
+             {check_simulation, "check simulate"},
+             {rerun, "rerun"},
+             {verify, "verify"},
+             {completion, "completion"}}) {
       command->set_version_flag("--version", VersionLine());
-      command->footer(std::string(kExamples));
+      command->footer(HelpFooter(name));
     }
   }
 
  private:
+  void AddCheckOptions() {
+    for (CLI::App* const command : {check, check_simulation}) {
+      command
+          ->add_option("--format", typed_check.format,
+                       "Form of the answer: text, or json for programs")
+          ->type_name("NAME")
+          ->group("Output")
+          ->default_str("text");
+      command->get_option("--project")
+          ->description("Folder for the results, which is looked at, too");
+    }
+  }
+
+  void AddCompletionOptions() {
+    completion->add_option("shell", shell, "bash, zsh or fish")->type_name("SHELL")->required();
+  }
+
   void AddRecordOptions() {
     RerunChoices& choices = rerun_choices;
     rerun->add_option("record", choices.record, "A project folder, or the run record in it")
@@ -171,6 +180,29 @@ struct Commands {
         ->required();
   }
 };
+
+ExitCode CheckAndTell(Commands& commands, const CommandLineStreams& streams, FileSource& source) {
+  TypedCheck& check = commands.typed_check;
+  check.simulates = commands.check_simulation->parsed();
+  check.typed = (check.simulates ? commands.simulation : commands.allocation).Given();
+  check.may_replace_other_flow = commands.may_replace_other_flow;
+  if (check.simulates && !commands.allocation.Given().empty()) {
+    streams.err << "The options of a simulation stand behind \"check simulate\".\n";
+    return ExitCode::kBadInput;
+  }
+  return RunCheck(check, streams, source);
+}
+
+ExitCode PrintCompletion(const Commands& commands, const CommandLineStreams& streams) {
+  const auto script = CompletionScript(commands.app, commands.shell);
+  if (!script) {
+    streams.err << "There is no completion for the shell " << Quoted(commands.shell)
+                << ", but for bash, zsh and fish.\n";
+    return ExitCode::kBadInput;
+  }
+  streams.out << *script;
+  return ExitCode::kDone;
+}
 
 ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineStreams& streams,
                   Workforce& workforce) {
@@ -196,7 +228,7 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
                       streams, workforce);
   }
   if (commands.check->parsed()) {
-    return RunCheck(commands.allocation.Given(), streams);
+    return CheckAndTell(commands, streams, workforce.Files());
   }
   if (commands.rerun->parsed()) {
     return RunRerun(commands.rerun_choices, streams,
@@ -206,6 +238,9 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
   }
   if (commands.verify->parsed()) {
     return RunVerify(commands.verified, streams);
+  }
+  if (commands.completion->parsed()) {
+    return PrintCompletion(commands, streams);
   }
   streams.err << commands.app.help();
   return ExitCode::kBadInput;

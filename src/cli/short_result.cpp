@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "allocation/allocation_file_names.h"
+#include "base/counted_text.h"
 #include "base/version.h"
 #include "cli/confidence_text.h"
 #include "method/method_settings.h"
@@ -21,9 +22,11 @@ std::string ParentsText(Flow flow, const AllocationInput& input) {
   for (const CandidateGroup& group : input.groups) {
     males += group.first.Size();
   }
-  std::string text = flow == Flow::kSexed ? fmt::format("{} males and {} females", males,
-                                                        input.NumberOfParents() - males)
-                                          : fmt::format("{} parents", input.NumberOfParents());
+  std::string text = Counted(input.NumberOfParents(), "parent", "parents");
+  if (flow == Flow::kSexed) {
+    text = fmt::format("{} and {}", Counted(males, "male", "males"),
+                       Counted(input.NumberOfParents() - males, "female", "females"));
+  }
   if (input.groups.size() > 1) {
     text += fmt::format(" in {} groups", input.groups.size());
   }
@@ -114,10 +117,11 @@ std::string FilesWritten(const AllocationSettings& settings, const AllocationRes
 }  // namespace
 
 std::string InputSummary(Flow flow, const AllocationInput& input) {
-  return fmt::format(
-      "{}, {} offspring ({} missing loci), {} of {} loci in use, {} digits per field",
-      ParentsText(flow, input), input.NumberOfOffspring(), input.NumberOfMissingGenotypes(),
-      input.loci.LociInUse().size(), input.loci.Count(), input.digits_per_field);
+  return fmt::format("{}, {} offspring ({}), {} of {} in use, {} digits per field",
+                     ParentsText(flow, input), input.NumberOfOffspring(),
+                     Counted(input.NumberOfMissingGenotypes(), "missing locus", "missing loci"),
+                     input.loci.LociInUse().size(), Counted(input.loci.Count(), "locus", "loci"),
+                     input.digits_per_field);
 }
 
 std::string ShortResult(const AllocationSettings& settings, const AllocationRun& run) {

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "base/counted_text.h"
 #include "base/version.h"
 #include "confidence/confidence_run.h"
 #include "runs/project_folder.h"
@@ -16,20 +17,6 @@
 namespace kaldo {
 
 namespace {
-
-std::string ParametersText(const SimulationSettings& settings, const SimulationRun& run) {
-  const SimulationInput& input = run.input;
-  const SimulationResult& result = run.result;
-  return fmt::format(
-      "KALDO {}\n{}\n"
-      "  {} candidate parents, {} true parents in all, {} pseudo-offspring x {} iterations\n"
-      "  {} of {} loci in use, error model {}, maximum offset tolerance {}\n"
-      "  seed {}\n\n",
-      Version(), TypeLine(settings), input.candidates.Size(), input.NumberOfParents(),
-      input.OffspringPerIteration(), settings.iterations, input.loci.LociInUse().size(),
-      input.loci.Count(), ShortDescription(settings.error_model), settings.tolerance.Value(),
-      result.seed);
-}
 
 /// Four decimals; "nan" for a deviation that rounding made none, whatever its sign bit.
 std::string Decimals(double value) {
@@ -103,9 +90,22 @@ std::string ReliabilityText(const SimulationSettings& settings, const Simulation
 
 }  // namespace
 
+std::string InputSummary(const SimulationSettings& settings, const SimulationInput& input) {
+  return fmt::format(
+      "{}, {} in all, {} pseudo-offspring x {}\n"
+      "  {} of {} in use, error model {}, maximum offset tolerance {}\n",
+      Counted(input.candidates.Size(), "candidate parent", "candidate parents"),
+      Counted(input.NumberOfParents(), "true parent", "true parents"),
+      input.OffspringPerIteration(),
+      Counted(static_cast<std::size_t>(settings.iterations), "iteration", "iterations"),
+      input.loci.LociInUse().size(), Counted(input.loci.Count(), "locus", "loci"),
+      ShortDescription(settings.error_model), settings.tolerance.Value());
+}
+
 std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run) {
-  std::string text = ParametersText(settings, run) + SubsetRows(settings, run) +
-                     CorrectRows(TextsOf(settings.flow), run.result);
+  std::string text = fmt::format("KALDO {}\n{}\n  {}  seed {}\n\n", Version(), TypeLine(settings),
+                                 InputSummary(settings, run.input), run.result.seed);
+  text += SubsetRows(settings, run) + CorrectRows(TextsOf(settings.flow), run.result);
   text += ReliabilityText(settings, run.result);
   text += fmt::format("\nFiles in \"{}\", first of all {}\n\n", settings.project,
                       kSummaryFile.substr(1));

@@ -7,6 +7,10 @@
 
 namespace kaldo {
 
+/// What the files and the settings of a simulation make, in two lines: parents, pseudo-offspring,
+/// loci, error model.
+std::string InputSummary(const SimulationSettings& settings, const SimulationInput& input);
+
 /// The result of a simulation as a user reads it first on standard output: per origin class and
 /// globally the estimated probability of a correct allocation, ending with the closing sentences.
 std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run);

@@ -19,7 +19,8 @@ void TypedOptions::AddTo(CLI::App& command, SettingTable<Settings> table) {
       command.add_flag(setting.option, slot.flag, setting.help)->group(setting.group);
       continue;
     }
-    CLI::Option* const option = command.add_option(setting.option, slot.text, setting.help)
+    const std::string help = setting.help + (setting.MustBeGiven() ? " (required)" : "");
+    CLI::Option* const option = command.add_option(setting.option, slot.text, help)
                                     ->type_name(setting.metavar)
                                     ->group(setting.group);
     if (setting.may_stand_alone) {

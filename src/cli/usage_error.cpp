@@ -45,9 +45,10 @@ std::string Suggestion(std::string_view word, const std::vector<std::string>& na
              : "";
 }
 
+/// The innermost command that was given.
 const CLI::App& CommandIn(const CLI::App& app) {
   const auto commands = app.get_subcommands();
-  return commands.empty() ? app : *commands.front();
+  return commands.empty() ? app : CommandIn(*commands.front());
 }
 
 std::vector<std::string> OptionsOf(const CLI::App& command) {
@@ -105,7 +106,9 @@ std::string UsageErrorText(const CLI::App& app, const CLI::ParseError& error) {
     return MismatchText(app, error.what());
   }
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
-    return "The run record is missing: the file \"Run record.toml\" of a project folder";
+    return CommandIn(app).get_name() == "completion"
+               ? "The shell is missing: bash, zsh or fish"
+               : "The run record is missing: the file \"Run record.toml\" of a project folder";
   }
   return error.what();
 }

@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "base/counted_text.h"
 #include "genotypes/capacities.h"
 #include "genotypes/file_summary.h"
 
@@ -12,10 +13,6 @@ namespace {
 
 constexpr std::size_t kShownNameBytes = 20;
 constexpr std::size_t kShownLoci = 5;
-
-std::string Counted(std::size_t count, std::string_view one, std::string_view many) {
-  return fmt::format("{} {}", count, count == 1 ? one : many);
-}
 
 std::string Words(std::size_t count) { return Counted(count, "word", "words"); }
 

@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "genotypes/file_wide_checks.h"
 
-#include <algorithm>
-
 #include <fmt/format.h>
 
+#include "genotypes/field_faults.h"
 #include "genotypes/layout_hints.h"
 #include "genotypes/record_checks.h"
 
 namespace kaldo {
 
 namespace {
-
-constexpr std::size_t kLongestEvenField = 1000;
 
 /// A field of the file that breaks a rule, and the record in which it stands.
 struct FieldPlace {
@@ -21,15 +18,6 @@ struct FieldPlace {
   std::uint32_t record = 0;
   std::size_t locus = 0;
 };
-
-bool IsEven(std::string_view field) {
-  return field.size() % 2 == 0 && field.size() <= kLongestEvenField;
-}
-
-bool IsForbidden(std::string_view field, UndefinedAlleles allowed) {
-  const auto [first, second] = ZeroHalvesOf(field);
-  return allowed == UndefinedAlleles::kNone ? first || second : first != second;
-}
 
 /// Walks over as many records as the counts allow. Fields missing at the end count as empty ones.
 template <typename Visit>
@@ -57,23 +45,6 @@ Problem ProblemAt(const FieldPlace& place, const FileWideCheck& check, const Loc
           .found = std::move(found)};
 }
 
-/// Spreadsheets drop the zeros before a number. That it happened shows where the first record has
-/// one digit more.
-std::string LostZeroText(std::string_view field, std::span<const Token> tokens,
-                         RecordLayout layout) {
-  RecordCursor cursor(tokens, layout);
-  while (!cursor.AtEnd() && cursor.Fields().empty()) {
-    cursor.Next();
-  }
-  const auto fields = cursor.Fields();
-  const bool one_less = std::any_of(fields.begin(), fields.end(), [field](const Token& other) {
-    return other.text.size() == field.size() + 1 && IsAllDigits(other.text);
-  });
-  return one_less && IsAllDigits(field)
-             ? fmt::format("; is it \"0{}\" without its leading zero?", field)
-             : "";
-}
-
 Problem OddDigits(const FileWideCheck& check, const LociList& loci, RecordLayout layout,
                   const std::optional<FieldPlace>& odd, const TokenCounts& counts) {
   const auto tokens = check.file->Tokens();
@@ -90,15 +61,12 @@ Problem OddDigits(const FileWideCheck& check, const LociList& loci, RecordLayout
     }
   }
   if (odd) {
-    if (IsEven(odd->field.text)) {
+    if (IsEvenField(odd->field.text)) {
       return ProblemAt(*odd, check, loci, check.odd_digits,
                        fmt::format("{} stands where a genotype should", Quoted(odd->field.text)));
     }
-    return ProblemAt(
-        *odd, check, loci, check.odd_digits,
-        fmt::format("{} has {} characters; both alleles need the same number of digits{}",
-                    Quoted(odd->field.text), odd->field.text.size(),
-                    LostZeroText(odd->field.text, tokens, layout)));
+    return ProblemAt(*odd, check, loci, check.odd_digits,
+                     OddFieldText(odd->field.text, tokens, layout));
   }
   return {.kind = check.odd_digits,
           .file = check.file->Path(),
@@ -118,7 +86,7 @@ std::optional<Problem> CheckFileWide(const FileWideCheck& check, const LociList&
   std::optional<FieldPlace> first_no_genotype;
   std::optional<FieldPlace> first_undefined;
   ForEachField(tokens, layout, counts.records, [&](const FieldPlace& place) {
-    if (IsEven(place.field.text)) {
+    if (IsEvenField(place.field.text)) {
       ++even_fields;
     } else if (!first_odd) {
       first_odd = place;
@@ -126,7 +94,7 @@ std::optional<Problem> CheckFileWide(const FileWideCheck& check, const LociList&
     if (!first_no_genotype && !IsAllDigits(place.field.text)) {
       first_no_genotype = place;
     }
-    if (!first_undefined && IsForbidden(place.field.text, check.undefined_alleles)) {
+    if (!first_undefined && HoldsForbidden(place.field.text, check.undefined_alleles)) {
       first_undefined = place;
     }
   });
@@ -136,9 +104,8 @@ std::optional<Problem> CheckFileWide(const FileWideCheck& check, const LociList&
     return OddDigits(check, loci, layout, first_odd ? first_odd : first_no_genotype, counts);
   }
   if (first_undefined) {
-    return ProblemAt(
-        *first_undefined, check, loci, check.undefined,
-        fmt::format("{} holds an undefined allele", Quoted(first_undefined->field.text)));
+    return ProblemAt(*first_undefined, check, loci, check.undefined,
+                     ForbiddenText(first_undefined->field.text));
   }
   return std::nullopt;
 }

@@ -4,16 +4,11 @@
 #include <optional>
 #include <span>
 
+#include "genotypes/field_faults.h"
 #include "genotypes/loci_list.h"
 #include "genotypes/record_cursor.h"
 
 namespace kaldo {
-
-/// Which undefined alleles a genotype file may hold.
-enum class UndefinedAlleles {
-  kNone,       ///< parents: a likelihood needs both alleles of every parent
-  kWholeLoci,  ///< offspring and samples: both alleles of a locus or neither
-};
 
 /// What one genotype file of a screen is tested for, and the kinds of problem that tell its faults.
 struct FileWideCheck {

@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "genotypes/all_faults.h"
 #include "genotypes/capacities.h"
 #include "genotypes/name_rules.h"
 
@@ -47,52 +48,47 @@ std::optional<Problem> LociList::Use(const std::vector<std::string>& names) {
   return std::nullopt;
 }
 
-std::optional<Problem> CheckLoci(const TokenFile& file) {
+std::vector<Problem> FindLociFaults(const TokenFile& file) {
   const auto tokens = file.Tokens();
   if (tokens.empty()) {
-    return Problem{.kind = ProblemKind::kNoLocus,
-                   .file = file.Path(),
-                   .found = "the file is empty; write one name per locus"};
+    return {{.kind = ProblemKind::kNoLocus,
+             .file = file.Path(),
+             .found = "the file is empty; write one name per locus"}};
   }
-  const auto shown = [](const Token& token) {
-    return std::string(token.text.substr(0, kMaxLocusNameLength));
+  const auto at = [&file](const Token& token, Problem fault) {
+    fault.file = file.Path();
+    fault.line = token.line;
+    fault.locus = token.text.substr(0, kMaxLocusNameLength);
+    return fault;
   };
   if (tokens.size() > kMaxLoci) {
-    return Problem{.kind = ProblemKind::kTooManyLoci,
-                   .subject = fmt::format("{}", kMaxLoci),
-                   .file = file.Path(),
-                   .line = tokens[kMaxLoci].line,
-                   .locus = shown(tokens[kMaxLoci]),
-                   .found = fmt::format("the file names {} loci", tokens.size())};
+    return {at(tokens[kMaxLoci], {.kind = ProblemKind::kTooManyLoci,
+                                  .subject = fmt::format("{}", kMaxLoci),
+                                  .found = fmt::format("the file names {} loci", tokens.size())})};
   }
+  std::vector<Problem> faults;
   std::unordered_map<std::string_view, std::uint32_t> line_of;
   for (const Token& token : tokens) {
-    if (token.text.size() > kMaxLocusNameLength) {
-      return Problem{
-          .kind = ProblemKind::kLocusNameTooLong,
-          .subject = fmt::format("{}", kMaxLocusNameLength),
-          .file = file.Path(),
-          .line = token.line,
-          .locus = shown(token),
-          .found = fmt::format("{} has {} characters", Quoted(token.text), token.text.size())};
-    }
-    if (auto fault = FaultOfName(token.text)) {
-      fault->file = file.Path();
-      fault->line = token.line;
-      fault->locus = shown(token);
-      return fault;
-    }
     const auto [earlier, is_new] = line_of.emplace(token.text, token.line);
-    if (!is_new) {
-      return Problem{.kind = ProblemKind::kLocusNameTwice,
-                     .file = file.Path(),
-                     .line = token.line,
-                     .locus = shown(token),
-                     .found = fmt::format("{} stands in line {} already", Quoted(token.text),
-                                          earlier->second)};
+    if (token.text.size() > kMaxLocusNameLength) {
+      faults.push_back(at(token, {.kind = ProblemKind::kLocusNameTooLong,
+                                  .subject = fmt::format("{}", kMaxLocusNameLength),
+                                  .found = fmt::format("{} has {} characters", Quoted(token.text),
+                                                       token.text.size())}));
+    } else if (auto fault = FaultOfName(token.text)) {
+      faults.push_back(at(token, std::move(*fault)));
+    } else if (!is_new) {
+      faults.push_back(at(token, {.kind = ProblemKind::kLocusNameTwice,
+                                  .found = fmt::format("{} stands in line {} already",
+                                                       Quoted(token.text), earlier->second)}));
     }
   }
-  return std::nullopt;
+  return faults;
+}
+
+std::optional<Problem> CheckLoci(const TokenFile& file) {
+  auto faults = FindLociFaults(file);
+  return faults.empty() ? std::nullopt : std::optional(std::move(faults.front()));
 }
 
 }  // namespace kaldo

@@ -5,19 +5,13 @@
 
 #include <fmt/format.h>
 
-#include "genotypes/capacities.h"
+#include "genotypes/field_faults.h"
 #include "genotypes/layout_hints.h"
 #include "genotypes/lines.h"
-#include "genotypes/name_rules.h"
 
 namespace kaldo {
 
 namespace {
-
-bool IsOneRecord(Line line, RecordLayout layout) {
-  return layout.IsSeparator(line.front().text) ? line.size() == 1
-                                               : line.size() == layout.number_of_loci + 1;
-}
 
 std::string FieldCountText(Line line, RecordLayout layout) {
   std::string text = fmt::format("fields after the name: {}, loci named: {}", line.size() - 1,
@@ -53,76 +47,43 @@ Problem WrongFieldCount(const TokenFile& file, RecordLayout layout) {
                                layout.number_of_loci)};
 }
 
-/// What is wrong with one genotype field by itself, without its place.
-std::optional<Problem> FaultOfField(std::string_view field, std::size_t digits_per_field) {
-  if (!IsAllDigits(field)) {
-    return Problem{.kind = ProblemKind::kFieldNotDigits,
-                   .found = fmt::format("{} should be both allele sizes as digits side by side",
-                                        Quoted(field))};
-  }
-  if (field.size() != digits_per_field) {
-    std::string advice;
-    if (field.size() < digits_per_field) {
-      advice = "; spreadsheets drop leading zeros: write them again or correct the field";
-    }
-    return Problem{.kind = ProblemKind::kFieldOfOtherWidth,
-                   .found = fmt::format("{} has {} digits, the first parents file uses {}{}",
-                                        Quoted(field), field.size(), digits_per_field, advice)};
-  }
-  if (field.size() > 2 * kMaxAlleleDigits || field.size() % 2 != 0) {
-    return Problem{
-        .kind = ProblemKind::kAlleleTooLong,
-        .subject = fmt::format("{}", kMaxAlleleDigits),
-        .found = fmt::format("{} has {} digits for both alleles", Quoted(field), field.size())};
-  }
-  return std::nullopt;
-}
-
-/// What is wrong with a name by itself, without its place. No report tells the name of a separator,
-/// which may be of any length.
-std::optional<Problem> FaultOfRecordName(std::string_view name, bool is_separator) {
-  if (!is_separator && name.size() > kMaxNameLength) {
-    return Problem{.kind = ProblemKind::kNameTooLong,
-                   .subject = fmt::format("{}", kMaxNameLength),
-                   .found = fmt::format("{} has {} characters", Quoted(name), name.size())};
-  }
-  return FaultOfName(name);
-}
-
 }  // namespace
 
-bool IsAllDigits(std::string_view text) {
-  return std::all_of(text.begin(), text.end(),
-                     [](char character) { return character >= '0' && character <= '9'; });
+bool IsOneRecord(Line line, RecordLayout layout) {
+  return layout.IsSeparator(line.front().text) ? line.size() == 1
+                                               : line.size() == layout.number_of_loci + 1;
 }
 
-ZeroHalves ZeroHalvesOf(std::string_view field) {
-  const std::size_t half = field.size() / 2;
-  const auto zeros = [half](std::string_view part) {
-    return static_cast<std::size_t>(std::count(part.begin(), part.end(), '0')) == half;
-  };
-  return {zeros(field.substr(0, half)), zeros(field.substr(half))};
+bool HasRecordPerLine(std::span<const Line> lines, RecordLayout layout) {
+  const auto regular = std::count_if(lines.begin(), lines.end(),
+                                     [layout](Line line) { return IsOneRecord(line, layout); });
+  return 2 * static_cast<std::size_t>(regular) > lines.size();
+}
+
+std::vector<Problem> FindMisshapenRecords(const TokenFile& file, RecordLayout layout,
+                                          ProblemKind kind, std::size_t most) {
+  std::vector<Problem> misshapen;
+  const auto lines = LinesOf(file.Tokens());
+  if (!HasRecordPerLine(lines, layout)) {
+    return misshapen;
+  }
+  for (std::size_t k = 0; k < lines.size() && misshapen.size() < most; ++k) {
+    if (!IsOneRecord(lines[k], layout)) {
+      misshapen.push_back({.kind = kind,
+                           .file = file.Path(),
+                           .line = lines[k].front().line,
+                           .record = static_cast<std::uint32_t>(k) + 1,
+                           .individual = std::string(lines[k].front().text),
+                           .found = FieldCountText(lines[k], layout)});
+    }
+  }
+  return misshapen;
 }
 
 std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout,
                                            ProblemKind kind) {
-  const auto lines = LinesOf(file.Tokens());
-  const auto regular = std::count_if(lines.begin(), lines.end(),
-                                     [layout](Line line) { return IsOneRecord(line, layout); });
-  if (2 * static_cast<std::size_t>(regular) <= lines.size()) {
-    return std::nullopt;
-  }
-  const auto odd_one = std::find_if_not(lines.begin(), lines.end(),
-                                        [layout](Line line) { return IsOneRecord(line, layout); });
-  if (odd_one == lines.end()) {
-    return std::nullopt;
-  }
-  return Problem{.kind = kind,
-                 .file = file.Path(),
-                 .line = odd_one->front().line,
-                 .record = static_cast<std::uint32_t>(odd_one - lines.begin()) + 1,
-                 .individual = std::string(odd_one->front().text),
-                 .found = FieldCountText(*odd_one, layout)};
+  auto misshapen = FindMisshapenRecords(file, layout, kind, 1);
+  return misshapen.empty() ? std::nullopt : std::optional(std::move(misshapen.front()));
 }
 
 std::size_t DigitsPerField(const TokenFile& first_parents_file, RecordLayout layout) {

@@ -2,28 +2,29 @@
 #pragma once
 
 #include <optional>
-#include <string_view>
+#include <span>
+#include <vector>
 
+#include "genotypes/field_faults.h"
+#include "genotypes/lines.h"
 #include "genotypes/loci_list.h"
 #include "genotypes/record_cursor.h"
 
 namespace kaldo {
 
-/// Digits 0 to 9 only; also true of no text at all.
-bool IsAllDigits(std::string_view text);
+/// Whether a line holds a whole record and nothing else.
+bool IsOneRecord(Line line, RecordLayout layout);
 
-/// Which alleles of a genotype field are undefined, that is, which halves are zeros only.
-struct ZeroHalves {
-  bool first = false;
-  bool second = false;
-};
+/// Whether most lines do, as people and spreadsheets write such files.
+bool HasRecordPerLine(std::span<const Line> lines, RecordLayout layout);
 
-/// Halves a genotype field of an even number of digits: "150000" has only its second half
-/// undefined.
-ZeroHalves ZeroHalvesOf(std::string_view field);
+/// Looks for lines with too few or too many fields in a file that otherwise has one record a line.
+/// They are told as Problems of that kind, at most so many. Nothing is found in files laid out in
+/// another way.
+std::vector<Problem> FindMisshapenRecords(const TokenFile& file, RecordLayout layout,
+                                          ProblemKind kind, std::size_t most);
 
-/// Looks for a line with too few or too many fields in a file that otherwise has one record a line.
-/// It is told as a Problem of that kind. Nothing is found in files laid out in another way.
+/// The first of them.
 std::optional<Problem> FindMisshapenRecord(const TokenFile& file, RecordLayout layout,
                                            ProblemKind kind);
 

@@ -25,12 +25,23 @@ std::vector<std::string> ProjectFolder::Create() const {
   std::error_code ignored;
   if (!std::filesystem::is_directory(name_, ignored)) {
     RemoveFolders(made);
-    throw RunFailure(fmt::format("Cannot make the folder \"{}\": {}", name_,
-                                 error == std::errc::file_exists
-                                     ? fmt::format("\"{}\" is a file", path.string())
-                                     : error.message()));
+    throw RunFailure(NotMadeSentence(name_, error == std::errc::file_exists
+                                                ? fmt::format("\"{}\" is a file", path.string())
+                                                : error.message()));
   }
   return made;
+}
+
+std::string NotMadeSentence(const std::string& folder, const std::string& reason) {
+  return fmt::format("Cannot make the folder \"{}\": {}", folder, reason);
+}
+
+std::string NotWritableSentence(const std::string& folder, std::error_code reason) {
+  return fmt::format("Cannot write into the folder \"{}\": {}", folder, reason.message());
+}
+
+std::string InTheWaySentence(const std::string& path) {
+  return fmt::format("Cannot replace \"{}\": a folder of that name is in the way", path);
 }
 
 void RemoveFolders(const std::vector<std::string>& made) {

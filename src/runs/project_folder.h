@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace kaldo {
@@ -25,6 +26,11 @@ class ProjectFolder {
  private:
   std::string name_;
 };
+
+// What is told when a folder cannot be made or written into, or a folder is where a file should be.
+std::string NotMadeSentence(const std::string& folder, const std::string& reason);
+std::string NotWritableSentence(const std::string& folder, std::error_code reason);
+std::string InTheWaySentence(const std::string& path);
 
 /// Removes the folders that Create() made, as far as nothing is in them.
 void RemoveFolders(const std::vector<std::string>& made);

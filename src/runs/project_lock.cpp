@@ -62,6 +62,12 @@ std::string InBrackets(const std::string& owner) {
   return owner.empty() ? std::string() : fmt::format(" ({})", Escaped(owner));
 }
 
+std::string AtWorkSentence(const ProjectFolder& project, const std::string& owner) {
+  return fmt::format(
+      "Another run is at work in \"{}\"{}. Wait for its end, or choose another project name.",
+      project.Name(), InBrackets(owner));
+}
+
 /// What is known where a disk has no locks. A run that may be at work is only a reason to stop when
 /// it may be replacing results at this moment.
 std::string NoLocks(const ProjectFolder& project, const FolderLock& lock) {
@@ -93,10 +99,7 @@ std::unique_ptr<FolderLock> LockProject(const ProjectFolder& project, RunObserve
     case LockState::kHeld:
       break;
     case LockState::kTaken:
-      throw RunFailure(
-          fmt::format("Another run is at work in \"{}\"{}. Wait for its end, or choose another "
-                      "project name.",
-                      project.Name(), InBrackets(lock->Owner())));
+      throw RunFailure(AtWorkSentence(project, lock->Owner()));
     case LockState::kUnknown:
       observer.OnMessage(RunMessage::kWarning, NoLocks(project, *lock));
       if (!lock->Owner().empty()) {
@@ -104,13 +107,17 @@ std::unique_ptr<FolderLock> LockProject(const ProjectFolder& project, RunObserve
       }
       break;
     case LockState::kFailed:
-      throw RunFailure(fmt::format("Cannot write into the folder \"{}\": {}", project.Name(),
-                                   lock->Error().message()));
+      throw RunFailure(NotWritableSentence(project.Name(), lock->Error()));
   }
   if (const auto sentence = Clear(project)) {
     observer.OnMessage(RunMessage::kWarning, *sentence);
   }
   return lock;
+}
+
+std::optional<std::string> RunAtWork(const ProjectFolder& project) {
+  const auto owner = HolderOfLock(project.Path(kLockFile));
+  return owner ? std::optional(AtWorkSentence(project, *owner)) : std::nullopt;
 }
 
 std::string NewWorkingFolder(const ProjectFolder& project) {

@@ -16,6 +16,10 @@ namespace kaldo {
 /// removed. The observer is told. Throws RunFailure when another run is at work in the folder.
 std::unique_ptr<FolderLock> LockProject(const ProjectFolder& project, RunObserver& observer);
 
+/// That another run is at work in the folder now, as LockProject would tell it; nothing when none
+/// is.
+std::optional<std::string> RunAtWork(const ProjectFolder& project);
+
 /// The path of a working folder that nobody else uses.
 std::string NewWorkingFolder(const ProjectFolder& project);
 

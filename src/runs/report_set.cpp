@@ -9,6 +9,7 @@
 
 #include "base/disk_file.h"
 #include "runs/earlier_run.h"
+#include "runs/input_clash.h"
 #include "runs/project_lock.h"
 #include "runs/result_files.h"
 
@@ -19,14 +20,6 @@ namespace {
 std::string Told(const Problem& problem) {
   const std::string detail = DetailLine(problem);
   return detail.empty() ? SentenceOf(problem) : SentenceOf(problem) + '\n' + detail;
-}
-
-/// Links count: what a name leads to is the same file.
-bool IsSameFile(const std::string& one, const std::string& other) {
-  std::error_code ignored;
-  return std::filesystem::equivalent(one, other, ignored) ||
-         std::filesystem::absolute(one, ignored).lexically_normal() ==
-             std::filesystem::absolute(other, ignored).lexically_normal();
 }
 
 }  // namespace
@@ -82,21 +75,13 @@ void ReportSet::CheckPlace(std::string_view file) const {
   RefuseInput(path);
   std::error_code ignored;
   if (std::filesystem::is_directory(path, ignored)) {
-    throw RunFailure(
-        fmt::format("Cannot replace \"{}\": a folder of that name is in the way", path));
+    throw RunFailure(InTheWaySentence(path));
   }
 }
 
 void ReportSet::RefuseInput(const std::string& path) const {
-  for (const RecordedInput& input : order_.inputs) {
-    if (IsSameFile(path, input.path)) {
-      throw RunRefused(
-          {.kind = ProblemKind::kOutputIsInput,
-           .file = input.path,
-           .found = fmt::format("it is \"{}\", which the run replaces or removes; choose another "
-                                "project name, or give the input file another name",
-                                path)});
-    }
+  if (auto problem = ClashWithInput(path, order_.inputs)) {
+    throw RunRefused(std::move(*problem));
   }
 }
 

@@ -19,30 +19,31 @@ bool IsNumberOfParents(double number) {
   return std::isfinite(number) && number >= 0 && number <= static_cast<double>(kMaxIndividuals);
 }
 
-std::optional<Problem> CheckSet(const SimulationSettings& settings, const ParentalSet& set) {
-  if (settings.procedure == Procedure::kPreParental && set.pseudo_collected < 1) {
-    return Problem{.kind = ProblemKind::kNoPseudoCollected,
-                   .found = fmt::format("it is {}", set.pseudo_collected)};
+void FindFaultyNumbersOf(const SimulationSettings& settings, const ParentalSet& set,
+                         std::vector<Problem>& found) {
+  const bool draws_collected = settings.procedure == Procedure::kPreParental;
+  if (draws_collected && set.pseudo_collected < 1) {
+    found.push_back({.kind = ProblemKind::kNoPseudoCollected,
+                     .found = fmt::format("it is {}", set.pseudo_collected)});
   }
   if (!IsNumberOfParents(set.uncollected) || !IsNumberOfParents(set.pseudo_collected)) {
-    return Problem{
-        .kind = ProblemKind::kImpossibleNumberOfParents,
-        .found = fmt::format("{} pseudo-collected and {} uncollected parents; at most {} in all",
-                             set.pseudo_collected, FormatDouble(set.uncollected), kMaxIndividuals)};
+    found.push_back({.kind = ProblemKind::kImpossibleNumberOfParents,
+                     .found = fmt::format(
+                         "{} pseudo-collected and {} uncollected parents; at most {} in all",
+                         set.pseudo_collected, FormatDouble(set.uncollected), kMaxIndividuals)});
   }
   if (settings.flow != Flow::kSexed) {
-    return std::nullopt;
+    return;
   }
   const double all = set.estimated_collected + set.estimated_uncollected;
   if (!std::isfinite(all) || set.estimated_collected < 0 || set.estimated_uncollected < 0 ||
       !(all > 0)) {
-    return Problem{
-        .kind = ProblemKind::kImpossibleEstimate,
-        .found = fmt::format("{} collected and {} uncollected parents of one sex are estimated",
-                             FormatDouble(set.estimated_collected),
-                             FormatDouble(set.estimated_uncollected))};
+    found.push_back(
+        {.kind = ProblemKind::kImpossibleEstimate,
+         .found = fmt::format("{} collected and {} uncollected parents of one sex are estimated",
+                              FormatDouble(set.estimated_collected),
+                              FormatDouble(set.estimated_uncollected))});
   }
-  return std::nullopt;
 }
 
 }  // namespace
@@ -79,33 +80,37 @@ bool WarnsOfManyIterations(Flow flow, std::int32_t iterations) {
 }
 
 std::optional<Problem> CheckSimulationNumbers(const SimulationSettings& settings) {
+  auto found = FindFaultyNumbers(settings);
+  return found.empty() ? std::nullopt : std::optional(std::move(found.front()));
+}
+
+std::vector<Problem> FindFaultyNumbers(const SimulationSettings& settings) {
+  std::vector<Problem> found;
   if (auto problem = ValidateTolerance(settings.tolerance)) {
-    return problem;
+    found.push_back(std::move(*problem));
   }
   if (auto problem = CheckIterations(settings.flow, settings.iterations)) {
-    return problem;
+    found.push_back(std::move(*problem));
   }
   if (!(settings.criterion >= 0 && settings.criterion <= 1)) {
-    return Problem{
-        .kind = ProblemKind::kCriterionOutOfRange,
-        .found = fmt::format("the correctness criterion is {}", FormatDouble(settings.criterion))};
+    found.push_back({.kind = ProblemKind::kCriterionOutOfRange,
+                     .found = fmt::format("the correctness criterion is {}",
+                                          FormatDouble(settings.criterion))});
   }
   if (settings.start_with < 1) {
-    return Problem{.kind = ProblemKind::kStartWithTooSmall,
-                   .found = fmt::format("it is {}", settings.start_with)};
+    found.push_back({.kind = ProblemKind::kStartWithTooSmall,
+                     .found = fmt::format("it is {}", settings.start_with)});
   }
   const auto most = static_cast<std::int32_t>(kMaxIndividuals);
   if (settings.offspring_per_iteration < 1 || settings.offspring_per_iteration > most) {
-    return Problem{.kind = ProblemKind::kNoPseudoOffspring,
-                   .found = fmt::format("it is {}; at most {} in an iteration",
-                                        settings.offspring_per_iteration, most)};
+    found.push_back({.kind = ProblemKind::kNoPseudoOffspring,
+                     .found = fmt::format("it is {}; at most {} in an iteration",
+                                          settings.offspring_per_iteration, most)});
   }
   for (const ParentalSet& set : settings.Sets()) {
-    if (auto problem = CheckSet(settings, set)) {
-      return problem;
-    }
+    FindFaultyNumbersOf(settings, set, found);
   }
-  return std::nullopt;
+  return found;
 }
 
 }  // namespace kaldo

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "base/problem.h"
 #include "method/error_model.h"
@@ -23,5 +24,8 @@ bool WarnsOfManyIterations(Flow flow, std::int32_t iterations);
 /// The numbers of the screens: tolerance, iterations, criterion, loci to start with, then numbers
 /// of parents and of pseudo-offspring, which must leave something to simulate.
 std::optional<Problem> CheckSimulationNumbers(const SimulationSettings& settings);
+
+/// All that these tests find.
+std::vector<Problem> FindFaultyNumbers(const SimulationSettings& settings);
 
 }  // namespace kaldo

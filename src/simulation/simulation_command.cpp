@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "runs/all_typed.h"
+
 namespace kaldo {
 
 namespace {
@@ -26,45 +28,63 @@ bool AnyGiven(const TypedSettings& typed, std::string_view group) {
   });
 }
 
+bool IsSexed(const TypedSettings& typed) { return typed.contains("sexed"); }
+
 /// Options of the other flow, or of both procedures, would silently do nothing.
-tl::expected<Procedure, Problem> ProcedureFrom(const TypedSettings& typed, bool sexed) {
+std::vector<Problem> FindContradictions(const TypedSettings& typed) {
+  const bool sexed = IsSexed(typed);
+  std::vector<Problem> found;
   if (AnyGiven(typed, sexed ? kNonSexedParentsGroup : kSexedParentsGroup)) {
-    return NotUnderstood(ProblemKind::kOptionsOfOtherFlow,
-                         sexed ? "--sexed goes with the options of males and females"
-                               : "the options of males and females go with --sexed");
+    found.push_back({.kind = ProblemKind::kOptionsOfOtherFlow,
+                     .found = sexed ? "--sexed goes with the options of males and females"
+                                    : "the options of males and females go with --sexed"});
   }
   const GivenParents first(typed, sexed ? "males_" : "");
   const GivenParents second(typed, "females_");
-  for (const GivenParents& given : {first, second}) {
-    if (given.collected && given.pseudo_collected) {
-      return NotUnderstood(
-          ProblemKind::kCollectedAndPseudoCollected,
-          "collected parents are read, pseudo-collected ones are drawn from a sample");
-    }
+  if ((first.collected && first.pseudo_collected) ||
+      (second.collected && second.pseudo_collected)) {
+    found.push_back(
+        {.kind = ProblemKind::kCollectedAndPseudoCollected,
+         .found = "collected parents are read, pseudo-collected ones are drawn from a sample"});
+  } else if (sexed && first.collected != second.collected && (first.sample || second.sample)) {
+    found.push_back(
+        {.kind = ProblemKind::kCollectedAndPseudoCollected,
+         .found = "males and females come from files of parents, or both from samples"});
   }
-  if (sexed && first.collected != second.collected && (first.sample || second.sample)) {
-    return NotUnderstood(ProblemKind::kCollectedAndPseudoCollected,
-                         "males and females come from files of parents, or both from samples");
-  }
+  return found;
+}
+
+/// What was given tells the flow and the procedure, be it contradictory.
+SimulationSettings KindOfSimulation(const TypedSettings& typed) {
+  SimulationSettings settings;
+  const bool sexed = IsSexed(typed);
+  const GivenParents first(typed, sexed ? "males_" : "");
+  const GivenParents second(typed, "females_");
   const bool any_collected = first.collected || second.collected;
   const bool any_pseudo_collected = first.pseudo_collected || second.pseudo_collected;
-  return any_pseudo_collected && !any_collected ? Procedure::kPreParental : Procedure::kParental;
+  settings.flow = sexed ? Flow::kSexed : Flow::kNonSexed;
+  settings.procedure =
+      any_pseudo_collected && !any_collected ? Procedure::kPreParental : Procedure::kParental;
+  return settings;
 }
 
 }  // namespace
 
 tl::expected<SimulationSettings, Problem> SimulationFrom(const TypedSettings& typed) {
-  const bool sexed = typed.contains("sexed");
-  const auto procedure = ProcedureFrom(typed, sexed);
-  if (!procedure) {
-    return tl::unexpected(procedure.error());
+  if (const auto contradictions = FindContradictions(typed); !contradictions.empty()) {
+    return tl::unexpected(contradictions.front());
   }
-  SimulationSettings settings;
-  settings.flow = sexed ? Flow::kSexed : Flow::kNonSexed;
-  settings.procedure = *procedure;
+  SimulationSettings settings = KindOfSimulation(typed);
   if (auto problem = ReadTyped(SimulationSettingTable(), typed, settings)) {
     return tl::unexpected(std::move(*problem));
   }
+  return settings;
+}
+
+SimulationSettings ReadableSimulation(const TypedSettings& typed, AlikeGroups<Problem>& faults) {
+  faults.AddAll(FindContradictions(typed));
+  SimulationSettings settings = KindOfSimulation(typed);
+  ReadAllTyped(SimulationSettingTable(), typed, settings, faults);
   return settings;
 }
 

@@ -5,6 +5,7 @@
 
 #include <tl/expected.hpp>
 
+#include "base/alike.h"
 #include "simulation/simulation_settings.h"
 
 namespace kaldo {
@@ -12,6 +13,9 @@ namespace kaldo {
 /// The settings of what was typed behind `kaldo simulate`. Whether parents are real or drawn
 /// follows from which of them were given.
 tl::expected<SimulationSettings, Problem> SimulationFrom(const TypedSettings& typed);
+
+/// The same with every fault of what was typed, and the settings without what is at fault.
+SimulationSettings ReadableSimulation(const TypedSettings& typed, AlikeGroups<Problem>& faults);
 
 /// The command line of a simulation, `kaldo simulate --project ...`: typed into a shell in the same
 /// working folder it repeats the run. Without a seed the clock sets it, here as there: put in the

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "genotypes/all_faults.h"
 #include "genotypes/capacities.h"
 #include "genotypes/file_wide_checks.h"
 #include "genotypes/record_checks.h"
@@ -48,23 +49,37 @@ GroupPath PathOf(const SimulationSettings& settings, const GroupDesign& group) {
   return path;
 }
 
+GroupFile GroupFileOf(GroupPath path, TokenFile tokens, const SimulationSettings& settings) {
+  return {
+      std::move(tokens), std::move(path.role), path.holds_parents, path.half_defined,
+      settings.allow_undefined_parents ? UndefinedAlleles::kWholeLoci : UndefinedAlleles::kNone};
+}
+
 /// One allele of two is told first in the sexed flow, also for collected parents; then, for
 /// collected parents, any undefined allele that they may not have.
-std::optional<Problem> CheckGroup(const GroupFile& group, const LociList& loci, bool tells_halves,
-                                  UndefinedAlleles in_parents) {
-  FileWideCheck check{&group.tokens, Separators::kNone, UndefinedAlleles::kWholeLoci,
-                      ProblemKind::kOddDigitsInParents, group.half_defined};
+std::vector<FileWideCheck> WideChecksOf(const GroupFile& group, bool tells_halves) {
+  std::vector<FileWideCheck> checks;
   if (!group.holds_parents || tells_halves) {
-    if (auto problem = CheckFileWide(check, loci)) {
-      return problem;
-    }
+    checks.push_back({&group.tokens, Separators::kNone, UndefinedAlleles::kWholeLoci,
+                      ProblemKind::kOddDigitsInParents, group.half_defined});
   }
-  if (!group.holds_parents) {
+  if (group.holds_parents) {
+    checks.push_back({&group.tokens, Separators::kNone, group.in_parents,
+                      ProblemKind::kOddDigitsInParents, ProblemKind::kUndefinedInParents});
+  }
+  return checks;
+}
+
+std::optional<Problem> CheckNumber(const GroupFile& group, RecordLayout layout) {
+  const std::size_t individuals = CountIndividuals(group.tokens, layout);
+  if (individuals > 0 && individuals <= kMaxIndividuals) {
     return std::nullopt;
   }
-  check.undefined_alleles = in_parents;
-  check.undefined = ProblemKind::kUndefinedInParents;
-  return CheckFileWide(check, loci);
+  const bool none = individuals == 0;
+  return Problem{.kind = none ? ProblemKind::kNoIndividual : ProblemKind::kTooManyIndividuals,
+                 .subject = none ? group.role : fmt::format("{}", kMaxIndividuals),
+                 .file = group.tokens.Path(),
+                 .found = fmt::format("{} records", individuals)};
 }
 
 std::optional<Problem> CheckNoSeparators(const GroupFile& group) {
@@ -112,9 +127,6 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
     }
   }
   SimulationFiles files;
-  if (settings.allow_undefined_parents) {
-    files.in_parents = UndefinedAlleles::kWholeLoci;
-  }
   auto loci = open(settings.loci_file, kMaxLociBytes);
   if (!loci) {
     return tl::unexpected(std::move(loci.error()));
@@ -125,17 +137,58 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
     if (!tokens) {
       return tl::unexpected(std::move(tokens.error()));
     }
-    files.groups.push_back(
-        {std::move(*tokens), std::move(path.role), path.holds_parents, path.half_defined});
+    files.groups.push_back(GroupFileOf(std::move(path), std::move(*tokens), settings));
   }
   return files;
+}
+
+OpenedSimulationFiles OpenWhatIsThere(const SimulationSettings& settings, const FileOpener& open,
+                                      AlikeGroups<Problem>& faults) {
+  OpenedSimulationFiles files;
+  if (auto loci = OpenSimulationLoci(settings, open)) {
+    files.loci = std::move(*loci);
+  } else {
+    faults.Add(std::move(loci.error()));
+  }
+  for (const GroupDesign& group : DesignOf(settings.flow).groups) {
+    GroupPath path = PathOf(settings, group);
+    if (path.path->empty()) {
+      faults.Add({.kind = path.no_name});
+    } else if (auto tokens = open(*path.path, kMaxInputBytes)) {
+      files.groups.push_back(GroupFileOf(std::move(path), std::move(*tokens), settings));
+    } else {
+      faults.Add(std::move(tokens.error()));
+    }
+  }
+  return files;
+}
+
+void FindAllFaults(const OpenedSimulationFiles& files, Flow flow, const LociList& loci,
+                   AlikeGroups<Problem>& faults) {
+  if (files.groups.empty()) {
+    return;
+  }
+  const RecordLayout layout{loci.Count(), Separators::kNone};
+  const std::size_t digits = CommonDigitsPerField(files.groups.front().tokens, layout);
+  for (const GroupFile& group : files.groups) {
+    auto problem = CheckNoSeparators(group);
+    if (!problem) {
+      problem = CheckNumber(group, layout);
+    }
+    if (problem) {
+      faults.Add(std::move(*problem));
+    }
+    FindAllFaults({WideChecksOf(group, flow == Flow::kSexed), digits, false}, loci, faults);
+  }
 }
 
 std::optional<Problem> CheckSimulationFiles(const SimulationFiles& files, const LociList& loci) {
   const bool sexed = files.groups.size() > 2;
   for (const GroupFile& group : files.groups) {
-    if (auto problem = CheckGroup(group, loci, sexed, files.in_parents)) {
-      return problem;
+    for (const FileWideCheck& check : WideChecksOf(group, sexed)) {
+      if (auto problem = CheckFileWide(check, loci)) {
+        return problem;
+      }
     }
   }
   return std::nullopt;
@@ -148,13 +201,8 @@ std::optional<Problem> CheckSimulationRecords(const SimulationFiles& files, cons
     if (auto problem = CheckNoSeparators(group)) {
       return problem;
     }
-    const std::size_t individuals = CountIndividuals(group.tokens, layout);
-    if (individuals == 0 || individuals > kMaxIndividuals) {
-      const bool none = individuals == 0;
-      return Problem{.kind = none ? ProblemKind::kNoIndividual : ProblemKind::kTooManyIndividuals,
-                     .subject = none ? group.role : fmt::format("{}", kMaxIndividuals),
-                     .file = group.tokens.Path(),
-                     .found = fmt::format("{} records", individuals)};
+    if (auto problem = CheckNumber(group, layout)) {
+      return problem;
     }
     if (auto problem = CheckRecords(group.tokens, layout, loci, digits_per_field)) {
       return problem;

@@ -35,28 +35,6 @@ std::optional<Problem> CheckFiles(const SimulationFiles& files, SimulationInput&
   return CheckSimulationRecords(files, input.loci, input.digits_per_field);
 }
 
-std::optional<Problem> ApplyChoices(const SimulationSettings& settings, SimulationInput& input) {
-  if (auto problem = ValidateForSimulation(settings.error_model)) {
-    return problem;
-  }
-  if (settings.loci_in_use) {
-    if (auto problem = input.loci.Use(*settings.loci_in_use)) {
-      return problem;
-    }
-  }
-  if (!settings.sequence.empty()) {
-    if (auto problem = CheckSequence(settings.sequence, input.loci.Count())) {
-      return problem;
-    }
-  }
-  auto subsets = LocusSubsets::Choose(settings, input.loci);
-  if (!subsets) {
-    return std::move(subsets.error());
-  }
-  input.subsets = std::move(*subsets);
-  return std::nullopt;
-}
-
 /// The simulated parents of a group: a fraction of a parent is one more.
 std::uint32_t SimulatedParents(const SimulationSettings& settings, const GroupDesign& group) {
   const ParentalSet& set = settings.sets.at(group.set);
@@ -202,6 +180,28 @@ std::optional<Problem> CheckGroupSizes(Flow flow, const SimulationInput& input) 
 
 }  // namespace
 
+std::optional<Problem> CheckChoices(const SimulationSettings& settings, SimulationInput& input) {
+  if (auto problem = ValidateForSimulation(settings.error_model)) {
+    return problem;
+  }
+  if (settings.loci_in_use) {
+    if (auto problem = input.loci.Use(*settings.loci_in_use)) {
+      return problem;
+    }
+  }
+  if (!settings.sequence.empty()) {
+    if (auto problem = CheckSequence(settings.sequence, input.loci.Count())) {
+      return problem;
+    }
+  }
+  auto subsets = LocusSubsets::Choose(settings, input.loci);
+  if (!subsets) {
+    return std::move(subsets.error());
+  }
+  input.subsets = std::move(*subsets);
+  return std::nullopt;
+}
+
 std::uint32_t SimulationInput::OffspringPerIteration() const {
   return static_cast<std::uint32_t>(
       std::accumulate(class_sizes.begin(), class_sizes.end(), std::int32_t{0}));
@@ -227,7 +227,7 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
   if (auto problem = CheckFiles(files, input)) {
     return tl::unexpected(std::move(*problem));
   }
-  if (auto problem = ApplyChoices(settings, input)) {
+  if (auto problem = CheckChoices(settings, input)) {
     return tl::unexpected(std::move(*problem));
   }
   if (auto problem = LoadGroups(settings, files, input)) {

@@ -59,4 +59,7 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
                                                            const SimulationFiles& files);
 
+/// Tests error model, loci in use, sequence and subsets against the loci of the input, and chooses.
+std::optional<Problem> CheckChoices(const SimulationSettings& settings, SimulationInput& input);
+
 }  // namespace kaldo

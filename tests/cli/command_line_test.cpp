@@ -73,8 +73,9 @@ class CommandLineTest : public testing::Test {
 };
 
 TEST_F(CommandLineTest, HelpAndVersionAreAnswersNotFaults) {
-  for (const std::string command : {"", "allocate", "check", "simulate", "rerun", "verify"}) {
-    const Arguments head = command.empty() ? Arguments{} : Arguments{command};
+  for (const std::string command :
+       {"", "allocate", "check", "check simulate", "simulate", "rerun", "verify", "completion"}) {
+    const Arguments head = test::Words(command);
     const Outcome help = RunCommand(head + Arguments{"--help"});
     EXPECT_EQ(help.code, ExitCode::kDone) << command;
     EXPECT_THAT(help.out, HasSubstr("Usage: kaldo" + (command.empty() ? "" : ' ' + command)));
@@ -110,6 +111,13 @@ TEST_F(CommandLineTest, RefusesACommandLineThatIsNone) {
                 "0.008; write commas");
   ExpectRefusal(Check(Loci()), "--loci is given 2 times.\n");
   ExpectRefusal({"rerun"}, "The run record is missing");
+  ExpectRefusal({"completion"}, "The shell is missing: bash, zsh or fish");
+  ExpectRefusal({"completion", "sh"}, "There is no completion for the shell \"sh\"");
+  ExpectRefusal(Check({"--format", "xml"}), "There is no format \"xml\": text or json.\n");
+  ExpectRefusal(Check({"simulate", "--iterations", "2"}),
+                "The options of a simulation stand behind \"check simulate\".\n");
+  ExpectRefusal({"check", "simulate", "--colected-parents", "x"},
+                "There is no option \"--colected-parents\". Did you mean --collected-parents?\n");
 }
 
 TEST_F(CommandLineTest, ReadsTheToleranceAsDecimal) {
@@ -143,16 +151,17 @@ TEST_F(CommandLineTest, ABareSequenceIsFileOrder) {
 
 TEST_F(CommandLineTest, UsesTheNamedLoci) {
   EXPECT_THAT(RunCommand(Check({"--use", " D ,A"})).err, HasSubstr("2 of 4 loci in use"));
-  EXPECT_THAT(RunCommand(Check({})).err, HasSubstr("(1 missing loci), 4 of 4 loci in use"));
+  EXPECT_THAT(RunCommand(Check({})).err, HasSubstr("(1 missing locus), 4 of 4 loci in use"));
 }
 
 TEST_F(CommandLineTest, CheckWritesNothing) {
   const auto before = folder_.FilesIn(".");
   const Outcome outcome = RunCommand(Check({"--project", folder_.Path("project"), "--sequence"}));
   EXPECT_EQ(outcome.code, ExitCode::kDone);
-  EXPECT_EQ(outcome.out, "ok\n");
+  EXPECT_THAT(outcome.out, EndsWith("\n\nThe project folder \"" + folder_.Path("project") +
+                                    "\" can be made.\nok\n"));
   EXPECT_EQ(outcome.err,
-            "3 parents, 2 offspring (1 missing loci), 4 of 4 loci in use, 6 digits per field\n");
+            "3 parents, 2 offspring (1 missing locus), 4 of 4 loci in use, 6 digits per field\n");
   EXPECT_EQ(folder_.FilesIn("."), before);
 }
 

@@ -4,6 +4,8 @@
     process_test.py KALDO [unittest options]
 """
 
+import fcntl
+import json
 import os
 import pty
 import random
@@ -133,6 +135,98 @@ class ExitCodes(ProgramTest):
             (self.folder / "record").write_text(f'program = "KALDO"\n{text}\n')
             refused = self.run_program([KALDO, "rerun", "record"])
             self.assertEqual(refused.returncode, 2, text[:20])
+
+
+class Checks(ProgramTest):
+    """What `kaldo check` tells, on a study small enough to be worked out by hand."""
+
+    STUDY = {"loci.txt": b"A B\n",
+             "parents.txt": b"P1 100102 200200\nP2 104104 200200\n*\nP3 100106 200200\n",
+             "young.txt": b"O1 100100 200201\nO2 000000 000000\nMAR1 100102 200200\n"}
+
+    def check(self, *more):
+        done = programs.run([KALDO, "check", "--format", "json", "--loci", "loci.txt",
+                             "--parents", "parents.txt", "--offspring", "young.txt", *more],
+                            self.folder)
+        told = json.loads(done.stdout)
+        self.assertEqual(done.returncode, 0 if told["sound"] else 2)
+        return told
+
+    def test_what_is_in_sound_files(self):
+        write_files(self.STUDY, self.folder)
+        told = self.check("--use", "B")
+        self.assertTrue(told["sound"])
+        self.assertEqual((told["flow"], told["project"]), ("allocation, non-sexed", None))
+        first, second = told["loci"]
+        self.assertEqual([(each["size"], each["copies"]) for each in first["alleles"]],
+                         [(100, 5), (102, 2), (104, 2), (106, 1)])
+        self.assertEqual((first["unit_distance"], first["in_step"], first["in_use"],
+                          first["individuals"], first["undefined_genotypes"]),
+                         (2, True, False, 6, 1))
+        self.assertAlmostEqual(first["observed_heterozygosity"], 3 / 5)
+        self.assertAlmostEqual(first["expected_heterozygosity"],
+                               10 / 9 * (1 - (25 + 4 + 4 + 1) / 100))
+        self.assertEqual((second["unit_distance"], second["in_step"], second["in_use"]),
+                         (1, False, True))
+        self.assertIn({"sentence": "A spreadsheet would change a name.", "file": "young.txt",
+                       "line": 3, "record": 3, "individual": "MAR1",
+                       "found": '"MAR1" becomes a date; open reports with its column as text'},
+                      told["warnings"])
+
+    def test_every_fault_of_files_and_choices(self):
+        rows = b"".join(b"X%d 100102 0000\n" % k for k in range(25))
+        write_files(self.STUDY | {
+            "parents.txt": b"P1 100102 200200\nP2 104104 200\nP3 100106 000200\nP4 100106\n"
+                           b"P5 100106 200200\nNA 100106 200200\nP6 100106 200200\n",
+            "young.txt": b"O1 100102 200200\n" * 26 + rows}, self.folder)
+        told = self.check("--tolerance", "-1", "--use", "B,C,D", "--threads", "0",
+                          "--project", "loci.txt/results")
+        places = [(each.get("file"), each.get("line")) for each in told["faults"]]
+        self.assertEqual(sorted(line for file, line in places if file == "parents.txt"),
+                         [2, 3, 4, 6])
+        self.assertEqual([line for file, line in places if file == "young.txt"],
+                         list(range(27, 52)))
+        sentences = [each["sentence"] for each in told["faults"]]
+        self.assertEqual(sentences.count("There is no locus of that name!"), 2)
+        self.assertIn("Enter a positive number", sentences)
+        self.assertEqual(sentences[0], "That number of threads is not possible!")
+        self.assertEqual([each["sentence"] for each in told["project"]["obstacles"]],
+                         ['Cannot make the folder "loci.txt/results": "loci.txt" is a file'])
+        as_text = programs.run([KALDO, "check", "--loci", "loci.txt", "--parents", "parents.txt",
+                                "--offspring", "young.txt"], self.folder).stderr
+        self.assertEqual(as_text.count(b"young.txt, line"), 20)
+        self.assertIn(b"\n... and 5 more\n", as_text)
+
+    def test_the_project_folder(self):
+        write_files(self.STUDY, self.folder)
+        lake = self.folder / "lake"
+        self.assertFalse(self.check("--project", "lake")["project"]["exists"])
+        run = [KALDO, "allocate", "--project", "lake", "--loci", "loci.txt",
+               "--parents", "parents.txt", "--offspring", "young.txt"]
+        self.assertEqual(programs.run(run, self.folder).returncode, 0)
+        self.assertEqual(self.check("--project", "lake")["project"]["holds"]["flow"],
+                         "allocation, non-sexed")
+        record = (lake / RUN_RECORD).read_text()
+        (lake / RUN_RECORD).write_text(record.replace("allocation, non-sexed", "simulation, sexed"))
+        before = files_of(lake)
+        self.assertFalse(self.check("--project", "lake")["sound"])
+        self.assertTrue(self.check("--project", "lake", "--replace")["sound"])
+        with open(lake / ".kaldo-lock", "w", encoding="utf-8") as lock:
+            lock.write("process 1 on node07")
+            lock.flush()
+            fcntl.flock(lock, fcntl.LOCK_EX)
+            told = self.check("--project", "lake", "--replace")["project"]["obstacles"]
+            self.assertRegex(told[0]["sentence"], r"^Another run is at work .* on node07\)")
+        self.assertTrue(self.check("--project", "lake", "--replace")["sound"])
+        (lake / ".kaldo-lock").unlink()
+        (lake / "Max like pairs.txt").unlink()
+        (lake / "Max like pairs.txt").symlink_to(self.folder / "parents.txt")
+        self.assertIn("The run would destroy one of its own input files!",
+                      [each["sentence"] for each in
+                       self.check("--project", "lake", "--replace")["project"]["obstacles"]])
+        (lake / "Max like pairs.txt").unlink()
+        (lake / "Max like pairs.txt").write_bytes(before["Max like pairs.txt"])
+        self.assertEqual(files_of(lake), before)
 
 
 class LongRuns(ProgramTest):

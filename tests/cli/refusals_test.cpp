@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every kind of problem, provoked by the smallest mistake in a command or a file.
+#include <algorithm>
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <map>
@@ -291,6 +292,26 @@ class RefusalsTest : public testing::Test {
     }
   }
 
+  /// A check tells first what the run tells, and all the rest below.
+  static void ExpectTheSameFirst(Arguments command) {
+    Arguments check = command;
+    if (command.front() == "check") {
+      command.front() = "allocate";
+      command.insert(command.end(), {"--project", "results"});
+    } else if (command.front() == "simulate" &&
+               std::find(command.begin(), command.end(), "--project") != command.end()) {
+      check.insert(check.begin(), "check");
+    } else {
+      return;
+    }
+    const auto run = test::RunCommand(command);
+    const auto checked = test::RunCommand(check);
+    EXPECT_EQ(checked.code, ExitCode::kBadInput);
+    EXPECT_THAT(checked.err, testing::StartsWith(run.err));
+    check.insert(check.end(), {"--format", "json"});
+    EXPECT_THAT(test::RunCommand(check).out, testing::HasSubstr("\n  \"sound\": false,\n"));
+  }
+
   test::TempFolder folder_;  // NOLINT(misc-non-private-member-variables-in-classes)
 
  private:
@@ -303,6 +324,35 @@ TEST_F(RefusalsTest, SoundCommandsRun) {
     const auto outcome = test::RunCommand(CommandOf(name));
     EXPECT_EQ(outcome.code, ExitCode::kDone) << name << ": " << outcome.err;
     std::filesystem::remove_all("results");
+  }
+}
+
+// What the help marks as required, and nothing else, cannot be left out.
+TEST_F(RefusalsTest, TheHelpMarksWhatIsRequired) {
+  WriteStudy(2);
+  for (const auto& [name, words] : kSound) {
+    std::istringstream options(words);
+    std::string command;
+    options >> command;
+    const std::string help = test::RunCommand({command, "--help"}).out;
+    for (std::string option; options >> option;) {
+      if (option.find('=') == std::string::npos) {
+        continue;
+      }
+      option.resize(option.find('='));
+      const std::size_t begin = help.find("\n  --" + option + ' ');
+      const std::string line = help.substr(begin + 1, help.find("\n  -", begin + 1) - begin);
+      const auto outcome = test::RunCommand(CommandOf(name + " -" + option));
+      const bool is_marked = line.find("(required)") != std::string::npos;
+      EXPECT_EQ(outcome.code, is_marked ? ExitCode::kBadInput : ExitCode::kDone) << line;
+      EXPECT_EQ(outcome.err.find("--" + option + " is needed") != std::string::npos ||
+                    outcome.err.find("--" + option + " (or --males with --females) is needed") !=
+                        std::string::npos,
+                is_marked)
+          << name << ' ' << option << '\n'
+          << outcome.err;
+      std::filesystem::remove_all("results");
+    }
   }
 }
 
@@ -330,6 +380,7 @@ TEST_F(RefusalsTest, EveryKindIsToldWithItsPlaceBeforeAnythingIsWritten) {
       EXPECT_THAT(first_line, testing::EndsWith(std::string(sentence.substr(value + 2))));
     }
     EXPECT_THAT(outcome.err.substr(line_end + 1), testing::StartsWith(refusal.detail));
+    ExpectTheSameFirst(CommandOf(refusal.command));
     told.insert(refusal.kind);
   }
   for (const auto& [kind, sentence] : kProblemSentences) {

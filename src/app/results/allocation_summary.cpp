@@ -8,6 +8,7 @@
 #include "allocation/allocation_file_names.h"
 #include "app/base/text.h"
 #include "app/results/allocation_classes.h"
+#include "base/counted_text.h"
 #include "runs/project_folder.h"
 #include "runs/run_record.h"
 
@@ -86,9 +87,10 @@ Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
       settings.flow == Flow::kSexed ? Text("Sexed allocation") : Text("Non-sexed allocation");
   AddFiles(settings, summary);
   summary.lines.emplace_back(Text("collected"), ParentsText(settings.flow, input));
-  summary.lines.emplace_back(Text("offspring"),
-                             Text(fmt::format("{} ({} missing loci)", input.NumberOfOffspring(),
-                                              input.NumberOfMissingGenotypes())));
+  summary.lines.emplace_back(
+      Text("offspring"), Text(fmt::format("{} ({})", input.NumberOfOffspring(),
+                                          Counted(input.NumberOfMissingGenotypes(), "missing locus",
+                                                  "missing loci"))));
   summary.lines.emplace_back(Text("loci in use"), LociText(input));
   summary.lines.emplace_back(Text("error model"), Text(ShortDescription(settings.error_model)));
   summary.lines.emplace_back(Text("maximal offset tolerance"),

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/alike.h"
+#include "genotypes/locus_statistics.h"
+#include "runs/folder_check.h"
+#include "runs/setting.h"
+
+namespace kaldo {
+
+/// All that is wrong with the files and the choices of a run, not only what the run would tell
+/// before it ends, and what is there.
+struct FullCheck {
+  std::string flow;                    ///< as in run records
+  AlikeGroups<Problem> faults;         ///< first of all the one that a run would tell
+  std::vector<Warning> warnings;       ///< every single case
+  std::vector<LocusStatistics> loci;   ///< of all files together; nothing until they are sound
+  std::optional<FolderCheck> project;  ///< where a project was named
+
+  /// Whether the run would begin.
+  bool IsSound() const { return faults.IsEmpty() && (!project || project->IsSound()); }
+};
+
+/// Which loci are tried of those that `--use` names: the unknown ones are faults and left out. A
+/// choice of which nothing is left becomes that of all loci.
+void LeaveOutUnknownLoci(const LociList& loci, std::optional<std::vector<std::string>>& chosen,
+                         AlikeGroups<Problem>& faults);
+
+/// Leaves one more locus out, so that the next one at fault can be told.
+void LeaveOut(const std::string& locus, const LociList& loci,
+              std::optional<std::vector<std::string>>& chosen);
+
+/// The input files that the settings name, whether or not they can be read.
+template <typename Settings>
+std::vector<RecordedInput> NamedInputs(SettingTable<Settings> table, const Settings& settings) {
+  std::vector<RecordedInput> inputs;
+  for (const Setting<Settings>& setting : table) {
+    const auto path = setting.value.text(settings);
+    if (setting.metavar == "FILE" && setting.Applies(settings) && path && !path->empty()) {
+      inputs.push_back({setting.key, *path, {}});
+    }
+  }
+  return inputs;
+}
+
+}  // namespace kaldo

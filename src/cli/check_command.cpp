@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/check_command.h"
+
+#include <ostream>
+
+#include "allocation/allocation_check.h"
+#include "cli/check_json.h"
+#include "cli/check_text.h"
+#include "cli/missing_options.h"
+#include "cli/short_result.h"
+#include "cli/simulation_result_text.h"
+#include "runs/project_lock.h"
+#include "simulation/simulation_check.h"
+#include "simulation/simulation_checks.h"
+
+namespace kaldo {
+
+namespace {
+
+void SettleProject(const TypedSettings& typed, const CommandLineStreams& streams) {
+  const auto project = typed.find("project");
+  if (project == typed.end()) {
+    return;
+  }
+  if (const auto recovered = RecoverProject(ProjectFolder(project->second))) {
+    streams.err << Escaped(*recovered) << '\n';
+  }
+}
+
+/// Tells the options for all missing names with the first of them.
+template <typename Settings>
+void AddMissingOptions(const Settings& settings, AlikeGroups<Problem>& faults) {
+  bool is_told = false;
+  faults.Complete([&](Problem& fault) {
+    if (!is_told) {
+      auto completed = WithMissingOptions(fault, settings, false);
+      is_told = completed.found != fault.found;
+      fault = std::move(completed);
+    }
+  });
+}
+
+/// `summary` tells what was read, where all of it is sound.
+ExitCode TellCheck(const FullCheck& check, const std::string& summary, bool as_json,
+                   const CommandLineStreams& streams) {
+  const ExitCode code = check.IsSound() ? ExitCode::kDone : ExitCode::kBadInput;
+  if (as_json) {
+    streams.out << JsonText(check);
+    return code;
+  }
+  streams.err << FaultsText(check);
+  for (const std::string& line : WarningLines(check.warnings)) {
+    streams.err << "Warning: " << line << '\n';
+  }
+  if (check.IsSound()) {
+    streams.err << summary;
+    streams.out << ContentsText(check) << "ok\n";
+  }
+  return code;
+}
+
+}  // namespace
+
+ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams,
+                  FileSource& source) {
+  if (choices.format != "text" && choices.format != "json") {
+    streams.err << "There is no format " << Quoted(choices.format) << ": text or json.\n";
+    return ExitCode::kBadInput;
+  }
+  const bool as_json = choices.format == "json";
+  SettleProject(choices.typed, streams);
+  if (choices.simulates) {
+    auto check = CheckSimulation(choices.typed, choices.may_replace_other_flow, source);
+    AddMissingOptions(check.settings, check.faults);
+    if (!as_json && WarnsOfManyIterations(check.settings.flow, check.settings.iterations)) {
+      streams.err << kManyIterations << '\n';
+    }
+    const std::string summary = check.input ? InputSummary(check.settings, *check.input) : "";
+    return TellCheck(check, summary, as_json, streams);
+  }
+  auto check = CheckAllocation(choices.typed, choices.may_replace_other_flow, source);
+  AddMissingOptions(check.settings, check.faults);
+  const std::string summary =
+      check.input ? InputSummary(check.settings.flow, *check.input) + '\n' : "";
+  return TellCheck(check, summary, as_json, streams);
+}
+
+}  // namespace kaldo

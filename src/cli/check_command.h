@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+#include "cli/command_line.h"
+#include "runs/setting.h"
+
+namespace kaldo {
+
+/// What was typed behind `kaldo check`.
+struct TypedCheck {
+  TypedSettings typed;     ///< those of the run
+  bool simulates = false;  ///< `kaldo check simulate`
+  std::string format = "text";
+  bool may_replace_other_flow = false;
+};
+
+/// Tells everything that is wrong with the files and the choices of a run, and what is in the
+/// files. Nothing is written, but what a crashed run left half done in the project folder is
+/// settled first.
+ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams, FileSource& source);
+
+}  // namespace kaldo

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/help_footer.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace kaldo {
+
+namespace {
+
+constexpr std::string_view kLake =
+    "  kaldo allocate --project lake --loci examples/non-sexed/loci.txt \\\n"
+    "                 --parents examples/non-sexed/parents.txt \\\n"
+    "                 --offspring examples/non-sexed/offspring.txt\n";
+
+constexpr std::string_view kPonds =
+    "  kaldo allocate --project ponds --loci examples/sexed/loci.txt \\\n"
+    "                 --males examples/sexed/males.txt --females examples/sexed/females.txt \\\n"
+    "                 --offspring examples/sexed/offspring.txt --tolerance 2 --sequence\n";
+
+constexpr std::string_view kTrial =
+    "  kaldo simulate --project trial --loci examples/non-sexed/loci.txt \\\n"
+    "                 --collected-parents examples/non-sexed/parents.txt \\\n"
+    "                 --uncollected-sample examples/non-sexed/parents.txt --uncollected 20 \\\n"
+    "                 --iterations 10 --offspring-per-iteration 100 --seed 1\n";
+
+constexpr std::string_view kPilot =
+    "  kaldo simulate --project pilot --loci examples/non-sexed/loci.txt \\\n"
+    "                 --pseudo-collected-sample examples/non-sexed/parents.txt \\\n"
+    "                 --pseudo-collected 30 \\\n"
+    "                 --uncollected-sample examples/non-sexed/parents.txt --uncollected 10 \\\n"
+    "                 --iterations 10 --offspring-per-iteration 100 \\\n"
+    "                 --strategy cumulative --seed 1\n";
+
+constexpr std::string_view kChecks =
+    "  kaldo check --loci examples/non-sexed/loci.txt \\\n"
+    "              --parents examples/non-sexed/parents.txt \\\n"
+    "              --offspring examples/non-sexed/offspring.txt\n"
+    "  kaldo check --format json --project lake --loci examples/non-sexed/loci.txt \\\n"
+    "              --parents examples/non-sexed/parents.txt \\\n"
+    "              --offspring examples/non-sexed/offspring.txt\n";
+
+constexpr std::string_view kCheckSimulation =
+    "  kaldo check simulate --loci examples/non-sexed/loci.txt \\\n"
+    "              --collected-parents examples/non-sexed/parents.txt \\\n"
+    "              --uncollected-sample examples/non-sexed/parents.txt --uncollected 20 \\\n"
+    "              --iterations 10 --offspring-per-iteration 100\n";
+
+constexpr std::string_view kRerun =
+    "  kaldo rerun \"lake/Run record.toml\"\n"
+    "  kaldo rerun trial --project \"trial again\"\n";
+
+constexpr std::string_view kVerify = "  kaldo verify lake\n";
+
+constexpr std::string_view kCompletion =
+    "  eval \"$(kaldo completion bash)\"\n"
+    "  kaldo completion fish > ~/.config/fish/completions/kaldo.fish\n";
+
+constexpr std::string_view kExitCodes =
+    "\n"
+    "Exit codes: 0 done, 1 failed while running, 2 bad input or usage, 3 verify or rerun found a\n"
+    "difference, 130 stopped by Ctrl-C.";
+
+/// The examples of a command, in their order.
+using Examples = std::array<std::string_view, 2>;
+
+constexpr std::array<std::pair<std::string_view, Examples>, 7> kExamples{
+    {{"allocate", {kLake, kPonds}},
+     {"simulate", {kTrial, kPilot}},
+     {"check", {kChecks, kCheckSimulation}},
+     {"check simulate", {kCheckSimulation, ""}},
+     {"rerun", {kRerun, ""}},
+     {"verify", {kVerify, ""}},
+     {"completion", {kCompletion, ""}}}};
+
+}  // namespace
+
+std::string HelpFooter(std::string_view command) {
+  const auto own = std::find_if(kExamples.begin(), kExamples.end(),
+                                [command](const auto& each) { return each.first == command; });
+  std::string text = "Examples, beside the example data:\n";
+  if (own != kExamples.end()) {
+    text.append(own->second[0]).append(own->second[1]);
+  } else {
+    for (const std::string_view example : {kLake, kTrial, kVerify}) {
+      text.append(example);
+    }
+    text +=
+        "\"kaldo allocate --help\" and so on tell the options and more examples of a command.\n";
+  }
+  return text.append(kExitCodes);
+}
+
+}  // namespace kaldo
