@@ -19,6 +19,13 @@ if(TARGET kaldo-desktop)
     DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 endif()
 install(FILES ${kaldo_man_pages} DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+set(kaldo_completions "${PROJECT_BINARY_DIR}/src/cli/completion")
+install(FILES "${kaldo_completions}.bash" RENAME kaldo
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
+install(FILES "${kaldo_completions}.zsh" RENAME _kaldo
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
+install(FILES "${kaldo_completions}.fish" RENAME kaldo.fish
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
 # A component of its own: the package would depend on an MPI library, which laptops need not have and
 # which clusters have in a version of their own.
 if(TARGET kaldo-mpi)

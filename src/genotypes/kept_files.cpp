@@ -2,17 +2,21 @@
 #include "genotypes/kept_files.h"
 
 #include <map>
+#include <utility>
 
 namespace kaldo {
 
 FileOpener OpenOnce(FileSource& source) {
-  using Read = tl::expected<TokenFile, Problem>;
-  return [&source,
-          kept = std::make_shared<std::map<std::string, Read>>()](const std::string& path) {
-    const auto known = kept->find(path);
-    return known != kept->end() ? known->second
-                                : kept->emplace(path, TokenFile::Read(path, source)).first->second;
-  };
+  using Wanted = std::pair<std::string, std::size_t>;
+  using Kept = std::map<Wanted, tl::expected<TokenFile, Problem>>;
+  return
+      [&source, kept = std::make_shared<Kept>()](const std::string& path, std::size_t most_bytes) {
+        const Wanted wanted(path, most_bytes);
+        const auto known = kept->find(wanted);
+        return known != kept->end()
+                   ? known->second
+                   : kept->emplace(wanted, TokenFile::Read(path, source, most_bytes)).first->second;
+      };
 }
 
 }  // namespace kaldo

@@ -5,6 +5,7 @@
 #include <set>
 
 #include <fmt/format.h>
+#include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
 #include "genotypes/record_checks.h"

@@ -145,6 +145,16 @@ class Documents(ProgramTest):
                 for command in commands_in(block):
                     self.run_command(command, page)
 
+    def test_examples_of_the_help_run(self):
+        for command in ("", "allocate", "simulate", "check", "check simulate", "rerun", "verify"):
+            text = programs.run([KALDO, *command.split(), "--help"], ".", text=True).stdout
+            block = "".join(line for line in
+                            text.partition("Examples")[2].splitlines(True)[1:]
+                            if line.startswith("  "))
+            self.assertTrue(block.startswith(f"  kaldo {command}"), command)
+            for example in commands_in(block):
+                self.run_command(example, f"kaldo {command} --help")
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -55,6 +55,13 @@ class Installed(unittest.TestCase):
         self.assertEqual(installed[0], 0)
         self.assertEqual(installed, reports(KALDO, SOURCE / "examples", self.root / "built"))
 
+    def test_completions_are_those_of_the_program(self):
+        for shell, place in (("bash", "bash-completion/completions/kaldo"),
+                             ("zsh", "zsh/site-functions/_kaldo"),
+                             ("fish", "fish/vendor_completions.d/kaldo.fish")):
+            told = programs.run([KALDO, "completion", shell], self.root).stdout
+            self.assertEqual((self.prefix / "share" / place).read_bytes(), told)
+
     def test_the_program_for_clusters_is_a_component_of_its_own(self):
         self.assertFalse((self.prefix / "bin/kaldo-mpi").exists())
         if not Path(BUILD, "src/cluster/kaldo-mpi").exists():
