@@ -184,7 +184,7 @@ OpenedAllocationFiles OpenWhatIsThere(const AllocationSettings& settings, const 
     auto tokens = open(path, MostBytes(role));
     if (!tokens) {
       faults.Add(std::move(tokens.error()));
-    } else if (is_loci) {
+    } else if (role.path == kLoci.path) {
       files.loci = {role, std::move(*tokens)};
     } else {
       files.genotypes.push_back({role, std::move(*tokens), UndefinedIn(role, settings)});
