@@ -125,9 +125,19 @@ std::string LociToLookAt(const AllocationRun& run) {
   return text;
 }
 
-std::string NoteOn(const ConfidenceResult& confidence, bool with_relatives) {
-  const auto note = RelativesNote(with_relatives, confidence.relatives_gain);
-  return note.empty() ? std::string() : fmt::format("  {}\n", note);
+/// The words of a sentence in lines of a hundred columns.
+std::string Wrapped(std::string_view sentence) {
+  constexpr std::size_t kMostColumns = 100;
+  std::string text;
+  while (!sentence.empty()) {
+    std::size_t end = sentence.size();
+    if (end > kMostColumns - 2) {
+      end = sentence.rfind(' ', kMostColumns - 2);
+    }
+    text += fmt::format("  {}\n", sentence.substr(0, end));
+    sentence.remove_prefix(std::min(end + 1, sentence.size()));
+  }
+  return text;
 }
 
 }  // namespace
@@ -146,7 +156,7 @@ std::string ConfidenceText(const AllocationSettings& settings, const AllocationR
                      confidence->shares.standard_error) +
          SideRows(summary, settings.confidence.level) + WrongNames(summary) +
          SharedSides(settings, run).Text() + LociToLookAt(run) +
-         NoteOn(*confidence, settings.confidence.relatives);
+         Wrapped(RelativesNote(settings.confidence.relatives, confidence->relatives_gain));
 }
 
 }  // namespace kaldo
