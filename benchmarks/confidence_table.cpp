@@ -159,7 +159,7 @@ void Row(const Shape& shape, std::string_view name, const ErrorModel& model,
          std::uint32_t plain_offspring) {
   const Study study(shape);
   const ConfidenceInput input = study.Input();
-  const ConfidenceSettings settings{model, kDefaultConfidenceLevel, 1};
+  const ConfidenceSettings settings{model, kDefaultConfidenceLevel, 1, false, false};
   const auto matrices = ConfidenceMatrices(model, input.catalogues);
   LocalThreads threads;
   RunObserver observer;

@@ -10,7 +10,9 @@ namespace {
 constexpr double kMostPairsOfQuickTest = 2e8;
 constexpr double kDelta = 1e-6;
 constexpr double kErrorOfGain = 0.1;
-constexpr double kHopelessGain = 1;
+constexpr double kHopelessGain = 2;
+constexpr double kSmallestChange = 1e-10;
+constexpr double kSmallestChangeForGain = 1e-6;
 
 using OneEvidence = ByOrigins<double>;
 
@@ -77,10 +79,9 @@ class RelativesRun {
     for (auto orders = OrdersWhere([](std::uint32_t) { return true; }, shares); !orders.empty();) {
       Gather(orders);
       const auto informative = Informative(evidence_, input_.flow);
-      findings.shares = EstimateRelatives(informative, input_.flow, Ways(), true);
-      findings.gain =
-          findings.shares.explanations.log_likelihood -
-          EstimateRelatives(informative, input_.flow, Ways(), false).explanations.log_likelihood;
+      findings.shares = Estimate(informative, true);
+      findings.gain = findings.shares.explanations.log_likelihood -
+                      Estimate(informative, false).explanations.log_likelihood;
       const auto weights = Weights(shares, input_.flow, Ways());
       orders = OrdersWhere(
           [&](std::uint32_t i) {
@@ -93,6 +94,11 @@ class RelativesRun {
       findings.evidence = std::move(evidence_);
     }
     return findings;
+  }
+
+  RelativesShares Estimate(std::span<const OneEvidence> informative, bool with_sibs) const {
+    return EstimateRelatives(informative, input_.flow, Ways(), with_sibs,
+                             settings_.relatives ? kSmallestChange : kSmallestChangeForGain);
   }
 
   const WaysOfExplanations& Ways() const { return task_.Study().ways; }

@@ -18,7 +18,7 @@ struct RelativesFindings {
 
   /// By how much the log likelihood of all offspring exceeds that without sibs, each at its own
   /// shares. Where the gain alone is wanted, two sibs are valued roughly to begin with, by the
-  /// product of what either is worth with a stranger; a gain below 1 is that rough one.
+  /// product of what either is worth with a stranger; a gain below 2 is that rough one.
   double gain = 0;
 
   /// Of every offspring under these shares; empty unless `settings.relatives`.

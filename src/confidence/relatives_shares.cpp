@@ -11,7 +11,6 @@ namespace kaldo {
 
 namespace {
 
-constexpr double kSmallestChange = 1e-10;
 constexpr int kMostRounds = 10'000;
 constexpr OriginShares kStart;
 
@@ -185,13 +184,13 @@ ByOrigins<double> Weights(const OriginShares& shares, Flow flow, const WaysOfExp
 }
 
 RelativesShares EstimateRelatives(Evidence evidence, Flow flow, const WaysOfExplanations& ways,
-                                  bool with_sibs) {
+                                  bool with_sibs, double smallest_change) {
   const Setting setting(flow, ways);
   RelativesShares result;
   OriginShares& shares = result.origins;
   shares.sibs = with_sibs ? kStart.sibs : 0;
   int& rounds = result.explanations.rounds;
-  for (double change = 1; change >= kSmallestChange && rounds < kMostRounds; ++rounds) {
+  for (double change = 1; change >= smallest_change && rounds < kMostRounds; ++rounds) {
     const OriginShares next = NextShares(setting, evidence, shares, with_sibs);
     change = Change(next, shares);
     shares = next;

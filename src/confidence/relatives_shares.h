@@ -32,12 +32,14 @@ struct RelativesShares {
 
 /// Estimates the shares from the evidence of each offspring for each combination, up to a factor
 /// of its own, by EM as EstimateShares does, from 0.5, 0.5 and 0.1, with the weight of one side at
-/// these values as prior of each. Without `with_sibs` nobody is a sib.
+/// these values as prior of each, until their absolute changes sum to less than `smallest_change`.
+/// Without `with_sibs` nobody is a sib.
 ///
 /// The information of the standard error is the sum over the offspring of the products of the
 /// slopes of the log likelihood (Berndt, Hall, Hall & Hausman 1974), with the curvature of the
 /// prior.
 RelativesShares EstimateRelatives(std::span<const ByOrigins<double>> evidence, Flow flow,
-                                  const WaysOfExplanations& ways, bool with_sibs);
+                                  const WaysOfExplanations& ways, bool with_sibs,
+                                  double smallest_change);
 
 }  // namespace kaldo
