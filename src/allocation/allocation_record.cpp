@@ -69,4 +69,12 @@ tl::expected<AllocationSettings, Problem> SettingsOf(const RunRecord& record,
   return settings;
 }
 
+std::optional<std::string> DifferenceOfAllocations(const RunRecord& then, const RunRecord& now) {
+  const auto settings_then = SettingsOf(then, {});
+  const auto settings_now = SettingsOf(now, {});
+  return settings_then && settings_now
+             ? FirstDifference(AllocationSettingTable(), *settings_then, *settings_now)
+             : std::optional<std::string>(kUnknownSettings);
+}
+
 }  // namespace kaldo

@@ -23,4 +23,8 @@ RunRecord RecordOf(const AllocationSettings& settings, const AllocationInput& in
 tl::expected<AllocationSettings, Problem> SettingsOf(const RunRecord& record,
                                                      const std::string& path);
 
+/// How the settings of one recorded allocation lead to other results than those of another; see
+/// FirstDifference().
+std::optional<std::string> DifferenceOfAllocations(const RunRecord& then, const RunRecord& now);
+
 }  // namespace kaldo

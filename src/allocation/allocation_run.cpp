@@ -6,6 +6,7 @@
 #include "allocation/allocation_record.h"
 #include "allocation/reports/allocation_reports.h"
 #include "base/this_process.h"
+#include "runs/resuming_workforce.h"
 
 namespace kaldo {
 
@@ -60,7 +61,8 @@ AllocationRun RunAllocation(const AllocationSettings& settings, AllocationInput 
   // The reports are opened first: a folder that cannot be written to shows at once, not after
   // hours.
   AllocationReports reports(settings, input, observer);
-  AllocationResult result = Allocate(settings, input, observer, workforce);
+  ResumingWorkforce resuming(workforce, reports.Unfinished(), DifferenceOfAllocations);
+  AllocationResult result = Allocate(settings, input, observer, resuming);
   reports.Write(settings, input, result, observer);
   return {std::move(input), std::move(result)};
 }

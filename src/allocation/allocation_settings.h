@@ -58,6 +58,9 @@ struct AllocationSettings {
   /// this: it is a decision of the moment.
   bool may_replace_other_flow = false;
 
+  /// Goes on with an unfinished run in the project folder. In no run record either.
+  bool resumes = false;
+
   friend bool operator==(const AllocationSettings&, const AllocationSettings&) = default;
 };
 

@@ -12,8 +12,9 @@
 
 namespace kaldo {
 
-// Values as bytes, to pass them between the processes of one run: the same program on machines of
-// one kind, so that the bytes in memory serve as they are. Nothing of this is ever written to disk.
+// Values as bytes, to pass them between the processes of one run, or from a run that was killed to
+// the one that goes on with it: the same program on machines of one kind, so that the bytes in
+// memory serve as they are. No result that a user sees is written in this way.
 
 /// Puts values one behind the other.
 class BytePacker {

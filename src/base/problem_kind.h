@@ -105,6 +105,7 @@ enum class ProblemKind : std::uint8_t {
   // What a run would destroy.
   kOutputIsInput,
   kOtherFlowThere,
+  kCannotResume,
 
   // Run records.
   kNotARunRecord,
@@ -233,6 +234,7 @@ inline constexpr std::array<ProblemSentence, static_cast<std::size_t>(ProblemKin
 
         {ProblemKind::kOutputIsInput, "The run would destroy one of its own input files!"},
         {ProblemKind::kOtherFlowThere, "{} Choose another project name, or add --replace."},
+        {ProblemKind::kCannotResume, "The unfinished run cannot be resumed!"},
         {ProblemKind::kNotARunRecord, "This is not a run record!"},
         {ProblemKind::kUnusableRunRecord, "This run record cannot be used!"},
         {ProblemKind::kInputsChanged, "An input file has changed since the recorded run!"},

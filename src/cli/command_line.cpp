@@ -69,13 +69,24 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
   return ExitCode::kDone;
 }
 
+/// What a user decides at the moment, for any run; no record has it.
+struct Decisions {
+  bool may_replace_other_flow = false;
+  bool resumes = false;
+};
+
 /// Runs with the settings, unless they are at fault.
-ExitCode RunAndTell(tl::expected<RunSettings, Problem> settings, bool may_replace_other_flow,
+ExitCode RunAndTell(tl::expected<RunSettings, Problem> settings, const Decisions& decisions,
                     const CommandLineStreams& streams, Workforce& workforce) {
   if (!settings) {
     return Tell(settings.error(), streams);
   }
-  std::visit([&](auto& each) { each.may_replace_other_flow = may_replace_other_flow; }, *settings);
+  std::visit(
+      [&](auto& each) {
+        each.may_replace_other_flow = decisions.may_replace_other_flow;
+        each.resumes = decisions.resumes;
+      },
+      *settings);
   if (const auto* allocation = std::get_if<AllocationSettings>(&*settings)) {
     return AllocateAndTell(*allocation, streams, workforce);
   }
@@ -111,7 +122,7 @@ struct Commands {
   RerunChoices rerun_choices;
   std::string verified;
   std::string shell;
-  bool may_replace_other_flow = false;
+  Decisions decisions;
 
   Commands() {
     app.require_subcommand(0, 1);
@@ -122,8 +133,16 @@ struct Commands {
     AddCheckOptions();
     AddRecordOptions();
     for (CLI::App* const command : {allocate, simulate, check, check_simulation, rerun}) {
-      command->add_flag("--replace", may_replace_other_flow,
+      command->add_flag("--replace", decisions.may_replace_other_flow,
                         "Replace results of another flow in the project folder, too");
+    }
+    for (CLI::App* const command : {allocate, simulate, rerun}) {
+      CLI::Option* const resume =
+          command->add_flag("--resume", decisions.resumes,
+                            "Go on with the unfinished run in the project folder, if there is one");
+      if (command == rerun) {
+        resume->needs(rerun->get_option("--project"));
+      }
     }
     AddCompletionOptions();
     for (const auto& [command, name] :
@@ -185,7 +204,7 @@ ExitCode CheckAndTell(Commands& commands, const CommandLineStreams& streams, Fil
   TypedCheck& check = commands.typed_check;
   check.simulates = commands.check_simulation->parsed();
   check.typed = (check.simulates ? commands.simulation : commands.allocation).Given();
-  check.may_replace_other_flow = commands.may_replace_other_flow;
+  check.may_replace_other_flow = commands.decisions.may_replace_other_flow;
   if (check.simulates && !commands.allocation.Given().empty()) {
     streams.err << "The options of a simulation stand behind \"check simulate\".\n";
     return ExitCode::kBadInput;
@@ -220,12 +239,12 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
     return ExitCode::kBadInput;
   }
   if (commands.allocate->parsed()) {
-    return RunAndTell(AllocationFrom(commands.allocation.Given()), commands.may_replace_other_flow,
-                      streams, workforce);
+    return RunAndTell(AllocationFrom(commands.allocation.Given()), commands.decisions, streams,
+                      workforce);
   }
   if (commands.simulate->parsed()) {
-    return RunAndTell(SimulationFrom(commands.simulation.Given()), commands.may_replace_other_flow,
-                      streams, workforce);
+    return RunAndTell(SimulationFrom(commands.simulation.Given()), commands.decisions, streams,
+                      workforce);
   }
   if (commands.check->parsed()) {
     return CheckAndTell(commands, streams, workforce.Files());
@@ -233,7 +252,7 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
   if (commands.rerun->parsed()) {
     return RunRerun(commands.rerun_choices, streams,
                     [&](const RunSettings& settings, const CommandLineStreams& told) {
-                      return RunAndTell(settings, commands.may_replace_other_flow, told, workforce);
+                      return RunAndTell(settings, commands.decisions, told, workforce);
                     });
   }
   if (commands.verify->parsed()) {

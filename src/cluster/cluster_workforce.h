@@ -11,7 +11,8 @@ namespace kaldo {
 /// too; the others are in WorkForProcess0() meanwhile.
 class ClusterWorkforce final : public Workforce {
  public:
-  explicit ClusterWorkforce(MpiSession& session) : session_(session) {}
+  explicit ClusterWorkforce(MpiSession& session, KeepingPace pace = {})
+      : Workforce(pace), session_(session) {}
 
   /// One thread per process unless the user wants more: launchers start a process per core.
   unsigned Threads(unsigned wanted) const override;

@@ -22,8 +22,10 @@ PortionDesk::PortionDesk(PortionPlan& plan, std::size_t workers)
     : plan_(plan),
       groups_(plan.Groups()),
       items_(plan.ItemsPerGroup()),
-      workers_(std::max<std::size_t>(workers, 1)) {
-  if (groups_ == 0 || items_ == 0) {
+      workers_(std::max<std::size_t>(workers, 1)),
+      next_group_(plan.First().group),
+      next_item_(plan.First().item) {
+  if (next_group_ >= groups_ || items_ == 0) {
     End();
   }
 }

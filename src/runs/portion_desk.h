@@ -65,8 +65,8 @@ class PortionDesk {
 
   mutable std::mutex mutex_;  // guards what follows
   std::condition_variable changed_;
-  std::size_t next_group_ = 0;
-  std::size_t next_item_ = 0;
+  std::size_t next_group_;
+  std::size_t next_item_;
   std::uint64_t first_number_ = 0;              ///< of those in handed_
   std::deque<Portion> handed_;                  ///< not yet taken, in order
   std::map<std::uint64_t, std::string> early_;  ///< results that wait for those before them

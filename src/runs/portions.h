@@ -26,6 +26,14 @@ struct Portion {
   friend bool operator==(const Portion&, const Portion&) = default;
 };
 
+/// An item of a group, for instance the first one that is not done.
+struct PortionPlace {
+  std::size_t group = 0;
+  std::size_t item = 0;
+
+  friend bool operator==(const PortionPlace&, const PortionPlace&) = default;
+};
+
 /// Does one portion after the other, on one thread, with memory of its own.
 class PortionWorker {
  public:
@@ -68,6 +76,9 @@ class PortionPlan {
 
   virtual std::size_t Groups() const = 0;
   virtual std::size_t ItemsPerGroup() const = 0;
+
+  /// Where to begin: the items before it were done in an earlier attempt at the run.
+  virtual PortionPlace First() const { return {}; }
 
   /// So many items make a portion of a second or less.
   virtual std::size_t MostItemsPerPortion() const = 0;

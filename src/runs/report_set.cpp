@@ -15,17 +15,6 @@
 
 namespace kaldo {
 
-namespace {
-
-std::string Told(const Problem& problem) {
-  const std::string detail = DetailLine(problem);
-  return detail.empty() ? SentenceOf(problem) : SentenceOf(problem) + '\n' + detail;
-}
-
-}  // namespace
-
-RunRefused::RunRefused(Problem problem) : RunFailure(Told(problem)), problem_(std::move(problem)) {}
-
 ReportSet::ReportSet(ReportsOrder order, RunObserver& observer)
     : order_(std::move(order)), observer_(observer), made_folders_(order_.project.Create()) {
   try {
@@ -36,7 +25,10 @@ ReportSet::ReportSet(ReportsOrder order, RunObserver& observer)
   }
 }
 
-ReportSet::~ReportSet() { Clear(); }
+ReportSet::~ReportSet() {
+  TellWhatIsKept();
+  Clear();
+}
 
 void ReportSet::LockAndOpen() {
   lock_ = LockProject(order_.project, observer_);
@@ -45,8 +37,10 @@ void ReportSet::LockAndOpen() {
     throw RunRefused({.kind = ProblemKind::kOtherFlowThere, .subject = *other});
   }
   earlier_ = EarlierRun(order_.project);
-  swap_.emplace(order_.project, NewWorkingFolder(order_.project));
+  const std::string working_folder = NewWorkingFolder(order_.project);
+  swap_.emplace(order_.project, working_folder);
   swap_->MakeFolders();
+  unfinished_.emplace(order_.project, working_folder + "/unfinished", order_.resumes, observer_);
   if (other) {
     RemoveOtherFlow();
   }
@@ -58,6 +52,19 @@ void ReportSet::RemoveOtherFlow() {
       CheckPlace(file);
       obsolete_.emplace_back(file);
     }
+  }
+}
+
+void ReportSet::TellWhatIsKept() const {
+  if (is_committed_) {
+    return;
+  }
+  try {
+    if (const auto sentence = unfinished_->KeptSentence()) {
+      observer_.OnMessage(RunMessage::kNote, *sentence);
+    }
+  } catch (...) {
+    // The failure that ends the run is told, and that is what matters.
   }
 }
 
@@ -123,6 +130,10 @@ std::vector<SwappedFile> ReportSet::FinishReports() {
       files.push_back({name, false, true});
     }
   }
+  const std::string unfinished(kUnfinishedRunFile);
+  if (IsThere(order_.project.Path(unfinished))) {
+    files.push_back({unfinished, false, true});
+  }
   // The record comes last: it vouches for the others.
   std::stable_partition(files.begin(), files.end(),
                         [](const SwappedFile& file) { return file.name != kRunRecordFile; });
@@ -143,6 +154,7 @@ void ReportSet::Commit() {
   // Whatever can fail for want of space fails here, before any earlier report is touched.
   const auto files = FinishReports();
   swap_->Do(files);
+  is_committed_ = true;
   made_folders_.clear();
   if (earlier_) {
     observer_.OnMessage(RunMessage::kNote,

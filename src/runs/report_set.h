@@ -8,24 +8,14 @@
 #include <vector>
 
 #include "base/folder_lock.h"
-#include "base/problem.h"
 #include "base/run_observer.h"
 #include "runs/report_file.h"
 #include "runs/results_swap.h"
 #include "runs/run_record.h"
+#include "runs/run_refused.h"
+#include "runs/unfinished_run.h"
 
 namespace kaldo {
-
-/// A run that must not begin, since it would destroy what the user has not offered.
-class RunRefused : public RunFailure {
- public:
-  explicit RunRefused(Problem problem);
-
-  const Problem& Reason() const { return problem_; }
-
- private:
-  Problem problem_;
-};
 
 /// Whose results go where.
 struct ReportsOrder {
@@ -33,12 +23,14 @@ struct ReportsOrder {
   std::string_view flow;                     ///< as in run records
   const std::vector<RecordedInput>& inputs;  ///< none of which may be replaced or removed
   bool may_replace_other_flow = false;
+  bool resumes = false;  ///< an unfinished run in the folder is gone on with
 };
 
 /// The reports of one run. All are opened before it computes, and written in a working folder of
 /// the project folder; Commit() exchanges them for those of an earlier run, as one step. When a run
-/// fails or is stopped before, the set goes away and every earlier report stays as it was. No other
-/// run writes into the folder meanwhile.
+/// fails or is stopped before, the set goes away and every earlier report stays as it was; what it
+/// has kept as an unfinished run stays, too, and the observer is told. No other run writes into the
+/// folder meanwhile.
 class ReportSet {
  public:
   /// Throws RunFailure when the project folder cannot be written to or another run is at work in
@@ -49,7 +41,7 @@ class ReportSet {
   ReportSet(ReportSet&&) = delete;
   ReportSet& operator=(ReportSet&&) = delete;
 
-  /// Without a Commit() every trace of the set goes away, folders made for it included.
+  /// Without a Commit() every other trace of the set goes away, folders made for it included.
   ~ReportSet();
 
   /// Starts a report, named with its leading "/": "/Summary.xls". Throws RunRefused when a file of
@@ -67,6 +59,9 @@ class ReportSet {
   /// Throws RunRefused when `path`, which the run writes outside its folder, is an input of it.
   void RefuseInput(const std::string& path) const;
 
+  /// Where the run keeps what is done until the commit.
+  UnfinishedRun& Unfinished() { return *unfinished_; }
+
   /// What identifies the reports, all of whose text has been appended, but for the run record,
   /// which tells it and is written last.
   std::vector<RecordedOutput> Outputs() const;
@@ -83,6 +78,7 @@ class ReportSet {
 
   void LockAndOpen();
   void RemoveOtherFlow();
+  void TellWhatIsKept() const;
   void Clear();
   ReportFile& Open(std::string_view file, bool only_if_any);
   void CheckPlace(std::string_view file) const;
@@ -93,6 +89,8 @@ class ReportSet {
   std::vector<std::string> made_folders_;
   std::unique_ptr<FolderLock> lock_;
   std::optional<ResultsSwap> swap_;
+  std::optional<UnfinishedRun> unfinished_;
+  bool is_committed_ = false;
   std::optional<RunRecord> earlier_;
   std::vector<Report> reports_;
   std::vector<std::string> obsolete_;

@@ -188,6 +188,38 @@ void AddToCommand(SettingTable<Settings> table, const Settings& settings, const 
   }
 }
 
+/// What a user said for a setting, in words: "with --tolerance 2", "without --use".
+template <typename Settings>
+std::string SaidFor(const Setting<Settings>& setting, const Settings& settings) {
+  const std::string& name = setting.option.empty() ? setting.key : setting.option;
+  const auto text = setting.Applies(settings) ? setting.value.text(settings) : std::nullopt;
+  if (!text) {
+    return "without " + name;
+  }
+  return "with " + name + (text->empty() ? "" : ' ' + *text);
+}
+
+/// Said where settings cannot be read.
+inline constexpr std::string_view kUnknownSettings = "with settings that are not known here";
+
+/// The first setting that lets the results of two runs differ, and what was said for it: `with
+/// --tolerance 1, now with --tolerance 2`. Files do not count, whose contents may be the same, nor
+/// do the place of the results, the threads and what stands at the head of run records.
+template <typename Settings>
+std::optional<std::string> FirstDifference(SettingTable<Settings> table, const Settings& then,
+                                           const Settings& now) {
+  for (const Setting<Settings>& setting : table) {
+    const bool matters = setting.metavar != "FILE" && setting.metavar != "DIR" &&
+                         setting.key != "threads" && !setting.in_head_of_record;
+    std::string said_then = matters ? SaidFor(setting, then) : std::string();
+    const std::string said_now = matters ? SaidFor(setting, now) : std::string();
+    if (said_then != said_now) {
+      return std::move(said_then) + ", now " + said_now;
+    }
+  }
+  return std::nullopt;
+}
+
 /// Writes the settings into a run record.
 template <typename Settings>
 void RecordSettings(SettingTable<Settings> table, const Settings& settings, RunRecord& record) {

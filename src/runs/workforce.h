@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/file_source.h"
+#include "runs/keeping_pace.h"
 #include "runs/portion_desk.h"
 #include "runs/run_record.h"
 
@@ -25,7 +26,7 @@ struct PortionJob {
 /// Who does the portions of a run: the threads of this process, or those of many processes.
 class Workforce {
  public:
-  Workforce() = default;
+  explicit Workforce(KeepingPace pace = {}) : pace_(pace) {}
   Workforce(const Workforce&) = delete;
   Workforce& operator=(const Workforce&) = delete;
   Workforce(Workforce&&) = delete;
@@ -42,11 +43,19 @@ class Workforce {
   /// what a portion threw, or RunStopped when the observer asks. The results do not depend on who
   /// did what.
   virtual void Do(const PortionJob& job, unsigned wanted, RunObserver& observer) = 0;
+
+  /// When a run keeps what was done for the case that it is killed.
+  KeepingPace Pace() const { return pace_; }
+
+ private:
+  KeepingPace pace_;
 };
 
 /// The threads of this process.
 class LocalThreads final : public Workforce {
  public:
+  using Workforce::Workforce;
+
   /// `wanted`, or as many as the machine has cores when that is 0.
   unsigned Threads(unsigned wanted) const override;
   FileSource& Files() override { return files_; }

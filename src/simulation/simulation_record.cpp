@@ -47,4 +47,12 @@ tl::expected<SimulationSettings, Problem> SimulationSettingsOf(const RunRecord& 
   return settings;
 }
 
+std::optional<std::string> DifferenceOfSimulations(const RunRecord& then, const RunRecord& now) {
+  const auto settings_then = SimulationSettingsOf(then, {});
+  const auto settings_now = SimulationSettingsOf(now, {});
+  return settings_then && settings_now
+             ? FirstDifference(SimulationSettingTable(), *settings_then, *settings_now)
+             : std::optional<std::string>(kUnknownSettings);
+}
+
 }  // namespace kaldo

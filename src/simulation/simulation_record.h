@@ -23,4 +23,7 @@ RunRecord RecordOf(const SimulationSettings& settings, const SimulationInput& in
 tl::expected<SimulationSettings, Problem> SimulationSettingsOf(const RunRecord& record,
                                                                const std::string& path);
 
+/// The same as DifferenceOfAllocations().
+std::optional<std::string> DifferenceOfSimulations(const RunRecord& then, const RunRecord& now);
+
 }  // namespace kaldo

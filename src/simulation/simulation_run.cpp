@@ -2,6 +2,7 @@
 #include "simulation/simulation_run.h"
 
 #include "base/this_process.h"
+#include "runs/resuming_workforce.h"
 #include "simulation/counts_plan.h"
 #include "simulation/iteration_portions.h"
 #include "simulation/reliability_plan.h"
@@ -27,14 +28,16 @@ void ScoreConfidence(const SimulationSettings& settings, const SimulationInput& 
                settings.threads, observer);
 }
 
-/// Runs all subsets and iterations. Leaves the last iteration as it was made in `last`: the workers
-/// only tell their counts, so it is made once more.
+/// Runs all subsets and iterations. A seed that was not given is that of the run to be resumed, if
+/// there is one. Leaves the last iteration as it was made in `last`: the workers only tell their
+/// counts, so it is made once more.
 SimulationResult Simulate(const SimulationSettings& settings, const SimulationInput& input,
-                          SimulatedIteration& last, RunObserver& observer, Workforce& workforce) {
+                          std::optional<std::uint32_t> unfinished_seed, SimulatedIteration& last,
+                          RunObserver& observer, Workforce& workforce) {
   SimulationResult result;
   result.started = std::chrono::system_clock::now();
   const auto clock_start = std::chrono::steady_clock::now();
-  result.seed = settings.seed.value_or(TimeSeed(result.started));
+  result.seed = settings.seed.value_or(unfinished_seed.value_or(TimeSeed(result.started)));
   result.folder = CurrentFolder();
   result.threads = workforce.Threads(settings.threads);
 
@@ -80,8 +83,10 @@ SimulationRun RunSimulation(const SimulationSettings& settings, SimulationInput 
                             RunObserver& observer, Workforce& workforce) {
   SimulationReports reports(settings, input, observer);
   SimulatedIteration last(settings, input);
-  SimulationResult result = Simulate(settings, input, last, observer, workforce);
-  reports.Write(settings, input, result, last, observer, workforce);
+  ResumingWorkforce resuming(workforce, reports.Unfinished(), DifferenceOfSimulations);
+  SimulationResult result =
+      Simulate(settings, input, reports.Unfinished().Seed(), last, observer, resuming);
+  reports.Write(settings, input, result, last, observer, resuming);
   return {std::move(input), std::move(result)};
 }
 

@@ -105,6 +105,8 @@ struct SimulationSettings {
   unsigned threads = 0;               ///< 0: as many as cores; results never depend on it
 
   bool may_replace_other_flow = false;  ///< as in AllocationSettings; in no run record
+  bool resumes = false;                 ///< the same
+
   /// Whether the working folder keeps the names of the loci, as the windows offer them next time. A
   /// run that repeats the record of somebody else leaves it alone.
   bool saves_loci = true;

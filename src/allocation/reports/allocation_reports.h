@@ -16,6 +16,9 @@ class AllocationReports {
   AllocationReports(const AllocationSettings& settings, const AllocationInput& input,
                     RunObserver& observer);
 
+  /// Where the run keeps what is done meanwhile.
+  UnfinishedRun& Unfinished() { return reports_.Unfinished(); }
+
   /// Writes every report and the run record. Throws RunFailure or RunStopped.
   void Write(const AllocationSettings& settings, const AllocationInput& input,
              const AllocationResult& result, RunObserver& observer);

@@ -20,6 +20,9 @@ class SimulationReports {
   SimulationReports(const SimulationSettings& settings, const SimulationInput& input,
                     RunObserver& observer);
 
+  /// Where the run keeps what is done meanwhile.
+  UnfinishedRun& Unfinished() { return reports_.Unfinished(); }
+
   /// Writes every report, the kept individuals, the run record and, in the working folder, the
   /// saved loci. `last` is the last iteration of the run, as it was made. Throws RunFailure or
   /// RunStopped.
