@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Has every change that a run makes to its project folder fail once, and kills the run before each.
 
-    failing_disk_test.py KALDO FAILING_DISK [unittest options]
+    failing_disk_test.py KALDO FAILING_DISK KALDO_KEEPING [unittest options]
 
-FAILING_DISK is the library of tests/support/failing_disk.cpp. Whatever happens, the folder then holds
+FAILING_DISK is the library of tests/support/failing_disk.cpp, KALDO_KEEPING the program that keeps
+what is done at once. Whatever happens, the folder then holds
 the results of the earlier run or those of the new one, whole, and nothing else.
 """
 
@@ -22,6 +23,7 @@ from pathlib import Path
 
 KALDO = None
 LIBRARY = None
+KEEPING = None
 GENEROUS = 120           # seconds: against a hang only
 RECORD = "Run record.toml"
 PROJECT = "p"            # of every run, in a working folder of its own
@@ -53,18 +55,18 @@ RUNS = {
 }
 
 
-def command(arguments):
+def command(arguments, program):
     threads = [] if "--threads" in arguments else ["--threads", "1"]
-    return [KALDO, arguments[0], "--project", PROJECT, *threads, *FILES, *arguments[1:]]
+    return [program or KALDO, arguments[0], "--project", PROJECT, *threads, *FILES, *arguments[1:]]
 
 
 CHECK = ["check", *NON_SEXED, "--replace"]
 
 
-def run(folder, arguments, **disk):
+def run(folder, arguments, program=None, **disk):
     environment = os.environ | {"LD_PRELOAD": LIBRARY} | {
         f"KALDO_DISK_{name.upper()}": str(value) for name, value in disk.items()}
-    return subprocess.run(command(arguments), cwd=folder, env=environment, capture_output=True,
+    return subprocess.run(command(arguments, program), cwd=folder, env=environment, capture_output=True,
                           text=True, timeout=GENEROUS, check=False)
 
 
@@ -187,6 +189,37 @@ class FailingDisk(unittest.TestCase):
             folder, _ = self.finished([*RUNS[after][0], "--replace"], earlier)
             self.assertEqual(contents(folder), contents(alone), (before, after))
 
+    def expect_resumption(self, earlier, new, arguments, at, event):
+        folder = self.folder(earlier)
+        first = run(folder, arguments, KEEPING, below=folder / PROJECT, at=at, event=event)
+        left = contents(folder)
+        kept = left.pop(".kaldo-unfinished", None)
+        what = f"{event} at change {at}: {first.stderr!r}"
+        if event != "kill":
+            self.assertEqual(left, new if first.returncode == 0 else contents(earlier), what)
+            self.assertEqual("--resume goes on" in first.stderr, kept is not None, what)
+        again = run(folder, [*arguments, "--resume"], KEEPING)
+        self.assertEqual((again.returncode, contents(folder)), (0, new), what)
+        shutil.rmtree(folder)
+        return " were done by the unfinished run" in again.stderr
+
+    def test_what_was_done_is_not_done_again(self):
+        for flow in ("allocation, sexed", "simulation, non-sexed"):
+            before, arguments = RUNS[flow]
+            earlier, _ = self.finished(before)
+            new = contents(self.finished(arguments, earlier)[0])
+            log = self.place / "log"
+            log.unlink(missing_ok=True)
+            folder = self.folder(earlier)
+            run(folder, arguments, KEEPING, log=log, below=folder / PROJECT)
+            self.assertEqual(contents(folder), new)
+            changes = len(log.read_text().splitlines())
+            events = ["kill", "ENOSPC", "kill", "EIO"]
+            with ThreadPoolExecutor(os.cpu_count()) as pool:
+                resumed = list(pool.map(lambda at: self.expect_resumption(
+                    earlier, new, arguments, at, events[at % 4]), range(1, changes + 1)))
+            self.assertEqual(set(resumed), {False, True})
+
     def test_without_locks_and_threads(self):
         arguments = RUNS["simulation, non-sexed"][0]
         plain, _ = self.finished(arguments)
@@ -198,5 +231,5 @@ class FailingDisk(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    KALDO, LIBRARY = os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2])
-    unittest.main(argv=sys.argv[:1] + sys.argv[3:])
+    KALDO, LIBRARY, KEEPING = (os.path.abspath(path) for path in sys.argv[1:4])
+    unittest.main(argv=sys.argv[:1] + sys.argv[4:])

@@ -12,6 +12,7 @@
 #include "base/problem.h"
 #include "base/version.h"
 #include "base/warning.h"
+#include "runs/portion_log.h"
 #include "tests/cli/command_support.h"
 #include "tests/support/temp_folder.h"
 
@@ -95,6 +96,14 @@ const std::string kPlace = ", line 1, record 1 (X1), locus L2: ";
 const std::string kRows = "X1 1112 1314\nX2 1112 1314\n";
 const std::string kManySizes = Repeated("X {0:03}{0:03} 200204\n", 101);
 const std::string kDance = "program = \"KALDO\"\nflow = \"a dance\"\n[settings]\n";
+
+RunRecord Dance() {
+  RunRecord record;
+  record.version = Version();
+  record.date = "2026-03-01T14:02:11Z";
+  record.flow = "a dance";
+  return record;
+}
 
 const std::string kChanged =
     "program = \"KALDO\"\nversion = \"" + std::string(Version()) +
@@ -238,6 +247,9 @@ const std::vector<Refusal> kRefusals = {
      "SAUVLOCUSTULM.txt: it is \"SAUVLOCUSTULM.txt\"", "SAUVLOCUSTULM.txt", "X1 150152 150152\n"},
     {kOtherFlowThere, "parental project=other", "", "other/Run record.toml",
      "program = \"KALDO\"\nflow = \"allocation, sexed\"\n[settings]\n"},
+    {kCannotResume, "parental project=halfway resume",
+     "it is of another flow: a dance, now simulation,", "halfway/.kaldo-unfinished",
+     PortionLogText().Head(Dance())},
 };
 
 struct Oddity {

@@ -14,6 +14,7 @@
 #include "base/byte_packing.h"
 #include "base/problem.h"
 #include "runs/usable_threads.h"
+#include "tests/support/numbers.h"
 #include "tests/support/temp_folder.h"
 
 namespace kaldo {
@@ -21,107 +22,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-std::uint64_t Expected(std::size_t group, std::size_t item) { return group * 1'000'003 + item; }
-
-/// One number per item. One item may be told to fail, and one group to go on until stopped.
-class NumbersTask final : public PortionTask {
- public:
-  std::optional<Portion> failing;
-  std::optional<std::size_t> endless_group;
-  mutable std::atomic<std::size_t> workers{0};
-
-  std::unique_ptr<PortionWorker> MakeWorker() const override {
-    ++workers;
-    return std::make_unique<Worker>(*this);
-  }
-
- private:
-  class Worker final : public PortionWorker {
-   public:
-    explicit Worker(const NumbersTask& task) : task_(task) {}
-
-    std::string Do(std::string_view order, RunObserver& observer) override {
-      const auto portion = ByteUnpacker(order).Get<Portion>();
-      while (task_.endless_group == portion.group) {
-        if (observer.StopRequested()) {
-          throw RunStopped();
-        }
-        std::this_thread::sleep_for(1ms);
-      }
-      BytePacker packer;
-      for (std::size_t item = portion.begin; item < portion.end; ++item) {
-        if (task_.failing && task_.failing->group == portion.group &&
-            task_.failing->begin == item) {
-          throw std::runtime_error("this item");
-        }
-        packer.Add(Expected(portion.group, item));
-        observer.OnSteps(1);
-      }
-      return packer.Take();
-    }
-
-   private:
-    const NumbersTask& task_;
-  };
-};
-
-/// Puts all numbers behind each other, as they are taken.
-class NumbersPlan final : public PortionPlan {
- public:
-  NumbersPlan(std::size_t groups, std::size_t items) : groups_(groups), items_(items) {}
-
-  std::size_t most_per_portion = 1000;
-  std::optional<std::size_t> last_group;     ///< ends early behind it
-  std::optional<std::size_t> failing_group;  ///< of which a result cannot be taken
-  std::vector<std::uint64_t> taken;
-
-  std::size_t Groups() const override { return groups_; }
-  std::size_t ItemsPerGroup() const override { return items_; }
-  std::size_t MostItemsPerPortion() const override { return most_per_portion; }
-  bool MayEndEarly() const override { return last_group.has_value(); }
-
-  std::string Order(const Portion& portion) override {
-    BytePacker packer;
-    packer.Add(portion);
-    return packer.Take();
-  }
-
-  bool Take(const Portion& portion, std::string_view result) override {
-    if (failing_group == portion.group) {
-      throw RunFailure("disk full");
-    }
-    ByteUnpacker unpacker(result);
-    for (std::size_t item = portion.begin; item < portion.end; ++item) {
-      taken.push_back(unpacker.Get<std::uint64_t>());
-    }
-    return !(last_group == portion.group && portion.end == items_);
-  }
-
-  /// The numbers of the first so many items of all groups.
-  std::vector<std::uint64_t> Prefix(std::size_t count) const {
-    std::vector<std::uint64_t> numbers;
-    for (std::size_t i = 0; i < count; ++i) {
-      numbers.push_back(Expected(i / items_, i % items_));
-    }
-    return numbers;
-  }
-
- private:
-  std::size_t groups_;
-  std::size_t items_;
-};
-
-class CountingObserver final : public RunObserver {
- public:
-  void OnSteps(std::uint64_t steps) override { steps_ += steps; }
-  bool StopRequested() const override { return stop_; }
-  std::uint64_t Steps() const { return steps_; }
-  void Stop() { stop_ = true; }
-
- private:
-  std::atomic<std::uint64_t> steps_{0};
-  std::atomic<bool> stop_{false};
-};
+using test::CountingObserver;
+using test::Expected;
+using test::NumbersPlan;
+using test::NumbersTask;
 
 void Do(const NumbersTask& task, NumbersPlan& plan, unsigned threads, RunObserver& observer) {
   LocalThreads().Do({"Counting", task, plan, [] { return RunRecord(); }}, threads, observer);
