@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Runs the program for clusters under the MPI launcher, against the program for one machine.
 
-    cluster_test.py MPIEXEC KALDO_MPI KALDO [unittest options]
+    cluster_test.py MPIEXEC KALDO_MPI KALDO KEEPING_MPI KEEPING [unittest options]
+
+The last two programs keep what is done at once.
 
 Process 0 alone runs in the folder of the study: the others start in an empty one, where none of the
 relative paths leads to a file.
@@ -22,7 +24,8 @@ import programs
 from programs import (GENEROUS, RUN_RECORD, SOURCE, STOPPED, ProgramTest, files_of, wait_until,
                       write_files)
 
-MPIEXEC, KALDO_MPI, KALDO = programs.arguments(["MPIEXEC", "KALDO_MPI", "KALDO"], __doc__)
+MPIEXEC, KALDO_MPI, KALDO, KEEPING_MPI, KEEPING = programs.arguments(
+    ["MPIEXEC", "KALDO_MPI", "KALDO", "KEEPING_MPI", "KEEPING"], __doc__)
 DIED = ("Process {} of 3 has ended unexpectedly, and with it the run. "
         "The results of earlier runs are as they were.\n")
 # Test machines have few cores and often only the superuser; containers forbid one process to copy
@@ -79,10 +82,10 @@ class Clusters(ProgramTest):
         shutil.copytree(SOURCE / "examples" / flow, folder / "data")
         return folder
 
-    def launch(self, processes, arguments):
-        command = [MPIEXEC, "-n", "1", KALDO_MPI, *arguments]
+    def launch(self, processes, arguments, program=KALDO_MPI):
+        command = [MPIEXEC, "-n", "1", program, *arguments]
         if processes > 1:
-            command += [":", "-n", str(processes - 1), "-wdir", str(self.elsewhere), KALDO_MPI]
+            command += [":", "-n", str(processes - 1), "-wdir", str(self.elsewhere), program]
         return command
 
     def run_in(self, folder, command):
@@ -145,6 +148,37 @@ class SameFiles(Clusters):
         sets = [["--sexed", *sexed_sets("collected-{}s", sample=False)],
                 ["--sexed", *sexed_sets("pseudo-collected-{}-sample", sample=True)]]
         self.simulations("sexed", sets, 0.8)
+
+
+class Resumed(Clusters):
+    def test_a_run_whose_leading_process_dies_again_and_again(self):
+        arguments = ["simulate", "--project", "trial", "--loci", "data/loci.txt", *PARENTAL,
+                     "--iterations", "200", "--offspring-per-iteration", "800", "--seed", "1",
+                     "--strategy", "cumulative", "--keep", "all"]
+        folder = self.study("non-sexed")
+        whole = self.run_in(folder, [KALDO, *arguments])
+        self.assertEqual(whole.returncode, 0, whole.stderr)
+        expected = files_of(folder)
+        shutil.rmtree(folder / "trial")
+        unfinished = folder / "trial" / ".kaldo-unfinished"
+        for processes in (3, 1, 2):
+            # With one process the program without a launcher.
+            process = self.start(self.launch(processes, [*arguments, "--resume"], KEEPING_MPI)
+                                 if processes > 1 else [KEEPING, *arguments, "--resume"],
+                                 folder, env=ENVIRONMENT, stdout=subprocess.DEVNULL,
+                                 stderr=subprocess.DEVNULL)
+            before = unfinished.stat().st_size if unfinished.exists() else 0
+            wait_until(lambda: process.poll() is not None or
+                       unfinished.exists() and unfinished.stat().st_size > before + 50000,
+                       "results being kept")
+            self.assertIsNone(process.poll(), "the run ended before it could be killed")
+            os.kill(ranks_below(process.pid)[0] if processes > 1 else process.pid, signal.SIGKILL)
+            self.assertNotEqual(process.wait(timeout=GENEROUS), 0)
+            wait_until(lambda: not ranks_below(process.pid), "the other processes' end")
+        last = self.run_in(folder, self.launch(2, [*arguments, "--resume"]))
+        self.assertEqual((last.returncode, last.stdout), (0, whole.stdout), last.stderr)
+        self.assertIn(" were done by the unfinished run.", last.stderr)
+        self.assertEqual(files_of(folder), expected)
 
 
 class Ends(Clusters):

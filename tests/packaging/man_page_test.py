@@ -70,7 +70,7 @@ def options_of_help(command):
     for line in run(*command.split(), "--help").splitlines():
         if match := re.match(r"  (?:-h,)?(--[a-z-]+)(?: ([A-Z[]\S*))?(?:\s|$)", line):
             kind, _, default = (match[2] or "").partition("=")
-            options[match[1]] = (None if kind == "Excludes:" else kind or None, default)
+            options[match[1]] = (None if kind.endswith(":") else kind or None, default)
     return options
 
 
