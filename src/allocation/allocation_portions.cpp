@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/byte_packing.h"
+#include "base/problem.h"
 #include "confidence/parent_frequencies.h"
 #include "genotypes/unit_distance.h"
 #include "method/undefined_parents.h"
@@ -88,6 +89,18 @@ class AllocationWorker final : public PortionWorker {
   PairSearcher searcher_;
 };
 
+/// Results may come from a file: none may lead out of the table of parents.
+bool IsPossible(const AllocationOutcome& outcome, std::size_t parents) {
+  if (outcome.pair_entries < 0 ||
+      outcome.pair_entries > 2 * static_cast<int>(KeptPairs::kCapacity)) {
+    return false;
+  }
+  const auto pairs = outcome.Pairs();
+  return std::all_of(pairs.begin(), pairs.end(), [parents](const ParentPair& pair) {
+    return pair.parent1.Value() < parents && pair.parent2.Value() < parents;
+  });
+}
+
 }  // namespace
 
 AllocationTask::AllocationTask(const AllocationSettings& settings, const AllocationInput& input)
@@ -114,6 +127,9 @@ bool AllocationPlan::Take(const Portion& portion, std::string_view result) {
   const auto outcomes = ByteUnpacker(result).GetAll<AllocationOutcome>();
   for (std::size_t i = portion.begin; i < portion.end; ++i) {
     result_.outcomes[i] = outcomes.at(i - portion.begin);
+    if (!IsPossible(result_.outcomes[i], input_.Parents().Size())) {
+      throw RunFailure("The result of a portion is damaged.");
+    }
     result_.counters.back().Count(result_.outcomes[i]);
   }
   return true;

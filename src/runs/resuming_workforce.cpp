@@ -55,9 +55,8 @@ class RestOfPlan final : public PortionPlan {
   void TakeOver(const LoggedPortion& next) {
     const auto& [group, begin, end] = next.portion;
     if (PortionPlace{group, begin} != first_ || end <= begin || end > items_) {
-      throw RunRefused({.kind = ProblemKind::kCannotResume,
-                        .found = "its results are not those of this run; without --resume the run "
-                                 "begins anew"});
+      throw RunRefused(
+          {.kind = ProblemKind::kCannotResume, .found = "its results are not those of this run"});
     }
     (void)plan_.Order(next.portion);
     has_ended_ = !plan_.Take(next.portion, next.result);

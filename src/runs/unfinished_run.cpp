@@ -49,7 +49,18 @@ std::optional<std::string> Difference(const RunRecord& then, const RunRecord& no
   return InputDifference(then, now);
 }
 
+std::string Sentence(const ProjectFolder& project, const RunRecord& unfinished) {
+  return fmt::format("\"{}\" holds an unfinished run ({}, of {}).", project.Name(), unfinished.flow,
+                     unfinished.date);
+}
+
 }  // namespace
+
+std::optional<std::string> UnfinishedSentence(const ProjectFolder& project, std::string_view flow) {
+  const auto unfinished = PortionLogReader(project.Path(kUnfinishedRunFile)).Record();
+  return unfinished && unfinished->flow == flow ? std::optional(Sentence(project, *unfinished))
+                                                : std::nullopt;
+}
 
 UnfinishedRun::UnfinishedRun(ProjectFolder project, std::string new_file, bool resumes,
                              RunObserver& observer)
@@ -70,9 +81,9 @@ void UnfinishedRun::TellWhatIsThere(bool resumes) const {
   } else if (!resumes && reader_->Record()) {
     observer_.OnMessage(
         RunMessage::kNote,
-        fmt::format("\"{}\" holds an unfinished run of {}. This one begins anew and soon takes its "
-                    "place; with --resume it would go on with it.",
-                    project_.Name(), reader_->Record()->date));
+        fmt::format("{} This one begins anew and soon takes its place; with --resume it would go "
+                    "on with it.",
+                    Sentence(project_, *reader_->Record())));
   }
 }
 
@@ -86,8 +97,7 @@ void UnfinishedRun::Begin(const RunRecord& now, const RunDifference& difference,
   }
   if (reader_) {
     if (const auto why = Difference(*reader_->Record(), now, difference)) {
-      throw RunRefused({.kind = ProblemKind::kCannotResume,
-                        .found = fmt::format("{}; without --resume the run begins anew", *why)});
+      throw RunRefused({.kind = ProblemKind::kCannotResume, .found = *why});
     }
   } else {
     pending_ = text_.Head(now);
@@ -139,7 +149,8 @@ void UnfinishedRun::Save() {
   is_on_disk_ = true;
   pending_.clear();
   const auto end = Clock::now();
-  next_write_ = end + std::max<KeepingPace::Duration>(pace_.then, pace_.part_of_time * (end - begin));
+  next_write_ =
+      end + std::max<KeepingPace::Duration>(pace_.then, pace_.part_of_time * (end - begin));
 }
 
 std::error_code UnfinishedRun::Write() {

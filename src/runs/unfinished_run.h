@@ -23,6 +23,10 @@ inline constexpr std::string_view kUnfinishedRunFile = "/.kaldo-unfinished";
 using RunDifference =
     std::function<std::optional<std::string>(const RunRecord& then, const RunRecord& now)>;
 
+/// What a new run of `flow` may go on with: `"lake" holds an unfinished run (simulation, sexed, of
+/// 2026-...).`; nothing where there is none of that flow.
+std::optional<std::string> UnfinishedSentence(const ProjectFolder& project, std::string_view flow);
+
 /// The results of finished portions in the project folder of a run that is at work. They stay there
 /// when the run does not come to its end, and another one goes on with them. The commit of a run
 /// removes them. The lock of the project must be held.

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <locale>
 
+#include "allocation/allocation_run.h"
 #include "app/base/text.h"
 #include "app/support/desktop_test.h"
 
@@ -153,6 +154,30 @@ TEST_F(PlacesTest, ResultsOfAnotherFlowGoOnlyWhenTheUserSaysSo) {
       "Replace them?";
   ExpectTold(script_, {question, question, "Calculations completed!"});
   EXPECT_EQ(ContentsOf("p").count("Summary.xls"), 0U);
+}
+
+TEST_F(PlacesTest, AnUnfinishedRunIsGoneOnWithWhenTheUserSaysSo) {
+  AllocationSettings settings = FirstShownAllocation(Flow::kNonSexed);
+  settings.project = std::string("p");
+  settings.loci_file = "data/loci.txt";
+  settings.parents_file = "data/parents.txt";
+  settings.offspring_file = "data/offspring.txt";
+  settings.error_model.kind = ErrorKind::kUniform;
+  LocalThreads keeps_at_once({{}, {}, 0});
+  test::StoppingObserver stops("Allocating", 1);
+  EXPECT_THROW((void)RunAllocation(settings, stops, keeps_at_once), RunStopped);
+
+  test::WalkToLoci(script_, Flow::kNonSexed);
+  script_.Click("Ok").Answer("Yes").Answer().Await("ChoiceOfLoci");
+  script_.Click("Ok").Answer("No").Answer().Await("Tabs").Click("Close").Await("MainMenu");
+  Go(script_);
+  const auto told = test::Told(script_);
+  ASSERT_EQ(told.size(), 4U);
+  EXPECT_EQ(told[0].find("\"p\" holds an unfinished run (allocation, non-sexed, of 20"), 0U)
+      << told[0];
+  EXPECT_EQ(told[1].find("The unfinished run cannot be resumed!"), 0U) << told[1];
+  EXPECT_EQ(told[2], told[0]);
+  EXPECT_EQ(ContentsOf("p").count(".kaldo-unfinished"), 0U);
 }
 
 }  // namespace

