@@ -10,6 +10,7 @@
 #include "method/error_model.h"
 #include "method/flow.h"
 #include "method/offset_tolerance.h"
+#include "runs/keeping_pace.h"
 #include "runs/setting.h"
 
 namespace kaldo {
@@ -58,8 +59,8 @@ struct AllocationSettings {
   /// this: it is a decision of the moment.
   bool may_replace_other_flow = false;
 
-  /// Goes on with an unfinished run in the project folder. In no run record either.
-  bool resumes = false;
+  /// Whether an unfinished run in the project folder is gone on with. In no run record either.
+  KeptWork kept_work = KeptWork::kAnew;
 
   friend bool operator==(const AllocationSettings&, const AllocationSettings&) = default;
 };

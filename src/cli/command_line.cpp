@@ -84,7 +84,7 @@ ExitCode RunAndTell(tl::expected<RunSettings, Problem> settings, const Decisions
   std::visit(
       [&](auto& each) {
         each.may_replace_other_flow = decisions.may_replace_other_flow;
-        each.resumes = decisions.resumes;
+        each.kept_work = decisions.resumes ? KeptWork::kResumed : each.kept_work;
       },
       *settings);
   if (const auto* allocation = std::get_if<AllocationSettings>(&*settings)) {

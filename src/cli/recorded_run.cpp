@@ -116,7 +116,12 @@ ExitCode RepeatAndCompare(const RunRecord& record, const RunRecord& now,
   }
   const TemporaryFolder folder;
   const std::string project = folder.Path() + "/repeated";
-  std::visit([&](auto& each) { each.project = project; }, settings);
+  std::visit(
+      [&](auto& each) {
+        each.project = project;
+        each.kept_work = KeptWork::kNone;
+      },
+      settings);
   std::ostringstream unheard;
   const ExitCode code = run(settings, {unheard, streams.err, streams.err_is_terminal});
   if (code != ExitCode::kDone) {

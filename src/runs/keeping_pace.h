@@ -5,6 +5,13 @@
 
 namespace kaldo {
 
+/// What a run does with what an unfinished one has done, and with what it does itself.
+enum class KeptWork {
+  kNone,     ///< it keeps nothing: nobody will go on with results that go nowhere
+  kAnew,     ///< it begins anew, and keeps what is done
+  kResumed,  ///< it goes on with an unfinished run, and keeps what is done
+};
+
 /// How soon and how often a run keeps what is done. Whatever ends it, less than that is lost.
 struct KeepingPace {
   using Duration = std::chrono::steady_clock::duration;

@@ -40,7 +40,7 @@ void ReportSet::LockAndOpen() {
   const std::string working_folder = NewWorkingFolder(order_.project);
   swap_.emplace(order_.project, working_folder);
   swap_->MakeFolders();
-  unfinished_.emplace(order_.project, working_folder + "/unfinished", order_.resumes, observer_);
+  unfinished_.emplace(order_.project, working_folder + "/unfinished", order_.kept_work, observer_);
   if (other) {
     RemoveOtherFlow();
   }

@@ -23,7 +23,7 @@ struct ReportsOrder {
   std::string_view flow;                     ///< as in run records
   const std::vector<RecordedInput>& inputs;  ///< none of which may be replaced or removed
   bool may_replace_other_flow = false;
-  bool resumes = false;  ///< an unfinished run in the folder is gone on with
+  KeptWork kept_work = KeptWork::kAnew;
 };
 
 /// The reports of one run. All are opened before it computes, and written in a working folder of

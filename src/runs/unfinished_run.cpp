@@ -62,23 +62,26 @@ std::optional<std::string> UnfinishedSentence(const ProjectFolder& project, std:
                                                 : std::nullopt;
 }
 
-UnfinishedRun::UnfinishedRun(ProjectFolder project, std::string new_file, bool resumes,
+UnfinishedRun::UnfinishedRun(ProjectFolder project, std::string new_file, KeptWork work,
                              RunObserver& observer)
-    : project_(std::move(project)), new_file_(std::move(new_file)), observer_(observer) {
+    : project_(std::move(project)),
+      new_file_(std::move(new_file)),
+      observer_(observer),
+      has_given_up_(work == KeptWork::kNone) {
   reader_.emplace(project_.Path(kUnfinishedRunFile));
-  TellWhatIsThere(resumes);
-  if (!resumes || !reader_->Record()) {
+  TellWhatIsThere(work);
+  if (work != KeptWork::kResumed || !reader_->Record()) {
     reader_.reset();
   }
 }
 
-void UnfinishedRun::TellWhatIsThere(bool resumes) const {
-  if (resumes && !reader_->Record()) {
+void UnfinishedRun::TellWhatIsThere(KeptWork work) const {
+  if (work == KeptWork::kResumed && !reader_->Record()) {
     observer_.OnMessage(
         RunMessage::kNote,
         fmt::format("There is no unfinished run in \"{}\" to go on with: this one begins anew.",
                     project_.Name()));
-  } else if (!resumes && reader_->Record()) {
+  } else if (work == KeptWork::kAnew && reader_->Record()) {
     observer_.OnMessage(
         RunMessage::kNote,
         fmt::format("{} This one begins anew and soon takes its place; with --resume it would go "

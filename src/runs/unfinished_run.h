@@ -34,7 +34,7 @@ class UnfinishedRun {
  public:
   /// `new_file` is where the file is made before it comes to its place. The observer is told of an
   /// unfinished run that is found, and that there is none when there should be one to resume.
-  UnfinishedRun(ProjectFolder project, std::string new_file, bool resumes, RunObserver& observer);
+  UnfinishedRun(ProjectFolder project, std::string new_file, KeptWork work, RunObserver& observer);
 
   /// The seed of the run to be resumed: one that was drawn from the clock is not drawn again.
   std::optional<std::uint32_t> Seed() const;
@@ -61,7 +61,7 @@ class UnfinishedRun {
  private:
   using Clock = std::chrono::steady_clock;
 
-  void TellWhatIsThere(bool resumes) const;
+  void TellWhatIsThere(KeptWork work) const;
   std::error_code Write();
   std::error_code WriteFirst();
   bool WouldFillTheDisk() const;
@@ -72,7 +72,7 @@ class UnfinishedRun {
   RunObserver& observer_;
   std::optional<PortionLogReader> reader_;  ///< while there may be something to resume
   bool has_begun_ = false;
-  bool has_given_up_ = false;
+  bool has_given_up_;
   bool is_on_disk_ = false;  ///< some of this run
 
   KeepingPace pace_;

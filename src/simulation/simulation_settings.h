@@ -12,6 +12,7 @@
 #include "method/error_model.h"
 #include "method/flow.h"
 #include "method/offset_tolerance.h"
+#include "runs/keeping_pace.h"
 #include "runs/value_kinds.h"
 
 namespace kaldo {
@@ -104,8 +105,8 @@ struct SimulationSettings {
   std::optional<std::uint32_t> seed;  ///< nothing said: the calendar time in seconds
   unsigned threads = 0;               ///< 0: as many as cores; results never depend on it
 
-  bool may_replace_other_flow = false;  ///< as in AllocationSettings; in no run record
-  bool resumes = false;                 ///< the same
+  bool may_replace_other_flow = false;   ///< as in AllocationSettings; in no run record
+  KeptWork kept_work = KeptWork::kAnew;  ///< the same
 
   /// Whether the working folder keeps the names of the loci, as the windows offer them next time. A
   /// run that repeats the record of somebody else leaves it alone.

@@ -71,8 +71,9 @@ TEST(PortionLog, IsWholeUpToTheEntryThatIsCutOrDamaged) {
       if (whole > 0) {
         ASSERT_EQ(reader.Record()->seed, 5U);
         ASSERT_EQ(reader.BytesTaken(), ends[whole - 1]);
-        folder.Write("log",
-                     file.substr(0, ends[whole - 1]) + reader.TextBehind().Entry(entries[1]));
+      }
+      if (whole > 0 && place == ends[whole - 1]) {
+        folder.Write("log", file.substr(0, place) + reader.TextBehind().Entry(entries[1]));
         PortionLogReader again(path);
         ASSERT_EQ(Entries(again).size(), whole);
       }
@@ -87,10 +88,11 @@ class Counting {
   std::vector<std::uint64_t> second;
 
   /// Two parts, of which the second may end early. `failing` is an item of the second part.
-  void Run(bool resumes, unsigned threads, std::optional<Portion> failing = {}) {
-    UnfinishedRun unfinished(ProjectFolder(folder_.Path("")), folder_.Path("new"), resumes,
-                             observer);
-    LocalThreads local(kAtOnce);
+  void Run(unsigned threads, std::optional<Portion> failing = {}) {
+    UnfinishedRun unfinished(ProjectFolder(folder_.Path("")), folder_.Path("new"),
+                             KeptWork::kResumed, observer);
+    // The first result is kept at once, the others when the run ends.
+    LocalThreads local({.first = {}, .then = std::chrono::hours(1)});
     ResumingWorkforce workforce(local, unfinished,
                                 [](const auto&, const auto&) { return std::nullopt; });
     NumbersTask task;
@@ -123,7 +125,7 @@ RC_GTEST_PROP(ResumingWorkforce, DoesTheRestWhateverIsLeftOfTheFile, ()) {
   std::size_t done = 0;
   for (int attempt = *rc::gen::inRange(1, 4); attempt > 0; --attempt) {
     const std::size_t item = *rc::gen::inRange<std::size_t>(0, 8);
-    counting.Run(true, threads(), Portion{*rc::gen::inRange<std::size_t>(0, 6), item, item + 1});
+    counting.Run(threads(), Portion{*rc::gen::inRange<std::size_t>(0, 6), item, item + 1});
     const auto bytes = std::filesystem::file_size(counting.Path());
     std::filesystem::resize_file(counting.Path(), *rc::gen::inRange<std::size_t>(0, bytes + 1));
     PortionLogReader reader(counting.Path());
@@ -133,7 +135,7 @@ RC_GTEST_PROP(ResumingWorkforce, DoesTheRestWhateverIsLeftOfTheFile, ()) {
     }
   }
   const auto before = counting.observer.Steps();
-  counting.Run(true, threads());
+  counting.Run(threads());
   RC_ASSERT(counting.first == NumbersPlan(2, 10).Prefix(20));
   RC_ASSERT(counting.second == NumbersPlan(9, 8).Prefix(48));
   // Portions behind the last group may be begun in vain.
@@ -146,7 +148,7 @@ TEST(UnfinishedRun, IsRefusedWhereItsResultsWouldBeOthers) {
   test::CountingObserver observer;
   folder.Write(kUnfinishedRunFile, PortionLogText().Head(Record()));
   const auto refusal = [&](const RunRecord& now) {
-    UnfinishedRun unfinished(ProjectFolder(folder.Path("")), "", true, observer);
+    UnfinishedRun unfinished(ProjectFolder(folder.Path("")), "", KeptWork::kResumed, observer);
     try {
       unfinished.Begin(now,
                        [](const RunRecord& then, const RunRecord& later) {
@@ -177,16 +179,19 @@ TEST(UnfinishedRun, IsRefusedWhereItsResultsWouldBeOthers) {
   EXPECT_EQ(refusal(now), "it was started by KALDO 1.0.0, and this is KALDO 1.0.1");
 }
 
-TEST(UnfinishedRun, OfAFewSecondsLeavesNothing) {
+TEST(UnfinishedRun, LeavesNothingInAFewSecondsNorWhereNobodyWouldGoOn) {
   const test::TempFolder folder;
   test::CountingObserver observer;
-  for (const KeepingPace& pace : {KeepingPace{}, kAtOnce}) {
-    UnfinishedRun unfinished(ProjectFolder(folder.Path("")), folder.Path("new"), false, observer);
+  for (const auto& [pace, work] : {std::pair{KeepingPace{}, KeptWork::kAnew},
+                                   {kAtOnce, KeptWork::kNone},
+                                   {kAtOnce, KeptWork::kAnew}}) {
+    UnfinishedRun unfinished(ProjectFolder(folder.Path("")), folder.Path("new"), work, observer);
     unfinished.Begin(Record(), {}, pace);
     unfinished.Keep({0, {0, 0, 1}, "result"});
     unfinished.Save();
-    EXPECT_EQ(folder.FilesIn("").size(), pace.first.count() == 0 ? 1U : 0U);
-    EXPECT_EQ(unfinished.KeptSentence().has_value(), pace.first.count() == 0);
+    const bool is_kept = pace.first.count() == 0 && work == KeptWork::kAnew;
+    EXPECT_EQ(folder.FilesIn("").size(), is_kept ? 1U : 0U);
+    EXPECT_EQ(unfinished.KeptSentence().has_value(), is_kept);
   }
 }
 

@@ -18,7 +18,7 @@ namespace kaldo {
 AllocationReports::AllocationReports(const AllocationSettings& settings,
                                      const AllocationInput& input, RunObserver& observer)
     : reports_({ProjectFolder(settings.project), AllocationFlowName(settings.flow), input.files,
-                settings.may_replace_other_flow, settings.resumes},
+                settings.may_replace_other_flow, settings.kept_work},
                observer),
       results_(reports_.Add(kAllocationResultsFile)),
       pairs_(reports_.Add(kMaxLikePairsFile)),

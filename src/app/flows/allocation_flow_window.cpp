@@ -168,7 +168,7 @@ void AllocationFlowWindow::Run() {
       !AskToReplace(AllocationFlowName(settings->flow), settings->may_replace_other_flow)) {
     return;
   }
-  settings->resumes = AskToResume(AllocationFlowName(settings->flow));
+  settings->kept_work = AskToResume(AllocationFlowName(settings->flow));
   const auto files = OpenAllocationFiles(*settings, Opened().Opener());
   if (!files) {
     return Refuse(files.error());

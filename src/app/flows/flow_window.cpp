@@ -191,10 +191,12 @@ bool FlowWindow::AskToReplace(std::string_view flow, bool& may_replace) {
   return !other || may_replace;
 }
 
-bool FlowWindow::AskToResume(std::string_view flow) {
+KeptWork FlowWindow::AskToResume(std::string_view flow) {
   const auto unfinished = UnfinishedSentence(ProjectFolder(project_), flow);
-  return unfinished &&
-         AskYesNo(this, Text(*unfinished + " Go on with it? With No this run begins anew."));
+  return unfinished && AskYesNo(this, Text(*unfinished + " Go on with it? With No this run begins "
+                                                         "anew."))
+             ? KeptWork::kResumed
+             : KeptWork::kAnew;
 }
 
 }  // namespace kaldo

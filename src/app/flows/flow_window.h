@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/base/screen_table.h"
+#include "runs/keeping_pace.h"
 
 class QLabel;
 class QPushButton;
@@ -87,7 +88,7 @@ class FlowWindow : public QDialog {
   bool AskToReplace(std::string_view flow, bool& may_replace);
 
   /// Asks whether to go on with an unfinished run of the flow, if there is one.
-  bool AskToResume(std::string_view flow);
+  KeptWork AskToResume(std::string_view flow);
 
  private:
   void Keep(QWidget* page);

@@ -294,7 +294,7 @@ void SimulationFlowWindow::Run() {
   if (!AskToReplace(SimulationFlowName(settings.flow), settings.may_replace_other_flow)) {
     return;
   }
-  settings.resumes = AskToResume(SimulationFlowName(settings.flow));
+  settings.kept_work = AskToResume(SimulationFlowName(settings.flow));
   const auto files = OpenSimulationFiles(settings, Opened().Opener());
   if (!files) {
     return Refuse(files.error());

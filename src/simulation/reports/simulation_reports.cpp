@@ -48,7 +48,7 @@ SimulationReports::SimulationReports(const SimulationSettings& settings,
                                      const SimulationInput& input, RunObserver& observer)
     : texts_(TextsOf(settings.flow)),
       reports_({ProjectFolder(settings.project), SimulationFlowName(settings.flow), input.files,
-                settings.may_replace_other_flow, settings.resumes},
+                settings.may_replace_other_flow, settings.kept_work},
                observer),
       summary_(reports_.Add(kSummaryFile)),
       detailed_(reports_.AddIfAny(texts_.detailed_file)),
