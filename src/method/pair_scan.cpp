@@ -41,8 +41,8 @@ void MultiplyLoci(const TransmissionScores& scores, std::size_t first_parent, st
 
 }  // namespace
 
-void ScanRowOfPairs(const TransmissionScores& scores, Slot first_parent, SlotRange partners,
-                    KeptPairs& kept) {
+AfterPair ScanRowOfPairs(const TransmissionScores& scores, Slot first_parent, SlotRange partners,
+                         KeptPairs& kept) {
   Likelihoods likelihoods;
   for (std::size_t begin = partners.begin; begin < partners.end; begin += kPartnersAtOnce) {
     const std::size_t count = std::min(kPartnersAtOnce, partners.end - begin);
@@ -53,22 +53,50 @@ void ScanRowOfPairs(const TransmissionScores& scores, Slot first_parent, SlotRan
       }
       const ParentPair pair{first_parent, Slot{static_cast<std::uint32_t>(begin + i)}};
       if (kept.Show(pair, likelihoods[i]) == AfterPair::kLeaveRow) {
-        return;
+        return AfterPair::kLeaveRow;
       }
+    }
+  }
+  return AfterPair::kGoOn;
+}
+
+namespace {
+
+/// The row among the candidates of one offspring.
+void ScanRowOfCandidates(const TransmissionScores& scores, Slot first_parent, SlotRange partners,
+                         const std::vector<Slot>& candidates, KeptPairs& kept) {
+  auto partner = std::lower_bound(candidates.begin(), candidates.end(), Slot{partners.begin});
+  for (; partner != candidates.end() && partner->Value() < partners.end; ++partner) {
+    const SlotRange alone{partner->Value(), partner->Value() + 1};
+    if (ScanRowOfPairs(scores, first_parent, alone, kept) == AfterPair::kLeaveRow) {
+      return;
     }
   }
 }
 
+}  // namespace
+
 AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& candidates,
                             const RunObserver& observer) {
+  return ScanPairs(scores, candidates, {}, observer);
+}
+
+AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& candidates,
+                            const AllowedPairs& allowed, const RunObserver& observer) {
   assert(scores.Loci() > 0 && "a likelihood needs a locus");
   KeptPairs kept(candidates.flow, candidates.names);
-  for (const CandidateGroup& group : candidates.groups) {
+  const OffspringGroups groups(candidates.flow, candidates.groups, allowed);
+  for (const CandidateGroup& group : groups.Groups()) {
     for (std::uint32_t parent = group.first.begin; parent < group.first.end; ++parent) {
       if (observer.StopRequested()) {
         throw RunStopped();
       }
-      ScanRowOfPairs(scores, Slot{parent}, PartnersOf(candidates.flow, group, parent), kept);
+      const SlotRange partners = PartnersOf(groups.Pairing(), group, parent);
+      if (!allowed.candidates) {
+        ScanRowOfPairs(scores, Slot{parent}, partners, kept);
+      } else if (allowed.IsCandidate(Slot{parent})) {
+        ScanRowOfCandidates(scores, Slot{parent}, partners, *allowed.candidates, kept);
+      }
     }
   }
   return OutcomeOf(kept);

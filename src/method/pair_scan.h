@@ -5,7 +5,7 @@
 
 #include "base/run_observer.h"
 #include "method/allocation_outcome.h"
-#include "method/candidate_groups.h"
+#include "method/allowed_pairs.h"
 #include "method/transmission_scores.h"
 
 namespace kaldo {
@@ -38,10 +38,14 @@ struct Candidates {
 AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& candidates,
                             const RunObserver& observer);
 
-/// One row of that scan: `first_parent` with the partners given. `kept` holds what the scan has met
-/// before.
-void ScanRowOfPairs(const TransmissionScores& scores, Slot first_parent, SlotRange partners,
-                    KeptPairs& kept);
+/// The same among the allowed pairs alone.
+AllocationOutcome ScanPairs(const TransmissionScores& scores, const Candidates& candidates,
+                            const AllowedPairs& allowed, const RunObserver& observer);
+
+/// A stretch of a row of that scan: `first_parent` with the partners given. `kept` holds what the
+/// scan has met before.
+AfterPair ScanRowOfPairs(const TransmissionScores& scores, Slot first_parent, SlotRange partners,
+                         KeptPairs& kept);
 
 /// The search part of an outcome.
 AllocationOutcome OutcomeOf(const KeptPairs& kept);

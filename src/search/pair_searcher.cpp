@@ -131,6 +131,27 @@ void PairSearcher::ScoreParents() {
   ComputeTransmissionScores(study_->table, offspring_, study_->loci, study_->matrices, scores_);
 }
 
+/// Between the slots of two candidates stand parents that are none. A scan across them, as among
+/// all parents, would take them in.
+void PairSearcher::ScanCandidatesPlainly(Place first_parent, PlaceRange partners, KeptPairs& kept) {
+  const Slot first = listed_.SlotAt(first_parent);
+  SlotRange side_by_side{};
+  for (Place place = partners.begin; place < partners.end; ++place) {
+    if (listed_.CostAt(place) == ListedParents::kImpossible) {
+      continue;
+    }
+    const std::uint32_t slot = listed_.SlotAt(place).Value();
+    if (slot != side_by_side.end) {
+      if (ScanRowOfPairs(scores_, first, side_by_side, kept) == AfterPair::kLeaveRow) {
+        return;
+      }
+      side_by_side = {slot, slot};
+    }
+    ++side_by_side.end;
+  }
+  ScanRowOfPairs(scores_, first, side_by_side, kept);
+}
+
 void PairSearcher::ScanRowPlainly(Place first_parent, PlaceRange partners, KeptPairs& kept) {
   if (!scores_are_known_) {
     ScoreParents();
@@ -138,7 +159,11 @@ void PairSearcher::ScanRowPlainly(Place first_parent, PlaceRange partners, KeptP
   }
   ++work_.plain_rows;
   const double best = kept.BestLikelihood();
-  ScanRowOfPairs(scores_, listed_.SlotAt(first_parent), SlotsAcross(partners), kept);
+  if (has_candidates_) {
+    ScanCandidatesPlainly(first_parent, partners, kept);
+  } else {
+    ScanRowOfPairs(scores_, listed_.SlotAt(first_parent), SlotsAcross(partners), kept);
+  }
   if (kept.BestLikelihood() > best) {
     Tighten(kept.BestLikelihood());
   }
@@ -191,7 +216,7 @@ void PairSearcher::ScanGroup(const CandidateGroup& slots, KeptPairs& kept,
 void PairSearcher::ScanBlock(std::uint32_t block, const ListedGroup& group, KeptPairs& kept) {
   // No parent of the block has partners before those of the first one.
   const Place first = std::max(group.first.begin, BeginOfBlock(block));
-  const PlaceRange widest = PartnersOf(candidates_.flow, group, first);
+  const PlaceRange widest = PartnersOf(pairing_, group, first);
   if (widest.IsEmpty()) {
     return;
   }
@@ -204,7 +229,7 @@ void PairSearcher::ScanBlock(std::uint32_t block, const ListedGroup& group, Kept
       MaskOfRange(block, group.first);
   for (; rest != 0; rest &= rest - 1) {
     const Place parent = LowestPlace(block, rest);
-    const PlaceRange partners = PartnersOf(candidates_.flow, group, parent);
+    const PlaceRange partners = PartnersOf(pairing_, group, parent);
     // The limit may have come down inside the block.
     if (listed_.CostAt(parent) + best_partner <= limit_ && !partners.IsEmpty()) {
       ScanRow(parent, partners, kept);
@@ -215,7 +240,7 @@ void PairSearcher::ScanBlock(std::uint32_t block, const ListedGroup& group, Kept
 void PairSearcher::MultiplyAll(const CandidateGroup& slots, KeptPairs& kept) {
   const ListedGroup group = listed_.PlacesOf(slots);
   for (Place parent = group.first.begin; parent < group.first.end; ++parent) {
-    const PlaceRange partners = PartnersOf(candidates_.flow, group, parent);
+    const PlaceRange partners = PartnersOf(pairing_, group, parent);
     for (Place partner = partners.begin; partner < partners.end; ++partner) {
       const ParentPair pair = listed_.PairAt(parent, partner);
       const double likelihood = direct_.Likelihood(offspring_, possible_.TypedLoci(), pair);
@@ -227,23 +252,32 @@ void PairSearcher::MultiplyAll(const CandidateGroup& slots, KeptPairs& kept) {
 }
 
 AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observer) {
+  return Search(offspring, {}, observer);
+}
+
+AllocationOutcome PairSearcher::Search(Slot offspring, const AllowedPairs& allowed,
+                                       const RunObserver& observer) {
   if (observer.StopRequested()) {
     throw RunStopped();
   }
   offspring_ = offspring;
   if (study_->parents <= kFewToScan) {
     ScoreParents();
-    return ScanPairs(scores_, candidates_, observer);
+    return ScanPairs(scores_, candidates_, allowed, observer);
   }
+  const OffspringGroups groups(candidates_.flow, candidates_.groups, allowed);
+  pairing_ = groups.Pairing();
+  has_candidates_ = allowed.candidates.has_value();
   KeptPairs kept(candidates_.flow, candidates_.names);
-  if (!possible_.Find(offspring)) {
+  if (!possible_.Find(offspring) ||
+      (has_candidates_ && !possible_.KeepAmong(*allowed.candidates))) {
     ++work_.without_two_parents;
     return OutcomeOf(kept);
   }
   listed_.List(possible_);
   if (listed_.Count() <= kFewToMultiply) {
     ++work_.among_three;
-    for (const CandidateGroup& group : candidates_.groups) {
+    for (const CandidateGroup& group : groups.Groups()) {
       MultiplyAll(group, kept);
     }
     return OutcomeOf(kept);
@@ -254,7 +288,7 @@ AllocationOutcome PairSearcher::Search(Slot offspring, const RunObserver& observ
   plain_rows_left_ = 0;
   plain_rows_next_ = kFewestPlainRows;
   Tighten(0);
-  for (const CandidateGroup& group : candidates_.groups) {
+  for (const CandidateGroup& group : groups.Groups()) {
     ScanGroup(group, kept, observer);
   }
   return OutcomeOf(kept);

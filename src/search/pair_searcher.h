@@ -46,6 +46,10 @@ class PairSearcher {
   /// Fills the search part of the outcome. Throws RunStopped when the observer asks.
   AllocationOutcome Search(Slot offspring, const RunObserver& observer);
 
+  /// The same among the allowed pairs alone.
+  AllocationOutcome Search(Slot offspring, const AllowedPairs& allowed,
+                           const RunObserver& observer);
+
   const Work& WorkDone() const { return work_; }
 
  private:
@@ -56,6 +60,7 @@ class PairSearcher {
   SlotRange SlotsAcross(PlaceRange partners) const;
   bool IsCrowded(Place first_parent, PlaceRange partners) const;
   void ScanRowPlainly(Place first_parent, PlaceRange partners, KeptPairs& kept);
+  void ScanCandidatesPlainly(Place first_parent, PlaceRange partners, KeptPairs& kept);
   void MultiplyAll(const CandidateGroup& slots, KeptPairs& kept);
   void ScoreParents();
   bool LeaningsAllow(Place first_parent, Place partner, std::int32_t cost);
@@ -73,7 +78,9 @@ class PairSearcher {
 
   // Of the current offspring:
   Slot offspring_;
-  std::int32_t limit_ = 0;  ///< costs of a pair above it: it cannot matter
+  Flow pairing_ = Flow::kNonSexed;  ///< see OffspringGroups
+  bool has_candidates_ = false;     ///< of its own
+  std::int32_t limit_ = 0;          ///< costs of a pair above it: it cannot matter
   std::array<std::uint64_t, kMaxLeaningWords>
       wanted_leanings_{};  ///< of the first parent of the row
   bool wanted_are_known_ = false;

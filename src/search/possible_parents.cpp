@@ -65,6 +65,19 @@ bool PossibleParents::KeepGivers(std::size_t loci) {
   return two_left;
 }
 
+bool PossibleParents::KeepAmong(std::span<const Slot> candidates) {
+  candidates_.assign(all_.size(), 0);
+  std::size_t kept = 0;
+  for (const Slot slot : candidates) {
+    const std::size_t word = slot.Value() / kBlock;
+    const std::uint64_t bit = left_[word] & std::uint64_t{1} << slot.Value() % kBlock;
+    candidates_[word] |= bit;
+    kept += bit != 0 ? 1 : 0;
+  }
+  left_ = candidates_.data();
+  return kept >= 2;
+}
+
 bool PossibleParents::Find(Slot offspring) {
   left_ = all_.data();
   std::size_t typed = 0;

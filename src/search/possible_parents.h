@@ -25,6 +25,9 @@ class PossibleParents {
   /// likelihood, and nothing else here may be asked.
   bool Find(Slot offspring);
 
+  /// Keeps of the parents found only these candidates. False when fewer than two are left.
+  bool KeepAmong(std::span<const Slot> candidates);
+
   /// The loci of the run at which the offspring is typed, by their place in the run.
   std::span<const std::uint32_t> TypedLoci() const { return std::span(typed_).first(typed_count_); }
 
@@ -52,12 +55,13 @@ class PossibleParents {
   std::vector<std::uint64_t> givers_;    ///< by locus, allele and block of slots
   std::vector<std::uint64_t> all_;
   std::vector<std::uint64_t> some_;
+  std::vector<std::uint64_t> candidates_;
 
   // Of the current offspring:
   std::array<std::uint32_t, kMaxLoci> typed_{};
   std::size_t typed_count_ = 0;
   std::array<GiverRows, kLociAtOnce> rows_{};
-  const std::uint64_t* left_ = nullptr;  ///< all_ or some_
+  const std::uint64_t* left_ = nullptr;  ///< all_, some_ or candidates_
 };
 
 }  // namespace kaldo
