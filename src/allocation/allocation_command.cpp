@@ -52,7 +52,7 @@ std::string CommandOf(const AllocationSettings& settings) {
   const auto table = AllocationSettingTable();
   std::vector<Setting<AllocationSettings>> order(table.begin(), table.end());
   std::stable_partition(order.begin(), order.end(), [](const auto& setting) {
-    return setting.group == "Files" && setting.key != "offspring";
+    return setting.group == "Files" && setting.key != "offspring" && !setting.may_be_left_out;
   });
   ShellCommand command("kaldo allocate");
   AddToCommand<AllocationSettings>(order, told, {}, command);

@@ -2,6 +2,7 @@
 #include "allocation/allocation_files.h"
 
 #include <algorithm>
+#include <array>
 
 #include <fmt/format.h>
 
@@ -45,6 +46,12 @@ constexpr AllocationFileRole kOffspring{.path = &AllocationSettings::offspring_f
 constexpr AllocationFileRole kLoci{.path = &AllocationSettings::loci_file,
                                    .name = "names of loci",
                                    .no_name = ProblemKind::kNoLociFile};
+
+constexpr std::array<AllocationFileRole, 3> kKnowledge{{
+    {.path = &AllocationSettings::known_mother_file, .name = "known mothers"},
+    {.path = &AllocationSettings::candidates_file, .name = "candidates"},
+    {.path = &AllocationSettings::offspring_groups_file, .name = "groups of offspring"},
+}};
 
 std::vector<AllocationFileRole> GenotypeRoles(Flow flow) {
   if (flow == Flow::kSexed) {
@@ -148,6 +155,7 @@ std::vector<RecordedInput> AllocationFiles::Recorded() const {
   };
   std::for_each(genotypes.begin(), genotypes.end(), add);
   add(loci);
+  std::for_each(knowledge.begin(), knowledge.end(), add);
   return recorded;
 }
 
@@ -169,6 +177,16 @@ tl::expected<AllocationFiles, Problem> OpenAllocationFiles(const AllocationSetti
   }
   files.loci = std::move(files.genotypes.back());
   files.genotypes.pop_back();
+  for (const AllocationFileRole& role : kKnowledge) {
+    if ((settings.*role.path).empty()) {
+      continue;
+    }
+    auto tokens = open(settings.*role.path, kMaxInputBytes);
+    if (!tokens) {
+      return tl::unexpected(std::move(tokens.error()));
+    }
+    files.knowledge.push_back({role, std::move(*tokens)});
+  }
   return files;
 }
 

@@ -44,6 +44,10 @@ struct AllocationFiles {
   std::vector<AllocationFile> genotypes;
   AllocationFile loci;
 
+  /// What is known of single offspring: those of known mothers, candidates and groups of offspring
+  /// that were given.
+  std::vector<AllocationFile> knowledge;
+
   /// What a run record says of them.
   std::vector<RecordedInput> Recorded() const;
 };

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "allocation/input_warnings.h"
+#include "allocation/offspring_knowledge.h"
 #include "genotypes/genotype_reader.h"
 #include "genotypes/record_checks.h"
 #include "method/cumulative_sequence.h"
@@ -150,6 +151,9 @@ tl::expected<AllocationInput, Problem> LoadIndividuals(const AllocationSettings&
   }
   FillTable(files, input);
   input.groups = FormGroups(settings.flow, input.table, input.first_parents, input.second_parents);
+  if (auto problem = ReadAllowedPairs(settings.flow, files, input)) {
+    return tl::unexpected(std::move(*problem));
+  }
   input.files = files.Recorded();
   return input;
 }

@@ -10,7 +10,7 @@
 #include "genotypes/catalogued_loci.h"
 #include "genotypes/genotype_table.h"
 #include "genotypes/loci_list.h"
-#include "method/candidate_groups.h"
+#include "method/allowed_pairs.h"
 #include "runs/run_record.h"
 
 namespace kaldo {
@@ -26,6 +26,9 @@ struct AllocationInput {
   SlotRange second_parents;  ///< the females; empty in the non-sexed flow
   SlotRange offspring;
   std::vector<CandidateGroup> groups;
+
+  /// What is known of each offspring, in file order; empty where nothing is known of any.
+  std::vector<AllowedPairs> allowed;
 
   AlleleCatalogues catalogues;
 

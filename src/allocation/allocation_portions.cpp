@@ -57,7 +57,9 @@ class AllocationWorker final : public PortionWorker {
     outcomes.reserve(portion.Size());
     for (std::size_t i = portion.begin; i < portion.end; ++i) {
       const Slot offspring{input_.offspring.begin + static_cast<std::uint32_t>(i)};
-      outcomes.push_back(searcher_.Search(offspring, observer));
+      outcomes.push_back(input_.allowed.empty()
+                             ? searcher_.Search(offspring, observer)
+                             : searcher_.Search(offspring, input_.allowed[i], observer));
       DecideSides(input_.table, offspring, loci_, settings_.tolerance, outcomes.back());
       observer.OnSteps(1);
     }

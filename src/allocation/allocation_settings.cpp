@@ -34,6 +34,15 @@ Declared SexFileSetting(const std::string& name, std::string help,
   return setting;
 }
 
+/// A file of what is known of single offspring.
+Declared KnowledgeSetting(const std::string& name, std::string help,
+                          std::string AllocationSettings::*path) {
+  Declared setting = FileSetting(name, std::move(help), path);
+  setting.value = Member(path, OptionalTextKind());
+  setting.may_be_left_out = true;
+  return setting;
+}
+
 Declared ParentFileSetting() {
   Declared setting = FileSetting("parents", "Non-sexed: genotypes of the collected parents",
                                  &AllocationSettings::parents_file);
@@ -75,6 +84,14 @@ std::vector<Declared> DeclareSettings() {
                      &AllocationSettings::males_file),
       SexFileSetting("females", "Sexed: genotypes of the collected females",
                      &AllocationSettings::females_file),
+      KnowledgeSetting("known-mother",
+                       "Per line an offspring and its mother (non-sexed: one of its parents)",
+                       &AllocationSettings::known_mother_file),
+      KnowledgeSetting("candidates", "Per line an offspring and the parents that may be its own",
+                       &AllocationSettings::candidates_file),
+      KnowledgeSetting("offspring-groups",
+                       "Per line an offspring and the number of its group of parents",
+                       &AllocationSettings::offspring_groups_file),
       ToleranceSetting<AllocationSettings>(
           "Maximal offset tolerance, in whole unit distances (repeats), 0 or more"),
       ErrorModelSetting<AllocationSettings>(" (" + PlainErrorModels() + ")"),

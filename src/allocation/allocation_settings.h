@@ -39,6 +39,11 @@ struct AllocationSettings {
   std::string offspring_file;
   std::string loci_file;
 
+  // Files of what is known of single offspring beforehand; empty where nothing is known.
+  std::string known_mother_file;
+  std::string candidates_file;
+  std::string offspring_groups_file;
+
   OffsetTolerance tolerance{1};
   ErrorModel error_model = kErrorModelUnlessTold;
 

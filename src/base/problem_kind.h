@@ -58,6 +58,14 @@ enum class ProblemKind : std::uint8_t {
   kNameNotUtf8,
   kParentNamedNone,
 
+  // What is known of single offspring.
+  kUnknownName,
+  kNameOfSeveral,
+  kOffspringHasTwoLines,
+  kOtherWordsWanted,
+  kUnknownGroup,
+  kNoPairAllowed,
+
   // The model of error.
   kNoErrorModel,
   kEpsilonOutOfRange,
@@ -182,6 +190,13 @@ inline constexpr std::array<ProblemSentence, static_cast<std::size_t>(ProblemKin
         {ProblemKind::kNameHasControl, "A name holds a character that cannot be shown!"},
         {ProblemKind::kNameNotUtf8, "A name is not written in UTF-8!"},
         {ProblemKind::kParentNamedNone, "A parent has a name that stands for no parent!"},
+
+        {ProblemKind::kUnknownName, "There is no individual of that name!"},
+        {ProblemKind::kNameOfSeveral, "A name stands for more than one individual!"},
+        {ProblemKind::kOffspringHasTwoLines, "An offspring has two lines!"},
+        {ProblemKind::kOtherWordsWanted, "A line holds other words than it should!"},
+        {ProblemKind::kUnknownGroup, "There is no group of parents of that number!"},
+        {ProblemKind::kNoPairAllowed, "No pair of parents is left for an offspring!"},
 
         {ProblemKind::kNoErrorModel, "Choose a model of error"},
         {ProblemKind::kEpsilonOutOfRange, "Espilon should be between 0 and 0.1"},

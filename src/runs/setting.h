@@ -101,6 +101,7 @@ struct Setting {
   std::function<bool(const Settings& settings)> applies = {};
 
   bool needed = false;             ///< has no default: the command line refuses to go without it
+  bool may_be_left_out = false;    ///< a file without which the run does as well
   bool always_told = false;        ///< a copied command gives it even where it is as by default
   bool may_stand_alone = false;    ///< the option may go without its value
   bool in_head_of_record = false;  ///< a run record tells it above its settings, in another form
@@ -110,7 +111,9 @@ struct Setting {
   bool IsFlag() const { return metavar.empty(); }
 
   /// Files and folders have no default either; a window tells them one by one.
-  bool MustBeGiven() const { return needed || metavar == "FILE" || metavar == "DIR"; }
+  bool MustBeGiven() const {
+    return needed || (!may_be_left_out && (metavar == "FILE" || metavar == "DIR"));
+  }
 };
 
 /// All settings of a run, in the order of the help and of the run record.

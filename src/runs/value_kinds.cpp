@@ -122,6 +122,22 @@ ValueKind<std::string> TextKind() {
           .recorded = RecordedPlainly<std::string>};
 }
 
+ValueKind<std::string> OptionalTextKind() {
+  ValueKind<std::string> kind = TextKind();
+  kind.text = [](const std::string& value) {
+    return value.empty() ? std::nullopt : std::optional(value);
+  };
+  kind.record = [](const std::string& value, const std::string& key, RunRecord& record) {
+    if (!value.empty()) {
+      record.settings.emplace_back(key, value);
+    }
+  };
+  kind.recorded = [](const std::string& key, RecordedSettings& recorded) {
+    return recorded.Optional<std::string>(key).value_or("");
+  };
+  return kind;
+}
+
 ValueKind<std::int32_t> WholeKind() {
   return {
       .parse = ParseWhole,

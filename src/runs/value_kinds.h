@@ -21,6 +21,9 @@ namespace kaldo {
 /// A path, a name, as it was typed.
 ValueKind<std::string> TextKind();
 
+/// One that a run can do without; empty where nothing is said.
+ValueKind<std::string> OptionalTextKind();
+
 /// A whole number; a number with a decimal point; one that has none but counts among those that
 /// may, such as parents drawn.
 ValueKind<std::int32_t> WholeKind();

@@ -86,6 +86,65 @@ TEST(AllocationRun, TakesAnUndefinedParentForACarrierOfAnyAllele) {
   EXPECT_EQ(run->result.counters.back().both_collected, 1);
 }
 
+/// What is told of the offspring Y, and its line of the report.
+struct Known {
+  std::string mother;
+  std::string candidates;
+  std::string group;
+  std::string line;
+};
+
+/// Y is heterozygous at both loci. Without error its likelihood is 4 per locus with two parents
+/// that are homozygous for one allele each (A or D, B or E), 2 with such a one and a heterozygous
+/// one (C, F) or with both of these, 0 with any other two. Z, of which nothing is told, tries all.
+TEST(KnownOffspring, AreTriedWithTheAllowedPairsAlone) {
+  const std::string a = " 100100 200200\n";
+  const std::string b = " 102102 202202\n";
+  const std::string both = " 100102 200202\n";
+  const std::vector<Known> non_sexed = {
+      {"", "", "", "A\tB\t[1,2]"},
+      {"*", "*", "*", "A\tB\t[1,2]"},
+      {"C", "", "", "A\tC\t[1,3]"},
+      {"E", "", "", "D\tE\t[5,6]"},
+      {"", "E C D A", "", "D\tE\t[5,6]"},
+      {"", "", "2", "D\tE\t[5,6]"},
+      {"C", "E D\tC B C", "1", "B\tC\t[2,3]"},
+  };
+  const std::vector<Known> sexed = {
+      {"", "", "", "A\tB\t[1,1]"},        {"F", "", "", "A\tF\t[1,2]"},
+      {"", "C D B E", "", "D\tE\t[4,4]"}, {"", "", "2", "D\tE\t[4,4]"},
+      {"F", "F C", "1", "C\tF\t[2,2]"},
+  };
+  const TempFolder folder;
+  for (const Flow flow : {Flow::kNonSexed, Flow::kSexed}) {
+    AllocationSettings settings = flow == Flow::kSexed ? SexedSettings() : NonSexedSettings();
+    settings.project = folder.Path("project");
+    settings.may_replace_other_flow = true;
+    settings.error_model.kind = ErrorKind::kNoError;
+    settings.loci_file = folder.Write("loci", "L1 L2");
+    settings.parents_file =
+        folder.Write("parents", "A" + a + "B" + b + "C" + both + "*\nD" + a + "E" + b);
+    settings.males_file = folder.Write("males", "A" + a + "C" + both + "*\nD" + a);
+    settings.females_file = folder.Write("females", "B" + b + "F" + both + "*\nE" + b);
+    settings.offspring_file = folder.Write("offspring", "Y" + both + "Z" + both);
+    const auto file = [&](const std::string& name, const std::string& words) {
+      return words.empty() ? "" : folder.Write(name, "Z *\nY\t" + words + "\n");
+    };
+    for (const Known& known : flow == Flow::kSexed ? sexed : non_sexed) {
+      settings.known_mother_file = file("mothers", known.mother);
+      settings.candidates_file = file("candidates", known.candidates);
+      settings.offspring_groups_file = file("groups", known.group);
+      RunObserver observer;
+      ASSERT_TRUE(RunAllocation(settings, observer));
+      const std::string report = ReadFile(folder.Path("project/Allocation results.xls"));
+      EXPECT_NE(report.find("\nY\t" + known.line + "\t[0,0]\n"), std::string::npos) << report;
+      EXPECT_NE(report.find(flow == Flow::kSexed ? "\nZ\tA\tB\t[1,1]" : "\nZ\tA\tB\t[1,2]"),
+                std::string::npos)
+          << report;
+    }
+  }
+}
+
 /// The example data sets, run in a folder of their own.
 class ExampleRun : public testing::Test {
  protected:

@@ -208,6 +208,9 @@ TEST_F(CommandLineTest, RerunReproducesTheReports) {
       {"--error", "none"},
       {"--sequence"},
       {"--sequence", "-1,4,4,3", "--error", "nonuniform=0,0.03125,0.9375,0.03125,0"},
+      {"--known-mother", folder_.Write("mothers", "O1 P3"), "--candidates",
+       folder_.Write("candidates", "O1 P3 P1\nO2 *"), "--offspring-groups",
+       folder_.Write("groups", "O2 1")},
   };
   for (const Arguments& choice : choices) {
     const Outcome first = RunCommand(Allocate(choice));

@@ -49,6 +49,11 @@ PARENTAL = ["--collected-parents", "data/parents.txt",
             "--uncollected-sample", "data/parents.txt", "--uncollected", "10.5"]
 PRE_PARENTAL = ["--pseudo-collected-sample", "data/parents.txt", "--pseudo-collected", "30",
                 "--uncollected-sample", "data/parents.txt", "--uncollected", "10"]
+# Other pairs than the most likely ones of all.
+KNOWN = {"mothers.txt": b"Young01 Female01\n", "groups.txt": b"Young03 2\n",
+         "candidates.txt": b"Young02 Male01 Male02 Female01 Female03\n"}
+OF_KNOWN = ["--known-mother", "data/mothers.txt", "--candidates", "data/candidates.txt",
+            "--offspring-groups", "data/groups.txt"]
 STRATEGIES = {
     "choice": [],
     "all": ["--strategy", "all", "--use", "{0},{1},{2},{3}", "--print-subset-statistics"],
@@ -80,6 +85,7 @@ class Clusters(ProgramTest):
     def study(self, flow, name="study"):
         folder = self.folder / name
         shutil.copytree(SOURCE / "examples" / flow, folder / "data")
+        write_files(KNOWN, folder / "data")
         return folder
 
     def launch(self, processes, arguments, program=KALDO_MPI):
@@ -119,9 +125,10 @@ class SameFiles(Clusters):
             for more in ([], ["--sequence", "--error", "uniform=0.02"]):
                 self.compare(flow, ["allocate", "--project", "lake", *files, *more])
         # Threads within processes, and a run repeated from its record.
-        self.compare("sexed", ["allocate", "--project", "lake", *SEXED, "--threads", "3"], [2])
+        known = ["allocate", "--project", "lake", *SEXED, *OF_KNOWN]
+        self.compare("sexed", [*known, "--threads", "3"], [2])
         folder = self.study("sexed")
-        self.run_in(folder, [KALDO, "allocate", "--project", "lake", *SEXED])
+        self.run_in(folder, [KALDO, *known])
         first = files_of(folder)
         shutil.move(folder / "lake" / RUN_RECORD, folder / RUN_RECORD)
         shutil.rmtree(folder / "lake")
