@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/pages/allocation_file_page.h"
 
+#include <QCheckBox>
 #include <QFormLayout>
+#include <algorithm>
 
 #include <fmt/format.h>
 
 #include "app/base/file_field.h"
 #include "app/base/opened_files.h"
+#include "app/base/text.h"
 #include "genotypes/file_summary.h"
 
 namespace kaldo {
@@ -29,6 +32,18 @@ constexpr FieldText kOffspring{
 constexpr FieldText kLoci{
     "Names of &loci file", "LociFile",
     "The names of the loci, in the order in which their fields follow each individual's name."};
+
+constexpr FieldText kSomethingKnown{"Something is &known of single offspring", "SomethingKnown",
+                                    "For a known mother, candidates or a group of each offspring: "
+                                    "only pairs that agree are tried."};
+constexpr FieldText kKnownMothers{
+    "Known mothers file", "KnownMothersFile",
+    "Per line an offspring and its mother; where sexes are not known, one of its parents."};
+constexpr FieldText kCandidates{"Candidates file", "CandidatesFile",
+                                "Per line an offspring and the parents that may be its own."};
+constexpr FieldText kOffspringGroups{
+    "Groups of offspring file", "OffspringGroupsFile",
+    "Per line an offspring and the number of its group of parents: 1, 2 and so on."};
 
 const ScreenEntry& EntryOf(Flow flow) {
   return flow == Flow::kSexed ? kSexedAllocationScreen : kNonSexedAllocationScreen;
@@ -53,6 +68,7 @@ AllocationFilePage::AllocationFilePage(Flow flow, OpenedFiles& opened)
   loci_->SetDescriber(
       [this](const std::string& file) { return DescribeLociFile(file, opened_.Opener()); });
   loci_->SetOnChange([this] { RefreshFiles(); });
+  AddKnowledge(*form);
   tolerance_.emplace(*form);
 }
 
@@ -67,6 +83,26 @@ FileField* AllocationFilePage::AddFile(QFormLayout& form, std::string Allocation
   });
   rows_.push_back({path, field});
   return field;
+}
+
+void AllocationFilePage::AddKnowledge(QFormLayout& form) {
+  something_known_ = new QCheckBox(Text(kSomethingKnown.label), this);
+  Describe(*something_known_, kSomethingKnown);
+  form.addRow(something_known_);
+  for (const auto& [path, text] : {
+           std::pair(&AllocationSettings::known_mother_file, kKnownMothers),
+           std::pair(&AllocationSettings::candidates_file, kCandidates),
+           std::pair(&AllocationSettings::offspring_groups_file, kOffspringGroups),
+       }) {
+    knowledge_.push_back({path, AddFileField(form, text)});
+  }
+  const auto show_rows = [this, &form](bool shown) {
+    for (const Row& row : knowledge_) {
+      form.setRowVisible(row.field, shown);
+    }
+  };
+  show_rows(false);
+  connect(something_known_, &QCheckBox::toggled, this, show_rows);
 }
 
 std::optional<std::size_t> AllocationFilePage::GroupsIn(const FileField& field) const {
@@ -102,6 +138,12 @@ void AllocationFilePage::Set(const AllocationSettings& settings) {
   for (const Row& row : rows_) {
     row.field->SetPath(settings.*row.path);
   }
+  for (const Row& row : knowledge_) {
+    row.field->SetPath(settings.*row.path);
+  }
+  something_known_->setChecked(
+      std::any_of(knowledge_.begin(), knowledge_.end(),
+                  [&](const Row& row) { return !(settings.*row.path).empty(); }));
   tolerance_->Set(settings.tolerance);
 }
 
@@ -109,6 +151,9 @@ void AllocationFilePage::FillIn(AllocationSettings& settings) const {
   settings.loci_file = loci_->Path();
   for (const Row& row : rows_) {
     settings.*row.path = row.field->Path();
+  }
+  for (const Row& row : knowledge_) {
+    settings.*row.path = something_known_->isChecked() ? row.field->Path() : "";
   }
   settings.tolerance = tolerance_->Value();
 }

@@ -8,6 +8,7 @@
 #include "app/flows/flow_window.h"
 #include "app/pages/tolerance_field.h"
 
+class QCheckBox;
 class QFormLayout;
 
 namespace kaldo {
@@ -16,7 +17,7 @@ class FileField;
 class OpenedFiles;
 
 /// The file screen of an allocation: collected parents (or males and females), offspring, names of
-/// loci, and the maximal offset tolerance.
+/// loci, what is known of single offspring, and the maximal offset tolerance.
 class AllocationFilePage : public FlowPage {
  public:
   /// `opened` must live as long as the page.
@@ -34,6 +35,9 @@ class AllocationFilePage : public FlowPage {
   FileField* AddFile(QFormLayout& form, std::string AllocationSettings::*path, bool holds_parents,
                      const FieldText& text);
 
+  /// The files of what is known of single offspring, behind a box to tick: most studies have none.
+  void AddKnowledge(QFormLayout& form);
+
   /// Males of a group are tried with the females of the same group, so both files need as many. A
   /// line that tells when they have not: the flow would end without a word.
   std::string GroupsFault() const;
@@ -49,6 +53,8 @@ class AllocationFilePage : public FlowPage {
 
   OpenedFiles& opened_;
   std::vector<Row> rows_;
+  QCheckBox* something_known_ = nullptr;
+  std::vector<Row> knowledge_;  ///< count while the box is ticked
   FileField* males_ = nullptr;  ///< sexed flow, as the next
   FileField* females_ = nullptr;
   FileField* loci_ = nullptr;

@@ -47,6 +47,15 @@ void AddFiles(const AllocationSettings& settings, Summary& summary) {
   }
   summary.lines.emplace_back(Text("offspring file"), PathText(settings.offspring_file));
   summary.lines.emplace_back(Text("names of loci file"), PathText(settings.loci_file));
+  for (const auto& [label, path] : {
+           std::pair("known mothers file", settings.known_mother_file),
+           std::pair("candidates file", settings.candidates_file),
+           std::pair("groups of offspring file", settings.offspring_groups_file),
+       }) {
+    if (!path.empty()) {
+      summary.lines.emplace_back(Text(label), PathText(path));
+    }
+  }
 }
 
 void AddWarnings(const AllocationRun& run, Summary& summary) {
