@@ -25,7 +25,7 @@ ConfidenceSettings AllocationEvidence::Settings() const {
 
 ConfidenceInput AllocationEvidence::Input(std::span<const ReportedParents> reported) const {
   return {settings_.flow,    input_.table, input_.offspring, input_.groups,
-          input_.catalogues, loci_,        reported};
+          input_.catalogues, loci_,        reported,         input_.allowed};
 }
 
 std::vector<ReportedParents> ReportedBy(Flow flow, const AllocationResult& result) {

@@ -108,7 +108,9 @@ EvidenceTask::EvidenceTask(const ConfidenceSettings& settings, const ConfidenceI
              input.groups,
              CountWays(input.flow, input.groups),
              strangers_,
-             identical_} {
+             identical_,
+             input.allowed,
+             Slot{input.offspring.begin}} {
   // A parent that is undefined at a locus gives what a stranger gives, for two equal alleles.
   for (std::size_t locus = 0; locus < matrices_.size(); ++locus) {
     std::vector<double> row = strangers_[locus];

@@ -100,11 +100,14 @@ ConfidenceResult ComputeConfidence(const ConfidenceSettings& settings, const Con
   for (std::size_t i = 0; i < evidence.size(); ++i) {
     const auto reported =
         input.reported.empty() ? std::nullopt : std::optional<ReportedParents>(input.reported[i]);
+    const Slot slot{input.offspring.begin + static_cast<std::uint32_t>(i)};
+    const WaysOfExplanations ways =
+        CountWays(input.flow, input.groups, task.Study().AllowedFor(slot));
     result.offspring.push_back(settings.relatives
                                    ? Conclude(with_relatives[i].weighed, evidence[i].fixed,
                                               input.flow, settings.level, reported)
-                                   : Posterior(evidence[i], input.flow, result.shares.theta,
-                                               result.ways, settings.level, reported));
+                                   : Posterior(evidence[i], input.flow, result.shares.theta, ways,
+                                               settings.level, reported));
   }
   return result;
 }

@@ -44,6 +44,9 @@ struct ConfidenceInput {
   /// What an allocation says about each offspring, in file order; empty where nothing is asked
   /// about it. The leading process alone needs it.
   std::span<const ReportedParents> reported;
+
+  /// What is known of each offspring, in file order; empty where nothing is known of any.
+  std::span<const AllowedPairs> allowed = {};
 };
 
 /// How sure every offspring of a run is allocated.

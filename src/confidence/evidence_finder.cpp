@@ -51,7 +51,7 @@ void EvidenceFinder::ListWithStranger(std::size_t side, Evidence& evidence) {
 void EvidenceFinder::FindWithStranger(double limit, bool list, Evidence& evidence) {
   for (std::size_t side = 0; side < Sides(); ++side) {
     const Explanation explanation = kOneCollected[side];
-    if (study_.ways[explanation] == 0) {
+    if (own_->Ways()[explanation] == 0) {
       continue;
     }
     with_stranger_.clear();
@@ -70,7 +70,7 @@ void EvidenceFinder::FindWithStranger(double limit, bool list, Evidence& evidenc
         best = {one.parent, one.likelihood};
       }
     }
-    evidence.fixed.mean[explanation] = sum / study_.ways[explanation];
+    evidence.fixed.mean[explanation] = sum / own_->Ways()[explanation];
     if (list) {
       ListWithStranger(side, evidence);
     }
@@ -79,7 +79,7 @@ void EvidenceFinder::FindWithStranger(double limit, bool list, Evidence& evidenc
 
 void EvidenceFinder::FindPairs(double limit, bool list, Evidence& evidence,
                                const RunObserver& observer) {
-  if (study_.ways[Explanation::kBoth] == 0) {
+  if (own_->Ways()[Explanation::kBoth] == 0) {
     return;
   }
   sums_.SumUp(limit, list ? kMostPairsListed : 0, observer);
@@ -87,11 +87,12 @@ void EvidenceFinder::FindPairs(double limit, bool list, Evidence& evidence,
     evidence.most_likely[static_cast<std::size_t>(Explanation::kBoth)].push_back(
         {{one.pair.parent1, one.pair.parent2}, one.likelihood});
   }
-  evidence.fixed.mean[Explanation::kBoth] = sums_.Total() / study_.ways[Explanation::kBoth];
-  for (std::size_t side = 0; side < Sides(); ++side) {
-    for (const ParentSum& one : side == 0 ? sums_.SumsOfFirst() : sums_.SumsOfSecond()) {
-      At(side, one.parent).with_partners = one.sum;
-    }
+  evidence.fixed.mean[Explanation::kBoth] = sums_.Total() / own_->Ways()[Explanation::kBoth];
+  for (const ParentSum& one : sums_.SumsOfFirst()) {
+    At(0, one.parent).with_partners += one.sum;
+  }
+  for (const ParentSum& one : sums_.SumsOfSecond()) {
+    At(Sides() - 1, one.parent).with_partners += one.sum;
   }
   const BestPair best = sums_.FindBest(observer);
   if (best.pairs > 0) {
@@ -105,24 +106,19 @@ void EvidenceFinder::FindPairs(double limit, bool list, Evidence& evidence,
 }
 
 void EvidenceFinder::SetPartnersOfUntyped(const CandidateGroup& group, Evidence& evidence) {
-  for (std::size_t side = 0; side < Sides(); ++side) {
-    const SlotRange own = side == 0 ? group.first : group.second;
-    const SlotRange others = side == 0 ? group.second : group.first;
-    const auto partners =
-        static_cast<double>(others.Size()) - (study_.flow == Flow::kNonSexed ? 1 : 0);
-    for (std::uint32_t slot = own.begin; slot < own.end; ++slot) {
-      At(side, Slot{slot}) = {partners, 1};
+  own_->ForEachPartnered(group, [&](std::size_t side, Slot slot, double partners) {
+    const std::size_t shown = std::min(side, Sides() - 1);
+    const double alone = own_->MayBeAlone(slot) ? 1 : 0;
+    At(shown, slot) = {partners, alone};
+    BestCandidate& best = evidence.fixed.best_with_stranger[shown];
+    if (alone > 0 && !best.slot) {
+      best = {slot, 1};
     }
-    if (own.Size() > 0 && !evidence.fixed.best_with_stranger[side].slot) {
-      evidence.fixed.best_with_stranger[side] = {Slot{own.begin}, 1};
-    }
-  }
-  if (evidence.fixed.best_pair.pairs == 0 && group.first.Size() > 0) {
-    const SlotRange partners = PartnersOf(study_.flow, group, group.first.begin);
-    if (partners.Size() > 0) {
-      const auto pairs = static_cast<std::uint64_t>(study_.ways[Explanation::kBoth]);
-      evidence.fixed.best_pair = {
-          {Slot{group.first.begin}, Slot{partners.begin}}, 1, pairs > 1 ? 1.0 : 0.0, pairs, 1, 1};
+  });
+  if (evidence.fixed.best_pair.pairs == 0) {
+    if (const auto pair = own_->FirstPair(group)) {
+      const auto pairs = static_cast<std::uint64_t>(own_->Ways()[Explanation::kBoth]);
+      evidence.fixed.best_pair = {*pair, 1, pairs > 1 ? 1.0 : 0.0, pairs, 1, 1};
     }
   }
 }
@@ -130,9 +126,9 @@ void EvidenceFinder::SetPartnersOfUntyped(const CandidateGroup& group, Evidence&
 /// Every likelihood is 1: what remains is how many candidates there are.
 void EvidenceFinder::FillUntyped(Evidence& evidence) {
   for (const Explanation k : kAllExplanations) {
-    evidence.fixed.mean[k] = study_.ways[k] > 0 ? 1 : 0;
+    evidence.fixed.mean[k] = own_->Ways()[k] > 0 ? 1 : 0;
   }
-  for (const CandidateGroup& group : study_.groups) {
+  for (const CandidateGroup& group : own_->Groups()) {
     SetPartnersOfUntyped(group, evidence);
   }
 }
@@ -145,9 +141,12 @@ void EvidenceFinder::TakeShortlist(std::size_t side, Evidence& evidence) {
   }
   Shorten(shortlist);
   for (ShortlistedCandidate& candidate : shortlist) {
-    const auto alike = study_.identical[side].Like(candidate.slot);
-    candidate.alike = static_cast<std::uint32_t>(alike.size());
-    for (const Slot slot : alike) {
+    candidate.alike = 0;
+    for (const Slot slot : study_.identical[side].Like(candidate.slot)) {
+      if (!own_->MayStandFor(side, candidate.slot, slot)) {
+        continue;
+      }
+      ++candidate.alike;
       const CandidateEvidence& one = found_[side][slot.Value()].evidence;
       candidate.all_alike.with_partners += one.with_partners;
       candidate.all_alike.with_stranger += one.with_stranger;
@@ -159,7 +158,7 @@ void EvidenceFinder::Answer(const AskedCandidates& asked, bool is_typed, Evidenc
   for (std::size_t i = 0; i < asked.size(); ++i) {
     if (asked[i]) {
       CandidateEvidence answer = found_[Sides() == 2 ? i : 0][asked[i]->Value()].evidence;
-      if (is_typed) {
+      if (is_typed && own_->MayBeAlone(*asked[i])) {
         answer.with_stranger = sums_.LikelihoodWith(stranger_.OfLoci(), *asked[i]);
       }
       evidence.fixed.asked[i] = answer;
@@ -172,18 +171,24 @@ Evidence EvidenceFinder::Find(Slot offspring, const EvidenceWish& wish,
   if (observer.StopRequested()) {
     throw RunStopped();
   }
+  const AllowedPairs& allowed = study_.AllowedFor(offspring);
+  own_.emplace(study_.flow, study_.groups, allowed);
   Evidence evidence;
   evidence.fixed.is_typed = stranger_.GoTo(offspring);
   if (evidence.fixed.is_typed) {
-    const ByExplanation<double> equal = EqualShares(study_.ways);
+    const ByExplanation<double> equal = EqualShares(own_->Ways());
     auto& mean = evidence.fixed.mean;
     auto& used = evidence.fixed.limits;
-    sums_.GoTo(offspring, stranger_.Scales());
-    mean[Explanation::kNone] = stranger_.LikelihoodOfTwo();
+    sums_.GoTo(offspring, stranger_.Scales(), allowed);
+    mean[Explanation::kNone] = own_->Ways()[Explanation::kNone] * stranger_.LikelihoodOfTwo();
     used.candidates =
         wish.limits ? wish.limits->candidates : HalfOf(LimitsFor(equal, mean)).candidates;
     FindWithStranger(used.candidates, wish.list_most_likely, evidence);
     used.pairs = wish.limits ? wish.limits->pairs : HalfOf(LimitsFor(equal, mean)).pairs;
+    if (allowed.known_parent) {
+      used.pairs =
+          0;  // so few pairs that none is left out: without strangers they are all there is
+    }
     FindPairs(used.pairs, wish.list_most_likely, evidence, observer);
   } else {
     FillUntyped(evidence);

@@ -9,6 +9,7 @@
 #include "base/run_observer.h"
 #include "confidence/evidence.h"
 #include "confidence/identical_parents.h"
+#include "confidence/offspring_candidates.h"
 #include "confidence/scaled_stranger.h"
 #include "search/pair_sums.h"
 
@@ -37,6 +38,15 @@ struct EvidenceStudy {
 
   /// By side; in the non-sexed flow only the first is looked at.
   std::span<const IdenticalParents> identical;
+
+  /// What is known of each offspring; empty where nothing is known of any.
+  std::span<const AllowedPairs> allowed = {};
+  Slot first_offspring = {};
+
+  const AllowedPairs& AllowedFor(Slot offspring) const {
+    static const AllowedPairs all;
+    return allowed.empty() ? all : allowed[offspring.Value() - first_offspring.Value()];
+  }
 };
 
 /// Gathers the evidence of one offspring after the other; one object serves one thread. The study
@@ -69,6 +79,7 @@ class EvidenceFinder {
   PairSums sums_;
 
   // Of the current offspring:
+  std::optional<OffspringCandidates> own_;
   ScaledStranger stranger_;
   std::vector<ParentLikelihood> with_stranger_;
   std::array<std::vector<Found>, 2> found_;  ///< by side and slot

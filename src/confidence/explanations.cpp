@@ -4,16 +4,24 @@
 namespace kaldo {
 
 WaysOfExplanations CountWays(Flow flow, std::span<const CandidateGroup> groups) {
+  return CountWays(flow, groups, {});
+}
+
+WaysOfExplanations CountWays(Flow flow, std::span<const CandidateGroup> groups,
+                             const AllowedPairs& allowed) {
+  const GroupsToSum own(flow, groups, allowed);
+  const bool sexed = flow == Flow::kSexed;
+  const bool known = allowed.known_parent.has_value();
   WaysOfExplanations ways;
-  for (const CandidateGroup& group : groups) {
-    const auto first = static_cast<double>(group.first.Size());
-    const auto second = static_cast<double>(group.second.Size());
-    const bool sexed = flow == Flow::kSexed;
-    ways[Explanation::kBoth] += sexed ? first * second : first * (first - 1) / 2;
-    ways[Explanation::kFirst] += first;
+  for (const CandidateGroup& group : own.Groups()) {
+    const auto first = static_cast<double>(allowed.CountIn(group.first));
+    const auto second = static_cast<double>(allowed.CountIn(group.second));
+    const double pairs = sexed ? first * second : first * (second - 1);
+    ways[Explanation::kBoth] += own.SidesAreOne() ? pairs / 2 : pairs;
+    ways[Explanation::kFirst] += sexed && known ? 0 : first;
     ways[Explanation::kSecond] += sexed ? second : 0;
   }
-  ways[Explanation::kNone] = 1;
+  ways[Explanation::kNone] = known ? 0 : 1;
   return ways;
 }
 

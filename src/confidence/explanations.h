@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <span>
 
-#include "method/candidate_groups.h"
+#include "method/allowed_pairs.h"
 
 namespace kaldo {
 
@@ -43,6 +43,11 @@ class ByExplanation {
 using WaysOfExplanations = ByExplanation<double>;
 
 WaysOfExplanations CountWays(Flow flow, std::span<const CandidateGroup> groups);
+
+/// The same for an offspring of which more is known: over the allowed pairs and the candidates in
+/// their groups. A known parent was collected, so that explanations without it are closed.
+WaysOfExplanations CountWays(Flow flow, std::span<const CandidateGroup> groups,
+                             const AllowedPairs& allowed);
 
 /// Equal shares of the explanations that are open.
 ByExplanation<double> EqualShares(const WaysOfExplanations& ways);

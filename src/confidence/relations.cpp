@@ -33,16 +33,21 @@ std::span<const Origins> AllOrigins(Flow flow) {
                               : std::span<const Origins>(kNonSexed);
 }
 
-ByOrigins<double> CountWaysOfOrigins(Flow flow, const WaysOfExplanations& ways) {
+ByOrigins<double> CountWaysOfOrigins(Flow flow, const WaysOfExplanations& ways,
+                                     bool has_known_parent) {
   ByOrigins<double> counts;
   for (const Origins o : AllOrigins(flow)) {
+    const Origin of_known = flow == Flow::kSexed ? o.second : o.first;
+    if (has_known_parent && of_known != kCollected) {
+      continue;
+    }
     if (o.first == kUnknown || o.second == kUnknown) {
       const bool both = o.first == o.second;
       counts[o] =
           both ? 1 : ways[o.second == kUnknown ? Explanation::kFirst : Explanation::kSecond];
     } else {
       // Without sex a candidate and a sib can change places.
-      const bool ordered = flow == Flow::kNonSexed && o.first != o.second;
+      const bool ordered = flow == Flow::kNonSexed && !has_known_parent && o.first != o.second;
       counts[o] = (ordered ? 2 : 1) * ways[Explanation::kBoth];
     }
   }

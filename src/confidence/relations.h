@@ -50,7 +50,8 @@ class ByOrigins {
 std::span<const Origins> AllOrigins(Flow flow);
 
 /// In how many ways each combination can be true, see WaysOfExplanations. Nobody is paired with its
-/// own sib.
-ByOrigins<double> CountWaysOfOrigins(Flow flow, const WaysOfExplanations& ways);
+/// own sib. A known parent, the first one without sex and the second with it, was collected.
+ByOrigins<double> CountWaysOfOrigins(Flow flow, const WaysOfExplanations& ways,
+                                     bool has_known_parent = false);
 
 }  // namespace kaldo

@@ -41,9 +41,7 @@ bool LeavesOutTooMuch(const RelativesEvidence& evidence, Flow flow,
 }
 
 RelativesFinder::RelativesFinder(const EvidenceStudy& study)
-    : study_(study),
-      ways_(CountWaysOfOrigins(study.flow, study.ways)),
-      stranger_(study.search, study.strangers) {
+    : study_(study), stranger_(study.search, study.strangers) {
   sums_.Prepare(study_.search, study_.flow, study_.groups);
   for (std::size_t side = 0; side < Sides(); ++side) {
     likelihoods_[side].resize(study_.search.parents);
@@ -95,7 +93,9 @@ void RelativesFinder::FindPairs(const RelativesWish& wish, RelativesEvidence& ev
     if (!IsPair(o) || ways_[o] == 0 || (two_sibs && !wish.two_sibs)) {
       continue;
     }
-    const double limit = LimitFor(Total(evidence), weights_[o], wish.delta);
+    // Around a known parent pairs are few, and strangers do not count: none is left out.
+    const double limit =
+        own_->HasKnownParent() ? 0 : LimitFor(Total(evidence), weights_[o], wish.delta);
     evidence.limits[o] = limit;
     if (limit == std::numeric_limits<double>::max()) {
       continue;
@@ -107,9 +107,9 @@ void RelativesFinder::FindPairs(const RelativesWish& wish, RelativesEvidence& ev
         AddLikelihood(0, one.parent, o, one.sum);
       }
     }
-    if (o.second == Origin::kCollected && study_.flow == Flow::kSexed) {
+    if (o.second == Origin::kCollected) {
       for (const ParentSum& one : sums_.SumsOfSecond()) {
-        AddLikelihood(1, one.parent, o, one.sum);
+        AddLikelihood(SideOf(1), one.parent, o, one.sum);
       }
     }
   }
@@ -119,53 +119,55 @@ void RelativesFinder::FindPairs(const RelativesWish& wish, RelativesEvidence& ev
 void RelativesFinder::FillUntyped(RelativesEvidence& evidence) {
   for (const Origins o : AllOrigins(study_.flow)) {
     evidence.mean[o] = ways_[o] > 0 ? 1 : 0;
-    for (const CandidateGroup& group : study_.groups) {
-      for (std::size_t side = 0; side < Sides(); ++side) {
+    for (const CandidateGroup& group : own_->Groups()) {
+      own_->ForEachPartnered(group, [&](std::size_t side, Slot slot, double partners) {
         const Origin own = side == 0 ? o.first : o.second;
         const Origin other = side == 0 ? o.second : o.first;
-        const SlotRange slots = side == 0 ? group.first : group.second;
-        const SlotRange partners = side == 0 ? group.second : group.first;
-        const double count =
-            other == Origin::kUnknown
-                ? 1
-                : static_cast<double>(partners.Size()) - (study_.flow == Flow::kNonSexed ? 1 : 0);
-        for (std::uint32_t slot = slots.begin; own == Origin::kCollected && slot < slots.end;
-             ++slot) {
-          AddLikelihood(side, Slot{slot}, o, count);
+        if (own == Origin::kCollected) {
+          AddLikelihood(SideOf(side), slot, o, other == Origin::kUnknown ? 1 : partners);
         }
-      }
+      });
     }
   }
 }
 
-void RelativesFinder::Rank(std::size_t side, double total, RelativesEvidence& evidence) {
-  auto& ranked = evidence.weighed.ranked[side];
-  auto& best_alone = evidence.weighed.best_alone[side];
-  const auto take = [&](std::uint32_t slot) {
-    std::optional<RankedCandidate> placed =
-        RankedCandidate{Slot{slot}, likelihoods_[side][slot] / total, 1, 0};
-    for (auto& place : ranked) {
-      if (placed && (!place || placed->probability > place->probability)) {
-        std::swap(placed, place);  // equals stay in file order
-      }
-    }
-    const double alone = alone_[side][slot] / total;
-    if (!best_alone || alone > best_alone->probability) {
-      best_alone = {Slot{slot}, alone};
-    }
+/// Puts a candidate among the most probable ones.
+void RelativesFinder::Take(std::size_t side, Slot slot, double total,
+                           RelativesEvidence& evidence) const {
+  std::optional<RankedCandidate> placed =
+      RankedCandidate{slot, likelihoods_[side][slot.Value()] / total, 1, 0};
+  const auto is_before = [](const RankedCandidate& a, const std::optional<RankedCandidate>& b) {
+    return !b || a.probability > b->probability ||
+           (a.probability == b->probability && a.slot < b->slot);
   };
-  for (const CandidateGroup& group : study_.groups) {
-    const SlotRange slots = side == 0 ? group.first : group.second;
-    for (std::uint32_t slot = slots.begin; slot < slots.end; ++slot) {
-      take(slot);
+  for (auto& place : evidence.weighed.ranked[side]) {
+    if (placed && is_before(*placed, place)) {
+      std::swap(placed, place);
     }
   }
-  for (auto& candidate : ranked) {
+  auto& best_alone = evidence.weighed.best_alone[side];
+  const double alone = alone_[side][slot.Value()] / total;
+  if (own_->MayBeAlone(slot) && (!best_alone || alone > best_alone->probability)) {
+    best_alone = {slot, alone};
+  }
+}
+
+void RelativesFinder::Rank(std::size_t side, double total, RelativesEvidence& evidence) {
+  for (const CandidateGroup& group : own_->Groups()) {
+    own_->ForEachPartnered(group, [&](std::size_t on, Slot slot, double /*partners*/) {
+      if (SideOf(on) == side) {
+        Take(side, slot, total, evidence);
+      }
+    });
+  }
+  for (auto& candidate : evidence.weighed.ranked[side]) {
     if (candidate) {
-      const auto alike = study_.identical[side].Like(candidate->slot);
-      candidate->alike = static_cast<std::uint32_t>(alike.size());
-      for (const Slot slot : alike) {
-        candidate->p_all_alike += likelihoods_[side][slot.Value()] / total;
+      candidate->alike = 0;
+      for (const Slot slot : study_.identical[side].Like(candidate->slot)) {
+        if (own_->MayStandFor(side, candidate->slot, slot)) {
+          ++candidate->alike;
+          candidate->p_all_alike += likelihoods_[side][slot.Value()] / total;
+        }
       }
     }
   }
@@ -197,6 +199,9 @@ RelativesEvidence RelativesFinder::Find(Slot offspring, const RelativesWish& wis
   if (observer.StopRequested()) {
     throw RunStopped();
   }
+  const AllowedPairs& allowed = study_.AllowedFor(offspring);
+  own_.emplace(study_.flow, study_.groups, allowed);
+  ways_ = CountWaysOfOrigins(study_.flow, own_->Ways(), own_->HasKnownParent());
   weights_ = Weights(wish.shares, study_.flow, study_.ways);
   for (const Origins o : AllOrigins(study_.flow)) {
     per_way_[o] = ways_[o] > 0 ? weights_[o] / ways_[o] : 0;
@@ -208,7 +213,7 @@ RelativesEvidence RelativesFinder::Find(Slot offspring, const RelativesWish& wis
   RelativesEvidence evidence;
   evidence.is_typed = stranger_.GoTo(offspring);
   if (evidence.is_typed) {
-    sums_.GoTo(offspring, stranger_.Scales());
+    sums_.GoTo(offspring, stranger_.Scales(), allowed);
     sums_.AddSibs(stranger_.OfLoci());
     FindSingles(evidence);
     FindPairs(wish, evidence, observer);

@@ -49,16 +49,18 @@ class RelativesFinder {
   void FillUntyped(RelativesEvidence& evidence);
   void AddLikelihood(std::size_t side, Slot slot, Origins origins, double sum);
   void Conclude(const AskedCandidates& asked, RelativesEvidence& evidence);
+  void Take(std::size_t side, Slot slot, double total, RelativesEvidence& evidence) const;
   void Rank(std::size_t side, double total, RelativesEvidence& evidence);
   double Total(const RelativesEvidence& evidence) const;
   std::size_t SideOf(std::size_t side) const { return study_.flow == Flow::kSexed ? side : 0; }
   std::size_t Sides() const { return study_.flow == Flow::kSexed ? 2 : 1; }
 
   EvidenceStudy study_;
-  ByOrigins<double> ways_;
   PairSums sums_;
 
   // Of the current offspring:
+  std::optional<OffspringCandidates> own_;
+  ByOrigins<double> ways_;
   ScaledStranger stranger_;
   ByOrigins<double> weights_;
   ByOrigins<double> per_way_;

@@ -21,13 +21,16 @@ std::array<CandidateGroup, 2> AroundKnown(Flow flow, const CandidateGroup& group
   return {{{{group.first.begin, alone.begin}, alone}, {alone, {alone.end, group.first.end}}}};
 }
 
-bool HasPair(Flow pairing, const CandidateGroup& group, const std::vector<Slot>& candidates) {
-  const auto before = [&candidates](std::uint32_t slot) {
-    return std::lower_bound(candidates.begin(), candidates.end(), Slot{slot}) - candidates.begin();
-  };
-  const auto count = [&before](SlotRange range) { return before(range.end) - before(range.begin); };
-  return pairing == Flow::kSexed ? count(group.first) > 0 && count(group.second) > 0
-                                 : count(group.first) > 1;
+std::span<const CandidateGroup> GroupsFor(std::span<const CandidateGroup> groups,
+                                          const AllowedPairs& allowed) {
+  return allowed.group ? groups.subspan(*allowed.group, 1) : groups;
+}
+
+/// The group of a known parent; one without anybody where it stands in none of these.
+CandidateGroup GroupOf(std::span<const CandidateGroup> groups, Slot known) {
+  const auto group = std::find_if(groups.begin(), groups.end(),
+                                  [known](const auto& each) { return Holds(each.second, known); });
+  return group == groups.end() ? CandidateGroup{} : *group;
 }
 
 }  // namespace
@@ -36,18 +39,42 @@ bool AllowedPairs::IsCandidate(Slot parent) const {
   return !candidates || std::binary_search(candidates->begin(), candidates->end(), parent);
 }
 
+std::size_t AllowedPairs::CountIn(SlotRange parents) const {
+  if (!candidates) {
+    return parents.Size();
+  }
+  const auto before = [this](std::uint32_t slot) {
+    return std::lower_bound(candidates->begin(), candidates->end(), Slot{slot});
+  };
+  return static_cast<std::size_t>(before(parents.end) - before(parents.begin));
+}
+
 OffspringGroups::OffspringGroups(Flow flow, std::span<const CandidateGroup> groups,
                                  const AllowedPairs& allowed)
-    : groups_(allowed.group ? groups.subspan(*allowed.group, 1) : groups),
+    : groups_(GroupsFor(groups, allowed)),
       pairing_(allowed.known_parent ? Flow::kSexed : flow),
       known_parent_(allowed.known_parent.has_value()) {
   if (known_parent_) {
     const Slot known = *allowed.known_parent;
-    const auto group = std::find_if(groups_.begin(), groups_.end(), [known](const auto& each) {
-      return Holds(each.second, known);
-    });
-    if (group != groups_.end()) {
-      around_known_ = AroundKnown(flow, *group, known);
+    const CandidateGroup group = GroupOf(groups_, known);
+    if (group.second.Size() > 0) {
+      around_known_ = AroundKnown(flow, group, known);
+    }
+  }
+}
+
+GroupsToSum::GroupsToSum(Flow flow, std::span<const CandidateGroup> groups,
+                         const AllowedPairs& allowed)
+    : flow_(flow),
+      groups_(GroupsFor(groups, allowed)),
+      known_parent_(allowed.known_parent.has_value()) {
+  if (known_parent_) {
+    const Slot known = *allowed.known_parent;
+    const CandidateGroup group = GroupOf(groups_, known);
+    if (group.second.Size() > 0 && allowed.IsCandidate(known)) {
+      const SlotRange alone{known.Value(), known.Value() + 1};
+      around_known_ = flow == Flow::kSexed ? CandidateGroup{group.first, alone}
+                                           : CandidateGroup{alone, group.first};
     }
   }
 }
@@ -55,11 +82,9 @@ OffspringGroups::OffspringGroups(Flow flow, std::span<const CandidateGroup> grou
 bool HasPair(Flow flow, std::span<const CandidateGroup> groups, const AllowedPairs& allowed) {
   const OffspringGroups own(flow, groups, allowed);
   return std::any_of(own.Groups().begin(), own.Groups().end(), [&](const CandidateGroup& group) {
-    if (allowed.candidates) {
-      return HasPair(own.Pairing(), group, *allowed.candidates);
-    }
-    return own.Pairing() == Flow::kSexed ? group.first.Size() > 0 && group.second.Size() > 0
-                                         : group.first.Size() > 1;
+    const std::size_t first = allowed.CountIn(group.first);
+    return own.Pairing() == Flow::kSexed ? first > 0 && allowed.CountIn(group.second) > 0
+                                         : first > 1;
   });
 }
 

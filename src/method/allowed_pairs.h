@@ -24,6 +24,9 @@ struct AllowedPairs {
   /// Whether `parent` is among the candidates.
   bool IsCandidate(Slot parent) const;
 
+  /// How many of these parents are.
+  std::size_t CountIn(SlotRange parents) const;
+
   friend bool operator==(const AllowedPairs&, const AllowedPairs&) = default;
 };
 
@@ -46,6 +49,27 @@ class OffspringGroups {
   Flow pairing_;
   bool known_parent_;
   std::array<CandidateGroup, 2> around_known_{};
+};
+
+/// The same for sums over pairs, whose order does not matter. Without sex the parents of a group
+/// are on both sides, or a known one on the first and its whole group on the second; nobody is its
+/// own partner.
+class GroupsToSum {
+ public:
+  GroupsToSum(Flow flow, std::span<const CandidateGroup> groups, const AllowedPairs& allowed);
+
+  std::span<const CandidateGroup> Groups() const {
+    return known_parent_ ? std::span(&around_known_, 1) : groups_;
+  }
+
+  /// Whether both sides hold the same parents, of which every pair comes once.
+  bool SidesAreOne() const { return flow_ == Flow::kNonSexed && !known_parent_; }
+
+ private:
+  Flow flow_;
+  std::span<const CandidateGroup> groups_;
+  bool known_parent_;
+  CandidateGroup around_known_;
 };
 
 /// Whether some pair is allowed.

@@ -55,7 +55,7 @@ void PairSums::Prepare(const SearchStudy& study, Flow flow,
   groups_ = groups;
   bounds_.Prepare(study);
   const std::size_t blocks = (study.parents + kBlock - 1) / kBlock;
-  everybody_.assign(blocks, ~std::uint64_t{0});
+  candidates_.resize(blocks);
   for (ClassScores& scored : scored_) {
     scored.costs.resize(blocks * kBlock);
   }
@@ -63,14 +63,26 @@ void PairSums::Prepare(const SearchStudy& study, Flow flow,
   place_of_partner_.resize(study.parents);
 }
 
-void PairSums::GoTo(Slot offspring, std::span<const double> scales) {
+void PairSums::MarkCandidates(const AllowedPairs& allowed) {
+  std::fill(candidates_.begin(), candidates_.end(),
+            allowed.candidates ? std::uint64_t{0} : ~std::uint64_t{0});
+  if (allowed.candidates) {
+    for (const Slot slot : *allowed.candidates) {
+      candidates_[slot.Value() / kBlock] |= std::uint64_t{1} << slot.Value() % kBlock;
+    }
+  }
+}
+
+void PairSums::GoTo(Slot offspring, std::span<const double> scales, const AllowedPairs& allowed) {
+  own_.emplace(flow_, groups_, allowed);
+  MarkCandidates(allowed);
   typed_.clear();
   for (std::uint32_t k = 0; k < study_->loci.size(); ++k) {
     if (!study_->Genotypes(k)[offspring.Value()].IsMissing()) {
       typed_.push_back(k);
     }
   }
-  bounds_.Collect(offspring, typed_, everybody_);
+  bounds_.Collect(offspring, typed_, candidates_);
   ClassScores& own = scored_[0];
   bounds_.AddUpCosts(kNobody, own.costs, minima_);
   own.log_largest = bounds_.LogLargestOfOne();
@@ -133,6 +145,11 @@ void PairSums::AddUpCostsOfSibs() {
       sibs.costs[slot] = static_cast<std::uint16_t>(sibs.costs[slot] + costs[classes[slot]]);
     }
   }
+  for (std::size_t slot = 0; slot < sibs.costs.size(); ++slot) {
+    if (scored_[0].costs[slot] == kNobody) {
+      sibs.costs[slot] = kNobody;
+    }
+  }
 }
 
 std::int32_t PairSums::CostLimit(double limit) const {
@@ -147,7 +164,7 @@ std::int32_t PairSums::CostLimit(double limit) const {
 
 std::int32_t PairSums::SmallestCostOfAnyPair() const {
   std::int32_t smallest = kNoLimit;
-  for (const CandidateGroup& group : groups_) {
+  for (const CandidateGroup& group : own_->Groups()) {
     if (group.first.Size() > 0 && group.second.Size() > 0) {
       smallest = std::min(
           smallest, scored_[0].SmallestCost(group.first) + scored_[0].SmallestCost(group.second));
@@ -167,7 +184,7 @@ bool PairSums::Arrange(const CandidateGroup& group) {
   if (!SharesList()) {
     sides_[1].Rank(group.second, second, cost_limit_ - first.SmallestCost(group.first), bounds_);
   }
-  if (MayMeetOwnSib()) {
+  if (MayMeetItself()) {
     std::fill(place_of_partner_.begin(), place_of_partner_.end(), kNowhere);
     for (std::uint32_t i = 0; i < sides_[1].Count(); ++i) {
       place_of_partner_[sides_[1].SlotAt(i).Value()] = i;
@@ -176,8 +193,8 @@ bool PairSums::Arrange(const CandidateGroup& group) {
   return sides_[0].Count() > 0 && Partners().Count() > 0;
 }
 
-/// Nobody is paired with its own sib.
-void PairSums::LeaveOutOwnSib(std::size_t first_parent, std::size_t begin,
+/// Nobody is paired with itself or its own sib.
+void PairSums::LeaveOutItself(std::size_t first_parent, std::size_t begin,
                               std::span<double> likelihoods) const {
   const std::uint32_t place = place_of_partner_[sides_[0].SlotAt(first_parent).Value()];
   if (place != kNowhere && place >= begin && place - begin < likelihoods.size()) {
@@ -207,8 +224,8 @@ void PairSums::WalkGroup(const RunObserver& observer, const TakeRow& take_row) {
       const auto count = static_cast<std::size_t>(std::upper_bound(from, to, left) - from);
       const auto row = std::span(likelihoods).first(count);
       first.Multiply(parent, partners, begin, row);
-      if (MayMeetOwnSib()) {
-        LeaveOutOwnSib(parent, begin, row);
+      if (MayMeetItself()) {
+        LeaveOutItself(parent, begin, row);
       }
       take_row(parent, begin, row);
       begin += count;
@@ -218,7 +235,7 @@ void PairSums::WalkGroup(const RunObserver& observer, const TakeRow& take_row) {
 
 template <typename TakeRow>
 void PairSums::Walk(const RunObserver& observer, const TakeRow& take_row) {
-  for (const CandidateGroup& group : groups_) {
+  for (const CandidateGroup& group : own_->Groups()) {
     if (Arrange(group)) {
       WalkGroup(observer, take_row);
     }
@@ -269,6 +286,9 @@ void PairSums::ListRow(std::size_t first_parent, std::size_t begin,
     return a.likelihood > b.likelihood;
   };
   for (std::size_t i = 0; i < likelihoods.size(); ++i) {
+    if (likelihoods[i] == 0) {
+      continue;
+    }
     if (most_likely_.size() == most) {
       if (likelihoods[i] <= most_likely_.front().likelihood) {
         continue;
@@ -302,7 +322,7 @@ void PairSums::Begin(Kin first, Kin second, double limit) {
 
 void PairSums::SumUp(Kin first, Kin second, double limit, const RunObserver& observer) {
   Begin(first, second, limit);
-  for (const CandidateGroup& group : groups_) {
+  for (const CandidateGroup& group : own_->Groups()) {
     if (Arrange(group)) {
       WalkGroup(observer,
                 [this](std::size_t parent, std::size_t begin, std::span<const double> likelihoods) {
@@ -318,7 +338,7 @@ void PairSums::SumUp(double limit, std::size_t most_listed, const RunObserver& o
   most_likely_.clear();
   best_ = {};
   limit_ = limit;
-  for (const CandidateGroup& group : groups_) {
+  for (const CandidateGroup& group : own_->Groups()) {
     if (Arrange(group)) {
       WalkGroup(observer, [this, most_listed](std::size_t parent, std::size_t begin,
                                               std::span<const double> likelihoods) {
@@ -375,7 +395,7 @@ void PairSums::PairWith(std::span<const Scores> partner, bool second_parents, Ki
   }
   const double most =
       limit == 0 ? kNoLimit : kCostsPerNat * (log_largest - std::log(limit)) + kLimitMargin;
-  for (const CandidateGroup& group : groups_) {
+  for (const CandidateGroup& group : own_->Groups()) {
     const SlotRange range = second_parents ? group.second : group.first;
     for (std::uint32_t slot = range.begin; slot < range.end; ++slot) {
       if (scored.costs[slot] <= most) {

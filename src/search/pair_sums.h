@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "base/run_observer.h"
-#include "method/candidate_groups.h"
+#include "method/allowed_pairs.h"
 #include "search/offspring_bounds.h"
 #include "search/ranked_parents.h"
 
@@ -66,8 +66,9 @@ class PairSums {
 
   /// Goes over to an offspring that is typed at one locus or more. All scores of the k-th locus of
   /// the run are multiplied by scales[k], a power of two: likelihoods by the squares of all at
-  /// which the offspring is typed.
-  void GoTo(Slot offspring, std::span<const double> scales);
+  /// which the offspring is typed. Everything is then about the allowed pairs and the parents in
+  /// them.
+  void GoTo(Slot offspring, std::span<const double> scales, const AllowedPairs& allowed = {});
 
   /// All pairs that may have a scaled likelihood of `limit` or more, which is above 0, and some
   /// below it. Keeps the `most_listed` most likely of them. Throws RunStopped when the observer
@@ -90,7 +91,7 @@ class PairSums {
 
   /// The sums of the parents in them, in no particular order: first parents or second ones. In the
   /// non-sexed flow every parent is a first one, whatever its place in the pair, unless a candidate
-  /// is paired with a sib.
+  /// is paired with a sib; a known parent is the only first one.
   std::span<const ParentSum> SumsOfFirst() const { return sums_[0]; }
   std::span<const ParentSum> SumsOfSecond() const { return sums_[1]; }
 
@@ -111,6 +112,7 @@ class PairSums {
   double LikelihoodWith(std::span<const Scores> partner, Slot parent) const;
 
  private:
+  void MarkCandidates(const AllowedPairs& allowed);
   void ScoreClasses(std::size_t k, const LocusGenotype& offspring, double scale);
   void AddUpCostsOfSibs();
   const ClassScores& Scored(Kin kin) const { return scored_[static_cast<std::size_t>(kin)]; }
@@ -122,7 +124,7 @@ class PairSums {
   void Walk(const RunObserver& observer, const TakeRow& take_row);
   template <typename TakeRow>
   void WalkGroup(const RunObserver& observer, const TakeRow& take_row);
-  void LeaveOutOwnSib(std::size_t first_parent, std::size_t begin,
+  void LeaveOutItself(std::size_t first_parent, std::size_t begin,
                       std::span<double> likelihoods) const;
   void Begin(Kin first, Kin second, double limit);
   void AddRow(std::size_t first_parent, std::size_t begin, std::span<const double> likelihoods);
@@ -133,8 +135,8 @@ class PairSums {
   ParentPair PairAt(std::size_t first_parent, std::size_t partner) const;
 
   /// Whether both parents of a pair come from one list, each pair once.
-  bool SharesList() const { return flow_ == Flow::kNonSexed && kin_[0] == kin_[1]; }
-  bool MayMeetOwnSib() const { return flow_ == Flow::kNonSexed && kin_[0] != kin_[1]; }
+  bool SharesList() const { return own_->SidesAreOne() && kin_[0] == kin_[1]; }
+  bool MayMeetItself() const { return flow_ == Flow::kNonSexed && !SharesList(); }
   const RankedParents& Partners() const { return sides_[SharesList() ? 0 : 1]; }
   RankedParents& Partners() { return sides_[SharesList() ? 0 : 1]; }
 
@@ -142,9 +144,10 @@ class PairSums {
   Flow flow_ = Flow::kNonSexed;
   std::span<const CandidateGroup> groups_;
   OffspringBounds bounds_;
-  std::vector<std::uint64_t> everybody_;  ///< bit by slot
 
   // Of the current offspring:
+  std::optional<GroupsToSum> own_;
+  std::vector<std::uint64_t> candidates_;  ///< bit by slot
   std::vector<std::uint32_t> typed_;
   std::vector<std::uint16_t> minima_;  ///< of costs, by block of slots
   std::array<ClassScores, 2> scored_;  ///< by Kin

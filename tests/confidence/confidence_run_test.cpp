@@ -11,12 +11,15 @@
 #include "tests/confidence/plain_confidence.h"
 #include "tests/confidence/plain_relatives.h"
 #include "tests/confidence/study_runs.h"
+#include "tests/support/random_allowed_pairs.h"
 
 namespace kaldo {
 namespace {
 
 using test::Assignments;
 using test::Compute;
+using test::Coverage;
+using test::DrawAllowed;
 using test::InputOf;
 using test::KnownParents;
 using test::NoError;
@@ -29,9 +32,6 @@ using test::Uniform;
 
 // Pairs and candidates left out have less than this share of the evidence of each offspring.
 constexpr double kTolerance = 1e-6;
-
-/// What the comparison met.
-using Coverage = std::map<std::string, int>;
 
 /// Compares one offspring with the plain sums.
 class Comparison {
@@ -172,8 +172,10 @@ void CompareWithRelatives(const ConfidenceInput& input, const ErrorModel& model,
   coverage["relatives"] += 1;
 }
 
-void CompareStudy(const RandomStudy& study, const ErrorModel& model, Coverage& coverage) {
-  const ConfidenceInput input = InputOf(study);
+void CompareStudy(const RandomStudy& study, const ErrorModel& model, Coverage& coverage,
+                  std::span<const AllowedPairs> allowed = {}) {
+  ConfidenceInput input = InputOf(study);
+  input.allowed = allowed;
   const PlainConfidence plain(model, input);
   const ConfidenceResult result = Compute(model, input);
   ASSERT_EQ(result.offspring.size(), input.offspring.Size());
@@ -217,6 +219,34 @@ TEST(Confidence, IsThePlainSumOverAllPairs) {
     EXPECT_GE(coverage[what], 10) << what;
   }
   EXPECT_GT(coverage["gathered again"], 0);
+}
+
+/// With something known of most offspring.
+TEST(Confidence, IsThePlainSumOverTheAllowedPairs) {
+  const std::vector<ErrorModel> models = {NoError(), Uniform(0.01), ErrorModel{}};
+  RandomStudyMaker maker(12);
+  Coverage coverage;
+  for (std::size_t round = 0; round < 300 && !HasFailure(); ++round) {
+    SCOPED_TRACE(round);
+    const ErrorModel& model = models[round % models.size()];
+    const StudyShape shape = round % 30 == 0 ? StudyShape{70, 12, 9, 20, true, true}
+                                             : StudyShape{12, 4, 4, 8, true, round % 2 == 0};
+    const RandomStudy study = maker.Make(model, shape);
+    std::vector<AllowedPairs> allowed(study.table.NumberOfIndividuals() - study.parents);
+    for (AllowedPairs& one : allowed) {
+      const AllowedPairs drawn = DrawAllowed(study, maker, coverage);
+      if (HasPair(study.flow, study.groups, drawn)) {
+        one = drawn;
+        ++coverage[drawn.known_parent ? "with a known parent" : "without a known parent"];
+      }
+    }
+    CompareStudy(study, model, coverage, allowed);
+  }
+  for (const char* const what :
+       {"named", "open", "alike", "nothing typed", "several groups", "sexed", "non-sexed", "group",
+        "with a known parent", "without a known parent", "relatives"}) {
+    EXPECT_GE(coverage[what], 10) << what;
+  }
 }
 
 /// A father 100/100 200/202, a mother 102/102 200/200 and their offspring 100/102 200/200 under a

@@ -79,6 +79,25 @@ class PlainConfidence {
     return product;
   }
 
+  /// Whether what is known of an offspring agrees with parents of a group, or with their sibs; of
+  /// the parents those that were collected are given again.
+  static bool IsAllowed(const ConfidenceInput& input, Slot offspring,
+                        std::optional<std::size_t> group,
+                        const std::array<std::optional<Slot>, 2>& parents,
+                        const std::array<std::optional<Slot>, 2>& collected) {
+    if (input.allowed.empty()) {
+      return true;
+    }
+    const AllowedPairs& allowed = input.allowed[offspring.Value() - input.offspring.begin];
+    const auto is_candidate = [&](std::optional<Slot> parent) {
+      return !parent || !allowed.candidates ||
+             std::count(allowed.candidates->begin(), allowed.candidates->end(), *parent) > 0;
+    };
+    const auto& known = allowed.known_parent;
+    return (!allowed.group || !group || *allowed.group == *group) && is_candidate(parents[0]) &&
+           is_candidate(parents[1]) && (!known || collected[0] == known || collected[1] == known);
+  }
+
   bool IsTyped(std::size_t offspring) const {
     return std::any_of(input_.loci.begin(), input_.loci.end(), [&](LocusIndex locus) {
       return !input_.table.Genotype(locus, SlotAt(offspring)).IsMissing();
@@ -263,7 +282,18 @@ class PlainConfidence {
     const auto stranger = AllScores(offspring, std::nullopt);
     const bool sexed = input_.flow == Flow::kSexed;
     std::vector<Way> ways = {{Explanation::kNone, {}, Likelihood(stranger, stranger)}};
-    for (const CandidateGroup& group : input_.groups) {
+    const auto leave_out = [&](std::optional<std::size_t> group, std::size_t from) {
+      const auto is_out = [&](const Way& way) {
+        return !IsAllowed(input_, offspring, group, way.parents, way.parents);
+      };
+      ways.erase(
+          std::remove_if(ways.begin() + static_cast<std::ptrdiff_t>(from), ways.end(), is_out),
+          ways.end());
+    };
+    leave_out({}, 0);
+    for (std::size_t g = 0; g < input_.groups.size(); ++g) {
+      const CandidateGroup& group = input_.groups[g];
+      const std::size_t before = ways.size();
       for (Slot i{group.first.begin}; i < Slot{group.first.end}; ++i) {
         ways.push_back({Explanation::kFirst, {i, {}}, Likelihood(scores[i], stranger)});
         const auto from = sexed ? Slot{group.second.begin} : Slot{i.Value() + 1};
@@ -274,15 +304,30 @@ class PlainConfidence {
       for (Slot j{group.second.begin}; sexed && j < Slot{group.second.end}; ++j) {
         ways.push_back({Explanation::kSecond, {std::nullopt, j}, Likelihood(stranger, scores[j])});
       }
+      leave_out(g, before);
     }
     return ways;
+  }
+
+  /// Whether an explanation is open to an offspring of which nothing is known.
+  bool IsOpen(Explanation k) const {
+    const bool sexed = input_.flow == Flow::kSexed;
+    return k == Explanation::kNone ||
+           std::any_of(
+               input_.groups.begin(), input_.groups.end(), [&](const CandidateGroup& group) {
+                 const std::size_t first = group.first.Size();
+                 const std::size_t second = sexed ? group.second.Size() : 0;
+                 const bool both = sexed ? first > 0 && second > 0 : first > 1;
+                 return k == Explanation::kBoth ? both
+                                                : (k == Explanation::kFirst ? first : second) > 0;
+               });
   }
 
   void EstimateShares() {
     Number open = 0;
     std::array<Number, 4> theta0{};
     for (std::size_t k = 0; k < 4; ++k) {
-      theta0[k] = Count(0, kAllExplanations[k]) > 0 ? 1 : 0;
+      theta0[k] = IsOpen(kAllExplanations[k]) ? 1 : 0;
       open += theta0[k];
     }
     for (Number& share : theta0) {

@@ -85,7 +85,15 @@ class PlainRelatives {
     };
     std::vector<Way> ways;
     const Scores stranger = ScoresOf(offspring, kUnknown, {});
+    std::optional<std::size_t> group_number;
     const auto add = [&](const Parent& a, const Parent& b) {
+      const auto collected = [](const Parent& parent) {
+        return parent.origin == kCollected ? parent.slot : std::nullopt;
+      };
+      if (!PlainConfidence::IsAllowed(input_, offspring, group_number, {a.slot, b.slot},
+                                      {collected(a), collected(b)})) {
+        return;
+      }
       ways.push_back({{a.origin, b.origin},
                       {a.slot, b.slot},
                       PlainConfidence::Likelihood(a.scores, b.scores)});
@@ -93,6 +101,7 @@ class PlainRelatives {
     const Parent unknown = {kUnknown, {}, stranger};
     add(unknown, unknown);
     for (const CandidateGroup& group : input_.groups) {
+      group_number = group_number ? *group_number + 1 : 0;
       std::array<std::vector<Parent>, 2> sides;
       for (std::size_t side = 0; side < 2; ++side) {
         const SlotRange slots = side == 0 ? group.first : group.second;

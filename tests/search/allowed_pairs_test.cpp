@@ -4,52 +4,22 @@
 #include "method/allowed_pairs.h"
 
 #include <algorithm>
-#include <map>
 
 #include <gtest/gtest.h>
 
 #include "search/pair_searcher.h"
-#include "tests/support/random_study.h"
+#include "tests/support/random_allowed_pairs.h"
 
 namespace kaldo {
 namespace {
 
+using test::Coverage;
+using test::DrawAllowed;
 using test::RandomStudy;
 using test::RandomStudyMaker;
 
-using Coverage = std::map<std::string, int>;
-
 bool Holds(SlotRange range, Slot slot) {
   return range.begin <= slot.Value() && slot.Value() < range.end;
-}
-
-Slot DrawParent(const RandomStudy& study, RandomStudyMaker& random) {
-  const bool sexed = study.flow == Flow::kSexed && study.males < study.parents;
-  return Slot{random.Draw(sexed ? study.males : 0, study.parents - 1)};
-}
-
-AllowedPairs DrawAllowed(const RandomStudy& study, RandomStudyMaker& random, Coverage& coverage) {
-  AllowedPairs allowed;
-  if (random.Draw(0, 2) == 0) {
-    allowed.group = random.Draw(0, static_cast<std::uint32_t>(study.groups.size()) - 1);
-    ++coverage["group"];
-  }
-  if (random.Draw(0, 3) == 0) {
-    allowed.known_parent = DrawParent(study, random);
-    ++coverage["known parent"];
-  }
-  if (random.Draw(0, 3) != 0) {
-    allowed.candidates.emplace();
-    // From a few parents to all but a few.
-    const std::uint32_t percent = random.Draw(1, 99);
-    for (std::uint32_t slot = 0; slot < study.parents; ++slot) {
-      if (random.Draw(1, 100) <= percent) {
-        allowed.candidates->emplace_back(slot);
-      }
-    }
-    ++coverage[allowed.known_parent ? "candidates with a known parent" : "candidates"];
-  }
-  return allowed;
 }
 
 bool IsAllowed(const AllowedPairs& allowed, std::size_t group, ParentPair pair) {
