@@ -68,11 +68,26 @@ TEST_F(RecordsTest, AnAllocation) {
 }
 
 TEST_F(RecordsTest, ASexedSequence) {
+  folder_.Write("data/mothers.txt", "O1 females3\n");
+  folder_.Write("data/groups.txt", "O2 1\n");
   ExpectRepeated(
       "kaldo allocate --project p --loci data/loci.txt --offspring data/offspring.txt --males "
-      "data/males.txt --females data/females.txt --tolerance 0 --error "
+      "data/males.txt --females data/females.txt --known-mother data/mothers.txt "
+      "--offspring-groups "
+      "data/groups.txt --tolerance 0 --error "
       "nonuniform=0.03125,0,0.96875,0,0 --use B,C,D --sequence 4,3,2,1",
       {"SexedAllocationFiles", "ErrorModel", "ChoiceOfLoci", "CumulativeSequence"});
+}
+
+TEST_F(RecordsTest, WhatIsKnownOfOffspringCountsWhileItsBoxIsTicked) {
+  folder_.Write("data/mothers.txt", "O1 nobody\n");
+  test::OpenFlow(script_, "ALLOCATIONNON-SEXED");
+  test::TypeAllocationFiles(script_, Flow::kNonSexed, Text("data"));
+  script_.Click("SomethingKnown").Type("KnownMothersFile", Text("data/mothers.txt"));
+  script_.Click("Ok").Answer().Click("SomethingKnown").Click("Ok").Await("ErrorModel");
+  script_.Press(Qt::Key_Escape);
+  Go(script_);
+  ExpectTold(script_, {"There is no individual of that name!"});
 }
 
 TEST_F(RecordsTest, ASimulationOfMinimalSubsets) {
