@@ -115,7 +115,7 @@ std::optional<std::string> HolderOfLock(const std::string& path) {
   }
   // Held for an instant where nobody else does, and shared with others who only ask.
   const bool is_held = ::flock(file, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-  const auto holder = is_held ? std::optional(TextIn(file)) : std::nullopt;
+  auto holder = is_held ? std::optional(TextIn(file)) : std::nullopt;
   Close(file);
   return holder;
 }

@@ -31,7 +31,7 @@ std::string BashValues(const CompletedOption& option) {
     case CompletedValue::kFolder:
       return "_kaldo_files -d";
     default:
-      return fmt::format("COMPREPLY=($(compgen -W \"{}\" -- \"$word\"))",
+      return fmt::format(R"(COMPREPLY=($(compgen -W "{}" -- "$word")))",
                          fmt::join(option.choices, " "));
   }
 }
@@ -230,6 +230,7 @@ constexpr std::array<Shell, 3> kShells{
 
 std::vector<std::string_view> CompletedShells() {
   std::vector<std::string_view> names;
+  names.reserve(kShells.size());
   for (const Shell& shell : kShells) {
     names.push_back(shell.name);
   }

@@ -77,8 +77,9 @@ constexpr std::array<std::pair<std::string_view, Examples>, 7> kExamples{
 }  // namespace
 
 std::string HelpFooter(std::string_view command) {
-  const auto own = std::find_if(kExamples.begin(), kExamples.end(),
-                                [command](const auto& each) { return each.first == command; });
+  const auto* const own =
+      std::find_if(kExamples.begin(), kExamples.end(),
+                   [command](const auto& each) { return each.first == command; });
   std::string text = "Examples, beside the example data:\n";
   if (own != kExamples.end()) {
     text.append(own->second[0]).append(own->second[1]);

@@ -54,9 +54,9 @@ std::string FolderOf(const std::string& record) {
 /// the folder is settled first.
 std::string RecordToRead(const std::string& path, const CommandLineStreams& streams) {
   std::error_code ignored;
-  const std::string record = std::filesystem::is_directory(path, ignored)
-                                 ? ProjectFolder(path).Path(kRunRecordFile)
-                                 : path;
+  std::string record = std::filesystem::is_directory(path, ignored)
+                           ? ProjectFolder(path).Path(kRunRecordFile)
+                           : path;
   if (const auto recovered = RecoverProject(ProjectFolder(FolderOf(record)))) {
     streams.err << Escaped(*recovered) << '\n';
   }

@@ -32,7 +32,8 @@ FileDigest DigestWithPathsThen(const std::string& path, const PathsThen& then) {
   for (int i = 0; i < kLinesWithPaths && std::getline(file, line); ++i) {
     const std::size_t begin = line.rfind('\t') + 1;
     if (const auto known = then.find(std::string_view(line).substr(begin)); known != then.end()) {
-      line.replace(begin, std::string::npos, known->second);
+      line.resize(begin);
+      line += known->second;
     }
     digest.Add(line);
     digest.Add(file.eof() ? "" : "\n");

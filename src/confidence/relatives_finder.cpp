@@ -120,15 +120,18 @@ void RelativesFinder::FillUntyped(RelativesEvidence& evidence) {
   for (const Origins o : AllOrigins(study_.flow)) {
     evidence.mean[o] = ways_[o] > 0 ? 1 : 0;
     for (const CandidateGroup& group : own_->Groups()) {
-      own_->ForEachPartnered(group, [&](std::size_t side, Slot slot, double partners) {
-        const Origin own = side == 0 ? o.first : o.second;
-        const Origin other = side == 0 ? o.second : o.first;
-        if (own == Origin::kCollected) {
-          AddLikelihood(SideOf(side), slot, o, other == Origin::kUnknown ? 1 : partners);
-        }
-      });
+      CountUntyped(group, o);
     }
   }
+}
+
+void RelativesFinder::CountUntyped(const CandidateGroup& group, Origins o) {
+  own_->ForEachPartnered(group, [&](std::size_t side, Slot slot, double partners) {
+    const auto [own, other] = side == 0 ? o : Origins{o.second, o.first};
+    if (own == Origin::kCollected) {
+      AddLikelihood(SideOf(side), slot, o, other == Origin::kUnknown ? 1 : partners);
+    }
+  });
 }
 
 /// Puts a candidate among the most probable ones.

@@ -47,6 +47,7 @@ class RelativesFinder {
   void FindPairs(const RelativesWish& wish, RelativesEvidence& evidence,
                  const RunObserver& observer);
   void FillUntyped(RelativesEvidence& evidence);
+  void CountUntyped(const CandidateGroup& group, Origins o);
   void AddLikelihood(std::size_t side, Slot slot, Origins origins, double sum);
   void Conclude(const AskedCandidates& asked, RelativesEvidence& evidence);
   void Take(std::size_t side, Slot slot, double total, RelativesEvidence& evidence) const;

@@ -64,7 +64,7 @@ class RelativesRun {
       return Find();
     }
     two_sibs_ = false;
-    const RelativesFindings first = Find();
+    RelativesFindings first = Find();
     if (first.gain < kHopelessGain) {
       return first;
     }

@@ -130,7 +130,7 @@ class TableReader {
     if (node == nullptr) {
       return std::nullopt;
     }
-    const auto value = node->value_exact<Kind>();
+    auto value = node->value_exact<Kind>();
     if (!value) {
       Note(*node, key, otherwise);
     }

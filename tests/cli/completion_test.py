@@ -88,7 +88,7 @@ class Completion(ProgramTest):
         self.script("bash")
         self.typed(["bash", "--norc", "--noprofile", "-i"],
                    [(b"PS1='ready'; source ./script; echo so''urced\n", b"sourced"),
-                    (b"kaldo ver\t", b"kaldo verify "), (b"\x15kaldo allocate --off\t", b"spring "),
+                    (b"kaldo ver\t", b"kaldo verify "), (b"\x15kaldo allocate --loc\t", b"i "),
                     (b"lo\t", b"lo\\ ci.txt")])
 
     def test_zsh_completes_what_is_typed(self):

@@ -67,7 +67,7 @@ TEST_F(ResumeCommand, AllocateGoesOnOrTellsWhichOptionIsAnotherOne) {
 
   const std::map<std::string, std::pair<std::string, std::string>> others = {
       {"tolerance", {"2", "with --tolerance 1, now with --tolerance 2"}},
-      {"error", {"uniform=0.02", "with --error nonuniform, now with --error uniform=0.02"}},
+      {"error", {"uniform=0.02", "with --error uniform=0.01, now with --error uniform=0.02"}},
       {"use", {"Mir03Di", "without --use, now with --use Mir03Di"}},
       {"sequence",
        {"1,2,3,4,5,6,7,8,9", "with --sequence 9,8,7,6,5,4,3,2,1, now with --sequence"}}};

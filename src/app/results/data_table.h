@@ -22,8 +22,8 @@ QString ShortNumber(std::optional<double> value);
 /// A value with as many digits as it takes to read back the same number; "NA" for nothing.
 QString FullNumber(std::optional<double> value);
 
-/// Comma-separated values as every statistics program reads them (RFC 4180), in UTF-8. Before a name
-/// that a spreadsheet would take for a formula, a date or a number stands an apostrophe.
+/// Comma-separated values as every statistics program reads them (RFC 4180), in UTF-8. Before a
+/// name that a spreadsheet would take for a formula, a date or a number stands an apostrophe.
 QByteArray CsvText(const DataTable& table);
 
 /// The same of all rows of a model as it shows them.
