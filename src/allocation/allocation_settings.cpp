@@ -102,7 +102,7 @@ std::vector<Declared> DeclareSettings() {
        .metavar = "[I1,I2,...]",
        .group = "Method",
        .help = "Repeat for a cumulative sequence of loci: alone in file order, else the position "
-               "of each locus of the names file, between commas",
+               "of each locus of the names file, or names in order, between commas",
        .value = Member(&AllocationSettings::sequence, SequenceKind()),
        .may_stand_alone = true},
       ComputedSetting(),

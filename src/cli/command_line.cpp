@@ -15,8 +15,10 @@
 #include "cli/check_command.h"
 #include "cli/completion.h"
 #include "cli/help_footer.h"
+#include "cli/loci_by_name.h"
 #include "cli/missing_options.h"
 #include "cli/recorded_run.h"
+#include "cli/settings_of_record.h"
 #include "cli/short_result.h"
 #include "cli/simulation_result_text.h"
 #include "cli/tell.h"
@@ -73,6 +75,22 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
 struct Decisions {
   bool may_replace_other_flow = false;
   bool resumes = false;
+  bool is_quiet = false;
+};
+
+/// Ways to type settings that are not settings themselves.
+struct TypedShortcuts {
+  std::optional<std::string> record;  ///< whose settings are taken where nothing else is said
+  std::optional<std::string> dropped_loci;
+
+  tl::expected<TypedSettings, Problem> In(TypedSettings typed, bool of_simulation) const {
+    if (dropped_loci) {
+      typed[std::string(kDropKey)] = *dropped_loci;
+    }
+    return record ? WithSettingsOfRecord(std::move(typed), *record, of_simulation)
+                        .and_then(WithLociByName)
+                  : WithLociByName(std::move(typed));
+  }
 };
 
 /// Runs with the settings, unless they are at fault.
@@ -87,10 +105,13 @@ ExitCode RunAndTell(tl::expected<RunSettings, Problem> settings, const Decisions
         each.kept_work = decisions.resumes ? KeptWork::kResumed : each.kept_work;
       },
       *settings);
+  std::ostream nowhere(nullptr);
+  const CommandLineStreams told =
+      decisions.is_quiet ? CommandLineStreams{nowhere, streams.err, false} : streams;
   if (const auto* allocation = std::get_if<AllocationSettings>(&*settings)) {
-    return AllocateAndTell(*allocation, streams, workforce);
+    return AllocateAndTell(*allocation, told, workforce);
   }
-  return SimulateAndTell(std::get<SimulationSettings>(*settings), streams, workforce);
+  return SimulateAndTell(std::get<SimulationSettings>(*settings), told, workforce);
 }
 
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
@@ -123,6 +144,7 @@ struct Commands {
   std::string verified;
   std::string shell;
   Decisions decisions;
+  TypedShortcuts shortcuts;
 
   Commands() {
     app.require_subcommand(0, 1);
@@ -131,6 +153,7 @@ struct Commands {
     simulation.AddTo(*simulate, SimulationSettingTable());
     simulation.AddTo(*check_simulation, SimulationSettingTable());
     AddCheckOptions();
+    AddShortcuts();
     AddRecordOptions();
     for (CLI::App* const command : {allocate, simulate, check, check_simulation, rerun}) {
       command->add_flag("--replace", decisions.may_replace_other_flow,
@@ -161,6 +184,23 @@ struct Commands {
   }
 
  private:
+  void AddShortcuts() {
+    for (CLI::App* const command : {allocate, simulate, check, check_simulation}) {
+      command
+          ->add_option("--settings", shortcuts.record,
+                       "Run record whose settings are taken where no option says otherwise")
+          ->type_name("FILE")
+          ->group("Files");
+      command
+          ->add_option("--drop", shortcuts.dropped_loci,
+                       "Loci not in use, by name, between commas; all others are")
+          ->type_name("NAME,...")
+          ->group("Method");
+      command->add_flag("--quiet", decisions.is_quiet,
+                        "No short result and no progress, warnings and faults alone");
+    }
+  }
+
   void AddCheckOptions() {
     for (CLI::App* const command : {check, check_simulation}) {
       command
@@ -203,13 +243,22 @@ struct Commands {
 ExitCode CheckAndTell(Commands& commands, const CommandLineStreams& streams, FileSource& source) {
   TypedCheck& check = commands.typed_check;
   check.simulates = commands.check_simulation->parsed();
-  check.typed = (check.simulates ? commands.simulation : commands.allocation).Given();
+  auto typed = commands.shortcuts.In(
+      (check.simulates ? commands.simulation : commands.allocation).Given(), check.simulates);
+  if (!typed) {
+    return Tell(typed.error(), streams);
+  }
+  check.typed = std::move(*typed);
   check.may_replace_other_flow = commands.decisions.may_replace_other_flow;
   if (check.simulates && !commands.allocation.Given().empty()) {
     streams.err << "The options of a simulation stand behind \"check simulate\".\n";
     return ExitCode::kBadInput;
   }
-  return RunCheck(check, streams, source);
+  std::ostream nowhere(nullptr);
+  return RunCheck(
+      check,
+      commands.decisions.is_quiet ? CommandLineStreams{nowhere, streams.err, false} : streams,
+      source);
 }
 
 ExitCode PrintCompletion(const Commands& commands, const CommandLineStreams& streams) {
@@ -239,12 +288,14 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
     return ExitCode::kBadInput;
   }
   if (commands.allocate->parsed()) {
-    return RunAndTell(AllocationFrom(commands.allocation.Given()), commands.decisions, streams,
-                      workforce);
+    return RunAndTell(
+        commands.shortcuts.In(commands.allocation.Given(), false).and_then(AllocationFrom),
+        commands.decisions, streams, workforce);
   }
   if (commands.simulate->parsed()) {
-    return RunAndTell(SimulationFrom(commands.simulation.Given()), commands.decisions, streams,
-                      workforce);
+    return RunAndTell(
+        commands.shortcuts.In(commands.simulation.Given(), true).and_then(SimulationFrom),
+        commands.decisions, streams, workforce);
   }
   if (commands.check->parsed()) {
     return CheckAndTell(commands, streams, workforce.Files());

@@ -76,6 +76,22 @@ std::optional<std::string> NumberText(const Number& value) {
   return fmt::format("{}", value);
 }
 
+/// What stands between quotes, of which two within stand for one; nothing where they do not close.
+std::optional<std::string> Unquoted(std::string_view text) {
+  std::string inner;
+  std::size_t at = 1;
+  for (; at < text.size(); ++at) {
+    if (text[at] == '"') {
+      if (at + 1 >= text.size() || text[at + 1] != '"') {
+        break;
+      }
+      ++at;
+    }
+    inner += text[at];
+  }
+  return at + 1 == text.size() ? std::optional(inner) : std::nullopt;
+}
+
 }  // namespace
 
 std::vector<std::string> CutAtCommas(std::string_view text) {
@@ -90,6 +106,44 @@ std::vector<std::string> CutAtCommas(std::string_view text) {
     begin = comma + 1;
   }
   return parts;
+}
+
+std::vector<std::string> NamesAtCommas(std::string_view text) {
+  std::vector<std::string> names;
+  std::string begun;  // a part that opened a quote, until one closes it
+  for (const std::string& part : CutAtCommas(text)) {
+    const std::string name = begun.empty() ? part : fmt::format("{},{}", begun, part);
+    if (!name.starts_with('"')) {
+      names.push_back(name);
+    } else if (const auto unquoted = Unquoted(name)) {
+      names.push_back(*unquoted);
+      begun.clear();
+    } else {
+      begun = name;
+    }
+  }
+  if (!begun.empty()) {  // no quote closes it: the commas part names after all
+    const auto parts = CutAtCommas(begun);
+    names.insert(names.end(), parts.begin(), parts.end());
+  }
+  return names;
+}
+
+std::string TextOfNames(const std::vector<std::string>& names) {
+  std::string plain = fmt::format("{}", fmt::join(names, ","));
+  if (NamesAtCommas(plain) == names) {
+    return plain;
+  }
+  std::vector<std::string> parts = names;
+  for (std::string& part : parts) {
+    if (part.find(',') != std::string::npos || part.starts_with('"')) {
+      for (std::size_t at = 0; (at = part.find('"', at)) != std::string::npos; at += 2) {
+        part.insert(at, 1, '"');
+      }
+      part.insert(0, 1, '"').push_back('"');
+    }
+  }
+  return fmt::format("{}", fmt::join(parts, ","));
 }
 
 std::optional<std::size_t> PlaceOf(std::string_view name,
@@ -183,9 +237,9 @@ ValueKind<bool> FlagKind(bool by_default) {
 ValueKind<std::optional<std::vector<std::string>>> NamesKind() {
   using Names = std::optional<std::vector<std::string>>;
   return {.parse = [](std::string_view /*option*/, std::string_view text)
-              -> tl::expected<Names, Problem> { return CutAtCommas(text); },
+              -> tl::expected<Names, Problem> { return NamesAtCommas(text); },
           .text = [](const Names& names) -> std::optional<std::string> {
-            return names ? std::optional(fmt::format("{}", fmt::join(*names, ","))) : std::nullopt;
+            return names ? std::optional(TextOfNames(*names)) : std::nullopt;
           },
           .record =
               [](const Names& names, const std::string& key, RunRecord& record) {

@@ -107,4 +107,11 @@ ValueKind<Choice> ChoiceKind(const std::array<NamedChoice<Choice>, n>& choices, 
 /// parts.
 std::vector<std::string> CutAtCommas(std::string_view text);
 
+/// Names between commas. One that holds a comma itself stands in quotes ("), as in a CSV file, and
+/// its own quotes are doubled.
+std::vector<std::string> NamesAtCommas(std::string_view text);
+
+/// Back to such a text.
+std::string TextOfNames(const std::vector<std::string>& names);
+
 }  // namespace kaldo

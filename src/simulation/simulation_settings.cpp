@@ -310,7 +310,9 @@ std::vector<Declared> SubsetsOfLoci() {
        .option = "--sequence",
        .metavar = "I1,I2,...",
        .group = group,
-       .help = "Position of each locus of the names file in the sequence; default: file order",
+       .help =
+           "Position of each locus of the names file in the sequence, or names in order; default: "
+           "file order",
        .value = Member(&SimulationSettings::sequence, PositionsKind()),
        .may_stand_alone = true},
   };

@@ -149,9 +149,42 @@ TEST_F(CommandLineTest, ABareSequenceIsFileOrder) {
   EXPECT_EQ(TakeReports().size(), 6U);
 }
 
-TEST_F(CommandLineTest, UsesTheNamedLoci) {
+TEST_F(CommandLineTest, TakesLociByName) {
   EXPECT_THAT(RunCommand(Check({"--use", " D ,A"})).err, HasSubstr("2 of 4 loci in use"));
   EXPECT_THAT(RunCommand(Check({})).err, HasSubstr("(1 missing locus), 4 of 4 loci in use"));
+  folder_.Write("loci.txt", "A B,1 \"C D\n");
+  const auto run = [&](const Arguments& more) {
+    const Outcome outcome = RunCommand(Allocate(more));
+    EXPECT_EQ(outcome.code, ExitCode::kDone) << outcome.err;
+    return TakeReports();
+  };
+  const std::string b_and_c = R"("B,1","""C")";
+  EXPECT_EQ(run({"--drop", b_and_c}), run({"--use", "A,D"}));
+  EXPECT_EQ(run({"--drop", "A, D"}), run({"--use", b_and_c}));
+  EXPECT_EQ(run({"--sequence", "D," + b_and_c}), run({"--sequence", "4,2,3,1"}));
+  ExpectRefusal(Check({"--drop", "E"}), "There is no locus of that name!\n\"E\" is none of the 4");
+  ExpectRefusal(Check({"--sequence", "A,E"}), "There is no locus of that name!\n");
+  ExpectRefusal(Check({"--drop", "A", "--use", "D"}),
+                "There is no locus of that name!\n--drop goes");
+  ExpectRefusal(Check({"--drop", "A,D," + b_and_c}), "Choose at least one locus!\n");
+}
+
+TEST_F(CommandLineTest, TakesSettingsFromARecordWhereNothingElseIsSaid) {
+  const Arguments choices = {"--error", "nonuniform", "--tolerance", "2", "--sequence", "2,1,3,4"};
+  ASSERT_EQ(RunCommand(Allocate(choices)).code, ExitCode::kDone);
+  const auto reports = TakeReports();
+  const std::string other = folder_.Path("other");
+  const Arguments same = {"allocate", "--settings", folder_.Path("project"), "--project", other};
+  const Outcome quiet = RunCommand(same + Arguments{"--quiet"});
+  EXPECT_EQ(quiet.code, ExitCode::kDone) << quiet.err;
+  EXPECT_THAT(quiet.out, IsEmpty());
+  EXPECT_EQ(test::TakeReports(folder_, "other"), reports);
+  ExpectRefusal({"allocate", "--settings", RecordPath()}, "Please enter name of project!\n");
+  const Outcome changed = RunCommand(same + Arguments{"--drop", "B", "--tolerance", "0"});
+  EXPECT_THAT(changed.out, HasSubstr("3 of 4 loci in use"));
+  EXPECT_THAT(changed.out, HasSubstr("error model Non Uniform"));
+  EXPECT_THAT(changed.out, HasSubstr("maximal offset tolerance 0\n"));
+  ExpectRefusal({"simulate", "--settings", RecordPath()}, "This run record cannot be used!\n");
 }
 
 TEST_F(CommandLineTest, CheckWritesNothing) {

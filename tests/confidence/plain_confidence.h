@@ -212,7 +212,7 @@ class PlainConfidence {
     const auto at = [&](AlleleSize size) {
       return static_cast<std::size_t>(std::find(sizes.begin(), sizes.end(), size) - sizes.begin());
     };
-    if (rates_.count(locus) > 0) {
+    if (rates_.contains(locus)) {
       const Number rate = rates_.at(locus);
       return carried == read ? 1 - rate : rate / static_cast<Number>(sizes.size() - 1);
     }

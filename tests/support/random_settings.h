@@ -11,7 +11,7 @@
 
 namespace kaldo::test {
 
-/// A file name or, without blanks and commas, the name of a locus; full of what shells and option
+/// A file name or, without blanks, the name of a locus; full of what shells and option
 /// parsers trip over.
 inline rc::Gen<std::string> RandomName(std::string_view more) {
   const std::string characters =
@@ -78,7 +78,8 @@ std::string RandomText(const Setting<Settings>& setting) {
     return RandomErrorModel();
   }
   if (kind == "NAME,...") {
-    return RandomList(RandomName(""));
+    const auto names = rc::gen::container<std::vector<std::string>>(RandomName(","));
+    return TextOfNames(*rc::gen::nonEmpty(names));
   }
   if (kind == "I1,I2,..." || kind == "[I1,I2,...]") {
     return kind[0] == '[' && *rc::gen::arbitrary<bool>() ? "" : RandomList(RandomWhole());
