@@ -58,6 +58,7 @@ TEST(DetailLine, EscapesWhatATerminalObeys) {
                         .record = 1,
                         .individual = "\033[2J",
                         .locus = "L1\x07",
+                        // NOLINTNEXTLINE(misc-misleading-bidirectional): it must be told escaped
                         .found = Quoted("\033]0;\x7f") + " \xc2\x9b \x9b \xe2\x80\xae é 鯉 \xe8"};
   EXPECT_EQ(DetailLine(problem),
             "a\\x0ab, record 1 (\\x1b[2J), locus L1\\x07: \"\\x1b]0;\\x7f\" \\xc2\\x9b \\x9b "
