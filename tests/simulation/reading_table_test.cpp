@@ -34,9 +34,9 @@ TEST(ReadingTable, ReadsWhatTransmitReadsForEveryDraw) {
     }
     table.Build(matrix, draw);
     for (std::uint32_t step = 0; step < draw.Steps(); ++step) {
-      for (std::uint8_t parental = 0; parental < matrix.Rows(); ++parental) {
-        ASSERT_EQ(table.Read(AlleleIndex{parental}, step),
-                  Transmit(matrix, AlleleIndex{parental}, draw.At(step)))
+      for (std::size_t row = 0; row < matrix.Rows(); ++row) {
+        const AlleleIndex parental{static_cast<std::uint8_t>(row)};
+        ASSERT_EQ(table.Read(parental, step), Transmit(matrix, parental, draw.At(step)))
             << round << ' ' << step;
       }
     }
