@@ -83,7 +83,11 @@ tl::expected<TypedSettings, Problem> WithLociByName(TypedSettings typed) {
     }
     typed["use"] = std::move(*kept);
   }
-  if (is_by_name) {
+  const auto& names = loci->Names();
+  const bool any_known = std::any_of(order.begin(), order.end(), [&](const std::string& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+  });
+  if (is_by_name && any_known) {  // else these are positions, and the tests of the run tell why not
     LociList known = *loci;
     if (auto problem = known.Use(order)) {
       return tl::unexpected(std::move(*problem));
