@@ -1,25 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/append_file.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
 #include <utility>
 
+#include "base/file_handle.h"
+
 namespace kaldo {
-
-namespace {
-
-constexpr mode_t kReadableByAll = 0666;  // less what the user's mask takes away
-
-std::error_code LastError() { return {errno, std::generic_category()}; }
-
-}  // namespace
 
 std::error_code AppendFile::Create(const std::string& path) {
   Close();
-  file_ =
-      ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kReadableByAll);
+  file_ = OpenNewFile(path);
   bytes_ = 0;
   return file_ >= 0 ? std::error_code() : LastError();
 }
@@ -45,16 +37,7 @@ std::error_code AppendFile::CutTo(std::uint64_t bytes) const {
 }
 
 std::error_code AppendFile::Append(std::string_view text) {
-  std::error_code error;
-  std::string_view rest = text;
-  while (!error && !rest.empty()) {
-    const ssize_t written = ::write(file_, rest.data(), rest.size());
-    if (written >= 0) {
-      rest.remove_prefix(static_cast<std::size_t>(written));
-    } else if (errno != EINTR) {
-      error = LastError();
-    }
-  }
+  std::error_code error = WriteAll(file_, text);
   if (!error && ::fsync(file_) != 0) {
     error = LastError();
   }

@@ -2,7 +2,6 @@
 #include "base/disk_file.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <random>
@@ -10,14 +9,13 @@
 
 #include <fmt/format.h>
 
+#include "base/file_handle.h"
+
 namespace kaldo {
 
 namespace {
 
 constexpr std::size_t kNameDigits = 16;
-constexpr mode_t kReadableByAll = 0666;  // less what the user's mask takes away
-
-std::error_code LastError() { return {errno, std::generic_category()}; }
 
 }  // namespace
 
@@ -28,24 +26,11 @@ NewFile::~NewFile() {
 }
 
 std::error_code NewFile::Create(const std::string& path) {
-  file_ =
-      ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kReadableByAll);
+  file_ = OpenNewFile(path);
   return file_ >= 0 ? std::error_code() : LastError();
 }
 
-std::error_code NewFile::Write(std::string_view text) const {
-  while (!text.empty()) {
-    const ssize_t written = ::write(file_, text.data(), text.size());
-    if (written < 0 && errno == EINTR) {
-      continue;
-    }
-    if (written < 0) {
-      return LastError();
-    }
-    text.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return {};
-}
+std::error_code NewFile::Write(std::string_view text) const { return WriteAll(file_, text); }
 
 std::error_code NewFile::Finish() {
   const std::error_code not_synced = ::fsync(file_) == 0 ? std::error_code() : LastError();

@@ -9,14 +9,14 @@
 #include <unistd.h>
 #include <utility>
 
+#include "base/file_handle.h"
+
 namespace kaldo {
 
 namespace {
 
 constexpr mode_t kReadableByAll = 0666;
 constexpr int kAttempts = 100;
-
-std::error_code LastError() { return {errno, std::generic_category()}; }
 
 void Close(int& file) {
   if (file >= 0) {

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace kaldo {
+
+// What files that are written have in common, by the numbers of the operating system.
+
+/// What the last call of the operating system failed with.
+std::error_code LastError();
+
+/// Opens a new file for writing: no link is followed, and nothing that is there is opened. Negative
+/// when that fails, see LastError().
+int OpenNewFile(const std::string& path);
+
+/// Writes all of the text, whatever interrupts it.
+std::error_code WriteAll(int file, std::string_view text);
+
+}  // namespace kaldo
