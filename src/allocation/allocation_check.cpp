@@ -10,31 +10,6 @@ namespace kaldo {
 
 namespace {
 
-/// Puts the choice aside that a run refuses. False where it is no choice that is at fault.
-bool PutAside(const Problem& problem, const LociList& loci, AllocationSettings& settings) {
-  switch (problem.kind) {
-    case ProblemKind::kNoErrorModel:
-    case ProblemKind::kEpsilonOutOfRange:
-    case ProblemKind::kProbabilitySum:
-    case ProblemKind::kErrorSumTooLarge:
-      settings.error_model = {};
-      return true;
-    case ProblemKind::kNoLocusInUse:
-      settings.loci_in_use.reset();
-      return true;
-    case ProblemKind::kSequenceHasZero:
-    case ProblemKind::kSequenceIndexTooLarge:
-    case ProblemKind::kSequenceSum:
-      settings.sequence.reset();
-      return true;
-    case ProblemKind::kTooManyAlleles:
-      LeaveOut(problem.locus, loci, settings.loci_in_use);
-      return true;
-    default:
-      return false;
-  }
-}
-
 /// Tests the choices against the names of the loci, and puts aside what is at fault.
 void FindFaultsOfChoices(const LociList& loci, AllocationSettings& settings, FullCheck& check) {
   if (auto problem = ValidateTolerance(settings.tolerance)) {
@@ -48,16 +23,19 @@ void FindFaultsOfChoices(const LociList& loci, AllocationSettings& settings, Ful
     return;
   }
   LeaveOutUnknownLoci(loci, settings.loci_in_use, check.faults);
-  bool goes_on = true;
-  while (goes_on) {
+  const auto test = [&] {
     AllocationInput only_loci;
     only_loci.loci = loci;
-    const auto problem = CheckChoices(settings, only_loci);
-    goes_on = problem && PutAside(*problem, loci, settings);
-    if (problem) {
-      check.faults.Add(*problem);
+    return CheckChoices(settings, only_loci);
+  };
+  const auto put_aside = [&](const Problem& problem) {
+    if (problem.kind == ProblemKind::kTooManyAlleles) {
+      LeaveOut(problem.locus, loci, settings.loci_in_use);
+      return true;
     }
-  }
+    return PutAside(problem, settings);
+  };
+  FindOneAfterAnother(test, put_aside, check.faults);
 }
 
 std::vector<LocusStatistics> StatisticsOf(const AllocationFiles& files, const LociList& loci) {
@@ -85,8 +63,11 @@ void Load(AllocationSettings settings, const FileOpener& open, AllocationCheck& 
   check.loci = StatisticsOf(*files, all);
   while (auto problem = ApplyChoices(settings, *files, *loaded)) {
     check.faults.Add(*problem);
-    if (problem->kind != ProblemKind::kTooManyAlleles || !PutAside(*problem, all, settings) ||
-        settings.loci_in_use->empty()) {
+    if (problem->kind != ProblemKind::kTooManyAlleles) {
+      return;
+    }
+    LeaveOut(problem->locus, all, settings.loci_in_use);
+    if (settings.loci_in_use->empty()) {
       return;
     }
     loaded->combinations.clear();

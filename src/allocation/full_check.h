@@ -34,6 +34,46 @@ void LeaveOutUnknownLoci(const LociList& loci, std::optional<std::vector<std::st
 void LeaveOut(const std::string& locus, const LociList& loci,
               std::optional<std::vector<std::string>>& chosen);
 
+/// Puts the choice of error model, loci or sequence aside that a run refuses. False where another
+/// choice is at fault, or none.
+template <typename Settings>
+bool PutAside(const Problem& problem, Settings& settings) {
+  switch (problem.kind) {
+    case ProblemKind::kNoErrorModel:
+    case ProblemKind::kEpsilonOutOfRange:
+    case ProblemKind::kProbabilitySum:
+    case ProblemKind::kErrorSumTooLarge:
+    case ProblemKind::kSimulatedFocalOutOfRange:
+    case ProblemKind::kSimulatedProbabilitySum:
+      settings.error_model = {};
+      return true;
+    case ProblemKind::kNoLocusInUse:
+      settings.loci_in_use.reset();
+      return true;
+    case ProblemKind::kSequenceHasZero:
+    case ProblemKind::kSequenceIndexTooLarge:
+    case ProblemKind::kSequenceSum:
+      settings.sequence = {};
+      return true;
+    default:
+      return false;
+  }
+}
+
+/// Tells what `test` finds, and again what it finds then, as long as `put_aside` can put the choice
+/// at fault aside.
+template <typename Test, typename PutItAside>
+void FindOneAfterAnother(Test test, PutItAside put_aside, AlikeGroups<Problem>& faults) {
+  bool goes_on = true;
+  while (goes_on) {
+    const std::optional<Problem> problem = test();
+    goes_on = problem && put_aside(*problem);
+    if (problem) {
+      faults.Add(*problem);
+    }
+  }
+}
+
 /// The input files that the settings name, whether or not they can be read.
 template <typename Settings>
 std::vector<RecordedInput> NamedInputs(SettingTable<Settings> table, const Settings& settings) {

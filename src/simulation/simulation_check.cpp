@@ -14,33 +14,6 @@ namespace kaldo {
 
 namespace {
 
-/// Puts the choice aside that a run refuses. False where it is no choice that is at fault.
-bool PutAside(const Problem& problem, SimulationSettings& settings) {
-  switch (problem.kind) {
-    case ProblemKind::kNoErrorModel:
-    case ProblemKind::kEpsilonOutOfRange:
-    case ProblemKind::kSimulatedFocalOutOfRange:
-    case ProblemKind::kSimulatedProbabilitySum:
-      settings.error_model = {};
-      return true;
-    case ProblemKind::kNoLocusInUse:
-      settings.loci_in_use.reset();
-      return true;
-    case ProblemKind::kSequenceHasZero:
-    case ProblemKind::kSequenceIndexTooLarge:
-    case ProblemKind::kSequenceSum:
-      settings.sequence.clear();
-      return true;
-    case ProblemKind::kTooFewLociInUse:
-    case ProblemKind::kTooManySubsets:
-      settings.strategy = LociStrategy::kChoice;
-      settings.start_with = 1;
-      return true;
-    default:
-      return false;
-  }
-}
-
 /// Puts a number in place of the one at fault with which files can be loaded.
 void PutNumberAside(const Problem& problem, SimulationSettings& settings) {
   const SimulationSettings defaults;
@@ -85,16 +58,21 @@ void FindFaultsOfChoices(const LociList& loci, SimulationSettings& settings, Ful
     return;
   }
   LeaveOutUnknownLoci(loci, settings.loci_in_use, check.faults);
-  bool goes_on = true;
-  while (goes_on) {
+  const auto test = [&] {
     SimulationInput only_loci;
     only_loci.loci = loci;
-    const auto problem = CheckChoices(settings, only_loci);
-    goes_on = problem && PutAside(*problem, settings);
-    if (problem) {
-      check.faults.Add(*problem);
+    return CheckChoices(settings, only_loci);
+  };
+  const auto put_aside = [&](const Problem& problem) {
+    if (problem.kind == ProblemKind::kTooFewLociInUse ||
+        problem.kind == ProblemKind::kTooManySubsets) {
+      settings.strategy = LociStrategy::kChoice;
+      settings.start_with = 1;
+      return true;
     }
-  }
+    return PutAside(problem, settings);
+  };
+  FindOneAfterAnother(test, put_aside, check.faults);
 }
 
 /// A locus that cannot be simulated is told, and left out so that the next one can be.
