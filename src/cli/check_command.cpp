@@ -9,23 +9,13 @@
 #include "cli/missing_options.h"
 #include "cli/short_result.h"
 #include "cli/simulation_result_text.h"
-#include "runs/project_lock.h"
+#include "cli/tell.h"
 #include "simulation/simulation_check.h"
 #include "simulation/simulation_checks.h"
 
 namespace kaldo {
 
 namespace {
-
-void SettleProject(const TypedSettings& typed, const CommandLineStreams& streams) {
-  const auto project = typed.find("project");
-  if (project == typed.end()) {
-    return;
-  }
-  if (const auto recovered = RecoverProject(ProjectFolder(project->second))) {
-    streams.err << Escaped(*recovered) << '\n';
-  }
-}
 
 /// Tells the options for all missing names with the first of them.
 template <typename Settings>
@@ -49,9 +39,7 @@ ExitCode TellCheck(const FullCheck& check, const std::string& summary, bool as_j
     return code;
   }
   streams.err << FaultsText(check);
-  for (const std::string& line : WarningLines(check.warnings)) {
-    streams.err << "Warning: " << line << '\n';
-  }
+  TellWarnings(check.warnings, streams);
   if (check.IsSound()) {
     streams.err << summary;
     streams.out << ContentsText(check) << "ok\n";
@@ -68,7 +56,9 @@ ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams,
     return ExitCode::kBadInput;
   }
   const bool as_json = choices.format == "json";
-  SettleProject(choices.typed, streams);
+  if (const auto project = choices.typed.find("project"); project != choices.typed.end()) {
+    SettleProject(ProjectFolder(project->second), streams);
+  }
   if (choices.simulates) {
     auto check = CheckSimulation(choices.typed, choices.may_replace_other_flow, source);
     AddMissingOptions(check.settings, check.faults);

@@ -34,12 +34,6 @@ namespace kaldo {
 
 namespace {
 
-void TellWarnings(const std::vector<Warning>& warnings, const CommandLineStreams& streams) {
-  for (const std::string& line : WarningLines(warnings)) {
-    streams.err << "Warning: " << line << '\n';
-  }
-}
-
 ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineStreams& streams,
                          Workforce& workforce) {
   const auto run = [&] {

@@ -91,9 +91,9 @@ complete -F _kaldo kaldo
                      paths, values, words);
 }
 
-// zsh: a function per command with the specifications of its options.
+// zsh: a function per command that hands its options to _arguments.
 
-/// Help as zsh reads it inside the brackets of a specification.
+/// Help as zsh reads it inside the brackets of an argument.
 std::string ZshHelp(const std::string& help) {
   std::string escaped;
   for (const char character : help) {
@@ -105,7 +105,7 @@ std::string ZshHelp(const std::string& help) {
   return escaped;
 }
 
-std::string ZshSpecification(const CompletedOption& option) {
+std::string ZshArgument(const CompletedOption& option) {
   std::string action;
   switch (option.value) {
     case CompletedValue::kNone:
@@ -142,7 +142,7 @@ std::string ZshFunction(const CompletedCommand& command,
   }
   text += "  _arguments";
   for (const CompletedOption& option : command.options) {
-    text += " \\\n    " + ZshSpecification(option);
+    text += " \\\n    " + ZshArgument(option);
   }
   if (!command.words.empty()) {
     text += fmt::format(" \\\n    '1: :({})'", fmt::join(command.words, " "));

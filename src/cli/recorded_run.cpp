@@ -13,7 +13,7 @@
 #include "base/version.h"
 #include "cli/result_comparison.h"
 #include "cli/tell.h"
-#include "runs/project_lock.h"
+#include "runs/earlier_run.h"
 #include "runs/value_kinds.h"
 #include "simulation/recorded_files.h"
 
@@ -53,13 +53,8 @@ std::string FolderOf(const std::string& record) {
 /// The record that is meant where it or its folder is named. What a crashed run left half done in
 /// the folder is settled first.
 std::string RecordToRead(const std::string& path, const CommandLineStreams& streams) {
-  std::error_code ignored;
-  std::string record = std::filesystem::is_directory(path, ignored)
-                           ? ProjectFolder(path).Path(kRunRecordFile)
-                           : path;
-  if (const auto recovered = RecoverProject(ProjectFolder(FolderOf(record)))) {
-    streams.err << Escaped(*recovered) << '\n';
-  }
+  std::string record = RecordNamedBy(path);
+  SettleProject(ProjectFolder(FolderOf(record)), streams);
   return record;
 }
 

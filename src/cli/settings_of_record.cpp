@@ -2,11 +2,10 @@
 #include "cli/settings_of_record.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <initializer_list>
 
 #include "cli/loci_by_name.h"
-#include "runs/project_folder.h"
+#include "runs/earlier_run.h"
 #include "simulation/run_settings.h"
 
 namespace kaldo {
@@ -52,10 +51,7 @@ void LeaveOutOtherFlow(const TypedSettings& typed, TypedSettings& recorded) {
 tl::expected<TypedSettings, Problem> WithSettingsOfRecord(TypedSettings typed,
                                                           const std::string& path,
                                                           bool of_simulation) {
-  std::error_code ignored;
-  const std::string file = std::filesystem::is_directory(path, ignored)
-                               ? ProjectFolder(path).Path(kRunRecordFile)
-                               : path;
+  const std::string file = RecordNamedBy(path);
   const auto settings = ReadRunRecord(file).and_then(
       [&](const RunRecord& record) { return RunSettingsOf(record, file); });
   if (!settings) {

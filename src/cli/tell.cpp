@@ -3,6 +3,8 @@
 
 #include <ostream>
 
+#include "runs/project_lock.h"
+
 namespace kaldo {
 
 ExitCode Tell(const Problem& problem, const CommandLineStreams& streams) {
@@ -11,6 +13,18 @@ ExitCode Tell(const Problem& problem, const CommandLineStreams& streams) {
     streams.err << detail << '\n';
   }
   return ExitCode::kBadInput;
+}
+
+void TellWarnings(const std::vector<Warning>& warnings, const CommandLineStreams& streams) {
+  for (const std::string& line : WarningLines(warnings)) {
+    streams.err << "Warning: " << line << '\n';
+  }
+}
+
+void SettleProject(const ProjectFolder& project, const CommandLineStreams& streams) {
+  if (const auto recovered = RecoverProject(project)) {
+    streams.err << Escaped(*recovered) << '\n';
+  }
 }
 
 }  // namespace kaldo

@@ -2,12 +2,19 @@
 #include "runs/earlier_run.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include <fmt/format.h>
 
 #include "runs/result_files.h"
 
 namespace kaldo {
+
+std::string RecordNamedBy(const std::string& path) {
+  std::error_code ignored;
+  return std::filesystem::is_directory(path, ignored) ? ProjectFolder(path).Path(kRunRecordFile)
+                                                      : path;
+}
 
 std::optional<RunRecord> EarlierRun(const ProjectFolder& project) {
   auto record = ReadRunRecord(project.Path(kRunRecordFile));

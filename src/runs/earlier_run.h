@@ -10,6 +10,9 @@
 
 namespace kaldo {
 
+/// The run record that a user means who names it or the project folder in which it is.
+std::string RecordNamedBy(const std::string& path);
+
 /// The run whose results are in a project folder, from its record; nothing without a record that
 /// can be read.
 std::optional<RunRecord> EarlierRun(const ProjectFolder& project);
