@@ -92,14 +92,7 @@ Found SlowSearch(const test::RandomStudy& study, Slot offspring, Coverage& cover
 }
 
 TEST(PairScan, FindsWhatTheObviousSearchFinds) {
-  ErrorModel no_error;
-  no_error.kind = ErrorKind::kNoError;
-  ErrorModel uniform;
-  uniform.kind = ErrorKind::kUniform;
-  uniform.epsilon = 0.02;
-  ErrorModel negative = uniform;
-  negative.epsilon = -0.3;
-  const std::vector<ErrorModel> models = {ErrorModel{}, no_error, uniform, negative};
+  const std::vector<ErrorModel> models = test::ModelsOfEveryKind();
 
   test::RandomStudyMaker maker(20260301);
   Coverage coverage;

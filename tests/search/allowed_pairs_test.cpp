@@ -9,6 +9,7 @@
 
 #include "search/pair_searcher.h"
 #include "tests/support/random_allowed_pairs.h"
+#include "tests/support/search_support.h"
 
 namespace kaldo {
 namespace {
@@ -65,33 +66,24 @@ AllocationOutcome SlowSearch(const RandomStudy& study, const TransmissionScores&
   return OutcomeOf(kept);
 }
 
-void ExpectSame(const AllocationOutcome& found, const AllocationOutcome& slow) {
-  ASSERT_EQ(found.pair_entries, slow.pair_entries);
-  ASSERT_TRUE(std::equal(found.Pairs().begin(), found.Pairs().end(), slow.Pairs().begin()));
-  ASSERT_EQ(found.more_than_five, slow.more_than_five);
-  ASSERT_EQ(found.best_likelihood, slow.best_likelihood);
-}
-
 void Compare(const RandomStudy& study, RandomStudyMaker& random, PairSearcher& searcher,
              Coverage& coverage) {
   const RunObserver observer;
   const Candidates candidates{study.flow, study.groups, study.table.Names()};
   TransmissionScores scores(study.loci.size(), study.parents);
-  searcher.Prepare({.table = study.table,
-                    .parents = study.parents,
-                    .loci = study.loci,
-                    .matrices = study.matrices},
-                   candidates);
+  test::Prepare(searcher, study, candidates);
   for (auto i = study.parents; i < study.table.NumberOfIndividuals(); ++i) {
     const Slot offspring{i};
     ComputeTransmissionScores(study.table, offspring, study.loci, study.matrices, scores);
     const AllowedPairs allowed = DrawAllowed(study, random, coverage);
     std::uint64_t pairs = 0;
     const AllocationOutcome slow = SlowSearch(study, scores, allowed, pairs);
-    ExpectSame(ScanPairs(scores, candidates, allowed, observer), slow);
-    ExpectSame(searcher.Search(offspring, allowed, observer), slow);
+    ASSERT_NO_FATAL_FAILURE(
+        test::ExpectSame(ScanPairs(scores, candidates, allowed, observer), slow));
+    ASSERT_NO_FATAL_FAILURE(test::ExpectSame(searcher.Search(offspring, allowed, observer), slow));
     // What was allowed to one offspring must not stay for the next.
-    ExpectSame(searcher.Search(offspring, observer), ScanPairs(scores, candidates, observer));
+    ASSERT_NO_FATAL_FAILURE(test::ExpectSame(searcher.Search(offspring, observer),
+                                             ScanPairs(scores, candidates, observer)));
     ASSERT_EQ(HasPair(study.flow, study.groups, allowed), pairs > 0);
     ++coverage[pairs == 0 ? "no pair allowed" : pairs < 20 ? "few allowed" : "many allowed"];
     coverage["tie"] += slow.Pairs().size() > 1 ? 1 : 0;
@@ -102,14 +94,7 @@ void Compare(const RandomStudy& study, RandomStudyMaker& random, PairSearcher& s
 }
 
 TEST(AllowedPairs, AreAllThatSearchAndScanLookAt) {
-  ErrorModel no_error;
-  no_error.kind = ErrorKind::kNoError;
-  ErrorModel uniform;
-  uniform.kind = ErrorKind::kUniform;
-  uniform.epsilon = 0.02;
-  ErrorModel negative = uniform;
-  negative.epsilon = -0.3;
-  const std::vector<ErrorModel> models = {ErrorModel{}, no_error, uniform, negative};
+  const std::vector<ErrorModel> models = test::ModelsOfEveryKind();
   RandomStudyMaker random(11);
   PairSearcher searcher;
   Coverage coverage;

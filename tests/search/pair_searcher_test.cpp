@@ -11,6 +11,7 @@
 
 #include "search/cost_kernels.h"
 #include "tests/support/random_study.h"
+#include "tests/support/search_support.h"
 
 namespace kaldo {
 namespace {
@@ -79,20 +80,13 @@ void CompareSearches(const RandomStudy& study, PairSearcher& searcher, Coverage&
   const RunObserver observer;
   const Candidates candidates{study.flow, study.groups, study.table.Names()};
   TransmissionScores scores(study.loci.size(), study.parents);
-  searcher.Prepare({.table = study.table,
-                    .parents = study.parents,
-                    .loci = study.loci,
-                    .matrices = study.matrices},
-                   candidates);
+  test::Prepare(searcher, study, candidates);
   for (auto i = study.parents; i < study.table.NumberOfIndividuals(); ++i) {
     const Slot offspring{i};
     ComputeTransmissionScores(study.table, offspring, study.loci, study.matrices, scores);
     const AllocationOutcome scan = ScanPairs(scores, candidates, observer);
     const AllocationOutcome search = searcher.Search(offspring, observer);
-    ASSERT_EQ(search.pair_entries, scan.pair_entries);
-    ASSERT_TRUE(std::equal(search.Pairs().begin(), search.Pairs().end(), scan.Pairs().begin()));
-    ASSERT_EQ(search.more_than_five, scan.more_than_five);
-    ASSERT_EQ(search.best_likelihood, scan.best_likelihood);
+    ASSERT_NO_FATAL_FAILURE(test::ExpectSame(search, scan));
     CoverSearch(scan, coverage);
     if (study.parents > 100) {
       ++coverage[ShareOfParents(PossibleParents(scores, study.parents), study.parents)];

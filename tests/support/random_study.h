@@ -36,6 +36,18 @@ struct StudyShape {
   bool undefined_parents = false;  ///< some parents of some studies are undefined at some loci
 };
 
+/// Every kind of error model, and one with a negative probability, which runs as it stands.
+inline std::vector<ErrorModel> ModelsOfEveryKind() {
+  ErrorModel no_error;
+  no_error.kind = ErrorKind::kNoError;
+  ErrorModel uniform;
+  uniform.kind = ErrorKind::kUniform;
+  uniform.epsilon = 0.02;
+  ErrorModel negative = uniform;
+  negative.epsilon = -0.3;
+  return {ErrorModel{}, no_error, uniform, negative};
+}
+
 class RandomStudyMaker {
  public:
   explicit RandomStudyMaker(unsigned seed) : random_(seed) {}
