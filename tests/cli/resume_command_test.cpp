@@ -62,8 +62,10 @@ TEST_F(ResumeCommand, AllocateGoesOnOrTellsWhichOptionIsAnotherOne) {
                                {"parents", "parents.txt"},
                                {"offspring", "offspring.txt"},
                                {"sequence", "9,8,7,6,5,4,3,2,1"}};
+  TypedSettings alone = typed;
+  alone["threads"] = "1";  // two threads may both be stopped within their first portion
   test::StoppingObserver observer("Allocating", 100);
-  EXPECT_THROW((void)RunAllocation(*AllocationFrom(typed), observer, workforce_), RunStopped);
+  EXPECT_THROW((void)RunAllocation(*AllocationFrom(alone), observer, workforce_), RunStopped);
 
   const std::map<std::string, std::pair<std::string, std::string>> others = {
       {"tolerance", {"2", "with --tolerance 1, now with --tolerance 2"}},
