@@ -229,8 +229,9 @@ TEST(Confidence, IsThePlainSumOverTheAllowedPairs) {
   for (std::size_t round = 0; round < 300 && !HasFailure(); ++round) {
     SCOPED_TRACE(round);
     const ErrorModel& model = models[round % models.size()];
-    const StudyShape shape = round % 30 == 0 ? StudyShape{70, 12, 9, 20, true, true}
-                                             : StudyShape{12, 4, 4, 8, true, round % 2 == 0};
+    const StudyShape shape = round % 30 == 0
+                                 ? StudyShape{70, 12, 9, 20, true, true}
+                                 : StudyShape{12, 4, 4, 8, true, round % 2 == 0, round % 4 < 2};
     const RandomStudy study = maker.Make(model, shape);
     std::vector<AllowedPairs> allowed(study.table.NumberOfIndividuals() - study.parents);
     for (AllowedPairs& one : allowed) {
