@@ -76,20 +76,43 @@ std::optional<std::string> NumberText(const Number& value) {
   return fmt::format("{}", value);
 }
 
-/// What stands between quotes, of which two within stand for one; nothing where they do not close.
-std::optional<std::string> Unquoted(std::string_view text) {
-  std::string inner;
-  std::size_t at = 1;
-  for (; at < text.size(); ++at) {
-    if (text[at] == '"') {
-      if (at + 1 >= text.size() || text[at + 1] != '"') {
-        break;
-      }
-      ++at;
+/// What has no meaning around a name.
+constexpr std::string_view kBlanks = " \t";
+
+/// A name in quotes at the beginning of a text, of which two within stand for one.
+struct QuotedName {
+  std::string name;
+  std::size_t end = 0;  ///< the place of the comma behind it, or the length of the text
+};
+
+/// Nothing where no quote closes it right before a comma or the end.
+std::optional<QuotedName> QuotedNameIn(std::string_view text) {
+  QuotedName quoted;
+  for (std::size_t at = 1; at < text.size(); ++at) {
+    if (text[at] != '"' || text.substr(at + 1).starts_with('"')) {
+      quoted.name += text[at];
+      at += text[at] == '"' ? 1 : 0;
+      continue;
     }
-    inner += text[at];
+    quoted.end = std::min(text.find_first_not_of(kBlanks, at + 1), text.size());
+    return quoted.end == text.size() || text[quoted.end] == ',' ? std::optional(std::move(quoted))
+                                                                : std::nullopt;
   }
-  return at + 1 == text.size() ? std::optional(inner) : std::nullopt;
+  return std::nullopt;
+}
+
+/// A name that would be read as another one without quotes.
+bool NeedsQuotes(const std::string& name) {
+  return name.empty() || Trimmed(name) != name || name.starts_with('"') ||
+         name.find(',') != std::string::npos;
+}
+
+std::string InQuotes(std::string_view name) {
+  std::string quoted = "\"";
+  for (const char each : name) {
+    quoted.append(each == '"' ? 2 : 1, each);
+  }
+  return quoted + '"';
 }
 
 }  // namespace
@@ -110,21 +133,20 @@ std::vector<std::string> CutAtCommas(std::string_view text) {
 
 std::vector<std::string> NamesAtCommas(std::string_view text) {
   std::vector<std::string> names;
-  std::string begun;  // a part that opened a quote, until one closes it
-  for (const std::string& part : CutAtCommas(text)) {
-    const std::string name = begun.empty() ? part : fmt::format("{},{}", begun, part);
-    if (!name.starts_with('"')) {
-      names.push_back(name);
-    } else if (const auto unquoted = Unquoted(name)) {
-      names.push_back(*unquoted);
-      begun.clear();
+  std::string_view rest = Trimmed(text);
+  while (!rest.empty()) {
+    rest.remove_prefix(std::min(rest.find_first_not_of(kBlanks), rest.size()));
+    std::size_t end = std::min(rest.find(','), rest.size());
+    if (auto quoted = rest.starts_with('"') ? QuotedNameIn(rest) : std::nullopt) {
+      names.push_back(std::move(quoted->name));
+      end = quoted->end;
     } else {
-      begun = name;
+      names.emplace_back(Trimmed(rest.substr(0, end)));
     }
-  }
-  if (!begun.empty()) {  // no quote closes it: the commas part names after all
-    const auto parts = CutAtCommas(begun);
-    names.insert(names.end(), parts.begin(), parts.end());
+    if (end + 1 == rest.size()) {
+      names.emplace_back();  // behind the last comma
+    }
+    rest.remove_prefix(std::min(end + 1, rest.size()));
   }
   return names;
 }
@@ -136,11 +158,8 @@ std::string TextOfNames(const std::vector<std::string>& names) {
   }
   std::vector<std::string> parts = names;
   for (std::string& part : parts) {
-    if (part.find(',') != std::string::npos || part.starts_with('"')) {
-      for (std::size_t at = 0; (at = part.find('"', at)) != std::string::npos; at += 2) {
-        part.insert(at, 1, '"');
-      }
-      part.insert(0, 1, '"').push_back('"');
+    if (NeedsQuotes(part)) {
+      part = InQuotes(part);
     }
   }
   return fmt::format("{}", fmt::join(parts, ","));

@@ -152,6 +152,18 @@ RC_GTEST_PROP(Settings, OfASimulationComeBack, ()) {
   ExpectBroughtBack(SimulationOf(Split(CommandOf(settings))), record, WithKept(settings));
 }
 
+/// Names full of what parts them: whatever a file calls its loci, the list of them comes back.
+RC_GTEST_PROP(NamesAtCommas, UndoTextOfNames, ()) {
+  const auto name = rc::gen::container<std::string>(rc::gen::elementOf(std::string(",\"\t a\x01")));
+  const auto names = *rc::gen::container<std::vector<std::string>>(name);
+  RC_ASSERT(NamesAtCommas(TextOfNames(names)) == names);
+}
+
+TEST(NamesAtCommas, TakeQuotesThatDoNotCloseAsTheyStand) {
+  EXPECT_EQ(NamesAtCommas(R"( "a , ""b""" , c"d ,"e" f, "g,)"),
+            (Words{R"(a , "b")", R"(c"d)", R"("e" f)", R"("g)", ""}));
+}
+
 TEST(CopiedCommand, SaysNothingThatGoesWithoutSaying) {
   AllocationSettings settings;
   settings.project = "lake";

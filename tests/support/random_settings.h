@@ -78,7 +78,7 @@ std::string RandomText(const Setting<Settings>& setting) {
     return RandomErrorModel();
   }
   if (kind == "NAME,...") {
-    const auto names = rc::gen::container<std::vector<std::string>>(RandomName(","));
+    const auto names = rc::gen::container<std::vector<std::string>>(RandomName(", \t"));
     return TextOfNames(*rc::gen::nonEmpty(names));
   }
   if (kind == "I1,I2,..." || kind == "[I1,I2,...]") {
