@@ -21,6 +21,9 @@ enum class WarningKind : std::uint8_t {
   kOffspringNameOfNoParent,
   kSpreadsheetName,
   kNegativeProbability,
+  kCoarseRandomNumbers,
+  kRandomNumbersRepeat,
+  kOptionWithoutEffect,
 
   kCount,  ///< no kind, but how many there are
 };
@@ -46,6 +49,13 @@ inline constexpr std::array<WarningSentence, static_cast<std::size_t>(WarningKin
         {WarningKind::kSpreadsheetName, "A spreadsheet would change a name."},
         {WarningKind::kNegativeProbability,
          "A negative probability has no meaning; the run uses it as it stands."},
+        {WarningKind::kCoarseRandomNumbers,
+         "Alleles with few digits are drawn coarsely: rare alleles and rare errors are lost. "
+         "--random modern draws them all."},
+        {WarningKind::kRandomNumbersRepeat,
+         "The run takes more random numbers than there are before they repeat. --random modern has "
+         "enough."},
+        {WarningKind::kOptionWithoutEffect, "An option has no effect."},
     }};
 
 /// Something odd as a value: its kind, and where to look.

@@ -31,18 +31,18 @@ void AddMissingOptions(const Settings& settings, AlikeGroups<Problem>& faults) {
 }
 
 /// `summary` tells what was read, where all of it is sound.
-ExitCode TellCheck(const FullCheck& check, const std::string& summary, bool as_json,
-                   const CommandLineStreams& streams) {
+ExitCode TellCheck(const FullCheck& check, const std::optional<RunForecast>& forecast,
+                   const std::string& summary, bool as_json, const CommandLineStreams& streams) {
   const ExitCode code = check.IsSound() ? ExitCode::kDone : ExitCode::kBadInput;
   if (as_json) {
-    streams.out << JsonText(check);
+    streams.out << JsonText(check, forecast);
     return code;
   }
   streams.err << FaultsText(check);
   TellWarnings(check.warnings, streams);
   if (check.IsSound()) {
     streams.err << summary;
-    streams.out << ContentsText(check) << "ok\n";
+    streams.out << ContentsText(check) << (forecast ? ForecastText(*forecast) : "") << "ok\n";
   }
   return code;
 }
@@ -62,17 +62,22 @@ ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams,
   if (choices.simulates) {
     auto check = CheckSimulation(choices.typed, choices.may_replace_other_flow, source);
     AddMissingOptions(check.settings, check.faults);
+    check.warnings.insert(check.warnings.begin(), choices.odd_options.begin(),
+                          choices.odd_options.end());
     if (!as_json && WarnsOfManyIterations(check.settings.flow, check.settings.iterations)) {
       streams.err << kManyIterations << '\n';
     }
     const std::string summary = check.input ? InputSummary(check.settings, *check.input) : "";
-    return TellCheck(check, summary, as_json, streams);
+    const auto forecast = check.input && check.IsSound()
+                              ? std::optional(ForecastRun(check.settings, *check.input))
+                              : std::nullopt;
+    return TellCheck(check, forecast, summary, as_json, streams);
   }
   auto check = CheckAllocation(choices.typed, choices.may_replace_other_flow, source);
   AddMissingOptions(check.settings, check.faults);
   const std::string summary =
       check.input ? InputSummary(check.settings.flow, *check.input) + '\n' : "";
-  return TellCheck(check, summary, as_json, streams);
+  return TellCheck(check, std::nullopt, summary, as_json, streams);
 }
 
 }  // namespace kaldo

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "base/warning.h"
 #include "cli/command_line.h"
 #include "runs/setting.h"
 
@@ -10,7 +12,8 @@ namespace kaldo {
 
 /// What was typed behind `kaldo check`.
 struct TypedCheck {
-  TypedSettings typed;     ///< those of the run
+  TypedSettings typed;  ///< those of the run
+  std::vector<Warning> odd_options;
   bool simulates = false;  ///< `kaldo check simulate`
   std::string format = "text";
   bool may_replace_other_flow = false;

@@ -90,9 +90,27 @@ Json FolderJson(const FolderCheck& folder) {
   return json;
 }
 
+Json ForecastJson(const RunForecast& forecast) {
+  Json classes = Json::array();
+  for (const ClassForecast& of_class : forecast.classes) {
+    classes.push_back({{"name", of_class.name},
+                       {"pseudo_offspring", of_class.pseudo_offspring},
+                       {"weight", of_class.weight}});
+  }
+  return {{"classes", std::move(classes)},
+          {"subsets", forecast.subsets},
+          {"subsets_in_all", forecast.subsets_in_all},
+          {"iterations", forecast.iterations},
+          {"random_draws", forecast.draws},
+          {"threads", forecast.threads},
+          {"expected_seconds", forecast.seconds},
+          {"takes_at_least_that", forecast.is_at_least},
+          {"may_end_earlier", forecast.is_at_most}};
+}
+
 }  // namespace
 
-std::string JsonText(const FullCheck& check) {
+std::string JsonText(const FullCheck& check, const std::optional<RunForecast>& forecast) {
   Json json{{"program", "KALDO"},
             {"version", std::string(Version())},
             {"flow", check.flow},
@@ -106,6 +124,9 @@ std::string JsonText(const FullCheck& check) {
     json["loci"].push_back(LocusJson(locus));
   }
   json["project"] = check.project ? FolderJson(*check.project) : Json();
+  if (forecast) {
+    json["simulation"] = ForecastJson(*forecast);
+  }
   // Names may be in any bytes, and a terminal must not obey them.
   constexpr int kIndent = 2;
   return json.dump(kIndent, ' ', true, Json::error_handler_t::replace) + '\n';

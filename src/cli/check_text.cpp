@@ -2,6 +2,7 @@
 #include "cli/check_text.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <fmt/format.h>
 
@@ -47,6 +48,21 @@ std::string LocusRow(const LocusStatistics& locus) {
                      Share(locus.observed_heterozygosity), Share(locus.expected_heterozygosity));
 }
 
+/// A time as people say it.
+std::string DurationText(double seconds) {
+  constexpr double kMinute = 60;
+  constexpr double kHour = 3600;
+  constexpr double kDay = 24 * kHour;
+  if (seconds < 2 * kMinute) {
+    return seconds < 1 ? "1 second" : fmt::format("{:.0f} seconds", std::ceil(seconds));
+  }
+  if (seconds < 2 * kHour) {
+    return fmt::format("{:.0f} minutes", seconds / kMinute);
+  }
+  return seconds < 2 * kDay ? fmt::format("{:.0f} hours", seconds / kHour)
+                            : fmt::format("{:.0f} days", seconds / kDay);
+}
+
 std::string FolderText(const FolderCheck& folder) {
   const std::string name = Escaped(folder.folder);
   if (!folder.exists) {
@@ -81,6 +97,27 @@ std::string FaultsText(const FullCheck& check) {
     parts.push_back(GroupText(group));
   }
   return fmt::format("{}", fmt::join(parts, "\n"));
+}
+
+std::string ForecastText(const RunForecast& forecast) {
+  std::string text =
+      fmt::format("\n{:<14}{:>16}{:>10}\n", "true parents", "pseudo-offspring", "weight");
+  for (const ClassForecast& of_class : forecast.classes) {
+    text += fmt::format("{:<14}{:>16}{:>10.4f}\n", of_class.name, of_class.pseudo_offspring,
+                        of_class.weight);
+  }
+  const std::string subsets =
+      forecast.subsets == forecast.subsets_in_all
+          ? fmt::format("{}", forecast.subsets)
+          : fmt::format("the first {} of {}", forecast.subsets, forecast.subsets_in_all);
+  text += fmt::format("Subsets of loci: {}, with {} iterations each; about {:.3g} random draws.\n",
+                      subsets, forecast.iterations, forecast.draws);
+  const std::string_view bound = forecast.is_at_least  ? "more than"
+                                 : forecast.is_at_most ? "at most about"
+                                                       : "about";
+  return text + fmt::format("Expected time: {} {} with {} {}.\n", bound,
+                            DurationText(forecast.seconds), forecast.threads,
+                            forecast.threads == 1 ? "thread" : "threads");
 }
 
 std::string ContentsText(const FullCheck& check) {

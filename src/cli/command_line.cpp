@@ -243,6 +243,9 @@ ExitCode CheckAndTell(Commands& commands, const CommandLineStreams& streams, Fil
     return Tell(typed.error(), streams);
   }
   check.typed = std::move(*typed);
+  if (check.simulates) {
+    check.odd_options = WarnOfOptionsWithoutEffect(commands.simulation.Given(), check.typed);
+  }
   check.may_replace_other_flow = commands.decisions.may_replace_other_flow;
   if (check.simulates && !commands.allocation.Given().empty()) {
     streams.err << "The options of a simulation stand behind \"check simulate\".\n";
@@ -287,9 +290,19 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
         commands.decisions, streams, workforce);
   }
   if (commands.simulate->parsed()) {
-    return RunAndTell(
-        commands.shortcuts.In(commands.simulation.Given(), true).and_then(SimulationFrom),
-        commands.decisions, streams, workforce);
+    const TypedSettings given = commands.simulation.Given();
+    const auto typed = commands.shortcuts.In(given, true);
+    if (typed) {
+      if (const auto problem = MissingProject(*typed)) {
+        return Tell(*problem, streams);
+      }
+    }
+    auto settings = typed.and_then(SimulationFrom);
+    const ExitCode code = RunAndTell(std::move(settings), commands.decisions, streams, workforce);
+    if (code == ExitCode::kDone) {
+      TellWarnings(WarnOfOptionsWithoutEffect(given, *typed), streams);
+    }
+    return code;
   }
   if (commands.check->parsed()) {
     return CheckAndTell(commands, streams, workforce.Files());

@@ -33,6 +33,29 @@ constexpr std::string_view kPilot =
     "                 --iterations 10 --offspring-per-iteration 100 \\\n"
     "                 --strategy cumulative --seed 1\n";
 
+constexpr std::string_view kSexedTrial =
+    "  kaldo simulate --project \"ponds trial\" --loci examples/sexed/loci.txt --sexed \\\n"
+    "                 --collected-males examples/sexed/sample-males.txt \\\n"
+    "                 --collected-females examples/sexed/sample-females.txt \\\n"
+    "                 --uncollected-male-sample examples/sexed/sample-males.txt \\\n"
+    "                 --uncollected-female-sample examples/sexed/sample-females.txt \\\n"
+    "                 --uncollected-males 10 --uncollected-females 10 \\\n"
+    "                 --estimated-collected-males 20 --estimated-uncollected-males 10 \\\n"
+    "                 --estimated-collected-females 20 --estimated-uncollected-females 10 \\\n"
+    "                 --iterations 10 --offspring-per-iteration 100 --seed 1\n";
+
+constexpr std::string_view kSexedPilot =
+    "  kaldo simulate --project \"ponds pilot\" --loci examples/sexed/loci.txt --sexed \\\n"
+    "                 --pseudo-collected-male-sample examples/sexed/sample-males.txt \\\n"
+    "                 --pseudo-collected-female-sample examples/sexed/sample-females.txt \\\n"
+    "                 --pseudo-collected-males 20 --pseudo-collected-females 20 \\\n"
+    "                 --uncollected-male-sample examples/sexed/sample-males.txt \\\n"
+    "                 --uncollected-female-sample examples/sexed/sample-females.txt \\\n"
+    "                 --uncollected-males 10 --uncollected-females 10 \\\n"
+    "                 --estimated-collected-males 20 --estimated-uncollected-males 10 \\\n"
+    "                 --estimated-collected-females 20 --estimated-uncollected-females 10 \\\n"
+    "                 --iterations 10 --offspring-per-iteration 100 --until-se 0.01 --seed 1\n";
+
 constexpr std::string_view kChecks =
     "  kaldo check --loci examples/non-sexed/loci.txt \\\n"
     "              --parents examples/non-sexed/parents.txt \\\n"
@@ -63,16 +86,16 @@ constexpr std::string_view kExitCodes =
     "difference, 130 stopped by Ctrl-C.";
 
 /// The examples of a command, in their order.
-using Examples = std::array<std::string_view, 2>;
+using Examples = std::array<std::string_view, 4>;
 
 constexpr std::array<std::pair<std::string_view, Examples>, 7> kExamples{
-    {{"allocate", {kLake, kPonds}},
-     {"simulate", {kTrial, kPilot}},
-     {"check", {kChecks, kCheckSimulation}},
-     {"check simulate", {kCheckSimulation, ""}},
-     {"rerun", {kRerun, ""}},
-     {"verify", {kVerify, ""}},
-     {"completion", {kCompletion, ""}}}};
+    {{"allocate", {kLake, kPonds, "", ""}},
+     {"simulate", {kTrial, kPilot, kSexedTrial, kSexedPilot}},
+     {"check", {kChecks, kCheckSimulation, "", ""}},
+     {"check simulate", {kCheckSimulation, "", "", ""}},
+     {"rerun", {kRerun, "", "", ""}},
+     {"verify", {kVerify, "", "", ""}},
+     {"completion", {kCompletion, "", "", ""}}}};
 
 }  // namespace
 
@@ -82,7 +105,9 @@ std::string HelpFooter(std::string_view command) {
                    [command](const auto& each) { return each.first == command; });
   std::string text = "Examples, beside the example data:\n";
   if (own != kExamples.end()) {
-    text.append(own->second[0]).append(own->second[1]);
+    for (const std::string_view example : own->second) {
+      text.append(example);
+    }
   } else {
     for (const std::string_view example : {kLake, kTrial, kVerify}) {
       text.append(example);

@@ -9,6 +9,8 @@
 #include "base/version.h"
 #include "confidence/confidence_run.h"
 #include "runs/project_folder.h"
+#include "simulation/figures/subset_ranking.h"
+#include "simulation/reports/estimate_texts.h"
 #include "simulation/reports/parameter_block.h"
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_texts.h"
@@ -18,14 +20,18 @@ namespace kaldo {
 
 namespace {
 
+/// Four decimals; "NA" for what nothing can be said of.
+std::string OrNone(double value) { return std::isnan(value) ? "NA" : fmt::format("{:.4f}", value); }
+
 /// Four decimals; "nan" for a deviation that rounding made none, whatever its sign bit.
 std::string Decimals(double value) {
   return std::isnan(value) ? "nan" : fmt::format("{:.4f}", value);
 }
 
 /// Per class and globally, from the last subset of loci.
-std::string CorrectRows(const SimulationTexts& texts, const SimulationResult& result) {
+std::string CorrectRows(const SimulationSettings& settings, const SimulationResult& result) {
   constexpr std::string_view kRow = "  {:<12}{:>10}{:>12}{:>12}\n";
+  const SimulationTexts& texts = TextsOf(settings.flow);
   std::string text = fmt::format(kRow, "true parents", "offspring", "correct", "sd");
   for (std::size_t k = 0; k < result.origins.size(); ++k) {
     const OriginStatistics& origin = result.origins[k];
@@ -34,36 +40,88 @@ std::string CorrectRows(const SimulationTexts& texts, const SimulationResult& re
                         origin.is_empty ? "NA" : Decimals(correct.mean),
                         origin.is_empty ? "NA" : Decimals(correct.deviation));
   }
-  return text + fmt::format("\n  estimated probability that any allocation is correct: {:.4f}\n",
-                            result.LastSubset().probabilities.any);
+  const bool weighted = DesignOf(settings.flow).global_rows == GlobalRows::kWeighted;
+  return text + fmt::format("  (GLOBAL is {})\n",
+                            EstimateScopes(settings.flow).at(weighted ? 0 : 1).words);
 }
 
-/// The subsets that a strategy ran through; of very many only the last.
+/// Every estimated probability with its deviation and its error, from the last subset of loci.
+std::string EstimateRows(const SimulationSettings& settings, const SimulationResult& result) {
+  constexpr std::string_view kRow = "    {:<42}{:>8}{:>10}{:>10}\n";
+  std::string text =
+      fmt::format("\n  estimated probability that any allocation is correct: {:.4f}\n\n",
+                  result.LastSubset().probabilities.any);
+  text += fmt::format(kRow, "estimated probability to be correct", "mean", "sd", "se");
+  const auto scopes = EstimateScopes(settings.flow);
+  for (std::size_t scope = 0; scope < scopes.size(); ++scope) {
+    text += fmt::format("  {}:\n", scopes[scope].words);
+    const KindEstimates& estimates = EstimatesIn(result.LastSubset().estimates, scope);
+    for (const EstimateKind& kind : EstimateKinds(settings.flow)) {
+      const Estimate& estimate = EstimateOfKind(estimates, kind.kind);
+      text += fmt::format(kRow, kind.words, OrNone(estimate.value), OrNone(estimate.deviation),
+                          OrNone(estimate.error));
+    }
+  }
+  if (settings.until_error) {
+    text += fmt::format("  after {} iterations, of {} at most\n", result.LastSubset().iterations,
+                        settings.iterations);
+  }
+  return text;
+}
+
+/// Subsets with their figures, at the places told.
+template <typename Places>
+std::string RankedRows(const SimulationRun& run, const Places& places) {
+  std::string text;
+  for (const std::size_t place : places) {
+    const SubsetFigures& subset = run.result.subsets[place];
+    const Estimate& any = EstimateOfKind(subset.estimates.population, AllocationKind::kAny);
+    text +=
+        fmt::format("  {:.4f}  se {:<6}  {:>2}  {}\n", subset.probabilities.any, OrNone(any.error),
+                    subset.loci.size(), NamesOf(run.input.loci, subset.loci));
+  }
+  return text;
+}
+
+std::string CriterionText(const SimulationSettings& settings, const SimulationRun& run) {
+  if (settings.strategy != LociStrategy::kMinimal) {
+    return {};
+  }
+  if (run.result.criterion_reached) {
+    return fmt::format("The criterion {} has been reached with {} loci.\n", settings.criterion,
+                       run.result.LastSubset().loci.size());
+  }
+  std::string text = fmt::format("No subset reached the criterion {}.\n", settings.criterion);
+  if (const auto& subsets = run.input.subsets; subsets.Count() < subsets.InAll()) {
+    text +=
+        fmt::format("The first {} of {} subsets were run; --start-with goes on with larger ones.\n",
+                    subsets.Count(), subsets.InAll());
+  }
+  return text;
+}
+
+/// The subsets that a strategy ran through: the best of each size, and the best of all.
 std::string SubsetRows(const SimulationSettings& settings, const SimulationRun& run) {
-  constexpr std::size_t kMostRows = 50;
-  const SimulationInput& input = run.input;
-  const SimulationResult& result = run.result;
+  constexpr std::size_t kMostRows = 20;
   if (settings.strategy == LociStrategy::kChoice) {
     return {};
   }
+  const std::vector<SubsetFigures>& subsets = run.result.subsets;
   std::string text =
-      fmt::format("Subsets of loci run: {}; any allocation correct:\n", result.subsets.size());
-  const std::size_t first =
-      result.subsets.size() > kMostRows ? result.subsets.size() - kMostRows : 0;
-  if (first > 0) {
-    text += "  ...\n";
+      fmt::format("Subsets of loci run: {}; any allocation correct:\n", subsets.size());
+  std::vector<std::size_t> best;
+  for (const auto& [size, place] : BestSubsets(subsets)) {
+    best.push_back(place);
   }
-  for (std::size_t j = first; j < result.subsets.size(); ++j) {
-    text += fmt::format("  {:.4f}  {}\n", result.subsets[j].probabilities.any,
-                        NamesOf(input.loci, result.subsets[j].loci));
+  const bool has_others = best.size() < subsets.size();
+  text += (has_others ? " best of each size\n" : "") + RankedRows(run, best);
+  if (has_others) {
+    auto ranked = RankSubsets(subsets);
+    ranked.resize(std::min(ranked.size(), kMostRows));
+    text += " best of all\n" + RankedRows(run, ranked);
   }
-  if (result.criterion_reached) {
-    text += fmt::format("The criterion {} has been reached with {} loci.\n", settings.criterion,
-                        result.LastSubset().loci.size());
-  } else if (settings.strategy == LociStrategy::kMinimal) {
-    text += fmt::format("No subset reached the criterion {}.\n", settings.criterion);
-  }
-  return text + "\nWith the last of them:\n";
+  return text + fmt::format("All of them stand in {}.\n", kSubsetsFile.substr(1)) +
+         CriterionText(settings, run) + "\nWith the last of them:\n";
 }
 
 /// Whether the posteriors are as good as they say.
@@ -103,9 +161,12 @@ std::string InputSummary(const SimulationSettings& settings, const SimulationInp
 }
 
 std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run) {
-  std::string text = fmt::format("KALDO {}\n{}\n  {}  seed {}\n\n", Version(), TypeLine(settings),
-                                 InputSummary(settings, run.input), run.result.seed);
-  text += SubsetRows(settings, run) + CorrectRows(TextsOf(settings.flow), run.result);
+  const bool modern = settings.random == RandomSource::kModern;
+  std::string text = fmt::format("KALDO {}\n{}\n  {}  seed {}{}\n\n", Version(), TypeLine(settings),
+                                 InputSummary(settings, run.input), run.result.seed,
+                                 modern ? ", modern random numbers" : "");
+  text += SubsetRows(settings, run) + CorrectRows(settings, run.result);
+  text += EstimateRows(settings, run.result);
   text += ReliabilityText(settings, run.result);
   text += fmt::format("\nFiles in \"{}\", first of all {}\n\n", settings.project,
                       kSummaryFile.substr(1));

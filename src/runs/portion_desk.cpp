@@ -78,8 +78,13 @@ void PortionDesk::TakeInOrder() {
     const Portion portion = handed_.front();
     handed_.pop_front();
     ++first_number_;
-    const bool go_on = plan_.Take(portion, result);
-    if (!go_on || (handed_.empty() && next_group_ == groups_)) {
+    const bool go_on = plan_.HasEnded(portion.group) || plan_.Take(portion, result);
+    if (next_group_ == portion.group && plan_.HasEnded(portion.group)) {
+      next_item_ = 0;
+      ++next_group_;
+    }
+    const bool is_any_awaited = !handed_.empty() && !plan_.HasEnded(handed_.back().group);
+    if (!go_on || (!is_any_awaited && next_group_ == groups_)) {
       End();
     }
   }

@@ -87,6 +87,10 @@ class PortionPlan {
   /// those behind it may be thrown away.
   virtual bool MayEndEarly() const { return false; }
 
+  /// True where a group had enough items with those taken: of the rest no result is taken, and
+  /// those that were not handed out yet are not done.
+  virtual bool HasEnded(std::size_t /*group*/) const { return false; }
+
   /// The order of a portion. Asked in order of groups and items.
   virtual std::string Order(const Portion& portion) = 0;
 

@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 8> kOfAllocations = {
     "/Confidence.tsv",           "/Loci.tsv",
 };
 
-constexpr std::array<std::string_view, 14> kOfNonSexedSimulations = {
+constexpr std::array<std::string_view, 15> kOfNonSexedSimulations = {
     "/Summary.xls",
     "/Iterations - global results.xls",
     "/Iterations - results_2collpar.xls",
@@ -32,9 +32,10 @@ constexpr std::array<std::string_view, 14> kOfNonSexedSimulations = {
     "/uncollected parents.txt",
     "/pseudo-offspring.txt",
     "/Reliability.tsv",
+    "/Subsets.tsv",
 };
 
-constexpr std::array<std::string_view, 17> kOfSexedSimulations = {
+constexpr std::array<std::string_view, 18> kOfSexedSimulations = {
     "/Summary.xls",
     "/Iterations-global results.xls",
     "/Iterations-results_coll_m_coll_f.xls",
@@ -52,6 +53,7 @@ constexpr std::array<std::string_view, 17> kOfSexedSimulations = {
     "/uncollected females.txt",
     "/pseudo-offspring.txt",
     "/Reliability.tsv",
+    "/Subsets.tsv",
 };
 
 }  // namespace

@@ -25,6 +25,7 @@ class RestOfPlan final : public PortionPlan {
   PortionPlace First() const override { return first_; }
   std::size_t MostItemsPerPortion() const override { return plan_.MostItemsPerPortion(); }
   bool MayEndEarly() const override { return plan_.MayEndEarly(); }
+  bool HasEnded(std::size_t group) const override { return plan_.HasEnded(group); }
   std::string Order(const Portion& portion) override { return plan_.Order(portion); }
 
   bool Take(const Portion& portion, std::string_view result) override {
@@ -60,7 +61,8 @@ class RestOfPlan final : public PortionPlan {
     }
     (void)plan_.Order(next.portion);
     has_ended_ = !plan_.Take(next.portion, next.result);
-    first_ = end == items_ ? PortionPlace{group + 1, 0} : PortionPlace{group, end};
+    first_ = end == items_ || plan_.HasEnded(group) ? PortionPlace{group + 1, 0}
+                                                    : PortionPlace{group, end};
   }
 
   PortionPlan& plan_;

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "base/byte_packing.h"
+#include "simulation/figures/iterations_suffice.h"
 #include "simulation/iteration_portions.h"
 
 namespace kaldo {
@@ -25,7 +26,8 @@ CountsPlan::CountsPlan(const SimulationSettings& settings, const SimulationInput
       design_(DesignOf(settings.flow)),
       result_(result),
       observer_(observer),
-      stream_(settings.flow, input, result.seed) {}
+      stream_of_first_(settings, input, result.seed),
+      stream_(stream_of_first_) {}
 
 std::size_t CountsPlan::ItemsPerGroup() const {
   return static_cast<std::size_t>(settings_.iterations);
@@ -33,28 +35,53 @@ std::size_t CountsPlan::ItemsPerGroup() const {
 
 std::size_t CountsPlan::MostItemsPerPortion() const {
   const std::size_t offspring = std::max(input_.OffspringPerIteration(), 1U);
-  return std::max<std::size_t>(kMostOffspringPerPortion / offspring, 1);
+  const std::size_t most = std::max<std::size_t>(kMostOffspringPerPortion / offspring, 1);
+  return settings_.until_error ? std::min(most, kIterationsPerJudgement) : most;
 }
 
 std::string CountsPlan::Order(const Portion& portion) {
-  ordered_.push_back(stream_.Next(portion.Size()));
-  return PackOrder(input_.subsets.At(portion.group), ordered_.back());
+  if (portion.begin == 0) {
+    if (settings_.subset_randoms == SubsetRandoms::kCommon) {
+      stream_ = stream_of_first_;
+    } else {
+      stream_.SkipTo(portion.group * ItemsPerGroup());
+    }
+  }
+  ordered_.push_back({portion, stream_.Next(portion.Size())});
+  return PackOrder(input_.subsets.At(portion.group), ordered_.back().starts);
 }
 
 bool CountsPlan::Take(const Portion& portion, std::string_view result) {
+  while (ordered_.front().portion != portion) {  // of a subset that had enough
+    ordered_.pop_front();
+  }
   if (portion.begin == 0) {
     BeginSubset(portion.group);
   }
+  bool is_enough = false;
   ByteUnpacker unpacker(result);
-  for (const std::uint32_t state : ordered_.front()) {
-    result_.states.push_back(state);
+  for (const IterationStart start : ordered_.front().starts) {
+    result_.states.push_back(start);
     iterations_.push_back(unpacker.Get<IterationCounts>());
+    if (IsEnough()) {
+      is_enough = true;
+      break;
+    }
   }
   ordered_.pop_front();
-  if (portion.end == ItemsPerGroup()) {
+  if (portion.end == ItemsPerGroup() || is_enough) {
     EndSubset(portion.group);
   }
   return !result_.criterion_reached;
+}
+
+/// Whether the subset may end with the iteration that was taken last.
+bool CountsPlan::IsEnough() {
+  if (!settings_.until_error) {
+    return false;
+  }
+  any_correct_.push_back(AnyCorrect(design_, input_.weights, iterations_.back()));
+  return IterationsSuffice(any_correct_, *settings_.until_error);
 }
 
 void CountsPlan::BeginSubset(std::size_t subset) {
@@ -63,13 +90,17 @@ void CountsPlan::BeginSubset(std::size_t subset) {
   }
   result_.states.clear();
   iterations_.clear();
+  any_correct_.clear();
 }
 
 void CountsPlan::EndSubset(std::size_t subset) {
   SubsetFigures figures;
   figures.loci = input_.subsets.At(subset);
-  figures.average = AverageFigures(design_, input_.weights, iterations_);
+  const std::vector<ClassFigures> of_iterations = FiguresOfIterations(design_, iterations_);
+  figures.iterations = static_cast<std::int32_t>(iterations_.size());
+  figures.average = AverageFigures(design_, input_.weights, of_iterations);
   figures.probabilities = EstimateProbabilities(figures.average);
+  figures.estimates = EstimateAll(design_, input_.weights, iterations_, of_iterations);
   if (settings_.print_subset_statistics) {
     for (const IterationTable& table : TablesByOrigin(design_, input_.weights, iterations_)) {
       figures.tables.push_back(SpreadsOf(table));

@@ -31,9 +31,9 @@ class IterationWorker final : public PortionWorker {
   std::string Do(std::string_view order, RunObserver& observer) override {
     ByteUnpacker unpacker(order);
     UseLoci(unpacker.GetAll<LocusIndex>());
-    const auto states = unpacker.GetAll<std::uint32_t>();
+    const auto states = unpacker.GetAll<IterationStart>();
     BytePacker products;
-    for (const std::uint32_t state : states) {
+    for (const IterationStart state : states) {
       if (observer.StopRequested()) {
         throw RunStopped();
       }
@@ -80,7 +80,7 @@ IterationProduct ProductOf(std::string_view part) {
   return part == kMatricesPart ? IterationProduct::kMatrices : IterationProduct::kCounts;
 }
 
-std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> states) {
+std::string PackOrder(const LocusSubset& loci, std::span<const IterationStart> states) {
   BytePacker packer;
   packer.AddAll(std::span(loci));
   packer.AddAll(states);

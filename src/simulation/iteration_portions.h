@@ -5,6 +5,7 @@
 #include <string>
 
 #include "runs/portions.h"
+#include "simulation/iteration_states.h"
 #include "simulation/locus_subsets.h"
 #include "simulation/simulation_input.h"
 
@@ -25,9 +26,9 @@ enum class IterationProduct {
 /// The product of a part of a run.
 IterationProduct ProductOf(std::string_view part);
 
-/// A stretch of iterations, as bytes: with which loci, and where in the stream of random numbers
-/// each starts. All a worker needs beside settings and input.
-std::string PackOrder(const LocusSubset& loci, std::span<const std::uint32_t> states);
+/// A stretch of iterations, as bytes: with which loci, and where its random numbers start. All a
+/// worker needs beside settings and input.
+std::string PackOrder(const LocusSubset& loci, std::span<const IterationStart> states);
 
 /// The simulation of stretches of iterations.
 class IterationTask final : public PortionTask {

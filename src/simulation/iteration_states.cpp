@@ -8,6 +8,8 @@ namespace kaldo {
 
 namespace {
 
+constexpr unsigned kSeedPlace = 32;
+
 std::uint64_t SimulatedParentsOf(const SimulationInput& input) {
   std::uint64_t parents = 0;
   for (const ParentalGroup& group : input.groups) {
@@ -23,27 +25,64 @@ TrueParentRanges RangesOf(const OriginClass& origin, const SimulationInput& inpu
           origin.SameGroup()};
 }
 
-IterationStates::IterationStates(Flow flow, const SimulationInput& input, std::uint32_t seed)
-    : random_(seed),
+RandomNumbers RandomNumbersAt(RandomSource source, IterationStart start) {
+  const auto low = static_cast<std::uint32_t>(start);
+  return source == RandomSource::kModern
+             ? RandomNumbers(CounterStream(static_cast<std::uint32_t>(start >> kSeedPlace), low))
+             : RandomNumbers(low);
+}
+
+IterationStates::IterationStates(const SimulationSettings& settings, const SimulationInput& input,
+                                 std::uint32_t seed)
+    : source_(settings.random),
+      seed_(seed),
+      random_(seed),
       parents_(SimulatedParentsOf(input) * DrawsPerParent(input.loci.Count())),
       offspring_(DrawsPerPseudoOffspring(input.loci.Count())) {
-  const std::vector<OriginClass>& classes = DesignOf(flow).classes;
+  const std::vector<OriginClass>& classes = DesignOf(settings.flow).classes;
+  bool may_draw_again = false;
   for (std::size_t k = 0; k < classes.size(); ++k) {
     classes_.push_back({RangesOf(classes[k], input), input.class_sizes[k]});
+    may_draw_again = may_draw_again || classes_.back().ranges.must_differ;
+  }
+  if (!may_draw_again) {
+    const std::size_t loci = input.loci.Count();
+    draws_ = SimulatedParentsOf(input) * DrawsPerParent(loci) +
+             input.OffspringPerIteration() * (2 + DrawsPerPseudoOffspring(loci));
   }
 }
 
-std::vector<std::uint32_t> IterationStates::Next(std::size_t iterations) {
-  std::vector<std::uint32_t> states;
-  states.reserve(iterations);
+IterationStart IterationStates::Start() const {
+  return source_ == RandomSource::kModern
+             ? IterationStart{seed_} << kSeedPlace | static_cast<std::uint32_t>(next_)
+             : random_.State();
+}
+
+std::vector<IterationStart> IterationStates::Next(std::size_t iterations) {
+  std::vector<IterationStart> starts;
+  starts.reserve(iterations);
   for (std::size_t iteration = 0; iteration < iterations; ++iteration) {
-    states.push_back(random_.State());
+    starts.push_back(Start());
     SkipIteration();
   }
-  return states;
+  return starts;
+}
+
+void IterationStates::SkipTo(std::uint64_t iteration) {
+  if (draws_ && iteration > next_) {
+    random_.Skip(RandomJump((iteration - next_) * *draws_));
+    next_ = iteration;
+  }
+  while (next_ < iteration) {
+    SkipIteration();
+  }
 }
 
 void IterationStates::SkipIteration() {
+  ++next_;
+  if (source_ == RandomSource::kModern) {
+    return;
+  }
   random_.Skip(parents_);
   for (const ClassDraws& origin : classes_) {
     for (std::int32_t i = 0; i < origin.size; ++i) {

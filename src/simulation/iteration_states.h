@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "simulation/flows/origin_class.h"
@@ -10,18 +11,26 @@
 
 namespace kaldo {
 
-/// Finds where in the stream of random numbers each iteration starts, without making any
-/// individual: everything but the true parents takes a known number of draws and is jumped over.
-/// Iterations can then run in any order and on any thread.
+/// The random numbers of an iteration.
+RandomNumbers RandomNumbersAt(RandomSource source, IterationStart start);
+
+/// Finds where each iteration starts, so that iterations can run in any order and on any thread.
+/// Modern iterations have a stream each. The others share one, in which everything but the true
+/// parents takes a known number of draws: no individual is made, they are jumped over.
 class IterationStates {
  public:
-  IterationStates(Flow flow, const SimulationInput& input, std::uint32_t seed);
+  IterationStates(const SimulationSettings& settings, const SimulationInput& input,
+                  std::uint32_t seed);
 
-  /// The states at the start of the next so many iterations, which follow each other in the stream:
-  /// the first one starts at the seed.
-  std::vector<std::uint32_t> Next(std::size_t iterations);
+  /// The starts of the next so many iterations, which follow each other: the first one starts at
+  /// the seed.
+  std::vector<IterationStart> Next(std::size_t iterations);
+
+  /// Leaves iterations out so that the next one is that of the number, counted from 0.
+  void SkipTo(std::uint64_t iteration);
 
  private:
+  IterationStart Start() const;
   void SkipIteration();
 
   struct ClassDraws {
@@ -29,8 +38,12 @@ class IterationStates {
     std::int32_t size = 0;
   };
 
+  RandomSource source_;
+  std::uint32_t seed_;
+  std::uint64_t next_ = 0;  ///< the number of the next iteration
   RandomNumbers random_;
   RandomJump parents_;
+  std::optional<std::uint64_t> draws_;  ///< of an iteration, where no parents are drawn again
   RandomJump offspring_;
   std::vector<ClassDraws> classes_;
 };

@@ -28,11 +28,12 @@ std::uint64_t SubsetsFrom(std::size_t count, std::size_t start_with) {
   return subsets;
 }
 
-/// Every choice of `size` places of `count`, in lexicographic order of the places.
+/// Every choice of `size` places of `count`, in lexicographic order of the places, until there are
+/// as many as may be run.
 void AppendChoices(std::size_t count, std::size_t size, std::vector<std::uint64_t>& choices) {
   std::vector<std::size_t> places(size);
   std::iota(places.begin(), places.end(), std::size_t{0});
-  while (true) {
+  while (choices.size() < kMostSubsets) {
     std::uint64_t choice = 0;
     for (const std::size_t place : places) {
       choice |= std::uint64_t{1} << place;
@@ -77,14 +78,16 @@ tl::expected<LocusSubsets, Problem> LocusSubsets::Choose(const SimulationSetting
     return subsets;
   }
   const std::uint64_t wanted = SubsetsFrom(count, start_with);
-  if (wanted > kMostSubsets) {
+  if (settings.strategy == LociStrategy::kAll && wanted > kMostSubsets) {
     return tl::unexpected(Problem{
         .kind = ProblemKind::kTooManySubsets,
         .subject = fmt::format("{}", wanted),
         .found = fmt::format("at most {} are run; use fewer loci or start with more of them",
                              kMostSubsets)});
   }
-  for (std::size_t size = start_with; size <= count; ++size) {
+  subsets.all_ = wanted;
+  for (std::size_t size = start_with; size <= count && subsets.choices_.size() < kMostSubsets;
+       ++size) {
     AppendChoices(count, size, subsets.choices_);
   }
   return subsets;

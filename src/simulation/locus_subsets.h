@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -27,15 +28,19 @@ class LocusSubsets {
 
   /// The subsets that the strategy of the settings asks for, of the loci in use:
   /// - all, minimal: every subset with at least `start_with` loci, by growing size and inside a
-  ///   size in lexicographic order of places in the file;
+  ///   size in lexicographic order of places in the file; minimal, which ends with the first that
+  ///   is good enough, only the first kMostSubsets of them;
   /// - cumulative: the first `start_with`, one more, ... loci in the order in which the sequence of
   ///   the settings lets them enter, or else in file order;
   /// - choice: all of them, once.
-  /// More subsets than kMostSubsets, or none, is a Problem.
+  /// More than kMostSubsets of all subsets, or none, is a Problem.
   static tl::expected<LocusSubsets, Problem> Choose(const SimulationSettings& settings,
                                                     const LociList& loci);
 
   std::size_t Count() const;
+
+  /// How many the strategy has, of which minimal may leave out the last.
+  std::uint64_t InAll() const { return std::max<std::uint64_t>(all_, Count()); }
 
   /// The subset of that place, counted from 0 in the order of the run.
   LocusSubset At(std::size_t subset) const;
@@ -47,6 +52,7 @@ class LocusSubsets {
   std::vector<LocusIndex> loci_;
   std::size_t first_prefix_ = 0;        ///< loci in the first subset when prefixes are taken
   std::vector<std::uint64_t> choices_;  ///< else one bit per place in loci_
+  std::uint64_t all_ = 0;               ///< ... of so many in all
 };
 
 }  // namespace kaldo

@@ -8,7 +8,7 @@ namespace {
 constexpr std::uint64_t kDrawsPerLocus = 4;
 
 Slot DrawFrom(SlotRange range, RandomNumbers& random) {
-  return Slot{range.begin + random.Next() % static_cast<std::uint32_t>(range.Size())};
+  return Slot{range.begin + random.Below(static_cast<std::uint32_t>(range.Size()))};
 }
 
 AlleleIndex Chosen(const LocusGenotype& parent, std::uint32_t choice) {
@@ -53,12 +53,12 @@ void ProducePseudoOffspring(GenotypeTable& table, Slot offspring, ParentPair par
     const LocusIndex locus{l};
     const std::uint32_t choice1 = random.Next();
     const std::uint32_t choice2 = random.Next();
-    const std::uint32_t reading1 = draw.Step(random);
-    const std::uint32_t reading2 = draw.Step(random);
+    const std::uint64_t reading1 = draw.Step(random);
+    const std::uint64_t reading2 = draw.Step(random);
     LocusGenotype genotype;
     if (in_use[l] != 0) {
       const auto sizes = catalogues[l].Sizes();
-      const auto read = [&](AlleleIndex parental, std::uint32_t step) {
+      const auto read = [&](AlleleIndex parental, std::uint64_t step) {
         return readings[l].IsEmpty() ? Transmit(matrices[l], parental, draw.At(step))
                                      : readings[l].Read(parental, step);
       };

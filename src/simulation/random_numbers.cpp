@@ -17,10 +17,20 @@ RandomJump::RandomJump(std::uint64_t draws) {
   }
 }
 
-UnitDraw::UnitDraw(std::size_t digits_per_allele) {
+std::uint32_t RandomNumbers::FairlyBelow(std::uint32_t count) {
+  const std::uint32_t unfair = (0U - count) % count;  // of 2^32 values so many are too many
+  std::uint64_t product = 0;
+  do {
+    product = (stream_.Next() >> 32U) * count;
+  } while (static_cast<std::uint32_t>(product) < unfair);
+  return static_cast<std::uint32_t>(product >> 32U);
+}
+
+UnitDraw::UnitDraw(std::size_t digits_per_allele, bool is_fine) : is_fine_(is_fine) {
   for (std::size_t digit = 0; digit < digits_per_allele; ++digit) {
     modulus_ *= 10;
   }
+  steps_ = is_fine ? 0x1p53 : static_cast<double>(modulus_);
 }
 
 }  // namespace kaldo

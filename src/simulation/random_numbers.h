@@ -3,7 +3,13 @@
 
 #include <cstdint>
 
+#include "simulation/counter_stream.h"
+
 namespace kaldo {
+
+/// Where the random numbers of an iteration start: the state of the stream that all share or,
+/// modern, the seed above the number of the iteration.
+using IterationStart = std::uint64_t;
 
 /// Many steps of the generator at once: the map state -> a state + c of one step, applied n times,
 /// is such a map again (Knuth, The Art of Computer Programming vol. 2, 3.2.1). So a simulation
@@ -37,6 +43,9 @@ class RandomNumbers {
 
   /// The next value of the stream, 0 to 32767.
   std::uint32_t Next() {
+    if (is_modern_) {
+      return static_cast<std::uint32_t>(stream_.Next() >> 49U);
+    }
     state_ = state_ * 214013U + 2531011U;
     return (state_ >> 16U) & 0x7fffU;
   }
@@ -47,30 +56,55 @@ class RandomNumbers {
   /// What a stream that goes on from here is made of.
   std::uint32_t State() const { return state_; }
 
+  /// The modern numbers of an iteration instead: values of 15 bits are the upper ones of 64.
+  explicit RandomNumbers(CounterStream stream) : is_modern_(true), stream_(stream) {}
+
+  /// One of `count` things, 0 to count - 1: a value modulo their number, which prefers the first
+  /// ones by a part in 32768 / count. Modern: all alike, by the product of 32 bits and their number
+  /// and another draw where that would be unfair (Lemire 2019, Fast random integer generation in an
+  /// interval, DOI 10.1145/3230636).
+  std::uint32_t Below(std::uint32_t count) {
+    return is_modern_ ? FairlyBelow(count) : Next() % count;
+  }
+
+  /// 53 bits of a modern value: as many as a fraction in double precision holds.
+  std::uint64_t Next53() { return stream_.Next() >> 11U; }
+
  private:
-  std::uint32_t state_;
+  std::uint32_t FairlyBelow(std::uint32_t count);
+
+  std::uint32_t state_ = 0;
+  bool is_modern_ = false;
+  CounterStream stream_;
 };
 
 /// Draws from 0 to just below 1 on a grid of 1/modulus: a value of the stream modulo the modulus,
 /// which is 10 to the power of the digits of an allele: 1000 for sizes of three digits. So a
 /// frequency is told as finely as an allele size is written (this program's convention). Values
 /// from 0 to 32767 do not fill all places of the grid equally often: with three digits 0 to 0.767
-/// come up in 33 of 32768 draws, the others in 32.
+/// come up in 33 of 32768 draws, the others in 32. Modern draws lie on a grid of 2^-53, whose
+/// places all come up alike.
 class UnitDraw {
  public:
-  explicit UnitDraw(std::size_t digits_per_allele);
+  /// `is_fine` for modern random numbers.
+  explicit UnitDraw(std::size_t digits_per_allele, bool is_fine = false);
 
   double operator()(RandomNumbers& random) const { return At(Step(random)); }
 
   /// The same draw as a number of steps from 0, and what so many steps are.
-  std::uint32_t Steps() const { return modulus_; }
-  std::uint32_t Step(RandomNumbers& random) const { return random.Next() % modulus_; }
-  double At(std::uint32_t step) const {
-    return static_cast<double>(step) / static_cast<double>(modulus_);
+  std::uint64_t Step(RandomNumbers& random) const {
+    return is_fine_ ? random.Next53() : random.Next() % modulus_;
   }
+  double At(std::uint64_t step) const { return static_cast<double>(step) / steps_; }
+
+  /// The number of steps up to 1, where they are so few that one may count them.
+  std::uint32_t Steps() const { return modulus_; }
+  bool IsFine() const { return is_fine_; }
 
  private:
   std::uint32_t modulus_ = 1;
+  bool is_fine_ = false;
+  double steps_ = 1;
 };
 
 }  // namespace kaldo

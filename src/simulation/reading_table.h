@@ -26,7 +26,7 @@ class ReadingTable {
   bool IsEmpty() const { return readings_.empty(); }
 
   /// The allele that is read for a step of the draw.
-  AlleleIndex Read(AlleleIndex parental, std::uint32_t step) const {
+  AlleleIndex Read(AlleleIndex parental, std::uint64_t step) const {
     return AlleleIndex{readings_[parental.Value() * steps_ + step]};
   }
 

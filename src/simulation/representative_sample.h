@@ -15,6 +15,10 @@ namespace kaldo {
 /// and which it is decides a draw (this program's convention).
 using CumulativeFrequencies = std::array<float, kMaxAlleles>;
 
+/// The same in double precision, for modern random numbers.
+using FineFrequencies = std::array<double, kMaxAlleles>;
+FineFrequencies ComputeFineFrequencies(const AlleleCatalogue& catalogue, std::size_t individuals);
+
 /// Sums count / (2 x individuals) over the places of a catalogue. The sum runs in double precision
 /// and each entry is rounded to single precision. Undefined alleles count on the first place.
 CumulativeFrequencies ComputeCumulativeFrequencies(const AlleleCatalogue& catalogue,
@@ -33,8 +37,21 @@ class RepresentativeSample {
   /// The size of the first allele whose running sum reaches `u`, at the latest the last one. At a
   /// locus without any allele it is undefined.
   AlleleSize Draw(LocusIndex locus, double u) const {
+    return DrawFrom(cumulative_[locus.Value()], locus, u);
+  }
+
+  /// The same by the sums in double precision.
+  AlleleSize DrawFinely(LocusIndex locus, double u) const {
+    return DrawFrom(fine_[locus.Value()], locus, u);
+  }
+
+  std::span<const AlleleSize> Sizes(LocusIndex locus) const {
+    return catalogues_[locus.Value()].Sizes();
+  }
+
+ private:
+  AlleleSize DrawFrom(const auto& cumulative, LocusIndex locus, double u) const {
     const auto sizes = catalogues_[locus.Value()].Sizes();
-    const CumulativeFrequencies& cumulative = cumulative_[locus.Value()];
     if (sizes.empty()) {
       return kUndefinedAllele;
     }
@@ -45,13 +62,9 @@ class RepresentativeSample {
     return sizes[place];
   }
 
-  std::span<const AlleleSize> Sizes(LocusIndex locus) const {
-    return catalogues_[locus.Value()].Sizes();
-  }
-
- private:
   std::vector<AlleleCatalogue> catalogues_;
   std::vector<CumulativeFrequencies> cumulative_;
+  std::vector<FineFrequencies> fine_;
 };
 
 }  // namespace kaldo

@@ -35,7 +35,7 @@ SimulatedIteration::SimulatedIteration(const SimulationSettings& settings,
     : settings_(settings),
       input_(input),
       design_(DesignOf(settings.flow)),
-      draw_(input.digits_per_field / 2),
+      draw_(input.digits_per_field / 2, settings.random == RandomSource::kModern),
       allocation_model_(AllocationModel(settings)),
       offspring_{input.NumberOfParents(), input.NumberOfParents() + input.OffspringPerIteration()},
       candidates_{CandidatesOf(input, design_)},
@@ -114,7 +114,7 @@ void SimulatedIteration::WriteReadingsOut() {
   }
   // Every offspring reads two alleles a locus. Filling sixteen bytes takes less than one walk.
   const std::size_t walks = 2 * offspring_.Size() * loci_.loci.size();
-  const bool pays = bytes <= ReadingTable::kMostBytes && bytes <= 16 * walks;
+  const bool pays = !draw_.IsFine() && bytes <= ReadingTable::kMostBytes && bytes <= 16 * walks;
   for (const LocusIndex locus : loci_.loci) {
     ReadingTable& readings = readings_[locus.Value()];
     if (pays) {
@@ -138,10 +138,10 @@ void SimulatedIteration::Produce(RandomNumbers& random) {
   }
 }
 
-IterationCounts SimulatedIteration::Run(std::uint32_t state, const RunObserver& observer) {
+IterationCounts SimulatedIteration::Run(IterationStart start, const RunObserver& observer) {
   // The draws of an iteration: the parents, group after group; then the pseudo-offspring, class
   // after class, each its true parents and its genotype. Nothing else draws.
-  RandomNumbers random(state);
+  RandomNumbers random = RandomNumbersAt(settings_.random, start);
   DrawAllParents(random);
   CatalogueParents();
   Produce(random);

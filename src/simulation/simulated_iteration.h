@@ -27,9 +27,9 @@ class SimulatedIteration {
   /// Chooses the loci of the iterations that follow.
   void UseLoci(const LocusSubset& loci);
 
-  /// Runs the iteration that starts at `state` of the random numbers, and counts. Throws RunStopped
+  /// Runs the iteration whose random numbers start there, and counts. Throws RunStopped
   /// when the observer asks.
-  IterationCounts Run(std::uint32_t state, const RunObserver& observer);
+  IterationCounts Run(IterationStart start, const RunObserver& observer);
 
   // What the last Run() made: the parent table with the pseudo-offspring behind it, per
   // pseudo-offspring its true parents and its allocation, and the catalogues of the parents.

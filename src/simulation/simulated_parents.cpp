@@ -20,8 +20,12 @@ void DrawParents(GenotypeTable& table, SlotRange slots, const RepresentativeSamp
       const double u2 = draw(random);
       LocusGenotype genotype;
       if (in_use[l] != 0) {
-        genotype.allele1 = sample.Draw(LocusIndex{l}, u1);
-        genotype.allele2 = sample.Draw(LocusIndex{l}, u2);
+        const auto allele = [&](double u) {
+          return draw.IsFine() ? sample.DrawFinely(LocusIndex{l}, u)
+                               : sample.Draw(LocusIndex{l}, u);
+        };
+        genotype.allele1 = allele(u1);
+        genotype.allele2 = allele(u2);
       }
       table.Genotype(LocusIndex{l}, Slot{slot}) = genotype;
     }

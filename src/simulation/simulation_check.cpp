@@ -32,6 +32,7 @@ void PutNumberAside(const Problem& problem, SimulationSettings& settings) {
       settings.start_with = defaults.start_with;
       return;
     case ProblemKind::kNoPseudoOffspring:
+    case ProblemKind::kTooManyPseudoOffspring:
       settings.offspring_per_iteration = defaults.offspring_per_iteration;
       return;
     default:

@@ -102,10 +102,13 @@ std::vector<Problem> FindFaultyNumbers(const SimulationSettings& settings) {
                      .found = fmt::format("it is {}", settings.start_with)});
   }
   const auto most = static_cast<std::int32_t>(kMaxIndividuals);
-  if (settings.offspring_per_iteration < 1 || settings.offspring_per_iteration > most) {
+  if (settings.offspring_per_iteration < 1) {
     found.push_back({.kind = ProblemKind::kNoPseudoOffspring,
-                     .found = fmt::format("it is {}; at most {} in an iteration",
-                                          settings.offspring_per_iteration, most)});
+                     .found = fmt::format("it is {}", settings.offspring_per_iteration)});
+  } else if (settings.offspring_per_iteration > most) {
+    found.push_back({.kind = ProblemKind::kTooManyPseudoOffspring,
+                     .subject = fmt::format("{}", most),
+                     .found = fmt::format("it is {}", settings.offspring_per_iteration)});
   }
   for (const ParentalSet& set : settings.Sets()) {
     FindFaultyNumbersOf(settings, set, found);

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include <fmt/format.h>
+
 #include "runs/all_typed.h"
 
 namespace kaldo {
@@ -81,11 +83,49 @@ tl::expected<SimulationSettings, Problem> SimulationFrom(const TypedSettings& ty
   return settings;
 }
 
+std::optional<Problem> MissingProject(const TypedSettings& typed) {
+  const auto project = typed.find("project");
+  if (project != typed.end() && !project->second.empty()) {
+    return std::nullopt;
+  }
+  const auto missing = MissingOptions(SimulationSettingTable(), typed, KindOfSimulation(typed));
+  return Problem{.kind = ProblemKind::kNoProject,
+                 .found = MissingNumber("--project", missing).found};
+}
+
 SimulationSettings ReadableSimulation(const TypedSettings& typed, AlikeGroups<Problem>& faults) {
   faults.AddAll(FindContradictions(typed));
   SimulationSettings settings = KindOfSimulation(typed);
   ReadAllTyped(SimulationSettingTable(), typed, settings, faults);
   return settings;
+}
+
+std::vector<Warning> WarnOfOptionsWithoutEffect(const TypedSettings& typed,
+                                                const TypedSettings& all) {
+  struct Bound {
+    std::string_view key;
+    std::string_view option;
+    std::vector<std::string_view> strategies;
+  };
+  static const std::vector<Bound> kBound = {
+      {"criterion", "--criterion", {"minimal"}},
+      {"start_with", "--start-with", {"all", "minimal", "cumulative"}},
+      {"sequence", "--sequence", {"cumulative"}},
+      {"subset_randoms", "--subset-randoms", {"all", "minimal", "cumulative"}},
+  };
+  const auto found = all.find("strategy");
+  const std::string_view strategy = found == all.end() ? "choice" : std::string_view(found->second);
+  std::vector<Warning> warnings;
+  for (const auto& [key, option, strategies] : kBound) {
+    const bool serves =
+        std::find(strategies.begin(), strategies.end(), strategy) != strategies.end();
+    if (typed.contains(key) && !serves) {
+      warnings.push_back({.kind = WarningKind::kOptionWithoutEffect,
+                          .found = fmt::format("{} goes with --strategy {}", option,
+                                               fmt::join(strategies, ", "))});
+    }
+  }
+  return warnings;
 }
 
 std::string CommandOf(const SimulationSettings& settings) {

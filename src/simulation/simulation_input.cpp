@@ -14,6 +14,7 @@
 #include "simulation/figures/class_sizes.h"
 #include "simulation/figures/class_weights.h"
 #include "simulation/flows/simulation_design.h"
+#include "simulation/random_warnings.h"
 #include "simulation/reports/simulation_texts.h"
 #include "simulation/simulation_checks.h"
 
@@ -121,6 +122,8 @@ std::vector<Warning> InputWarnings(const SimulationSettings& settings, const Sim
   if (auto warning = WarnOfNegative(settings.error_model)) {
     warnings.push_back(std::move(*warning));
   }
+  const auto of_randoms = WarnOfRandomNumbers(settings, input);
+  warnings.insert(warnings.end(), of_randoms.begin(), of_randoms.end());
   return warnings;
 }
 

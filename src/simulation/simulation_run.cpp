@@ -4,6 +4,7 @@
 #include "base/this_process.h"
 #include "runs/resuming_workforce.h"
 #include "simulation/counts_plan.h"
+#include "simulation/default_seed.h"
 #include "simulation/iteration_portions.h"
 #include "simulation/reliability_plan.h"
 #include "simulation/reports/simulation_reports.h"
@@ -13,11 +14,6 @@
 namespace kaldo {
 
 namespace {
-
-/// The seed of a run that was given none: the calendar time in seconds.
-std::uint32_t TimeSeed(std::chrono::system_clock::time_point time) {
-  return static_cast<std::uint32_t>(std::chrono::system_clock::to_time_t(time));
-}
 
 void ScoreConfidence(const SimulationSettings& settings, const SimulationInput& input,
                      RunObserver& observer, Workforce& workforce, SimulationResult& result) {
@@ -37,7 +33,8 @@ SimulationResult Simulate(const SimulationSettings& settings, const SimulationIn
   SimulationResult result;
   result.started = std::chrono::system_clock::now();
   const auto clock_start = std::chrono::steady_clock::now();
-  result.seed = settings.seed.value_or(unfinished_seed.value_or(TimeSeed(result.started)));
+  const std::optional<std::uint32_t> seed = settings.seed ? settings.seed : unfinished_seed;
+  result.seed = seed ? *seed : DefaultSeed(settings.random, result.started);
   result.folder = CurrentFolder();
   result.threads = workforce.Threads(settings.threads);
 

@@ -12,6 +12,7 @@
 #include "runs/workforce.h"
 #include "simulation/figures/origin_statistics.h"
 #include "simulation/figures/subset_figures.h"
+#include "simulation/iteration_states.h"
 #include "simulation/reliability.h"
 #include "simulation/simulation_input.h"
 
@@ -28,7 +29,7 @@ struct SimulationResult {
   std::vector<OriginStatistics> origins;
 
   /// Of the last subset: where in the stream of random numbers each iteration starts.
-  std::vector<std::uint32_t> states;
+  std::vector<IterationStart> states;
 
   /// Of the last subset, all iterations together; nothing where this was not wanted or means
   /// nothing.

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/simulation_settings.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "confidence/confidence_level_setting.h"
 #include "method/method_settings.h"
+#include "simulation/random_settings.h"
 
 namespace kaldo {
 
@@ -56,6 +59,10 @@ tl::expected<std::optional<KeptFiles>, Problem> ParseKept(std::string_view optio
   KeptFiles kept;
   if (text == "none") {
     return kept;
+  }
+  if (const auto parts = CutAtCommas(text);
+      parts.size() > 1 && std::count(parts.begin(), parts.end(), "none") > 0) {
+    return NotUnderstood(ProblemKind::kKeptAndNone, fmt::format("{}: {}", option, Quoted(text)));
   }
   std::vector<std::string_view> names = NamesIn(kKeptFiles);
   names.insert(names.end(), {"all", "none"});
@@ -345,7 +352,8 @@ std::vector<Declared> Output() {
        .option = "--seed",
        .metavar = "S",
        .group = "Method",
-       .help = "Seed of the random numbers, 0 to 4294967295; default: the clock. Always told",
+       .help = "Seed of the random numbers, 0 to 4294967295; default: the clock, in seconds: runs "
+               "begun in the same second share it. Always told",
        .value = Member(&SimulationSettings::seed, SeedKind()),
        .in_head_of_record = true},
   };
@@ -357,6 +365,8 @@ std::vector<Declared> DeclareSettings() {
                            Method(), SubsetsOfLoci(), Output()}) {
     table.insert(table.end(), part.begin(), part.end());
   }
+  const auto randoms = RandomSettings();
+  table.insert(table.end(), randoms.begin(), randoms.end());
   return table;
 }
 

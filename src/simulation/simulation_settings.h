@@ -70,6 +70,26 @@ inline constexpr std::array<NamedChoice<bool KeptFiles::*>, 3> kKeptFiles{
      {&KeptFiles::offspring, "offspring"},
      {&KeptFiles::matrices, "matrices"}}};
 
+/// Where random numbers come from.
+enum class RandomSource {
+  kDefault,  ///< RandomNumbers: one stream of 15-bit values, repeatable by every version
+  kModern,   ///< a stream of 64-bit values for each iteration, see CounterStream
+};
+
+inline constexpr std::array<NamedChoice<RandomSource>, 2> kRandomSources{
+    {{RandomSource::kDefault, "default", "15-bit values"},
+     {RandomSource::kModern, "modern", "64-bit values, a stream for each iteration"}}};
+
+/// Which random numbers the subsets of loci have.
+enum class SubsetRandoms {
+  kOwn,     ///< each others: the stream goes on from subset to subset
+  kCommon,  ///< all the same, so that chance alone parts two subsets less
+};
+
+inline constexpr std::array<NamedChoice<SubsetRandoms>, 2> kSubsetRandoms{
+    {{SubsetRandoms::kOwn, "own", "each subset others"},
+     {SubsetRandoms::kCommon, "common", "all subsets the same"}}};
+
 /// Everything a user chooses for a simulation. Each member but the last is declared in the table
 /// below.
 struct SimulationSettings {
@@ -102,8 +122,15 @@ struct SimulationSettings {
   bool scores_confidence = false;  ///< whether posterior probabilities are compared with the truth
   double confidence_level = kDefaultConfidenceLevel;  ///< scored beside the usual ones
 
-  std::optional<std::uint32_t> seed;  ///< nothing said: the calendar time in seconds
+  std::optional<std::uint32_t> seed;  ///< nothing said: see DefaultSeed
   unsigned threads = 0;               ///< 0: as many as cores; results never depend on it
+
+  RandomSource random = RandomSource::kDefault;
+  SubsetRandoms subset_randoms = SubsetRandoms::kOwn;
+
+  /// A subset of loci ends before all iterations when the standard error of the probability that
+  /// any allocation is correct is below this; nothing said: it never does. See IterationsSuffice.
+  std::optional<double> until_error;
 
   bool may_replace_other_flow = false;   ///< as in AllocationSettings; in no run record
   KeptWork kept_work = KeptWork::kAnew;  ///< the same

@@ -130,6 +130,9 @@ TEST_F(ResultsSimulationTest, MarksTheBestSubsetOfEachSize) {
   const auto& subsets = shown.run.result.subsets;
   EXPECT_EQ(subsets.size(), std::size_t{31});
   const QAbstractItemModel& model = ModelIn(*shown.window, "SubsetsTable");
+  const QStringList first_seen = Column(model, Place(SubsetColumn::kNames));
+  Find<QTableView>(*shown.window, "SubsetsTable")
+      .sortByColumn(Place(SubsetColumn::kPlace), Qt::AscendingOrder);
   for (std::size_t k = 0; k < subsets.size(); ++k) {
     bool is_best = true;  // better than all before, as good as all behind
     for (std::size_t other = 0; other < subsets.size(); ++other) {
@@ -148,6 +151,7 @@ TEST_F(ResultsSimulationTest, MarksTheBestSubsetOfEachSize) {
   Find<QComboBox>(*shown.window, "SubsetsShow").setCurrentIndex(1);
   const QAbstractItemModel& best = ModelIn(*shown.window, "BestSubsetsTable");
   EXPECT_EQ(Column(model, Place(SubsetColumn::kNames)), Column(best, 2));
+  EXPECT_EQ(first_seen.mid(0, best.rowCount()), Column(best, 2)) << "the best ones come first";
   EXPECT_EQ(Column(best, 0), QStringList({Text("1"), Text("2"), Text("3"), Text("4"), Text("5")}));
 
   // Equals stay in the order of the run, whichever way the others are sorted.

@@ -75,7 +75,8 @@ class SimulateCommand : public testing::Test {
 };
 
 TEST_F(SimulateCommand, RefusalsWriteNothing) {
-  ExpectRefusal({"simulate"}, "A number is missing!\n--uncollected is needed; so are --project, ");
+  ExpectRefusal({"simulate"},
+                "Please enter name of project!\n--project is needed; so are --loci, ");
   ExpectRefusal(With(NonSexed(), "--project", ""), "Please enter name of project!\n");
   ExpectRefusal(NonSexed() + Arguments{"--strategy", "all", "--start-with", "4"},
                 "Fewer loci are in use than the number of loci to start with!\n3 loci in use");

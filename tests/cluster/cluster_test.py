@@ -60,6 +60,8 @@ STRATEGIES = {
     # Reached after some subsets, so that later ones are begun in vain.
     "minimal": ["--strategy", "minimal", "--criterion", "{criterion}", "--start-with", "2"],
     "cumulative": ["--strategy", "cumulative", "--start-with", "2", "--print-subset-statistics"],
+    # Some subsets end before all iterations.
+    "exact": ["--strategy", "cumulative", "--until-se", "0.01", "--random", "modern"],
 }
 
 

@@ -18,6 +18,7 @@ from simulation_reports import (SEQUENCE, SUMMARY, detailed, iteration_tables, p
 from simulation_scoring import score_population
 from simulation_sexed_reports import SEXED
 from simulation_statistics import SubsetFigures
+from simulation_subsets import subsets_table
 
 SAVED_LOCI = "SAUVLOCUSTULM.txt"
 LAYOUTS = {False: NON_SEXED, True: SEXED}
@@ -91,6 +92,8 @@ def simulate(arguments, folder):
         files[layout.detailed] = detailed(layout, figures[-1])
     if settings.strategy == "cumulative":
         files[SEQUENCE] = sequence_results(layout, settings, inputs, figures)
+    if settings.strategy != "choice":
+        files["Subsets.tsv"] = subsets_table(names, figures)
     if out_of_step:
         files["Stepping error file.xls"] = stepping_text
     return SimulationRun(

@@ -155,7 +155,7 @@ class SubsetFigures:
         self.tables = [[] for _ in [*classes, None]]       # class, global -> iteration -> columns
         self.first_pairs = [[] for _ in [*classes, None]]  # the same
         self.global_rows, self.global_correct = [], []
-        self.figures = {}                            # name -> iteration, weighted
+        self.figures = {}                            # name -> iteration -> class
         for iteration in iterations:
             self._add(iteration.counts)
 
@@ -172,10 +172,8 @@ class SubsetFigures:
             tables.append(table)
             self.tables[index].append(table if self.sexed else table + ratios_of(table))
         for name in sides[0]:
-            self.figures.setdefault(name, []).append(
-                weighted(self.weights, [side[name] for side in sides]))
-        self.figures.setdefault("ANY", []).append(
-            weighted(self.weights, [values[-1] for values in self.correct]))
+            self.figures.setdefault(name, []).append([side[name] for side in sides])
+        self.figures.setdefault("ANY", []).append([values[-1] for values in self.correct])
         table = [weighted(self.weights, values) for values in columns(tables)]
         self.tables[-1].append(table + ratios_of(table))
         if self.sexed:
@@ -206,10 +204,14 @@ class SubsetFigures:
         latest = [rows[-1] for rows in self.rows]
         self.global_rows.append([weighted(self.weights, self._rows_like(head, latest))
                                  for head in self.origins[0].rows])
-        self.global_correct.append(self.figures["ANY"][-1])
+        self.global_correct.append(weighted(self.weights, self.figures["ANY"][-1]))
 
-    def average(self, name):
+    def average(self, name, weights=None):
         """A weighted figure over all iterations; of two names, the ratio of their averages."""
+        weights = weights or self.weights
         if isinstance(name, tuple):
-            return share(self.average(name[0]), self.average(name[1]))
-        return plain_mean(self.figures[name])
+            return share(self.average(name[0], weights), self.average(name[1], weights))
+        if self.sexed:  # the classes are averaged before they are weighed
+            return weighted(weights,
+                            [step_mean(values) for values in columns(self.figures[name])])
+        return plain_mean([weighted(weights, values) for values in self.figures[name]])

@@ -62,6 +62,29 @@ TEST(LocalThreads, EndEarlyBehindAGroupAndBreakOffThoseBehindIt) {
   }
 }
 
+TEST(LocalThreads, LeaveGroupsThatHadEnough) {
+  for (const unsigned threads : {1U, 4U}) {
+    for (const std::size_t enough : {1U, 7U, 50U, 51U}) {
+      const NumbersTask task;
+      NumbersPlan plan(200, 50);
+      plan.most_per_portion = 4;
+      plan.enough = enough;
+      CountingObserver observer;
+      Do(task, plan, threads, observer);
+      std::vector<std::uint64_t> expected;
+      for (std::size_t item = 0; item < 200 * 50; ++item) {
+        if (item % 50 < enough) {
+          expected.push_back(Expected(item / 50, item % 50));
+        }
+      }
+      EXPECT_EQ(plan.taken, expected) << enough << " of 50";
+      if (threads == 1) {  // which never does what is not wanted any more
+        EXPECT_LE(observer.Steps(), 200 * std::min<std::size_t>((enough + 3) / 4 * 4, 50));
+      }
+    }
+  }
+}
+
 TEST(LocalThreads, ThrowWhatAPortionThrewAndTakeNoneFromThereOn) {
   for (const unsigned threads : {1U, 4U}) {
     NumbersTask task;

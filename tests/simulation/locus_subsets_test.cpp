@@ -97,6 +97,15 @@ TEST(LocusSubsets, TooManyOrTooFewAreRefusedWithTheNumber) {
   EXPECT_EQ(sentence(1, 50), "There would be 1125899906842623 subsets of loci!");
   EXPECT_EQ(sentence(50, 50), "1 subsets");
 
+  // A search for a minimal subset begins all the same, with the smallest.
+  const auto minimal = LocusSubsets::Choose(Wanted(LociStrategy::kMinimal, 1), LociOf(50));
+  ASSERT_TRUE(minimal);
+  EXPECT_EQ(minimal->Count(), kMostSubsets);
+  EXPECT_EQ(minimal->InAll(), 1125899906842623U);
+  EXPECT_EQ(minimal->At(49), LocusSubset{LocusIndex{49}});
+  EXPECT_EQ(minimal->At(50), (LocusSubset{LocusIndex{0}, LocusIndex{1}}));
+  EXPECT_EQ(minimal->At(kMostSubsets - 1).size(), 5U) << "50 + 1225 + 19600 + 230300 are smaller";
+
   for (const LociStrategy strategy :
        {LociStrategy::kAll, LociStrategy::kMinimal, LociStrategy::kCumulative}) {
     const auto subsets = LocusSubsets::Choose(Wanted(strategy, 3), LociOf(5, Places{0, 4}));

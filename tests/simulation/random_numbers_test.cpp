@@ -57,5 +57,34 @@ RC_GTEST_PROP(RandomJump, EndsWhereStepsEnd, ()) {
             RandomJump(first).From(seed));
 }
 
+// The vectors that the authors of the generator publish.
+TEST(CounterStream, GivesThePublishedBlocks) {
+  EXPECT_EQ(Philox({0, 0, 0, 0}, {0, 0}),
+            (CounterBlock{0x6627e8d5, 0xe169c58d, 0xbc57ac4c, 0x9b00dbd8}));
+  EXPECT_EQ(Philox({0xffffffff, 0xffffffff, 0xffffffff, 0xffffffff}, {0xffffffff, 0xffffffff}),
+            (CounterBlock{0x408f276d, 0x41c83b0e, 0xa20bc7c6, 0x6d5451fd}));
+  EXPECT_EQ(Philox({0x243f6a88, 0x85a308d3, 0x13198a2e, 0x03707344}, {0xa4093822, 0x299f31d0}),
+            (CounterBlock{0xd16cfe09, 0x94fdcceb, 0x5001e420, 0x24126ea1}));
+  CounterStream stream(7, 5);
+  for (std::uint32_t block = 0; block < 5; ++block) {
+    const CounterBlock words = Philox({block, 0, 0, 0}, {5, 7});
+    EXPECT_EQ(stream.Next(), (std::uint64_t{words[1]} << 32U) + words[0]);
+    EXPECT_EQ(stream.Next(), (std::uint64_t{words[3]} << 32U) + words[2]);
+  }
+}
+
+// Of 3 x 2^30 things a remainder of 32 bits would prefer the first third, 2 to 1.
+TEST(RandomNumbers, ModernIndicesPreferNothing) {
+  RandomNumbers random(CounterStream(1, 2));
+  constexpr int kDraws = 30'000;
+  int in_first_third = 0;
+  for (int draw = 0; draw < kDraws; ++draw) {
+    const std::uint32_t index = random.Below(3U << 30U);
+    ASSERT_LT(index, 3U << 30U);
+    in_first_third += index < 1U << 30U ? 1 : 0;
+  }
+  EXPECT_NEAR(in_first_third, kDraws / 3, 5 * 82) << "the standard deviation is 82";
+}
+
 }  // namespace
 }  // namespace kaldo

@@ -5,8 +5,11 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <cmath>
 #include <filesystem>
 #include <map>
+#include <regex>
+#include <set>
 #include <sstream>
 
 #include <fmt/format.h>
@@ -306,6 +309,145 @@ TEST_F(ExampleSimulation, ScoresThePosteriorsOfAnAllocationOfItsPseudoOffspring)
     }
     std::filesystem::remove_all("project");
   }
+}
+
+/// The columns of Subsets.tsv by their heads, a cell for each subset in the order of the run.
+std::map<std::string, std::vector<std::string>> ReadSubsets() {
+  std::istringstream table(ReadFile("project/Subsets.tsv"));
+  std::vector<std::vector<std::string>> rows;
+  for (std::string line; std::getline(table, line);) {
+    std::istringstream cells(line);
+    rows.emplace_back();
+    for (std::string cell; std::getline(cells, cell, '\t');) {
+      rows.back().push_back(cell);
+    }
+  }
+  std::map<std::string, std::vector<std::string>> columns;
+  for (std::size_t column = 0; column < rows.front().size(); ++column) {
+    auto& cells = columns[rows.front()[column]];
+    cells.resize(rows.size() - 1);
+    for (std::size_t row = 1; row < rows.size(); ++row) {
+      cells[std::stoul(rows[row][1]) - 1] = rows[row][column];
+    }
+  }
+  return columns;
+}
+
+/// What a subset tells but for its place among the others.
+std::vector<std::string> CellsOf(const std::map<std::string, std::vector<std::string>>& columns,
+                                 std::size_t subset) {
+  std::vector<std::string> cells;
+  for (const auto& [head, column] : columns) {
+    if (head != "rank" && head != "run") {
+      cells.push_back(column[subset]);
+    }
+  }
+  return cells;
+}
+
+TEST_F(ExampleSimulation, EndsASubsetWithTheFirstTenThatIsExactEnough) {
+  for (const RandomSource random : {RandomSource::kDefault, RandomSource::kModern}) {
+    SimulationSettings settings = Settings(Flow::kSexed);
+    settings.random = random;
+    settings.iterations = 70;
+    settings.strategy = LociStrategy::kCumulative;
+    settings.start_with = 4;
+    RunWell(settings);
+    const auto full = ReadSubsets();
+    settings.until_error = std::stod(full.at("population_any_se").at(1)) * 1.3;
+    RunWell(settings);
+    const Files expected = Results();
+    const auto ended = ReadSubsets();
+    std::set<std::string> lengths;
+    for (std::size_t subset = 0; subset < ended.at("run").size(); ++subset) {
+      const std::int32_t n = std::stoi(ended.at("iterations")[subset]);
+      lengths.insert(ended.at("iterations")[subset]);
+      EXPECT_TRUE(n % 10 == 0 && n >= 20 && n <= 70) << n;
+      EXPECT_TRUE(n == 70 ||
+                  std::stod(ended.at("population_any_se")[subset]) < *settings.until_error);
+      EXPECT_TRUE(n != 70 || CellsOf(ended, subset) == CellsOf(full, subset));
+    }
+    EXPECT_GT(lengths.size(), 1U) << "a case that tells nothing";
+    for (const unsigned threads : {2U, 7U}) {
+      settings.threads = threads;
+      RunWell(settings);
+      EXPECT_EQ(Results(), expected) << threads;
+    }
+    // The first subset is that of a run of as many iterations, and of no fewer.
+    settings.until_error.reset();
+    settings.start_with = 4;
+    const std::int32_t first = std::stoi(ended.at("iterations").front());
+    for (std::int32_t n = 20; n <= first; n += 10) {
+      settings.iterations = n;
+      RunWell(settings);
+      const bool is_exact = std::stod(ReadSubsets().at("population_any_se").front()) <
+                            std::stod(full.at("population_any_se").at(1)) * 1.3;
+      EXPECT_TRUE(n < first ? !is_exact : is_exact || first == 70) << n;
+    }
+    EXPECT_EQ(CellsOf(ReadSubsets(), 0), CellsOf(ended, 0));
+  }
+}
+
+TEST_F(ExampleSimulation, GivesAllSubsetsTheRandomNumbersOfTheFirstWhereWanted) {
+  for (const RandomSource random : {RandomSource::kDefault, RandomSource::kModern}) {
+    SimulationSettings settings = Settings(Flow::kNonSexed);
+    settings.random = random;
+    settings.loci_in_use = {"Mir03Di", "Mir14Di", "Mir05Tet"};
+    settings.strategy = LociStrategy::kAll;
+    settings.subset_randoms = SubsetRandoms::kCommon;
+    RunWell(settings);
+    const auto common = ReadSubsets();
+    settings.strategy = LociStrategy::kCumulative;
+    for (std::size_t subset = 0; subset < common.at("run").size(); ++subset) {
+      std::istringstream names(common.at("loci")[subset]);
+      settings.loci_in_use.emplace();
+      for (std::string name; names >> name;) {
+        settings.loci_in_use->push_back(name);
+      }
+      settings.start_with = static_cast<std::int32_t>(settings.loci_in_use->size());
+      RunWell(settings);
+      EXPECT_EQ(CellsOf(ReadSubsets(), 0), CellsOf(common, subset));
+    }
+  }
+}
+
+// With alleles of two digits the default draws cannot tell a frequency below 0.01 from 0: the rare
+// alleles of this sample, sizes 20 and more, are lost.
+TEST_F(ExampleSimulation, DrawsRareAllelesWithModernNumbersAndElseAgreesWithTheDefault) {
+  folder_.Write("loci", "Loc1");
+  const auto correct = [&](RandomSource random, bool two_digits) {
+    std::string sample;
+    for (int place = 0; place < 500; ++place) {
+      const int shift = two_digits ? 0 : 100;
+      sample +=
+          fmt::format("S{} {}{}\n", place, 10 + shift, place < 4 ? 20 + place + shift : 10 + shift);
+    }
+    SimulationSettings settings = Settings(Flow::kNonSexed);
+    settings.loci_file = "loci";
+    settings.sets[0].pseudo_collected_sample = folder_.Write("sample", sample);
+    settings.sets[0].uncollected_sample = settings.sets[0].pseudo_collected_sample;
+    settings.sets[0].pseudo_collected = 50;
+    settings.sets[0].uncollected = 200;
+    settings.iterations = 100;
+    settings.offspring_per_iteration = 100;
+    settings.error_model.kind = ErrorKind::kNoError;
+    settings.random = random;
+    RunObserver observer;
+    const auto run = RunSimulation(settings, observer);
+    EXPECT_EQ(run->input.warnings.size(), two_digits && random == RandomSource::kDefault ? 1U : 0U);
+    return run->result.LastSubset().estimates.population[0];
+  };
+  const Estimate fine = correct(RandomSource::kDefault, false);
+  const Estimate modern = correct(RandomSource::kModern, false);
+  EXPECT_NEAR(fine.value, modern.value, 5 * std::hypot(fine.error, modern.error));
+  const auto has_rare = [&] {
+    const std::string parents = ReadFile("project/uncollected parents.txt");
+    return std::regex_search(parents, std::regex(" (2.|..2)"));
+  };
+  EXPECT_EQ(correct(RandomSource::kModern, true).value, modern.value);
+  EXPECT_TRUE(has_rare());
+  (void)correct(RandomSource::kDefault, true);
+  EXPECT_FALSE(has_rare());
 }
 
 /// Where nobody is undefined nothing changes. A locus at which most parents are undefined tells

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <optional>
@@ -70,6 +71,7 @@ class NumbersPlan final : public PortionPlan {
 
   std::size_t most_per_portion = 1000;
   std::optional<std::size_t> last_group;     ///< ends early behind it
+  std::optional<std::size_t> enough;         ///< so many items of a group are taken, then no more
   std::optional<std::size_t> failing_group;  ///< of which a result cannot be taken
   std::vector<std::uint64_t> taken;
 
@@ -77,6 +79,7 @@ class NumbersPlan final : public PortionPlan {
   std::size_t ItemsPerGroup() const override { return items_; }
   std::size_t MostItemsPerPortion() const override { return most_per_portion; }
   bool MayEndEarly() const override { return last_group.has_value(); }
+  bool HasEnded(std::size_t group) const override { return group < ended_; }
 
   std::string Order(const Portion& portion) override {
     BytePacker packer;
@@ -89,8 +92,9 @@ class NumbersPlan final : public PortionPlan {
       throw RunFailure("disk full");
     }
     ByteUnpacker unpacker(result);
-    for (std::size_t item = portion.begin; item < portion.end; ++item) {
+    for (std::size_t item = portion.begin; item < portion.end && !HasEnded(portion.group); ++item) {
       taken.push_back(unpacker.Get<std::uint64_t>());
+      ended_ += enough && item + 1 == std::min(*enough, items_) ? 1 : 0;
     }
     return !(last_group == portion.group && portion.end == items_);
   }
@@ -107,6 +111,7 @@ class NumbersPlan final : public PortionPlan {
  private:
   std::size_t groups_;
   std::size_t items_;
+  std::size_t ended_ = 0;
 };
 
 class CountingObserver final : public RunObserver {

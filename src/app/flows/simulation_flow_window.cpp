@@ -40,6 +40,7 @@ SimulationFlowWindow::SimulationFlowWindow(Flow flow, OpenedFiles& opened, QWidg
 }
 
 void SimulationFlowWindow::Set(const SimulationSettings& settings) {
+  of_record_ = settings;
   start_->Set(settings);
   parents_->Set(settings);
   offspring_->SetNumber(settings.offspring_per_iteration);
@@ -117,6 +118,9 @@ SimulationSettings SimulationFlowWindow::SettingsUpTo(Known known) const {
   }
   if (known >= Known::kAll) {
     output_->FillIn(settings);
+    settings.random = of_record_.random;
+    settings.subset_randoms = of_record_.subset_randoms;
+    settings.until_error = of_record_.until_error;
   }
   return settings;
 }

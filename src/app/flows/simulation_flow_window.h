@@ -77,6 +77,7 @@ class SimulationFlowWindow : public FlowWindow {
   LociScreens loci_;
   OutputPage* output_;
   std::optional<Loaded> passed_;
+  SimulationSettings of_record_;  ///< opened last, for the settings that have no field
 };
 
 }  // namespace kaldo

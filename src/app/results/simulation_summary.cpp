@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/simulation_summary.h"
 
+#include <cmath>
+
 #include <fmt/format.h>
 
 #include "app/base/text.h"
 #include "base/number_text.h"
 #include "runs/project_folder.h"
 #include "runs/run_record.h"
+#include "simulation/reports/estimate_texts.h"
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_texts.h"
 #include "simulation/reports/subset_title.h"
@@ -22,6 +25,10 @@ QString ClassName(const OriginTexts& texts) {
     name.chop(1);
   }
   return name.trimmed();
+}
+
+std::optional<double> NumberIfAny(double number) {
+  return std::isnan(number) ? std::nullopt : std::optional(number);
 }
 
 void AddParents(const SimulationSettings& settings, Summary& summary) {
@@ -59,8 +66,18 @@ void AddFigures(const SimulationSettings& settings, const SimulationRun& run, Su
   add("maximum offset tolerance", std::to_string(settings.tolerance.Value()));
   add("seed", std::to_string(result.seed));
   add("last loci run", NamesOf(input.loci, result.LastSubset().loci));
-  add("any allocation correct", fmt::format("{} (estimated probability)",
-                                            FormatDouble(result.LastSubset().probabilities.any)));
+  if (settings.random == RandomSource::kModern) {
+    add("random numbers", "modern");
+  }
+  if (settings.until_error) {
+    add("iterations run", std::to_string(result.LastSubset().iterations));
+  }
+  const Estimate& any =
+      EstimateOfKind(result.LastSubset().estimates.population, AllocationKind::kAny);
+  const std::string error = std::isnan(any.error) ? "NA" : FormatDouble(any.error);
+  add("any allocation correct",
+      fmt::format("{} (estimated probability in the population, standard error {})",
+                  FormatDouble(result.LastSubset().probabilities.any), error));
 }
 
 void AddSubsets(const SimulationSettings& settings, const SimulationResult& result,
@@ -88,7 +105,7 @@ std::vector<std::string_view> FilesOf(const SimulationTexts& texts) {
   files.insert(files.end(), {texts.detailed_file, kSequenceResultsFile, kSteppingErrorFile,
                              kServiceFile, texts.matrices_file});
   files.insert(files.end(), texts.group_files.begin(), texts.group_files.end());
-  files.insert(files.end(), {kPseudoOffspringFile, kRunRecordFile});
+  files.insert(files.end(), {kPseudoOffspringFile, kSubsetsFile, kRunRecordFile});
   return files;
 }
 
@@ -166,20 +183,59 @@ DataTable CorrectnessTable(const std::vector<Correctness>& classes) {
   return table;
 }
 
-LineChart SequenceChart(const SimulationRun& run) {
+LineChart SequenceChart(Flow flow, const SimulationRun& run) {
   LineChart chart;
-  chart.texts = {Text("Any allocation correct, by number of loci"), Text("loci"),
+  chart.texts = {Text("Correct allocations in the population, by number of loci"), Text("loci"),
                  Text("estimated probability"), true};
   chart.label_title = Text("added");
-  ChartSeries series{Text("any allocation correct"), {}};
-  for (std::size_t k = 0; k < run.result.subsets.size(); ++k) {
-    const SubsetFigures& subset = run.result.subsets[k];
+  for (const SubsetFigures& subset : run.result.subsets) {
     chart.positions.push_back(static_cast<double>(subset.loci.size()));
     chart.labels.push_back(Text("+ ") + Text(run.input.loci.Name(subset.loci.back())));
-    series.values.push_back({subset.probabilities.any, {}});
   }
-  chart.series.push_back(std::move(series));
+  const auto add = [&](const std::string& name, std::size_t scope, AllocationKind kind) {
+    ChartSeries& series = chart.series.emplace_back(ChartSeries{Text(name), {}});
+    for (const SubsetFigures& subset : run.result.subsets) {
+      const Estimate& estimate = EstimateOfKind(EstimatesIn(subset.estimates, scope), kind);
+      series.values.push_back({NumberIfAny(estimate.value), {}});
+    }
+  };
+  for (const EstimateKind& kind : EstimateKinds(flow)) {
+    add(kind.column, 0, kind.kind);
+  }
+  add("any, of these pseudo-offspring", 1, AllocationKind::kAny);
   return chart;
 }
+
+BarChart EstimatesChart(const SimulationSettings& settings, const SimulationResult& result) {
+  BarChart chart;
+  chart.texts = {Text("Estimated probability to be correct, in the population") +
+                     Text(LastCombinationNote(settings.strategy)),
+                 Text("allocation"), Text("mean and sd"), true};
+  chart.series.name = Text("correct");
+  for (const EstimateKind& kind : EstimateKinds(settings.flow)) {
+    const Estimate& estimate = EstimateOfKind(result.LastSubset().estimates.population, kind.kind);
+    chart.categories.push_back(Text(kind.column));
+    chart.series.values.push_back({NumberIfAny(estimate.value), NumberIfAny(estimate.deviation)});
+  }
+  return chart;
+}
+
+DataTable EstimatesTable(Flow flow, const SimulationResult& result) {
+  DataTable table{
+      {Text("pseudo-offspring"), Text("allocation"), Text("correct"), Text("sd"), Text("se")}, {}};
+  const auto scopes = EstimateScopes(flow);
+  for (std::size_t scope = 0; scope < scopes.size(); ++scope) {
+    const KindEstimates& estimates = EstimatesIn(result.LastSubset().estimates, scope);
+    for (const EstimateKind& kind : EstimateKinds(flow)) {
+      const Estimate& estimate = EstimateOfKind(estimates, kind.kind);
+      table.rows.push_back({Text(scopes[scope].brief), Text(kind.words),
+                            NumberOrNone(estimate.value), NumberOrNone(estimate.deviation),
+                            NumberOrNone(estimate.error)});
+    }
+  }
+  return table;
+}
+
+QString NumberOrNone(double number) { return ShortNumber(NumberIfAny(number)); }
 
 }  // namespace kaldo

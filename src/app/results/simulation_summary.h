@@ -27,7 +27,16 @@ BarChart CorrectnessChart(const SimulationSettings& settings,
                           const std::vector<Correctness>& classes);
 DataTable CorrectnessTable(const std::vector<Correctness>& classes);
 
-/// The probability of a correct allocation after each locus of a cumulative sequence.
-LineChart SequenceChart(const SimulationRun& run);
+/// Every estimated probability after each locus of a cumulative sequence: a line for each kind of
+/// allocation in the population, and one for any allocation of the pseudo-offspring that were made.
+LineChart SequenceChart(Flow flow, const SimulationRun& run);
+
+/// The estimated probabilities of the last subset of loci: in the population as a chart; of all
+/// scopes, with their deviations and errors, as a table.
+BarChart EstimatesChart(const SimulationSettings& settings, const SimulationResult& result);
+DataTable EstimatesTable(Flow flow, const SimulationResult& result);
+
+/// A number as the reports show it; "NA" where it is none.
+QString NumberOrNone(double number);
 
 }  // namespace kaldo

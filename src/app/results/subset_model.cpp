@@ -2,11 +2,12 @@
 #include "app/results/subset_model.h"
 
 #include <algorithm>
-#include <numeric>
+#include <cmath>
 
 #include "app/base/text.h"
 #include "app/results/data_table.h"
 #include "app/results/simulation_summary.h"
+#include "simulation/reports/estimate_texts.h"
 #include "simulation/reports/subset_title.h"
 
 namespace kaldo {
@@ -36,21 +37,15 @@ bool HasAll(const LocusSubset& subset, const std::vector<std::vector<bool>>& of_
 
 }  // namespace
 
-std::map<std::size_t, std::size_t> BestSubsets(std::span<const SubsetFigures> subsets) {
-  std::map<std::size_t, std::size_t> best;
-  for (std::size_t place = 0; place < subsets.size(); ++place) {
-    const auto [entry, is_first] = best.try_emplace(subsets[place].loci.size(), place);
-    if (!is_first && subsets[place].probabilities.any > subsets[entry->second].probabilities.any) {
-      entry->second = place;
-    }
-  }
-  return best;
-}
-
 SubsetModel::SubsetModel(SharedSimulation simulation, QObject* parent)
     : QAbstractTableModel(parent),
       simulation_(std::move(simulation)),
-      best_(BestSubsets(Subsets())) {
+      best_(BestSubsets(Subsets())),
+      ranks_(Subsets().size()) {
+  std::uint32_t rank = 0;
+  for (const std::size_t subset : RankSubsets(Subsets())) {
+    ranks_[subset] = rank++;
+  }
   Arrange();
 }
 
@@ -95,8 +90,18 @@ void SubsetModel::Arrange() {
     case Column::kAnyCorrect:
       sort_by([this](std::size_t subset) { return Subsets()[subset].probabilities.any; });
       break;
+    case Column::kRank:
+      sort_by([this](std::size_t subset) { return ranks_[subset]; });
+      break;
+    case Column::kError:
+      sort_by([this](std::size_t subset) { return ErrorOf(subset); });
+      break;
     case Column::kBest:
-      sort_by([this](std::size_t subset) { return !IsBest(subset); });
+      // The best of each size by size, and then the others by rank.
+      sort_by([this](std::size_t subset) {
+        const std::size_t place = IsBest(subset) ? Subsets()[subset].loci.size() : ranks_[subset];
+        return std::pair(!IsBest(subset), place);
+      });
       break;
     case Column::kNames:
       sort_by([this](std::size_t subset) -> const LocusSubset& { return Subsets()[subset].loci; });
@@ -116,6 +121,10 @@ int SubsetModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(Column::kCount);
 }
 
+double SubsetModel::ErrorOf(std::size_t subset) const {
+  return EstimateOfKind(Subsets()[subset].estimates.population, AllocationKind::kAny).error;
+}
+
 QString SubsetModel::CellText(Column column, std::size_t subset) const {
   const LocusSubset& loci = Subsets()[subset].loci;
   switch (column) {
@@ -125,6 +134,10 @@ QString SubsetModel::CellText(Column column, std::size_t subset) const {
       return QString::number(loci.size());
     case Column::kAnyCorrect:
       return ShortNumber(Subsets()[subset].probabilities.any);
+    case Column::kRank:
+      return QString::number(ranks_[subset] + 1);
+    case Column::kError:
+      return std::isnan(ErrorOf(subset)) ? Text("NA") : ShortNumber(ErrorOf(subset));
     case Column::kBest:
       return IsBest(subset) ? Text("\u2605 best of %1").arg(loci.size()) : QString();
     default:
@@ -140,18 +153,22 @@ QVariant SubsetModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) {
     return CellText(column, shown_[static_cast<std::size_t>(index.row())]);
   }
-  if (role == Qt::TextAlignmentRole && column <= Column::kAnyCorrect) {
+  if (role == Qt::TextAlignmentRole && column <= Column::kError) {
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   return {};
 }
 
 QVariant SubsetModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  static constexpr std::array<std::string_view, 5> kHeads = {"No.", "Loci", "Any correct", "Best",
-                                                             "Names"};
-  static constexpr std::array<std::string_view, 5> kTips = {
-      "Place in the order of the run.", "Number of loci.",
-      "Estimated probability that any allocation is correct.",
+  static constexpr std::array<std::string_view, 7> kHeads = {"No.", "Rank", "Loci", "Any correct",
+                                                             "se",  "Best", "Names"};
+  static constexpr std::array<std::string_view, 7> kTips = {
+      "Place in the order of the run.",
+      "Place when the subset with which allocations are most often correct comes first; of equals "
+      "that of fewer loci.",
+      "Number of loci.",
+      "Estimated probability that any allocation is correct, in the population.",
+      "Standard error of the estimated probability.",
       "Which subset of its size makes allocations most often correct; the first of equals.",
       "The loci of the subset."};
   if (orientation != Qt::Horizontal) {
@@ -164,7 +181,7 @@ QVariant SubsetModel::headerData(int section, Qt::Orientation orientation, int r
   if (role == Qt::ToolTipRole) {
     return Text(kTips.at(place));
   }
-  if (role == Qt::TextAlignmentRole && static_cast<Column>(section) <= Column::kAnyCorrect) {
+  if (role == Qt::TextAlignmentRole && static_cast<Column>(section) <= Column::kError) {
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   return {};

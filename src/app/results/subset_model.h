@@ -7,14 +7,11 @@
 #include <span>
 
 #include "app/results/finished_runs.h"
+#include "simulation/figures/subset_ranking.h"
 
 namespace kaldo {
 
-enum class SubsetColumn { kPlace, kLoci, kAnyCorrect, kBest, kNames, kCount };
-
-/// The subset of each size with which an allocation is most often correct, the first of equals:
-/// number of loci -> place among the subsets.
-std::map<std::size_t, std::size_t> BestSubsets(std::span<const SubsetFigures> subsets);
+enum class SubsetColumn { kPlace, kRank, kLoci, kAnyCorrect, kError, kBest, kNames, kCount };
 
 /// Which subsets are shown.
 struct SubsetChoice {
@@ -49,11 +46,13 @@ class SubsetModel : public QAbstractTableModel {
   bool IsBest(std::size_t subset) const;
   void Arrange();
   QString CellText(SubsetColumn column, std::size_t subset) const;
+  double ErrorOf(std::size_t subset) const;
 
   SharedSimulation simulation_;
   std::map<std::size_t, std::size_t> best_;
+  std::vector<std::uint32_t> ranks_;  ///< of each subset, counted from 0
   SubsetChoice choice_;
-  SubsetColumn sorted_by_ = SubsetColumn::kPlace;
+  SubsetColumn sorted_by_ = SubsetColumn::kBest;
   Qt::SortOrder order_ = Qt::AscendingOrder;
   std::vector<std::uint32_t> shown_;  ///< places among the subsets, in the order shown
 };

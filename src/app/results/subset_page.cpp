@@ -12,6 +12,7 @@
 #include "app/results/searchable_table.h"
 #include "app/results/simulation_summary.h"
 #include "app/results/subset_model.h"
+#include "simulation/reports/estimate_texts.h"
 #include "simulation/reports/subset_title.h"
 
 namespace kaldo {
@@ -36,14 +37,16 @@ ChartPanel* BestPanel(const FinishedSimulation& simulation, const SubsetModel& m
   chart.texts = {Text("Any allocation correct, best subset of each size"), Text("loci"),
                  Text("estimated probability"), true};
   ChartSeries series{Text("any allocation correct"), {}};
-  DataTable table{{Text("loci"), Text("any correct"), Text("best subset")}, {}};
+  DataTable table{{Text("loci"), Text("any correct"), Text("best subset"), Text("se")}, {}};
   for (const auto& [size, place] : model.Best()) {
     const SubsetFigures& best = simulation.run.result.subsets[place];
     const double correct = best.probabilities.any;
     chart.positions.push_back(static_cast<double>(size));
     series.values.push_back({correct, {}});
+    const Estimate& any = EstimateOfKind(best.estimates.population, AllocationKind::kAny);
     table.rows.push_back({QString::number(size), ShortNumber(correct),
-                          Text(NamesOf(simulation.run.input.loci, best.loci))});
+                          Text(NamesOf(simulation.run.input.loci, best.loci)),
+                          NumberOrNone(any.error)});
   }
   chart.series.push_back(std::move(series));
   auto* panel = new ChartPanel(Text("BestSubsets"), Qt::Horizontal, folder, nullptr);
@@ -66,7 +69,8 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, const QString& folder
   }
   ResultTable& table = list_->Table();
   table.setModel(model_);
-  table.horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
+  table.horizontalHeader()->setSortIndicator(static_cast<int>(SubsetColumn::kBest),
+                                             Qt::AscendingOrder);
   table.setSortingEnabled(true);
   table.FitColumns();
   table.horizontalHeader()->setStretchLastSection(true);

@@ -102,19 +102,45 @@ AllocationFigures FiguresOfClass(const SimulationDesign& design, const OriginCla
   return figures;
 }
 
-AllocationFigures AverageFigures(const SimulationDesign& design, std::span<const double> weights,
-                                 Iterations iterations) {
-  AllocationFigures average;
-  for (const IterationCounts& counts : iterations) {
-    AllocationFigures weighted;
+std::vector<ClassFigures> FiguresOfIterations(const SimulationDesign& design,
+                                              Iterations iterations) {
+  std::vector<ClassFigures> figures(iterations.size());
+  for (std::size_t i = 0; i < iterations.size(); ++i) {
     for (std::size_t k = 0; k < design.classes.size(); ++k) {
-      const AllocationFigures of_class = FiguresOfClass(design, design.classes[k], counts.at(k));
-      ForEachFigure(weighted, of_class,
-                    [&](double& sum, double figure) { sum += weights[k] * figure; });
+      figures[i].at(k) = FiguresOfClass(design, design.classes[k], iterations[i].at(k));
     }
-    ForEachFigure(average, weighted, [](double& sum, double figure) { sum += figure; });
   }
+  return figures;
+}
+
+AllocationFigures WeighFigures(const SimulationDesign& design, std::span<const double> weights,
+                               const ClassFigures& classes) {
+  AllocationFigures weighted;
+  for (std::size_t k = 0; k < design.classes.size(); ++k) {
+    ForEachFigure(weighted, classes.at(k),
+                  [&](double& sum, double figure) { sum += weights[k] * figure; });
+  }
+  return weighted;
+}
+
+AllocationFigures AverageFigures(const SimulationDesign& design, std::span<const double> weights,
+                                 std::span<const ClassFigures> iterations) {
   const auto n = static_cast<double>(iterations.size());
+  if (design.averages_before_weighing) {
+    ClassFigures averages;
+    for (const ClassFigures& iteration : iterations) {
+      for (std::size_t k = 0; k < design.classes.size(); ++k) {
+        ForEachFigure(averages.at(k), iteration.at(k),
+                      [n](double& sum, double figure) { sum += figure / n; });
+      }
+    }
+    return WeighFigures(design, weights, averages);
+  }
+  AllocationFigures average;
+  for (const ClassFigures& iteration : iterations) {
+    ForEachFigure(average, WeighFigures(design, weights, iteration),
+                  [](double& sum, double figure) { sum += figure; });
+  }
   ForEachFigure(average, average, [n](double& sum, double /*same*/) { sum /= n; });
   return average;
 }

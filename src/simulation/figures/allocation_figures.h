@@ -3,6 +3,7 @@
 
 #include <array>
 #include <span>
+#include <vector>
 
 #include "simulation/flows/simulation_design.h"
 #include "simulation/iteration_counts.h"
@@ -35,10 +36,23 @@ struct AllocationFigures {
 AllocationFigures FiguresOfClass(const SimulationDesign& design, const OriginClass& origin,
                                  const ClassCounts& counts);
 
-/// Each figure weighted over the classes (see Weighted) in every iteration, and averaged over the
-/// iterations, of which there is at least one. `weights` has one per class.
+/// The figures of every class in one iteration; those that a flow does not have stay 0.
+using ClassFigures = std::array<AllocationFigures, kMostOriginClasses>;
+
+/// The figures of every class in each iteration.
+std::vector<ClassFigures> FiguresOfIterations(const SimulationDesign& design,
+                                              Iterations iterations);
+
+/// Each figure weighted over the classes (see Weighted); `weights` has one per class.
+AllocationFigures WeighFigures(const SimulationDesign& design, std::span<const double> weights,
+                               const ClassFigures& classes);
+
+/// The same over all iterations, of which there is at least one, in the order of the flow:
+/// - non-sexed: weighted in every iteration, then averaged as SpreadKind::kDifferences does;
+/// - sexed: averaged class by class as SpreadKind::kSteps does, then weighted.
+/// Both are equal but for rounding.
 AllocationFigures AverageFigures(const SimulationDesign& design, std::span<const double> weights,
-                                 Iterations iterations);
+                                 std::span<const ClassFigures> iterations);
 
 /// Estimated probabilities, 0 to 1, that an allocation can be trusted: by the averages of the
 /// right ones and of all made, and 0 where none was made. The quotient of averages, not the average

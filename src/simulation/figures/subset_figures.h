@@ -5,6 +5,7 @@
 
 #include "simulation/figures/allocation_figures.h"
 #include "simulation/figures/origin_statistics.h"
+#include "simulation/figures/probability_estimates.h"
 #include "simulation/locus_subsets.h"
 
 namespace kaldo {
@@ -13,8 +14,10 @@ namespace kaldo {
 /// of the single iterations is kept.
 struct SubsetFigures {
   LocusSubset loci;                    ///< in order of entry
+  std::int32_t iterations = 0;         ///< that were run with it
   AllocationFigures average;           ///< weighted over the classes, averaged over the iterations
   CorrectProbabilities probabilities;  ///< that follow from the averages
+  ProbabilityEstimates estimates;      ///< the same and others, with how exact they are
 
   /// Where wanted, of each class of origin in order and of all together; else empty.
   std::vector<TableSpreads> tables;

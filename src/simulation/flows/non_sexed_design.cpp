@@ -24,6 +24,7 @@ SimulationDesign NonSexedDesign() {
           .fewest_pseudo_collected = 2,  // offspring of two collected parents need two of them
           .classes = {Class(false, false), Class(false, true), Class(true, true)},
           .allocates_with_errors = false,
+          .averages_before_weighing = false,
           .global_rows = GlobalRows::kWeighted,
           .frequency_spread = SpreadKind::kDifferences,
           .table_spread = SpreadKind::kDifferences,

@@ -30,6 +30,7 @@ SimulationDesign SexedDesign() {
       .fewest_pseudo_collected = 1,
       .classes = {Class(false, false), Class(false, true), Class(true, false), Class(true, true)},
       .allocates_with_errors = true,
+      .averages_before_weighing = true,
       .global_rows = GlobalRows::kPooled,
       .frequency_spread = SpreadKind::kSteps,
       .table_spread = SpreadKind::kSquares,

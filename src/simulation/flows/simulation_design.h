@@ -47,6 +47,10 @@ struct SimulationDesign {
   /// strictly.
   bool allocates_with_errors = true;
 
+  /// Whether the weighted averages of the summary are formed of the averages of the classes, or are
+  /// averages of what was weighted in every iteration.
+  bool averages_before_weighing = true;
+
   GlobalRows global_rows = GlobalRows::kPooled;
   SpreadKind frequency_spread = SpreadKind::kSteps;  ///< of the frequencies of the summary
   SpreadKind table_spread = SpreadKind::kSquares;    ///< of the per-iteration tables

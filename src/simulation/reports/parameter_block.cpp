@@ -78,6 +78,23 @@ std::string LociLines(const SimulationSettings& settings, const SimulationInput&
   return lines + SubsetTitle(input.loci, last);
 }
 
+/// What is told of random numbers and iterations where they are not as by default.
+std::string RandomLines(const SimulationSettings& settings, const SimulationResult& result) {
+  std::string lines;
+  if (settings.random != RandomSource::kDefault) {
+    lines += LabelLine("Random numbers :", "modern");
+  }
+  if (settings.subset_randoms != SubsetRandoms::kOwn) {
+    lines += LabelLine("Random numbers of subsets :", "common");
+  }
+  if (settings.until_error) {
+    lines +=
+        LabelLine("Iterations until a standard error below :", FormatDouble(*settings.until_error));
+    lines += LabelLine("Iterations run :", std::to_string(result.LastSubset().iterations));
+  }
+  return lines;
+}
+
 std::string DistributionLines(const SimulationSettings& settings, const SimulationInput& input) {
   std::string lines = "DISTRIBUTION OF PSEUDO-OFFSPRING ACCORDING TO PARENTAL ORIGIN :\n";
   for (std::size_t k = 0; k < input.class_sizes.size(); ++k) {
@@ -100,7 +117,8 @@ std::string ParameterBlock(const SimulationSettings& settings, const SimulationI
                      TypeLine(settings), HeadLines(settings, input)) +
          LabelLine("Error model", Describe(settings.error_model)) +
          LabelLine("Maximum offset tolerance :", std::to_string(settings.tolerance.Value())) +
-         LociLines(settings, input, result) + DistributionLines(settings, input);
+         RandomLines(settings, result) + LociLines(settings, input, result) +
+         DistributionLines(settings, input);
 }
 
 }  // namespace kaldo

@@ -9,6 +9,7 @@
 #include "simulation/reports/reliability_report.h"
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_report_texts.h"
+#include "simulation/reports/subsets_report.h"
 #include "simulation/saved_loci.h"
 #include "simulation/simulated_individuals.h"
 #include "simulation/simulation_record.h"
@@ -57,6 +58,7 @@ SimulationReports::SimulationReports(const SimulationSettings& settings,
       offspring_(reports_.AddIfAny(kPseudoOffspringFile)),
       matrices_(reports_.AddIfAny(texts_.matrices_file)),
       reliability_(reports_.AddIfAny(kReliabilityFile)),
+      subsets_(reports_.AddIfAny(kSubsetsFile)),
       service_(reports_.Add(kServiceFile)),
       record_(reports_.Add(kRunRecordFile)) {
   for (const auto& origin : texts_.origins) {
@@ -81,6 +83,9 @@ void SimulationReports::WriteTables(const SimulationSettings& settings,
   }
   if (settings.strategy == LociStrategy::kCumulative) {
     sequence_.Append(SimulationSequenceReport(settings, input, result));
+  }
+  if (settings.strategy != LociStrategy::kChoice) {
+    subsets_.Append(SubsetsReport(settings.flow, input.loci, result));
   }
   if (result.reliability) {
     reliability_.Append(ReliabilityReport(*result.reliability, settings.confidence_level));

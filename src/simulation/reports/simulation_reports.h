@@ -49,6 +49,7 @@ class SimulationReports {
   ReportFile& offspring_;
   ReportFile& matrices_;
   ReportFile& reliability_;
+  ReportFile& subsets_;
   ReportFile& service_;
   ReportFile& record_;
 };
