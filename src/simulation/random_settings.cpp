@@ -83,11 +83,11 @@ std::vector<Setting<SimulationSettings>> RandomSettings() {
   Declared until_error;
   until_error.key = "until_se";
   until_error.option = "--until-se";
-  until_error.metavar = "X";
+  until_error.metavar = "SE";
   until_error.group = "Method";
   until_error.help =
       "End a subset of loci when the standard error of the probability that any allocation is "
-      "correct is below X";
+      "correct is below SE";
   until_error.value = Member(&SimulationSettings::until_error, UntilErrorKind());
   return {std::move(subset_randoms), std::move(random), std::move(until_error)};
 }

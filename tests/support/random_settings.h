@@ -71,6 +71,9 @@ std::string RandomText(const Setting<Settings>& setting) {
   if (kind == "LEVEL") {
     return fmt::format("{}", *rc::gen::inRange(50, 101) / 100.0);
   }
+  if (kind == "SE") {
+    return fmt::format("{}", *rc::gen::inRange(1, 100) / 100.0);
+  }
   if (kind == "S") {
     return std::to_string(*rc::gen::arbitrary<std::uint32_t>());
   }
