@@ -21,6 +21,10 @@ struct FullCheck {
   std::vector<LocusStatistics> loci;   ///< of all files together; nothing until they are sound
   std::optional<FolderCheck> project;  ///< where a project was named
 
+  /// Of a simulation with errors by steps: by locus, the share of its errors that leave the ladder
+  /// of sizes (see simulation/off_ladder.h). Else empty.
+  std::vector<std::optional<double>> off_ladder;
+
   /// Whether the run would begin.
   bool IsSound() const { return faults.IsEmpty() && (!project || project->IsSound()); }
 };

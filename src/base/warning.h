@@ -24,6 +24,7 @@ enum class WarningKind : std::uint8_t {
   kCoarseRandomNumbers,
   kRandomNumbersRepeat,
   kOptionWithoutEffect,
+  kUndefinedInSample,
 
   kCount,  ///< no kind, but how many there are
 };
@@ -56,6 +57,8 @@ inline constexpr std::array<WarningSentence, static_cast<std::size_t>(WarningKin
          "The run takes more random numbers than there are before they repeat. --random modern has "
          "enough."},
         {WarningKind::kOptionWithoutEffect, "An option has no effect."},
+        {WarningKind::kUndefinedInSample,
+         "Undefined alleles of a sample count for its first allele, whose frequency they raise."},
     }};
 
 /// Something odd as a value: its kind, and where to look.

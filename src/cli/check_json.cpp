@@ -120,8 +120,12 @@ std::string JsonText(const FullCheck& check, const std::optional<RunForecast>& f
   warnings.AddAll(check.warnings);
   AddAll(warnings, "warnings", json);
   json["loci"] = Json::array();
-  for (const LocusStatistics& locus : check.loci) {
-    json["loci"].push_back(LocusJson(locus));
+  for (std::size_t k = 0; k < check.loci.size(); ++k) {
+    Json locus = LocusJson(check.loci[k]);
+    if (!check.off_ladder.empty()) {
+      locus["errors_off_ladder"] = OrNull(check.off_ladder[k]);
+    }
+    json["loci"].push_back(std::move(locus));
   }
   json["project"] = check.project ? FolderJson(*check.project) : Json();
   if (forecast) {

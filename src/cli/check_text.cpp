@@ -41,7 +41,7 @@ std::string SizesText(const LocusStatistics& locus) {
 }
 
 std::string LocusRow(const LocusStatistics& locus) {
-  return fmt::format("{:<15}{:>5}{:>9}{:>11}{:>6}{:>9}{:>11}{:>10}{:>10}\n", Escaped(locus.name),
+  return fmt::format("{:<15}{:>5}{:>9}{:>11}{:>6}{:>9}{:>11}{:>10}{:>10}", Escaped(locus.name),
                      locus.in_use ? "yes" : "no", locus.alleles.size(), SizesText(locus),
                      locus.unit_distance ? fmt::format("{}", locus.unit_distance->Value()) : "-",
                      locus.in_step ? "yes" : "no", locus.undefined,
@@ -122,10 +122,12 @@ std::string ForecastText(const RunForecast& forecast) {
 
 std::string ContentsText(const FullCheck& check) {
   std::string text =
-      fmt::format("{:<15}{:>5}{:>9}{:>11}{:>6}{:>9}{:>11}{:>10}{:>10}\n", "locus", "used",
-                  "alleles", "sizes", "unit", "in step", "undefined", "het obs", "het exp");
-  for (const LocusStatistics& locus : check.loci) {
-    text += LocusRow(locus);
+      fmt::format("{:<15}{:>5}{:>9}{:>11}{:>6}{:>9}{:>11}{:>10}{:>10}", "locus", "used", "alleles",
+                  "sizes", "unit", "in step", "undefined", "het obs", "het exp");
+  text += check.off_ladder.empty() ? "\n" : "  off ladder\n";
+  for (std::size_t k = 0; k < check.loci.size(); ++k) {
+    text += LocusRow(check.loci[k]);
+    text += check.off_ladder.empty() ? "\n" : fmt::format("{:>12}\n", Share(check.off_ladder[k]));
   }
   return check.project ? text + '\n' + FolderText(*check.project) : text;
 }

@@ -17,7 +17,11 @@ std::vector<std::string> MissingNames(SettingTable<Settings> table, const Settin
   std::vector<std::string> missing;
   for (const Setting<Settings>& setting : table) {
     const bool is_name = setting.metavar == "FILE" || (setting.metavar == "DIR" && is_run);
+    const auto is_idle = [&](const Setting<Settings>& number) {
+      return number.key == setting.not_needed_at_0 && number.value.text(settings) == "0";
+    };
     if (is_name && setting.MustBeGiven() && setting.Applies(settings) &&
+        std::none_of(table.begin(), table.end(), is_idle) &&
         setting.value.text(settings).value_or("").empty()) {
       missing.push_back(setting.option);
     }

@@ -6,12 +6,17 @@
 #include <fmt/format.h>
 
 #include "base/counted_text.h"
+#include "base/number_text.h"
+#include "base/problem.h"
 #include "base/version.h"
 #include "confidence/confidence_run.h"
 #include "runs/project_folder.h"
+#include "simulation/allocation_model.h"
 #include "simulation/figures/subset_ranking.h"
+#include "simulation/off_ladder.h"
 #include "simulation/reports/estimate_texts.h"
 #include "simulation/reports/parameter_block.h"
+#include "simulation/reports/scan_report.h"
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_texts.h"
 #include "simulation/reports/subset_title.h"
@@ -146,6 +151,62 @@ std::string ReliabilityText(const SimulationSettings& settings, const Simulation
   return text;
 }
 
+/// The simulations of a scan, the best marked.
+std::string ScanText(const SimulationTexts& texts, const SimulationResult& result) {
+  if (result.scan.empty()) {
+    return {};
+  }
+  constexpr std::string_view kRow = "{:>3} {:>9}{:>14}{:>10}{:>10}";
+  std::string text = "\nScan, any allocation correct:\n" +
+                     fmt::format(kRow, "", "tolerance", "uncollected", "correct", "se");
+  for (std::size_t k = 0; k + 1 < texts.origins.size(); ++k) {
+    text += fmt::format("{:>10}", ClassColumn(texts.origins[k].label));
+  }
+  for (const ScanRow& row : result.scan) {
+    std::vector<std::string> uncollected;
+    uncollected.reserve(row.uncollected.size());
+    for (const double number : row.uncollected) {
+      uncollected.push_back(FormatDouble(number));
+    }
+    text += '\n' + fmt::format(kRow, row.is_best ? "*" : "", row.tolerance.Value(),
+                               fmt::format("{}", fmt::join(uncollected, " + ")), Decimals(row.any),
+                               row.any_error ? Decimals(*row.any_error) : "NA");
+    for (const auto& of_class : row.by_class) {
+      text += fmt::format("{:>10}", of_class ? Decimals(*of_class) : "NA");
+    }
+  }
+  return text + "\n  *: the best; differences within two standard errors (se) may be chance\n";
+}
+
+/// Said where a tenth or more of the errors wanted cannot happen: those who chose the model should
+/// know that fewer readings are wrong than it says.
+std::string OffLadderText(const SimulationSettings& settings, const SimulationInput& input) {
+  constexpr double kNegligible = 0.1;
+  double sum = 0;
+  double most = 0;
+  std::size_t loci = 0;
+  std::string where;
+  const auto shares = OffLadderShares(settings, input);
+  for (std::uint32_t k = 0; k < shares.size(); ++k) {
+    if (shares[k]) {
+      ++loci;
+      sum += *shares[k];
+      if (*shares[k] > most) {
+        most = *shares[k];
+        where = input.loci.Name(LocusIndex{k});
+      }
+    }
+  }
+  if (loci == 0 || sum < kNegligible * static_cast<double>(loci)) {
+    return {};
+  }
+  return fmt::format(
+      "\n{:.0f} % of the errors of this model would leave the ladder of sizes (at {} {:.0f} %) and "
+      "do "
+      "not\nhappen: the parent's own allele is read.\n",
+      100 * sum / static_cast<double>(loci), Escaped(where), 100 * most);
+}
+
 }  // namespace
 
 std::string InputSummary(const SimulationSettings& settings, const SimulationInput& input) {
@@ -168,6 +229,11 @@ std::string ShortResult(const SimulationSettings& settings, const SimulationRun&
   text += SubsetRows(settings, run) + CorrectRows(settings, run.result);
   text += EstimateRows(settings, run.result);
   text += ReliabilityText(settings, run.result);
+  text += ScanText(TextsOf(settings.flow), run.result);
+  text += OffLadderText(settings, run.input);
+  if (const auto note = AllocatedWithoutErrorsNote(settings, "--allocate-with run")) {
+    text += '\n' + *note + '\n';
+  }
   text += fmt::format("\nFiles in \"{}\", first of all {}\n\n", settings.project,
                       kSummaryFile.substr(1));
   if (run.result.stepping.any_out_of_step) {

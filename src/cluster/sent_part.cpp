@@ -9,6 +9,7 @@
 #include "base/byte_packing.h"
 #include "base/version.h"
 #include "simulation/iteration_portions.h"
+#include "simulation/scan_plan.h"
 #include "simulation/simulation_record.h"
 
 namespace kaldo {
@@ -88,6 +89,21 @@ class SentSimulation final : public PortionTask {
   IterationTask task_;
 };
 
+class SentScan final : public PortionTask {
+ public:
+  SentScan(const RunRecord& record, FileSource& files)
+      : settings_(Expect(SimulationSettingsOf(record, {}))),
+        input_(Expect(LoadSimulationInput(settings_, files))),
+        task_(settings_, input_) {}
+
+  std::unique_ptr<PortionWorker> MakeWorker() const override { return task_.MakeWorker(); }
+
+ private:
+  SimulationSettings settings_;
+  SimulationInput input_;
+  ScanTask task_;
+};
+
 }  // namespace
 
 std::string Pack(const SentPart& sent) {
@@ -128,6 +144,9 @@ std::unique_ptr<PortionTask> MakeTask(const SentPart& sent) {
   }
   if (sent.part == kWeighingPart) {
     return std::make_unique<SentEvidence>(record, files);
+  }
+  if (sent.part == kScanPart) {
+    return std::make_unique<SentScan>(record, files);
   }
   return std::make_unique<SentSimulation>(record, files, ProductOf(sent.part));
 }

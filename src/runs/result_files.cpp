@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 8> kOfAllocations = {
     "/Confidence.tsv",           "/Loci.tsv",
 };
 
-constexpr std::array<std::string_view, 15> kOfNonSexedSimulations = {
+constexpr std::array<std::string_view, 16> kOfNonSexedSimulations = {
     "/Summary.xls",
     "/Iterations - global results.xls",
     "/Iterations - results_2collpar.xls",
@@ -33,9 +33,10 @@ constexpr std::array<std::string_view, 15> kOfNonSexedSimulations = {
     "/pseudo-offspring.txt",
     "/Reliability.tsv",
     "/Subsets.tsv",
+    "/Scan.tsv",
 };
 
-constexpr std::array<std::string_view, 18> kOfSexedSimulations = {
+constexpr std::array<std::string_view, 19> kOfSexedSimulations = {
     "/Summary.xls",
     "/Iterations-global results.xls",
     "/Iterations-results_coll_m_coll_f.xls",
@@ -54,6 +55,7 @@ constexpr std::array<std::string_view, 18> kOfSexedSimulations = {
     "/pseudo-offspring.txt",
     "/Reliability.tsv",
     "/Subsets.tsv",
+    "/Scan.tsv",
 };
 
 }  // namespace

@@ -95,6 +95,8 @@ class RecordedSettings {
     return std::nullopt;
   }
 
+  bool Has(std::string_view name) const;
+
   /// The setting, which the record must have.
   template <typename Value>
   Value Needed(std::string_view name) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <charconv>
 #include <initializer_list>
 #include <limits>
@@ -326,6 +327,11 @@ std::optional<std::vector<std::int32_t>> RecordedSettings::WholeNumbers(std::str
     numbers.push_back(static_cast<std::int32_t>(value));
   }
   return numbers;
+}
+
+bool RecordedSettings::Has(std::string_view name) const {
+  return std::any_of(record_.settings.begin(), record_.settings.end(),
+                     [name](const auto& setting) { return setting.first == name; });
 }
 
 void RecordedSettings::Note(std::string_view name, std::string_view fault) {

@@ -12,6 +12,7 @@
 
 #include <tl/expected.hpp>
 
+#include "base/number_text.h"
 #include "base/problem.h"
 #include "base/shell_text.h"
 #include "runs/run_record.h"
@@ -100,8 +101,10 @@ struct Setting {
   /// When it plays a role, by the flow and the procedure of a run; always, when nothing is said.
   std::function<bool(const Settings& settings)> applies = {};
 
-  bool needed = false;             ///< has no default: the command line refuses to go without it
-  bool may_be_left_out = false;    ///< a file without which the run does as well
+  bool needed = false;           ///< has no default: the command line refuses to go without it
+  bool may_be_left_out = false;  ///< a file without which the run does as well
+  std::string not_needed_at_0 =
+      {};                          ///< one without which it does where the setting of this key is 0
   bool always_told = false;        ///< a copied command gives it even where it is as by default
   bool may_stand_alone = false;    ///< the option may go without its value
   bool in_head_of_record = false;  ///< a run record tells it above its settings, in another form
@@ -137,7 +140,10 @@ std::vector<std::string> MissingOptions(SettingTable<Settings> table, const Type
   std::vector<std::string> options;
   for (const Setting<Settings>& setting : table) {
     const auto text = typed.find(setting.key);
-    const bool given = text != typed.end() && (setting.needed || !text->second.empty());
+    const auto number = typed.find(setting.not_needed_at_0);
+    const bool is_idle = number != typed.end() && ParseDouble(number->second) == 0.0;
+    const bool given =
+        is_idle || (text != typed.end() && (setting.needed || !text->second.empty()));
     if (setting.MustBeGiven() && setting.Applies(settings) && !given) {
       options.push_back(setting.option);
     }

@@ -33,6 +33,23 @@ ValueKind<double> WholeRealKind();
 /// What a flag turns against its default. A record that does not tell it has the default.
 ValueKind<bool> FlagKind(bool by_default = false);
 
+/// The same kind, but a record tells the value only where it is not as by default: a run without it
+/// leaves the record that it would leave if nobody could choose.
+template <typename Value>
+ValueKind<Value> ToldUnlessDefault(const Value& by_default, ValueKind<Value> kind) {
+  kind.record = [by_default, record_value = kind.record](const Value& value, const std::string& key,
+                                                         RunRecord& record) {
+    if (!(value == by_default)) {
+      record_value(value, key, record);
+    }
+  };
+  kind.recorded = [by_default, recorded_value = kind.recorded](const std::string& key,
+                                                               RecordedSettings& recorded) {
+    return recorded.Has(key) ? recorded_value(key, recorded) : by_default;
+  };
+  return kind;
+}
+
 /// Names between commas; nothing said stands for all.
 ValueKind<std::optional<std::vector<std::string>>> NamesKind();
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/pseudo_offspring.h"
 
+#include "simulation/off_ladder.h"
+
 namespace kaldo {
 
 namespace {
@@ -31,15 +33,14 @@ std::uint64_t DrawsPerPseudoOffspring(std::size_t number_of_loci) {
 }
 
 AlleleIndex Transmit(const TransmissionMatrix& matrix, AlleleIndex parental, double u) {
-  const std::size_t last = matrix.Alleles() - 1;
   double sum = 0;
-  for (std::size_t received = 0; received < last; ++received) {
+  for (std::size_t received = 0; received < matrix.Alleles(); ++received) {
     sum += matrix(parental.Value(), received);
     if (sum != 0 && u <= sum) {
       return AlleleIndex{static_cast<std::uint8_t>(received)};
     }
   }
-  return AlleleIndex{static_cast<std::uint8_t>(last)};
+  return ReadBehindRow(matrix, parental);
 }
 
 void ProducePseudoOffspring(GenotypeTable& table, Slot offspring, ParentPair parents,

@@ -34,8 +34,10 @@ std::uint64_t DrawsPerPseudoOffspring(std::size_t number_of_loci);
 
 /// The allele that is read in an offspring for a transmitted parental allele, with `u` from 0 to
 /// below 1 drawn: the first of its row of the transmission matrix whose running sum is not 0 and
-/// reaches `u`, at the latest the last allele of the locus. So an allele of probability 0 is never
-/// read for u = 0, and sums a hair below 1 lose nothing (this program's convention).
+/// reaches `u`. So an allele of probability 0 is never read for u = 0. What the row does not hold,
+/// where a step would leave the ladder of sizes or fall into a gap of it, stays the parent's own
+/// allele: there is nothing else as which it could have been read (this program's convention). The
+/// row of undefined parents has no allele of its own; see FillUndefinedRow.
 AlleleIndex Transmit(const TransmissionMatrix& matrix, AlleleIndex parental, double u);
 
 /// Makes one pseudo-offspring from its true parents, which must be indexed: Mendelian segregation,

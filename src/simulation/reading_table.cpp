@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "simulation/off_ladder.h"
+
 namespace kaldo {
 
 namespace {
@@ -26,12 +28,11 @@ std::uint32_t FirstStepAbove(double sum, const UnitDraw& draw) {
 void ReadingTable::Build(const TransmissionMatrix& matrix, const UnitDraw& draw) {
   steps_ = draw.Steps();
   readings_.resize(matrix.Rows() * steps_);
-  const std::size_t last = matrix.Alleles() - 1;
   std::uint8_t* row = readings_.data();
   for (std::size_t parental = 0; parental < matrix.Rows(); ++parental, row += steps_) {
     std::uint32_t done = 0;
     double sum = 0;
-    for (std::size_t received = 0; received < last && done < steps_; ++received) {
+    for (std::size_t received = 0; received < matrix.Alleles() && done < steps_; ++received) {
       // The same running sum as in Transmit().
       sum += matrix(parental, received);
       const std::uint32_t end = sum > 0 ? FirstStepAbove(sum, draw) : 0;
@@ -40,7 +41,8 @@ void ReadingTable::Build(const TransmissionMatrix& matrix, const UnitDraw& draw)
         done = end;
       }
     }
-    std::fill(row + done, row + steps_, static_cast<std::uint8_t>(last));
+    const AlleleIndex own{static_cast<std::uint8_t>(parental)};
+    std::fill(row + done, row + steps_, ReadBehindRow(matrix, own).Value());
   }
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "confidence/confidence_run.h"
+#include "simulation/allocation_model.h"
 
 namespace kaldo {
 
@@ -90,7 +91,7 @@ void CountReliability(Flow flow, const OffspringConfidence& confidence, ParentPa
 Reliability ReliabilityOf(const SimulationSettings& settings, const SimulatedIteration& iteration,
                           const RunObserver& observer) {
   ConfidenceSettings wanted;
-  wanted.error_model = settings.error_model;
+  wanted.error_model = ConfidenceModelOf(settings);
   wanted.level = settings.confidence_level;
   wanted.threads = 1;
   wanted.advises = false;

@@ -52,8 +52,8 @@ void CountReliability(Flow flow, const OffspringConfidence& confidence, ParentPa
                       Reliability& reliability);
 
 /// Computes the posteriors of all pseudo-offspring of an iteration, as an allocation would for real
-/// ones, and compares them with the truth. They rest on the error model of the run, which must have
-/// no negative probability, whatever the iteration allocates with.
+/// ones, and compares them with the truth. They rest on the model of ConfidenceModelOf, which must
+/// have no negative probability.
 Reliability ReliabilityOf(const SimulationSettings& settings, const SimulatedIteration& iteration,
                           const RunObserver& observer);
 

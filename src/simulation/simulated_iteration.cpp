@@ -6,22 +6,15 @@
 #include "confidence/parent_frequencies.h"
 #include "genotypes/unit_distance.h"
 #include "method/undefined_parents.h"
+#include "simulation/allocation_model.h"
 #include "simulation/iteration_states.h"
+#include "simulation/off_ladder.h"
 #include "simulation/scoring.h"
 #include "simulation/simulated_parents.h"
 
 namespace kaldo {
 
 namespace {
-
-/// A flow may let errors act in the production only and allocate without any.
-ErrorModel AllocationModel(const SimulationSettings& settings) {
-  ErrorModel model = settings.error_model;
-  if (!DesignOf(settings.flow).allocates_with_errors) {
-    model.kind = ErrorKind::kNoError;
-  }
-  return model;
-}
 
 CandidateGroup CandidatesOf(const SimulationInput& input, const SimulationDesign& design) {
   return {input.groups[design.candidate_groups[0]].slots,
@@ -36,7 +29,7 @@ SimulatedIteration::SimulatedIteration(const SimulationSettings& settings,
       input_(input),
       design_(DesignOf(settings.flow)),
       draw_(input.digits_per_field / 2, settings.random == RandomSource::kModern),
-      allocation_model_(AllocationModel(settings)),
+      allocation_model_(AllocationModelOf(settings)),
       offspring_{input.NumberOfParents(), input.NumberOfParents() + input.OffspringPerIteration()},
       candidates_{CandidatesOf(input, design_)},
       in_use_(input.loci.Count()),
@@ -104,6 +97,9 @@ void SimulatedIteration::AddUndefinedParents(LocusIndex locus) {
   const AlleleFrequencies frequencies =
       ParentFrequencies(genotypes, {&input_.candidates, 1}, production.Alleles());
   AddUndefinedAllele(frequencies, production);
+  if (settings_.error_model.kind == ErrorKind::kNonUniform) {
+    FillUndefinedRow(frequencies, production);
+  }
   AddUndefinedAllele(frequencies, allocation_matrices_[locus.Value()]);
 }
 
@@ -138,6 +134,16 @@ void SimulatedIteration::Produce(RandomNumbers& random) {
   }
 }
 
+void SimulatedIteration::LoseGenotypes(const UndefinedLoci& undefined) {
+  for (const LocusIndex locus : loci_.loci) {
+    for (std::uint32_t i = 0; i < offspring_.Size(); ++i) {
+      if (undefined.AreUndefined(i, locus)) {
+        table_.Genotype(locus, Slot{offspring_.begin + i}) = LocusGenotype{};
+      }
+    }
+  }
+}
+
 IterationCounts SimulatedIteration::Run(IterationStart start, const RunObserver& observer) {
   // The draws of an iteration: the parents, group after group; then the pseudo-offspring, class
   // after class, each its true parents and its genotype. Nothing else draws.
@@ -145,18 +151,26 @@ IterationCounts SimulatedIteration::Run(IterationStart start, const RunObserver&
   DrawAllParents(random);
   CatalogueParents();
   Produce(random);
+  if (!input_.undefined_shares.empty()) {
+    LoseGenotypes({input_.undefined_shares, start});
+  }
   searcher_.Prepare({.table = table_,
                      .parents = input_.candidates.Size(),
                      .loci = loci_.loci,
                      .matrices = allocation_matrices_},
                     {.flow = settings_.flow, .groups = candidates_, .names = {}});
+  for (std::uint32_t i = 0; i < outcomes_.size(); ++i) {
+    outcomes_[i] = searcher_.Search(Slot{offspring_.begin + i}, observer);
+  }
+  return Judge(settings_.tolerance);
+}
+
+IterationCounts SimulatedIteration::Judge(OffsetTolerance tolerance) {
   IterationCounts counts{};
   std::uint32_t next = 0;
   for (std::size_t k = 0; k < design_.classes.size(); ++k) {
     for (std::int32_t i = 0; i < input_.class_sizes[k]; ++i, ++next) {
-      const Slot offspring{offspring_.begin + next};
-      outcomes_[next] = searcher_.Search(offspring, observer);
-      DecideSides(table_, offspring, loci_, settings_.tolerance, outcomes_[next]);
+      DecideSides(table_, Slot{offspring_.begin + next}, loci_, tolerance, outcomes_[next]);
       Score(settings_.flow, design_.classes[k], outcomes_[next], truth_[next], counts.at(k));
     }
   }

@@ -13,6 +13,7 @@
 #include "simulation/random_numbers.h"
 #include "simulation/reading_table.h"
 #include "simulation/simulation_input.h"
+#include "simulation/undefined_loci.h"
 
 namespace kaldo {
 
@@ -30,6 +31,9 @@ class SimulatedIteration {
   /// Runs the iteration whose random numbers start there, and counts. Throws RunStopped
   /// when the observer asks.
   IterationCounts Run(IterationStart start, const RunObserver& observer);
+
+  /// Judges the pairs that the last Run() found by that tolerance, and counts.
+  IterationCounts Judge(OffsetTolerance tolerance);
 
   // What the last Run() made: the parent table with the pseudo-offspring behind it, per
   // pseudo-offspring its true parents and its allocation, and the catalogues of the parents.
@@ -50,6 +54,7 @@ class SimulatedIteration {
   void AddUndefinedParents(LocusIndex locus);
   void WriteReadingsOut();
   void Produce(RandomNumbers& random);
+  void LoseGenotypes(const UndefinedLoci& undefined);
 
   const SimulationSettings& settings_;
   const SimulationInput& input_;

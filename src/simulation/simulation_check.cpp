@@ -5,6 +5,8 @@
 #include "genotypes/kept_files.h"
 #include "genotypes/record_checks.h"
 #include "runs/input_clash.h"
+#include "simulation/allocation_model.h"
+#include "simulation/off_ladder.h"
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_command.h"
@@ -20,6 +22,7 @@ void PutNumberAside(const Problem& problem, SimulationSettings& settings) {
   switch (problem.kind) {
     case ProblemKind::kNegativeTolerance:
       settings.tolerance = defaults.tolerance;
+      settings.scan_tolerance.clear();
       return;
     case ProblemKind::kTooManyIterations:
     case ProblemKind::kNoIteration:
@@ -31,6 +34,12 @@ void PutNumberAside(const Problem& problem, SimulationSettings& settings) {
     case ProblemKind::kStartWithTooSmall:
       settings.start_with = defaults.start_with;
       return;
+    case ProblemKind::kNotAnUndefinedRate:
+    case ProblemKind::kChoicesDoNotFit:
+      settings.undefined = defaults.undefined;
+      settings.scan_tolerance.clear();
+      settings.scan_uncollected.clear();
+      return;
     case ProblemKind::kNoPseudoOffspring:
     case ProblemKind::kTooManyPseudoOffspring:
       settings.offspring_per_iteration = defaults.offspring_per_iteration;
@@ -38,6 +47,7 @@ void PutNumberAside(const Problem& problem, SimulationSettings& settings) {
     default:
       break;
   }
+  settings.scan_uncollected.clear();
   for (ParentalSet& set : settings.sets) {  // two parents suffice for pairs of any origin
     set.pseudo_collected = 2;
     set.uncollected = 2;
@@ -71,6 +81,10 @@ void FindFaultsOfChoices(const LociList& loci, SimulationSettings& settings, Ful
       settings.start_with = 1;
       return true;
     }
+    if (CheckAllocationModel(settings) && !ValidateForSimulation(settings.error_model)) {
+      settings.allocate_with.reset();
+      return true;
+    }
     return PutAside(problem, settings);
   };
   FindOneAfterAnother(test, put_aside, check.faults);
@@ -98,8 +112,10 @@ std::vector<LocusStatistics> StatisticsOf(const SimulationFiles& files, LociList
     loci.Use(*settings.loci_in_use);
   }
   std::vector<CheckedFile> checked;
-  for (const GroupFile& group : files.groups) {
-    checked.push_back({&group.tokens, Separators::kNone});
+  for (const GroupFile& group : files.groups) {  // real offspring are not drawn from
+    if (!group.IsLeftOut()) {
+      checked.push_back({&group.tokens, Separators::kNone});
+    }
   }
   return StatisticsOfLoci(checked, loci);
 }
@@ -118,6 +134,9 @@ void Load(SimulationSettings settings, const FileOpener& open, SimulationCheck& 
     auto input = LoadSimulationInput(settings, *files);
     if (input) {
       check.warnings = input->warnings;
+      if (settings.error_model.kind == ErrorKind::kNonUniform) {
+        check.off_ladder = OffLadderShares(settings, *input);
+      }
       check.input = std::move(*input);
       break;
     }

@@ -7,6 +7,8 @@
 
 #include "base/number_text.h"
 #include "genotypes/capacities.h"
+#include "simulation/allocation_model.h"
+#include "simulation/scan.h"
 
 namespace kaldo {
 
@@ -43,6 +45,38 @@ void FindFaultyNumbersOf(const SimulationSettings& settings, const ParentalSet& 
          .found = fmt::format("{} collected and {} uncollected parents of one sex are estimated",
                               FormatDouble(set.estimated_collected),
                               FormatDouble(set.estimated_uncollected))});
+  }
+}
+
+/// A scan compares numbers with one set of loci; a table of subsets by numbers would be read by
+/// nobody.
+void FindFaultsOfScan(const SimulationSettings& settings, std::vector<Problem>& found) {
+  const auto refuse = [&found](std::string why) {
+    found.push_back({.kind = ProblemKind::kChoicesDoNotFit, .found = std::move(why)});
+  };
+  for (const std::int32_t tolerance : settings.scan_tolerance) {
+    if (auto problem = ValidateTolerance(OffsetTolerance{tolerance})) {
+      found.push_back(std::move(*problem));
+    }
+  }
+  for (const double uncollected : settings.scan_uncollected) {
+    if (!IsNumberOfParents(uncollected)) {
+      found.push_back({.kind = ProblemKind::kImpossibleNumberOfParents,
+                       .found = fmt::format("{} uncollected parents; at most {} in all",
+                                            FormatDouble(uncollected), kMaxIndividuals)});
+    }
+  }
+  if (IsScanWanted(settings) && settings.strategy != LociStrategy::kChoice) {
+    refuse("a scan is run with one choice of loci; leave --strategy out");
+  }
+  if (IsScanWanted(settings) && settings.until_error) {
+    refuse("a scan compares runs of equal length; leave --until-se out");
+  }
+  if (!settings.scan_tolerance.empty() && !ToleranceActs(settings)) {
+    refuse(settings.flow == Flow::kSexed
+               ? "without errors a tolerance changes nothing; scan with another --error"
+               : "a tolerance changes nothing where the allocation knows no errors; scan with "
+                 "--allocate-with run");
   }
 }
 
@@ -101,6 +135,15 @@ std::vector<Problem> FindFaultyNumbers(const SimulationSettings& settings) {
     found.push_back({.kind = ProblemKind::kStartWithTooSmall,
                      .found = fmt::format("it is {}", settings.start_with)});
   }
+  if (!(settings.undefined >= 0 && settings.undefined < 1)) {
+    found.push_back({.kind = ProblemKind::kNotAnUndefinedRate,
+                     .found = fmt::format("it is {}", FormatDouble(settings.undefined))});
+  }
+  if (settings.undefined != 0 && !settings.undefined_like.empty()) {
+    found.push_back({.kind = ProblemKind::kChoicesDoNotFit,
+                     .found = "a share of undefined loci, and a file that tells it"});
+  }
+  FindFaultsOfScan(settings, found);
   const auto most = static_cast<std::int32_t>(kMaxIndividuals);
   if (settings.offspring_per_iteration < 1) {
     found.push_back({.kind = ProblemKind::kNoPseudoOffspring,

@@ -32,6 +32,16 @@ bool AnyGiven(const TypedSettings& typed, std::string_view group) {
 
 bool IsSexed(const TypedSettings& typed) { return typed.contains("sexed"); }
 
+/// Told where choices that were typed cannot act together.
+void FindUnfit(const TypedSettings& typed, std::vector<Problem>& found) {
+  const auto refuse = [&found](std::string why) {
+    found.push_back({.kind = ProblemKind::kChoicesDoNotFit, .found = std::move(why)});
+  };
+  if (IsSexed(typed) && typed.contains("allocate_with")) {
+    refuse("--sexed allocates with the model of --error; leave --allocate-with out");
+  }
+}
+
 /// Options of the other flow, or of both procedures, would silently do nothing.
 std::vector<Problem> FindContradictions(const TypedSettings& typed) {
   const bool sexed = IsSexed(typed);
@@ -53,6 +63,7 @@ std::vector<Problem> FindContradictions(const TypedSettings& typed) {
         {.kind = ProblemKind::kCollectedAndPseudoCollected,
          .found = "males and females come from files of parents, or both from samples"});
   }
+  FindUnfit(typed, found);
   return found;
 }
 

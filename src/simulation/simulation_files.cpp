@@ -22,6 +22,9 @@ struct GroupPath {
   std::string role;
   bool holds_parents = false;
   ProblemKind half_defined = ProblemKind::kHalfDefinedInSample;
+  bool may_be_left_out = false;
+
+  bool IsLeftOut() const { return may_be_left_out && path->empty(); }
 };
 
 std::string RoleOf(Flow flow, const GroupDesign& group, bool holds_parents) {
@@ -46,6 +49,20 @@ GroupPath PathOf(const SimulationSettings& settings, const GroupDesign& group) {
   path.half_defined = settings.flow == Flow::kNonSexed ? ProblemKind::kHalfDefinedInSample
                       : group.set == 0                 ? ProblemKind::kHalfDefinedInMaleSample
                                                        : ProblemKind::kHalfDefinedInFemaleSample;
+  const auto& scanned = settings.scan_uncollected;
+  path.may_be_left_out =
+      !group.collected && set.uncollected == 0 &&
+      std::all_of(scanned.begin(), scanned.end(), [](double number) { return number == 0; });
+  return path;
+}
+
+/// Real offspring whose undefined loci those of the simulation are like.
+GroupPath UndefinedLike(const SimulationSettings& settings) {
+  GroupPath path;
+  path.path = &settings.undefined_like;
+  path.role = "offspring with undefined loci";
+  path.half_defined = ProblemKind::kHalfDefinedInOffspring;
+  path.may_be_left_out = true;
   return path;
 }
 
@@ -97,10 +114,23 @@ std::optional<Problem> CheckNoSeparators(const GroupFile& group) {
 
 }  // namespace
 
+std::vector<const GroupFile*> SimulationFiles::Genotypes() const {
+  std::vector<const GroupFile*> genotypes;
+  for (const GroupFile& group : groups) {
+    if (!group.IsLeftOut()) {
+      genotypes.push_back(&group);
+    }
+  }
+  if (undefined_like) {
+    genotypes.push_back(&*undefined_like);
+  }
+  return genotypes;
+}
+
 std::vector<RecordedInput> SimulationFiles::Recorded() const {
   std::vector<RecordedInput> recorded;
-  for (const GroupFile& group : groups) {
-    recorded.push_back({group.role, group.tokens.Path(), group.tokens.Digest()});
+  for (const GroupFile* group : Genotypes()) {
+    recorded.push_back({group->role, group->tokens.Path(), group->tokens.Digest()});
   }
   recorded.push_back({"names of loci", loci.Path(), loci.Digest()});
   return recorded;
@@ -122,7 +152,7 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
   std::vector<GroupPath> paths;
   for (const GroupDesign& group : DesignOf(settings.flow).groups) {
     paths.push_back(PathOf(settings, group));
-    if (paths.back().path->empty()) {
+    if (paths.back().path->empty() && !paths.back().IsLeftOut()) {
       return tl::unexpected(Problem{.kind = paths.back().no_name});
     }
   }
@@ -133,11 +163,18 @@ tl::expected<SimulationFiles, Problem> OpenSimulationFiles(const SimulationSetti
   }
   files.loci = std::move(*loci);
   for (GroupPath& path : paths) {
-    auto tokens = open(*path.path, kMaxInputBytes);
+    auto tokens = path.IsLeftOut() ? TokenFile() : open(*path.path, kMaxInputBytes);
     if (!tokens) {
       return tl::unexpected(std::move(tokens.error()));
     }
     files.groups.push_back(GroupFileOf(std::move(path), std::move(*tokens), settings));
+  }
+  if (!settings.undefined_like.empty()) {
+    auto tokens = open(settings.undefined_like, kMaxInputBytes);
+    if (!tokens) {
+      return tl::unexpected(std::move(tokens.error()));
+    }
+    files.undefined_like = GroupFileOf(UndefinedLike(settings), std::move(*tokens), settings);
   }
   return files;
 }
@@ -150,8 +187,17 @@ OpenedSimulationFiles OpenWhatIsThere(const SimulationSettings& settings, const 
   } else {
     faults.Add(std::move(loci.error()));
   }
-  for (const GroupDesign& group : DesignOf(settings.flow).groups) {
-    GroupPath path = PathOf(settings, group);
+  std::vector<GroupPath> paths;
+  const auto& groups = DesignOf(settings.flow).groups;
+  paths.reserve(groups.size() + 1);
+  for (const GroupDesign& group : groups) {
+    paths.push_back(PathOf(settings, group));
+  }
+  paths.push_back(UndefinedLike(settings));
+  for (GroupPath& path : paths) {
+    if (path.IsLeftOut()) {
+      continue;
+    }
     if (path.path->empty()) {
       faults.Add({.kind = path.no_name});
     } else if (auto tokens = open(*path.path, kMaxInputBytes)) {
@@ -184,8 +230,8 @@ void FindAllFaults(const OpenedSimulationFiles& files, Flow flow, const LociList
 
 std::optional<Problem> CheckSimulationFiles(const SimulationFiles& files, const LociList& loci) {
   const bool sexed = files.groups.size() > 2;
-  for (const GroupFile& group : files.groups) {
-    for (const FileWideCheck& check : WideChecksOf(group, sexed)) {
+  for (const GroupFile* group : files.Genotypes()) {
+    for (const FileWideCheck& check : WideChecksOf(*group, sexed)) {
       if (auto problem = CheckFileWide(check, loci)) {
         return problem;
       }
@@ -197,14 +243,14 @@ std::optional<Problem> CheckSimulationFiles(const SimulationFiles& files, const 
 std::optional<Problem> CheckSimulationRecords(const SimulationFiles& files, const LociList& loci,
                                               std::size_t digits_per_field) {
   const RecordLayout layout{loci.Count(), Separators::kNone};
-  for (const GroupFile& group : files.groups) {
-    if (auto problem = CheckNoSeparators(group)) {
+  for (const GroupFile* group : files.Genotypes()) {
+    if (auto problem = CheckNoSeparators(*group)) {
       return problem;
     }
-    if (auto problem = CheckNumber(group, layout)) {
+    if (auto problem = CheckNumber(*group, layout)) {
       return problem;
     }
-    if (auto problem = CheckRecords(group.tokens, layout, loci, digits_per_field)) {
+    if (auto problem = CheckRecords(group->tokens, layout, loci, digits_per_field)) {
       return problem;
     }
   }

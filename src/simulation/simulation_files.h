@@ -15,7 +15,8 @@
 
 namespace kaldo {
 
-/// The file behind a parental group.
+/// The file behind a parental group. It is left out where nobody is drawn from it: then it is as if
+/// it were empty.
 struct GroupFile {
   TokenFile tokens;
   std::string role;            ///< as in messages and run records
@@ -23,12 +24,18 @@ struct GroupFile {
   /// Told for a locus with one allele of two.
   ProblemKind half_defined = ProblemKind::kHalfDefinedInSample;
   UndefinedAlleles in_parents = UndefinedAlleles::kNone;  ///< those that collected ones may have
+
+  bool IsLeftOut() const { return tokens.Path().empty(); }
 };
 
 /// The open files of a simulation.
 struct SimulationFiles {
   TokenFile loci;
-  std::vector<GroupFile> groups;  ///< as in the design of the flow
+  std::vector<GroupFile> groups;            ///< as in the design of the flow
+  std::optional<GroupFile> undefined_like;  ///< real offspring, where one was named
+
+  /// The files that were opened: of the groups, and that of real offspring.
+  std::vector<const GroupFile*> Genotypes() const;
 
   /// What a run record says of them.
   std::vector<RecordedInput> Recorded() const;

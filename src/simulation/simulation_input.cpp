@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/simulation_input.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 #include <set>
@@ -11,11 +12,13 @@
 #include "genotypes/record_checks.h"
 #include "genotypes/record_warnings.h"
 #include "method/cumulative_sequence.h"
+#include "simulation/allocation_model.h"
 #include "simulation/figures/class_sizes.h"
 #include "simulation/figures/class_weights.h"
 #include "simulation/flows/simulation_design.h"
 #include "simulation/random_warnings.h"
 #include "simulation/reports/simulation_texts.h"
+#include "simulation/scan.h"
 #include "simulation/simulation_checks.h"
 
 namespace kaldo {
@@ -46,11 +49,29 @@ std::uint32_t SimulatedParents(const SimulationSettings& settings, const GroupDe
                   DesignOf(settings.flow).fewest_pseudo_collected);
 }
 
-tl::expected<RepresentativeSample, Problem> LoadSample(const GroupFile& file,
-                                                       const LociList& loci) {
+/// Tells once what a locus of a sample lacks, though the file may serve for several groups.
+void WarnOfUndefined(const TokenFile& file, const std::string& locus, std::size_t undefined,
+                     std::size_t individuals, std::vector<Warning>& warnings) {
+  Warning warning{.kind = WarningKind::kUndefinedInSample,
+                  .file = file.Path(),
+                  .found = fmt::format("locus {}, {} of {} individuals undefined", Escaped(locus),
+                                       undefined, individuals)};
+  const bool is_told =
+      std::any_of(warnings.begin(), warnings.end(), [&warning](const Warning& earlier) {
+        return earlier.file == warning.file && earlier.found == warning.found;
+      });
+  if (!is_told) {
+    warnings.push_back(std::move(warning));
+  }
+}
+
+tl::expected<RepresentativeSample, Problem> LoadSample(const GroupFile& file, const LociList& loci,
+                                                       UndefinedInSample undefined_alleles,
+                                                       std::vector<Warning>& warnings) {
   GenotypeTable table(loci.Count());
   AppendIndividuals(file.tokens, {loci.Count(), Separators::kNone}, loci, table);
   std::vector<AlleleCatalogue> catalogues(loci.Count());
+  std::vector<std::size_t> left_out(loci.Count());
   for (const LocusIndex locus : loci.LociInUse()) {
     auto catalogue = AlleleCatalogue::Build(table.Locus(locus));
     if (!catalogue) {
@@ -66,8 +87,16 @@ tl::expected<RepresentativeSample, Problem> LoadSample(const GroupFile& file,
                                     .found = "nothing can be drawn from it; leave the locus out"});
     }
     catalogues[locus.Value()] = *catalogue;
+    const auto genotypes = table.Locus(locus);
+    const auto undefined = static_cast<std::size_t>(std::count_if(
+        genotypes.begin(), genotypes.end(), [](const auto& one) { return one.IsMissing(); }));
+    if (undefined_alleles == UndefinedInSample::kIgnore) {
+      left_out[locus.Value()] = 2 * undefined;
+    } else if (undefined > 0) {
+      WarnOfUndefined(file.tokens, loci.Name(locus), undefined, genotypes.size(), warnings);
+    }
   }
-  return RepresentativeSample(std::move(catalogues), table.NumberOfIndividuals());
+  return RepresentativeSample(std::move(catalogues), table.NumberOfIndividuals(), left_out);
 }
 
 /// Loads the groups in the order of the parent table.
@@ -83,8 +112,10 @@ std::optional<Problem> LoadGroups(const SimulationSettings& settings, const Simu
       group.slots = AppendIndividuals(file.tokens, {input.loci.Count(), Separators::kNone},
                                       input.loci, input.collected);
       begin = group.slots.end;
+    } else if (file.IsLeftOut()) {
+      group.slots = {begin, begin};
     } else {
-      auto sample = LoadSample(file, input.loci);
+      auto sample = LoadSample(file, input.loci, settings.undefined_in_sample, input.warnings);
       if (!sample) {
         return std::move(sample.error());
       }
@@ -102,6 +133,11 @@ std::optional<Problem> LoadGroups(const SimulationSettings& settings, const Simu
     input.groups.push_back(std::move(group));
   }
   input.files = files.Recorded();
+  if (files.undefined_like) {
+    input.undefined_shares = UndefinedShares(files.undefined_like->tokens, LociList(files.loci));
+  } else if (settings.undefined > 0) {
+    input.undefined_shares.assign(input.loci.Count(), settings.undefined);
+  }
   return std::nullopt;
 }
 
@@ -121,6 +157,8 @@ std::vector<Warning> InputWarnings(const SimulationSettings& settings, const Sim
   auto warnings = records.Take();
   if (auto warning = WarnOfNegative(settings.error_model)) {
     warnings.push_back(std::move(*warning));
+  } else if (auto in_allocation = WarnOfNegative(AllocationModelOf(settings))) {
+    warnings.push_back(std::move(*in_allocation));
   }
   const auto of_randoms = WarnOfRandomNumbers(settings, input);
   warnings.insert(warnings.end(), of_randoms.begin(), of_randoms.end());
@@ -187,6 +225,9 @@ std::optional<Problem> CheckChoices(const SimulationSettings& settings, Simulati
   if (auto problem = ValidateForSimulation(settings.error_model)) {
     return problem;
   }
+  if (auto problem = CheckAllocationModel(settings)) {
+    return problem;
+  }
   if (settings.loci_in_use) {
     if (auto problem = input.loci.Use(*settings.loci_in_use)) {
       return problem;
@@ -203,6 +244,23 @@ std::optional<Problem> CheckChoices(const SimulationSettings& settings, Simulati
   }
   input.subsets = std::move(*subsets);
   return std::nullopt;
+}
+
+std::optional<Problem> DrawUncollected(const SimulationSettings& settings, SimulationInput& input) {
+  const SimulationDesign& design = DesignOf(settings.flow);
+  std::uint32_t begin = input.candidates.end;
+  for (std::size_t k = 0; k < design.groups.size(); ++k) {
+    if (design.groups[k].collected) {
+      continue;
+    }
+    ParentalGroup& group = input.groups[k];
+    group.slots = {begin, begin + SimulatedParents(settings, design.groups[k])};
+    begin = group.slots.end;
+  }
+  input.collected_shares = CollectedShares(settings, input.collected_numbers);
+  input.weights = ClassWeights(settings, input.collected_numbers);
+  input.class_sizes = ClassSizes(settings, input.collected_numbers);
+  return CheckGroupSizes(settings.flow, input);
 }
 
 std::uint32_t SimulationInput::OffspringPerIteration() const {
@@ -239,13 +297,15 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
   if (auto problem = CheckAlleles(input)) {
     return tl::unexpected(std::move(*problem));
   }
-  input.collected_shares = CollectedShares(settings, input.collected_numbers);
-  input.weights = ClassWeights(settings, input.collected_numbers);
-  input.class_sizes = ClassSizes(settings, input.collected_numbers);
-  if (auto problem = CheckGroupSizes(settings.flow, input)) {
+  if (auto problem = DrawUncollected(settings, input)) {
     return tl::unexpected(std::move(*problem));
   }
-  input.warnings = InputWarnings(settings, files, input);
+  if (auto problem = CheckScan(settings, input)) {
+    return tl::unexpected(std::move(*problem));
+  }
+  auto warnings = InputWarnings(settings, files, input);
+  warnings.insert(warnings.end(), input.warnings.begin(), input.warnings.end());
+  input.warnings = std::move(warnings);
   return input;
 }
 

@@ -38,6 +38,10 @@ struct SimulationInput {
   std::vector<std::int32_t> class_sizes;  ///< per class: its pseudo-offspring in an iteration
   LocusSubsets subsets;
 
+  /// Per locus of the list: the share of pseudo-offspring that are undefined there; empty where
+  /// none are.
+  std::vector<double> undefined_shares;
+
   std::vector<RecordedInput> files;
 
   std::vector<Warning> warnings;  ///< of files and choices that can run: every single case
@@ -58,6 +62,10 @@ tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSetti
 /// The same from files that are open already.
 tl::expected<SimulationInput, Problem> LoadSimulationInput(const SimulationSettings& settings,
                                                            const SimulationFiles& files);
+
+/// Makes it the input of a run with the numbers of uncollected parents of these settings, all else
+/// being as it was loaded. A class of origin that lacks true parents is a Problem.
+std::optional<Problem> DrawUncollected(const SimulationSettings& settings, SimulationInput& input);
 
 /// Tests error model, loci in use, sequence and subsets against the loci of the input, and chooses.
 std::optional<Problem> CheckChoices(const SimulationSettings& settings, SimulationInput& input);

@@ -3,6 +3,7 @@
 
 #include "base/version.h"
 #include "confidence/confidence_run.h"
+#include "simulation/allocation_model.h"
 
 namespace kaldo {
 
@@ -24,7 +25,7 @@ RunRecord RecordOf(const SimulationSettings& settings, const SimulationInput& in
   if (result.stepping.any_out_of_step) {
     record.warnings.emplace_back(kSteppingSentence);
   }
-  if (settings.scores_confidence && WarnOfNegative(settings.error_model)) {
+  if (settings.scores_confidence && WarnOfNegative(ConfidenceModelOf(settings))) {
     record.warnings.emplace_back(kNegativeProbabilitySentence);
   }
   SimulationSettings told = settings;

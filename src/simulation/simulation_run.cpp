@@ -3,11 +3,13 @@
 
 #include "base/this_process.h"
 #include "runs/resuming_workforce.h"
+#include "simulation/allocation_model.h"
 #include "simulation/counts_plan.h"
 #include "simulation/default_seed.h"
 #include "simulation/iteration_portions.h"
 #include "simulation/reliability_plan.h"
 #include "simulation/reports/simulation_reports.h"
+#include "simulation/scan_plan.h"
 #include "simulation/simulated_iteration.h"
 #include "simulation/simulation_record.h"
 
@@ -21,6 +23,15 @@ void ScoreConfidence(const SimulationSettings& settings, const SimulationInput& 
   ReliabilityPlan plan(result);
   observer.OnPart(kReliabilityPart, plan.ItemsPerGroup());
   workforce.Do({kReliabilityPart, task, plan, [&] { return RecordOf(settings, input, result); }},
+               settings.threads, observer);
+}
+
+void Scan(const SimulationSettings& settings, const SimulationInput& input, RunObserver& observer,
+          Workforce& workforce, SimulationResult& result) {
+  const ScanTask task(settings, input);
+  ScanPlan plan(settings, input, result);
+  observer.OnPart(kScanPart, plan.Groups() * plan.ItemsPerGroup());
+  workforce.Do({kScanPart, task, plan, [&] { return RecordOf(settings, input, result); }},
                settings.threads, observer);
 }
 
@@ -48,8 +59,11 @@ SimulationResult Simulate(const SimulationSettings& settings, const SimulationIn
 
   last.UseLoci(result.LastSubset().loci);
   last.Run(result.states.back(), observer);
-  if (settings.scores_confidence && !WarnOfNegative(settings.error_model)) {
+  if (settings.scores_confidence && !WarnOfNegative(ConfidenceModelOf(settings))) {
     ScoreConfidence(settings, input, observer, workforce, result);
+  }
+  if (IsScanWanted(settings)) {
+    Scan(settings, input, observer, workforce, result);
   }
   result.stepping = CheckStepping(input.loci, last.CataloguesOfAll());
   result.duration = std::chrono::steady_clock::now() - clock_start;

@@ -14,6 +14,7 @@
 #include "simulation/figures/subset_figures.h"
 #include "simulation/iteration_states.h"
 #include "simulation/reliability.h"
+#include "simulation/scan.h"
 #include "simulation/simulation_input.h"
 
 namespace kaldo {
@@ -34,6 +35,9 @@ struct SimulationResult {
   /// Of the last subset, all iterations together; nothing where this was not wanted or means
   /// nothing.
   std::optional<Reliability> reliability;
+
+  /// Row by row, the numbers of uncollected parents outside and the tolerances inside; see scan.h.
+  std::vector<ScanRow> scan;
 
   SteppingReport stepping;  ///< of the last iteration
 

@@ -14,6 +14,7 @@
 #include "method/offset_tolerance.h"
 #include "runs/keeping_pace.h"
 #include "runs/value_kinds.h"
+#include "simulation/undefined_loci.h"
 
 namespace kaldo {
 
@@ -121,6 +122,17 @@ struct SimulationSettings {
 
   bool scores_confidence = false;  ///< whether posterior probabilities are compared with the truth
   double confidence_level = kDefaultConfidenceLevel;  ///< scored beside the usual ones
+
+  /// Non-sexed: with which model the pseudo-offspring are allocated; nothing: with that of the run.
+  std::optional<ErrorModel> allocate_with = ErrorModel{.kind = ErrorKind::kNoError};
+
+  double undefined = 0;        ///< share of loci at which pseudo-offspring are undefined, below 1
+  std::string undefined_like;  ///< or a file of offspring: as often, locus by locus, as they are
+  UndefinedInSample undefined_in_sample = UndefinedInSample::kCount;
+
+  // Simulations run beside that of the settings, see scan.h; empty: none.
+  std::vector<std::int32_t> scan_tolerance;
+  std::vector<double> scan_uncollected;
 
   std::optional<std::uint32_t> seed;  ///< nothing said: see DefaultSeed
   unsigned threads = 0;               ///< 0: as many as cores; results never depend on it

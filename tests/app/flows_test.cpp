@@ -134,7 +134,9 @@ TEST_F(FlowsTest, SimulatesAllSubsetsWithoutSexes) {
     });
     TypeExample(script, "", false, {"5.5", "20"});
     script.Click("Ok").Await("PseudoOffspring").Type("OffspringPerIteration", Text("30"));
-    script.Click("NoError").Click("Ok").Await("Tolerance").Type("Tolerance", Text("0"));
+    script.Click("Uniform").Click("Ok").Await("Tolerance");
+    script.Do([](QWidget&) { EXPECT_FALSE(test::VisibleWidget("Tolerance")->isEnabled()); });
+    script.Click("AllocateWithRun").Type("Tolerance", Text("0"));
     script.Click("Ok").Await("Strategy").Click("AllSubsets").Type("StartWith", Text("8"));
     script.Click("Ok").Await("Output").Click("PrintIterations").Click("KeepMatrices");
     script.Type("Seed", Text("7"));
@@ -142,6 +144,7 @@ TEST_F(FlowsTest, SimulatesAllSubsetsWithoutSexes) {
   });
   EXPECT_EQ(Told(script_), Sentences{kSimulated});
   EXPECT_TRUE(command_.contains(Text("--strategy all --start-with 8")));
+  EXPECT_TRUE(command_.contains(Text("--allocate-with run")));
   ExpectAsCommandLine("p", command_);
 }
 

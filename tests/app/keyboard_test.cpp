@@ -91,7 +91,8 @@ TEST_F(KeyboardTest, ASimulation) {
     script_.TypeHere(Text("12"));
     AltMarks(Qt::Key_O, "NonUniform");
     Confirm("Tolerance");
-    script_.TypeHere(Text("2"));
+    AltMarks(Qt::Key_S, "AllocateWithRun");
+    Alt(Qt::Key_T).TypeHere(Text("2"));
     Confirm("Strategy");
     script_.Press(Qt::Key_Space).Press(Qt::Key_Down).Press(Qt::Key_Down);
     Alt(Qt::Key_G).TypeHere(Text("0.4"));

@@ -195,7 +195,7 @@ TEST_F(MessagesTest, TheErrorModelOfASimulation) {
   script_.Type("Focal", Text("0.9")).Click("Ok").Answer().Type("Focal", Text("0.98"));
   script_.Type("OffspringPerIteration", Text("0")).Click("Ok").Answer();
   script_.Type("OffspringPerIteration", Text("9")).Click("Ok").Await("Tolerance");
-  script_.Type("Tolerance", Text("-1")).Click("Ok").Answer();
+  script_.Click("AllocateWithRun").Type("Tolerance", Text("-1")).Click("Ok").Answer();
   ExpectText(script_, "Tolerance", Text("-1"));
   script_.Press(Qt::Key_Escape);
   ExpectTold({"Choose a model of error", "Focal allele must be between 0.9 and 1.0",

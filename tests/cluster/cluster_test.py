@@ -55,7 +55,7 @@ KNOWN = {"mothers.txt": b"Young01 Female01\n", "groups.txt": b"Young03 2\n",
 OF_KNOWN = ["--known-mother", "data/mothers.txt", "--candidates", "data/candidates.txt",
             "--offspring-groups", "data/groups.txt"]
 STRATEGIES = {
-    "choice": [],
+    "choice": ["--undefined", "0.1", "--scan-uncollected", "3,9"],
     "all": ["--strategy", "all", "--use", "{0},{1},{2},{3}", "--print-subset-statistics"],
     # Reached after some subsets, so that later ones are begun in vain.
     "minimal": ["--strategy", "minimal", "--criterion", "{criterion}", "--start-with", "2"],

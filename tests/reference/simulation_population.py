@@ -100,8 +100,9 @@ class Producer:
             pair = []
             for parent, choice, draw in zip((child.first, child.second), choices, draws):
                 allele = parents[parent].genotypes[locus][choice]
-                row = matrices[locus][catalogues[locus].look_up(allele)]
-                pair.append(catalogues[locus].sizes[transmit(row, draw)])
+                own = catalogues[locus].look_up(allele)
+                read = transmit(matrices[locus][own], own, draw)
+                pair.append(catalogues[locus].sizes[read])
             child.genotypes.append(tuple(pair))
         return child
 

@@ -87,15 +87,15 @@ def draw_genotypes(generator, sample, locus_count, modulus):
     return genotypes
 
 
-def transmit(row, draw):
+def transmit(row, own, draw):
     """Column of the allele received, walking the parent's row of the matrix.
 
-    Leading zeros are skipped even by a draw of 0. At the ends of a ladder a row
-    sums to less than one; what is left falls to the last size.
+    Leading zeros are skipped even by a draw of 0. A step that would leave the
+    ladder is not in the row; what is left stays the parent's own allele.
     """
     total = 0.0
     for column, probability in enumerate(row):
         total += probability
         if total != 0.0 and draw <= total:
             return column
-    return len(row) - 1
+    return own

@@ -89,7 +89,7 @@ def simulate(arguments, folder):
     files |= iteration_tables(layout, settings, block, figures[-1])
     files |= kept_files(layout, settings, inputs, iterations, used)
     if settings.print_iterations:
-        files[layout.detailed] = detailed(layout, figures[-1])
+        files[layout.detailed] = detailed(layout, settings, figures[-1])
     if settings.strategy == "cumulative":
         files[SEQUENCE] = sequence_results(layout, settings, inputs, figures)
     if settings.strategy != "choice":

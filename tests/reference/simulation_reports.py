@@ -267,9 +267,10 @@ def detailed_block(layout, figures, index, place):
     return text + "\n\n\n"
 
 
-def detailed(layout, figures):
+def detailed(layout, settings, figures):
     """All rows of all classes, iteration by iteration."""
-    text = ""
+    last_only = not settings.sexed and settings.strategy != "choice"
+    text = f"DETAILED RESULTS{LAST_ONLY}\n\n" if last_only else ""
     for place in range(len(figures.global_correct)):
         text += byte_text(f"Iteration n° : {place + 1}\n")
         text += ("Parental origin\t\t\t\tCollected\tCollected\n"

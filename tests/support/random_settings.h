@@ -65,7 +65,7 @@ std::string RandomText(const Setting<Settings>& setting) {
   if (kind == "N" || kind == "K") {
     return std::to_string(*RandomWhole());
   }
-  if (kind == "X" || kind == "U") {
+  if (kind == "X" || kind == "U" || kind == "RATE") {
     return fmt::format("{}", *RandomReal());
   }
   if (kind == "LEVEL") {
@@ -77,6 +77,9 @@ std::string RandomText(const Setting<Settings>& setting) {
   if (kind == "S") {
     return std::to_string(*rc::gen::arbitrary<std::uint32_t>());
   }
+  if (kind == "MODEL" && setting.value.choices.front() == "run" && *rc::gen::arbitrary<bool>()) {
+    return "run";
+  }
   if (kind == "MODEL") {
     return RandomErrorModel();
   }
@@ -86,6 +89,9 @@ std::string RandomText(const Setting<Settings>& setting) {
   }
   if (kind == "I1,I2,..." || kind == "[I1,I2,...]") {
     return kind[0] == '[' && *rc::gen::arbitrary<bool>() ? "" : RandomList(RandomWhole());
+  }
+  if (kind == "N1,N2,..." || kind == "U1,U2,...") {
+    return kind[0] == 'N' ? RandomList(RandomWhole()) : RandomList(RandomReal());
   }
   if (kind == "NAME") {
     return std::string(*rc::gen::elementOf(setting.value.choices));

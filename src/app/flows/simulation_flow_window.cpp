@@ -45,7 +45,8 @@ void SimulationFlowWindow::Set(const SimulationSettings& settings) {
   parents_->Set(settings);
   offspring_->SetNumber(settings.offspring_per_iteration);
   offspring_->Box().Set(settings.error_model);
-  tolerance_->Field().Set(settings.tolerance);
+  tolerance_->Set(settings);
+  more_ = settings;
   strategy_->Set(settings);
   loci_.Set(Opened().Open(settings.loci_file), settings.loci_in_use,
             settings.sequence.empty() ? std::nullopt : std::optional(settings.sequence));
@@ -63,6 +64,9 @@ void SimulationFlowWindow::Leave() {
 bool SimulationFlowWindow::MayStartRun(const FlowPage& page) const { return &page == output_; }
 
 void SimulationFlowWindow::Prepare(const FlowPage& page) {
+  if (&page == tolerance_) {
+    tolerance_->SetErrorModel(offspring_->Box().Model().value_or(ErrorModel{}));
+  }
   if (&page == strategy_) {
     const std::size_t all = loci_.Choice().Names().size();
     const auto in_use = loci_.Choice().InUse();
@@ -103,7 +107,12 @@ SimulationSettings SimulationFlowWindow::SettingsUpTo(Known known) const {
     settings.error_model = offspring_->Box().Model().value_or(ErrorModel{});
   }
   if (known >= Known::kTolerance) {
-    settings.tolerance = tolerance_->Field().Value();
+    tolerance_->FillIn(settings);
+    settings.undefined = more_.undefined;
+    settings.undefined_like = more_.undefined_like;
+    settings.undefined_in_sample = more_.undefined_in_sample;
+    settings.scan_tolerance = more_.scan_tolerance;
+    settings.scan_uncollected = more_.scan_uncollected;
   }
   if (known >= Known::kStrategy) {
     strategy_->FillIn(settings);

@@ -76,6 +76,7 @@ class SimulationFlowWindow : public FlowWindow {
   StrategyPage* strategy_;
   LociScreens loci_;
   OutputPage* output_;
+  SimulationSettings more_;  ///< of a record: what no screen shows is run as it was
   std::optional<Loaded> passed_;
   SimulationSettings of_record_;  ///< opened last, for the settings that have no field
 };

@@ -29,6 +29,8 @@ void ToleranceField::Set(OffsetTolerance tolerance) {
   field_->setText(NumberText(tolerance.Value()));
 }
 
+void ToleranceField::SetActs(bool acts) { field_->setEnabled(acts); }
+
 OffsetTolerance ToleranceField::Value() const {
   return OffsetTolerance{WholeNumberIn(*field_).value_or(0)};
 }

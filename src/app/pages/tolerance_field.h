@@ -17,6 +17,9 @@ class ToleranceField {
 
   void Set(OffsetTolerance tolerance);
 
+  /// Greys it where it would change nothing; what was typed stays.
+  void SetActs(bool acts);
+
   /// The tolerance as typed; 0 where it is no whole number, which Fault() tells.
   OffsetTolerance Value() const;
 

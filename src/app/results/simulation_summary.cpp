@@ -9,6 +9,7 @@
 #include "base/number_text.h"
 #include "runs/project_folder.h"
 #include "runs/run_record.h"
+#include "simulation/allocation_model.h"
 #include "simulation/reports/estimate_texts.h"
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_texts.h"
@@ -63,6 +64,9 @@ void AddFigures(const SimulationSettings& settings, const SimulationRun& run, Su
       fmt::format("{} x {} iterations", input.OffspringPerIteration(), settings.iterations));
   add("loci in use", fmt::format("{} of {}", input.loci.LociInUse().size(), input.loci.Count()));
   add("error model", ShortDescription(settings.error_model));
+  if (settings.flow == Flow::kNonSexed && settings.error_model.kind != ErrorKind::kNoError) {
+    add("allocated with", ShortDescription(AllocationModelOf(settings)));
+  }
   add("maximum offset tolerance", std::to_string(settings.tolerance.Value()));
   add("seed", std::to_string(result.seed));
   add("last loci run", NamesOf(input.loci, result.LastSubset().loci));
@@ -102,8 +106,8 @@ std::vector<std::string_view> FilesOf(const SimulationTexts& texts) {
   for (std::size_t k = 0; k + 1 < texts.origins.size(); ++k) {
     files.push_back(texts.origins[k].table_file);
   }
-  files.insert(files.end(), {texts.detailed_file, kSequenceResultsFile, kSteppingErrorFile,
-                             kServiceFile, texts.matrices_file});
+  files.insert(files.end(), {texts.detailed_file, kScanFile, kSequenceResultsFile,
+                             kSteppingErrorFile, kServiceFile, texts.matrices_file});
   files.insert(files.end(), texts.group_files.begin(), texts.group_files.end());
   files.insert(files.end(), {kPseudoOffspringFile, kSubsetsFile, kRunRecordFile});
   return files;
@@ -137,6 +141,10 @@ Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
                        LastCombinationNote(settings.strategy)));
   AddParents(settings, summary);
   AddFigures(settings, run, summary);
+  if (const auto note = AllocatedWithoutErrorsNote(
+          settings, "the choice \"with the same transmission error\" beside the tolerance")) {
+    summary.warnings += Text(*note);
+  }
   for (const std::string& line : WarningLines(run.input.warnings)) {
     summary.warnings += Text(line);
   }

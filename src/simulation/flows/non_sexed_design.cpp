@@ -23,7 +23,6 @@ SimulationDesign NonSexedDesign() {
           .candidate_groups = {kCollected, kCollected},
           .fewest_pseudo_collected = 2,  // offspring of two collected parents need two of them
           .classes = {Class(false, false), Class(false, true), Class(true, true)},
-          .allocates_with_errors = false,
           .averages_before_weighing = false,
           .global_rows = GlobalRows::kWeighted,
           .frequency_spread = SpreadKind::kDifferences,

@@ -29,7 +29,6 @@ SimulationDesign SexedDesign() {
       .candidate_groups = {kCollectedMales, kCollectedFemales},
       .fewest_pseudo_collected = 1,
       .classes = {Class(false, false), Class(false, true), Class(true, false), Class(true, true)},
-      .allocates_with_errors = true,
       .averages_before_weighing = true,
       .global_rows = GlobalRows::kPooled,
       .frequency_spread = SpreadKind::kSteps,

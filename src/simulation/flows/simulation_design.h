@@ -43,10 +43,6 @@ struct SimulationDesign {
   /// In the order in which they are made and reported.
   std::vector<OriginClass> classes;
 
-  /// Whether the allocation knows the error model that made the pseudo-offspring, or excludes
-  /// strictly.
-  bool allocates_with_errors = true;
-
   /// Whether the weighted averages of the summary are formed of the averages of the classes, or are
   /// averages of what was weighted in every iteration.
   bool averages_before_weighing = true;

@@ -2,6 +2,7 @@
 #include <fmt/format.h>
 
 #include "simulation/reports/simulation_report_texts.h"
+#include "simulation/reports/subset_title.h"
 
 namespace kaldo {
 
@@ -68,9 +69,13 @@ class DetailedBlock {
 
 }  // namespace
 
-std::string DetailedReport(const SimulationTexts& texts, const SimulationResult& result) {
+std::string DetailedReport(const SimulationSettings& settings, const SimulationResult& result) {
+  const SimulationTexts& texts = TextsOf(settings.flow);
   const std::size_t global = result.origins.size() - 1;
   std::string text;
+  if (settings.flow == Flow::kNonSexed && settings.strategy != LociStrategy::kChoice) {
+    text = fmt::format("DETAILED RESULTS{}\n\n", LastCombinationNote(settings.strategy));
+  }
   for (std::size_t i = 0; i < result.Global().correct.values.size(); ++i) {
     text += fmt::format(
         "Iteration n° : {}\n"

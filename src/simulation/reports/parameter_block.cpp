@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include "base/number_text.h"
+#include "simulation/allocation_model.h"
 #include "simulation/reports/simulation_texts.h"
 #include "simulation/reports/subset_title.h"
 
@@ -104,6 +105,25 @@ std::string DistributionLines(const SimulationSettings& settings, const Simulati
   return lines;
 }
 
+/// What runs have that are not as by default.
+std::string UnusualLines(const SimulationSettings& settings) {
+  const SimulationSettings defaults;
+  std::string lines;
+  if (settings.flow == Flow::kNonSexed && settings.allocate_with != defaults.allocate_with) {
+    lines += LabelLine("Error model of the allocation", Describe(AllocationModelOf(settings)));
+  }
+  if (settings.undefined > 0) {
+    lines += LabelLine("Share of undefined loci :", FormatDouble(settings.undefined));
+  }
+  if (!settings.undefined_like.empty()) {
+    lines += LabelLine("Undefined loci as in :", settings.undefined_like);
+  }
+  if (settings.undefined_in_sample == UndefinedInSample::kIgnore) {
+    lines += LabelLine("Undefined alleles of samples :", "ignored");
+  }
+  return lines;
+}
+
 }  // namespace
 
 std::string_view TypeLine(const SimulationSettings& settings) {
@@ -117,8 +137,8 @@ std::string ParameterBlock(const SimulationSettings& settings, const SimulationI
                      TypeLine(settings), HeadLines(settings, input)) +
          LabelLine("Error model", Describe(settings.error_model)) +
          LabelLine("Maximum offset tolerance :", std::to_string(settings.tolerance.Value())) +
-         RandomLines(settings, result) + LociLines(settings, input, result) +
-         DistributionLines(settings, input);
+         UnusualLines(settings) + RandomLines(settings, result) +
+         LociLines(settings, input, result) + DistributionLines(settings, input);
 }
 
 }  // namespace kaldo

@@ -14,6 +14,7 @@ inline constexpr std::string_view kPseudoOffspringFile = "/pseudo-offspring.txt"
 
 inline constexpr std::string_view kReliabilityFile = "/Reliability.tsv";
 inline constexpr std::string_view kSubsetsFile = "/Subsets.tsv";
+inline constexpr std::string_view kScanFile = "/Scan.tsv";
 
 /// The names of the loci of the last simulation, in the working folder.
 inline constexpr std::string_view kSavedLociFile = "SAUVLOCUSTULM.txt";

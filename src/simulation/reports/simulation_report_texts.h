@@ -17,7 +17,7 @@ void WriteSummary(const SimulationSettings& settings, const SimulationInput& inp
 
 /// The detailed file: for every iteration, the frequency of each kind of decision and how the
 /// frequency of correct ones follows from them.
-std::string DetailedReport(const SimulationTexts& texts, const SimulationResult& result);
+std::string DetailedReport(const SimulationSettings& settings, const SimulationResult& result);
 
 /// The per-iteration table of one class, or, with the number behind the last class, the global one.
 std::string IterationTableReport(const SimulationSettings& settings, const SimulationInput& input,

@@ -7,6 +7,7 @@
 #include "runs/run_record.h"
 #include "simulation/iteration_portions.h"
 #include "simulation/reports/reliability_report.h"
+#include "simulation/reports/scan_report.h"
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_report_texts.h"
 #include "simulation/reports/subsets_report.h"
@@ -59,6 +60,7 @@ SimulationReports::SimulationReports(const SimulationSettings& settings,
       matrices_(reports_.AddIfAny(texts_.matrices_file)),
       reliability_(reports_.AddIfAny(kReliabilityFile)),
       subsets_(reports_.AddIfAny(kSubsetsFile)),
+      scan_(reports_.AddIfAny(kScanFile)),
       service_(reports_.Add(kServiceFile)),
       record_(reports_.Add(kRunRecordFile)) {
   for (const auto& origin : texts_.origins) {
@@ -69,6 +71,10 @@ SimulationReports::SimulationReports(const SimulationSettings& settings,
   }
   if (settings.saves_loci) {
     reports_.RefuseInput(std::string(kSavedLociFile));
+    // Before the run: what cannot be saved is told while somebody is there to read it.
+    if (const auto failure = SaveLoci(input.loci)) {
+      observer.OnMessage(RunMessage::kWarning, *failure);
+    }
   }
 }
 
@@ -79,7 +85,7 @@ void SimulationReports::WriteTables(const SimulationSettings& settings,
     tables_[origin]->Append(IterationTableReport(settings, input, result, origin));
   }
   if (settings.print_iterations) {
-    detailed_.Append(DetailedReport(texts_, result));
+    detailed_.Append(DetailedReport(settings, result));
   }
   if (settings.strategy == LociStrategy::kCumulative) {
     sequence_.Append(SimulationSequenceReport(settings, input, result));
@@ -89,6 +95,9 @@ void SimulationReports::WriteTables(const SimulationSettings& settings,
   }
   if (result.reliability) {
     reliability_.Append(ReliabilityReport(*result.reliability, settings.confidence_level));
+  }
+  if (!result.scan.empty()) {
+    scan_.Append(ScanReport(settings.flow, result.scan));
   }
   if (result.stepping.any_out_of_step) {
     stepping_.Append(result.stepping.text);
@@ -143,12 +152,6 @@ void SimulationReports::Write(const SimulationSettings& settings, const Simulati
   record.outputs = reports_.Outputs();
   record_.Append(FormatRunRecord(record));
   reports_.Commit();
-  if (!settings.saves_loci) {
-    return;
-  }
-  if (const auto failure = SaveLoci(input.loci)) {
-    observer.OnMessage(RunMessage::kWarning, *failure);
-  }
 }
 
 }  // namespace kaldo

@@ -50,6 +50,7 @@ class SimulationReports {
   ReportFile& matrices_;
   ReportFile& reliability_;
   ReportFile& subsets_;
+  ReportFile& scan_;
   ReportFile& service_;
   ReportFile& record_;
 };
