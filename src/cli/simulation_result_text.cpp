@@ -151,6 +151,17 @@ std::string ReliabilityText(const SimulationSettings& settings, const Simulation
   return text;
 }
 
+/// A long sentence in lines that fit a terminal.
+std::string Wrapped(std::string text) {
+  constexpr std::size_t kWidth = 100;
+  for (std::size_t begin = 0; text.size() > begin + kWidth;) {
+    const std::size_t blank = text.rfind(' ', begin + kWidth);
+    text[blank] = '\n';
+    begin = blank + 1;
+  }
+  return text;
+}
+
 /// The simulations of a scan, the best marked.
 std::string ScanText(const SimulationTexts& texts, const SimulationResult& result) {
   if (result.scan.empty()) {
@@ -232,7 +243,7 @@ std::string ShortResult(const SimulationSettings& settings, const SimulationRun&
   text += ScanText(TextsOf(settings.flow), run.result);
   text += OffLadderText(settings, run.input);
   if (const auto note = AllocatedWithoutErrorsNote(settings, "--allocate-with run")) {
-    text += '\n' + *note + '\n';
+    text += '\n' + Wrapped(*note) + '\n';
   }
   text += fmt::format("\nFiles in \"{}\", first of all {}\n\n", settings.project,
                       kSummaryFile.substr(1));

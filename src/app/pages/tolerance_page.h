@@ -7,8 +7,8 @@
 #include "app/pages/tolerance_field.h"
 #include "simulation/simulation_settings.h"
 
+class QBoxLayout;
 class QButtonGroup;
-class QRadioButton;
 
 namespace kaldo {
 
