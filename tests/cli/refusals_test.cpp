@@ -331,7 +331,8 @@ const std::vector<Oddity> kOddities = {
     {WarningKind::kCoarseRandomNumbers, "parental collected-parents=sample",
      "2 digits per allele; anything more seldom than 0.01", "sample", "X1 5052 5052\nX2 5054 5252"},
     // Runs that may take that many, but end sooner.
-    {WarningKind::kRandomNumbersRepeat, "sexed replace iterations=2147483647 until-se=0.9", "about "},
+    {WarningKind::kRandomNumbersRepeat, "sexed replace iterations=2147483647 until-se=0.9",
+     "about "},
     {WarningKind::kOptionWithoutEffect, "parental strategy=choice criterion=0.5",
      "--criterion goes with --strategy minimal\n"},
     {WarningKind::kOptionWithoutEffect, "parental sequence", "--sequence goes with --strategy"},

@@ -121,11 +121,34 @@ TEST_F(SimulateCommand, TellsTheResultTheSeedAndThatItIsDone) {
   EXPECT_THAT(RunCommand(NonSexed()).out, EndsWith(stepping + "calculations completed!\n"));
 }
 
+// 3 of 5.5 parents are collected: p p = 0.2975, 2 p q = 0.4959 and q q = 0.2066, of 12 truncated to
+// 3, 5 and 2. Each iteration draws 3 parents and 10 offspring at 3 loci: 3 x 6 + 10 x 14 = 158.
+TEST_F(SimulateCommand, ACheckTellsWhatTheRunWillDo) {
+  const Arguments run = NonSexed() + Words("--strategy minimal --start-with 2");
+  const Outcome told = RunCommand(Arguments{"check"} + run);
+  EXPECT_EQ(told.code, ExitCode::kDone) << told.err;
+  for (const std::string line :
+       {"C X C                        3    0.2975", "C X U                        5    0.4959",
+        "U X U                        2    0.2066",
+        "Subsets of loci: 4, with 3 iterations each; about 1.9e+03 random draws.",
+        "Expected time: at most about 1 second with "}) {
+    EXPECT_THAT(told.out, HasSubstr('\n' + line));
+  }
+  const std::string json =
+      RunCommand(Arguments{"check"} + run + Words("--format json --threads 1")).out;
+  for (const std::string pair : {"\"pseudo_offspring\": 5,", "\"subsets\": 4,",
+                                 "\"random_draws\": 1896.0,", "\"may_end_earlier\": true"}) {
+    EXPECT_THAT(json, HasSubstr(pair));
+  }
+}
+
 TEST_F(SimulateCommand, RerunReproducesTheFiles) {
   const std::vector<Arguments> choices = {
       NonSexed() + Arguments{"--seed", "3", "--keep", "all", "--print-iterations"},
       NonSexed() + Arguments{"--strategy", "cumulative", "--sequence", "3,1,2"},
       Sexed() + Arguments{"--seed", "0", "--error", "uniform=0.03", "--use", "A,C"},
+      Sexed() +
+          Words("--seed 9 --random modern --strategy all --subset-randoms common --until-se 0.3"),
       Sexed() + Arguments{"--keep", "parents,matrices", "--strategy", "all", "--start-with", "2",
                           "--print-subset-statistics", "--tolerance", "0"},
   };
