@@ -62,8 +62,9 @@ ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams,
   if (choices.simulates) {
     auto check = CheckSimulation(choices.typed, choices.may_replace_other_flow, source);
     AddMissingOptions(check.settings, check.faults);
-    check.warnings.insert(check.warnings.begin(), choices.odd_options.begin(),
-                          choices.odd_options.end());
+    if (choices.odd_options) {
+      check.warnings.push_back(*choices.odd_options);
+    }
     if (!as_json && WarnsOfManyIterations(check.settings.flow, check.settings.iterations)) {
       streams.err << kManyIterations << '\n';
     }

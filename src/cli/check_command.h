@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
-#include <vector>
 
 #include "base/warning.h"
 #include "cli/command_line.h"
@@ -12,9 +12,9 @@ namespace kaldo {
 
 /// What was typed behind `kaldo check`.
 struct TypedCheck {
-  TypedSettings typed;  ///< those of the run
-  std::vector<Warning> odd_options;
-  bool simulates = false;  ///< `kaldo check simulate`
+  TypedSettings typed;                 ///< those of the run
+  std::optional<Warning> odd_options;  ///< that do nothing
+  bool simulates = false;              ///< `kaldo check simulate`
   std::string format = "text";
   bool may_replace_other_flow = false;
 };

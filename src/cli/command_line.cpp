@@ -299,8 +299,9 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
     }
     auto settings = typed.and_then(SimulationFrom);
     const ExitCode code = RunAndTell(std::move(settings), commands.decisions, streams, workforce);
-    if (code == ExitCode::kDone) {
-      TellWarnings(WarnOfOptionsWithoutEffect(given, *typed), streams);
+    const auto odd = typed ? WarnOfOptionsWithoutEffect(given, *typed) : std::nullopt;
+    if (code == ExitCode::kDone && odd) {
+      TellWarnings({*odd}, streams);
     }
     return code;
   }

@@ -236,7 +236,7 @@ std::string ShortResult(const SimulationSettings& settings, const SimulationRun&
   const bool modern = settings.random == RandomSource::kModern;
   std::string text = fmt::format("KALDO {}\n{}\n  {}  seed {}{}\n\n", Version(), TypeLine(settings),
                                  InputSummary(settings, run.input), run.result.seed,
-                                 modern ? ", modern random numbers" : "");
+                                 modern ? "\n  modern random numbers" : "");
   text += SubsetRows(settings, run) + CorrectRows(settings, run.result);
   text += EstimateRows(settings, run.result);
   text += ReliabilityText(settings, run.result);

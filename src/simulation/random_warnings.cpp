@@ -53,7 +53,9 @@ std::vector<Warning> WarnOfRandomNumbers(const SimulationSettings& settings,
                               digits == 1 ? "1 digit per allele" : "2 digits per allele",
                               digits == 1 ? "0.1" : "0.01")});
   }
-  if (const double draws = DrawsOfRun(settings, input); draws > kDrawsInAll) {
+  // A search for a minimal subset seldom runs through all of them.
+  const double draws = DrawsOfRun(settings, input);
+  if (draws > kDrawsInAll && settings.strategy != LociStrategy::kMinimal) {
     warnings.push_back({.kind = WarningKind::kRandomNumbersRepeat,
                         .found = fmt::format("about {} draws, and 4294967296 until they repeat",
                                              FormatDouble(draws))});

@@ -111,8 +111,8 @@ SimulationSettings ReadableSimulation(const TypedSettings& typed, AlikeGroups<Pr
   return settings;
 }
 
-std::vector<Warning> WarnOfOptionsWithoutEffect(const TypedSettings& typed,
-                                                const TypedSettings& all) {
+std::optional<Warning> WarnOfOptionsWithoutEffect(const TypedSettings& typed,
+                                                  const TypedSettings& all) {
   struct Bound {
     std::string_view key;
     std::string_view option;
@@ -124,19 +124,23 @@ std::vector<Warning> WarnOfOptionsWithoutEffect(const TypedSettings& typed,
       {"sequence", "--sequence", {"cumulative"}},
       {"subset_randoms", "--subset-randoms", {"all", "minimal", "cumulative"}},
   };
-  const auto found = all.find("strategy");
-  const std::string_view strategy = found == all.end() ? "choice" : std::string_view(found->second);
-  std::vector<Warning> warnings;
+  const auto chosen = all.find("strategy");
+  const std::string_view strategy =
+      chosen == all.end() ? "choice" : std::string_view(chosen->second);
+  std::vector<std::string> found;
   for (const auto& [key, option, strategies] : kBound) {
     const bool serves =
         std::find(strategies.begin(), strategies.end(), strategy) != strategies.end();
     if (typed.contains(key) && !serves) {
-      warnings.push_back({.kind = WarningKind::kOptionWithoutEffect,
-                          .found = fmt::format("{} goes with --strategy {}", option,
-                                               fmt::join(strategies, ", "))});
+      found.push_back(
+          fmt::format("{} goes with --strategy {}", option, fmt::join(strategies, ", ")));
     }
   }
-  return warnings;
+  if (found.empty()) {
+    return std::nullopt;
+  }
+  return Warning{.kind = WarningKind::kOptionWithoutEffect,
+                 .found = fmt::format("{}", fmt::join(found, "; "))};
 }
 
 std::string CommandOf(const SimulationSettings& settings) {

@@ -25,8 +25,8 @@ SimulationSettings ReadableSimulation(const TypedSettings& typed, AlikeGroups<Pr
 
 /// The options that were typed and do nothing with what else is: those of another strategy for the
 /// subsets of loci, each with what it goes with. `all` has the settings taken from elsewhere, too.
-std::vector<Warning> WarnOfOptionsWithoutEffect(const TypedSettings& typed,
-                                                const TypedSettings& all);
+std::optional<Warning> WarnOfOptionsWithoutEffect(const TypedSettings& typed,
+                                                  const TypedSettings& all);
 
 /// The command line of a simulation, `kaldo simulate --project ...`: typed into a shell in the same
 /// working folder it repeats the run. Without a seed the clock sets it, here as there: put in the

@@ -330,15 +330,15 @@ const std::vector<Oddity> kOddities = {
     {WarningKind::kNegativeProbability, "parental error=nonuniform=-0.1,0,1,0.1,0", "M2 of the"},
     {WarningKind::kCoarseRandomNumbers, "parental collected-parents=sample",
      "2 digits per allele; anything more seldom than 0.01", "sample", "X1 5052 5052\nX2 5054 5252"},
-    // Runs that may take that many, but end sooner.
-    {WarningKind::kRandomNumbersRepeat, "sexed replace iterations=2147483647 until-se=0.9",
-     "about "},
     {WarningKind::kOptionWithoutEffect, "parental strategy=choice criterion=0.5",
      "--criterion goes with --strategy minimal\n"},
     {WarningKind::kOptionWithoutEffect, "parental sequence", "--sequence goes with --strategy"},
     {WarningKind::kUndefinedInSample, "parental",
      "sample: locus L1, 1 of 3 individuals undefined (and 1 more)", "sample",
      "X 000000 000000\nY 150152 150152\nZ 150152 150152\n"},
+    // Runs that may take that many, but end sooner.
+    {WarningKind::kRandomNumbersRepeat, "sexed replace iterations=2147483647 until-se=0.9",
+     "about "},
 };
 
 class RefusalsTest : public testing::Test {
