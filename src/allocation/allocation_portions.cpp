@@ -2,9 +2,10 @@
 #include "allocation/allocation_portions.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
-#include "base/byte_packing.h"
+#include "base/field_packing.h"
 #include "base/problem.h"
 #include "confidence/parent_frequencies.h"
 #include "genotypes/unit_distance.h"
@@ -64,7 +65,9 @@ class AllocationWorker final : public PortionWorker {
       observer.OnSteps(1);
     }
     BytePacker packer;
-    packer.AddAll(std::span<const AllocationOutcome>(outcomes));
+    for (const AllocationOutcome& outcome : outcomes) {
+      PackFields(outcome, packer);
+    }
     return packer.Take();
   }
 
@@ -91,10 +94,12 @@ class AllocationWorker final : public PortionWorker {
   PairSearcher searcher_;
 };
 
-/// Results may come from a file: none may lead out of the table of parents.
+/// None may lead out of the table of parents.
 bool IsPossible(const AllocationOutcome& outcome, std::size_t parents) {
-  if (outcome.pair_entries < 0 ||
-      outcome.pair_entries > 2 * static_cast<int>(KeptPairs::kCapacity)) {
+  if (outcome.pair_entries < 0 || outcome.pair_entries % 2 != 0 ||
+      outcome.pair_entries > 2 * static_cast<int>(KeptPairs::kCapacity) ||
+      !std::isfinite(outcome.best_likelihood) || outcome.errors_par1 < 0 ||
+      outcome.errors_par2 < 0) {
     return false;
   }
   const auto pairs = outcome.Pairs();
@@ -120,18 +125,23 @@ std::string AllocationPlan::Order(const Portion& portion) {
   return packer.Take();
 }
 
+bool AllocationPlan::IsPossible(const Portion& portion, std::string_view result) const {
+  const auto outcomes = UnpackUpToTheEnd<AllocationOutcome>(result);
+  return outcomes.size() == portion.Size() &&
+         std::all_of(outcomes.begin(), outcomes.end(), [&](const AllocationOutcome& outcome) {
+           return kaldo::IsPossible(outcome, input_.Parents().Size());
+         });
+}
+
 bool AllocationPlan::Take(const Portion& portion, std::string_view result) {
   if (portion.begin == 0) {
     result_.loci = LociOfCombination(input_, input_.combinations[portion.group]);
     result_.outcomes.resize(input_.NumberOfOffspring());
     result_.counters.emplace_back();
   }
-  const auto outcomes = ByteUnpacker(result).GetAll<AllocationOutcome>();
+  ByteUnpacker unpacker(result);
   for (std::size_t i = portion.begin; i < portion.end; ++i) {
-    result_.outcomes[i] = outcomes.at(i - portion.begin);
-    if (!IsPossible(result_.outcomes[i], input_.Parents().Size())) {
-      throw RunFailure("The result of a portion is damaged.");
-    }
+    UnpackFields(result_.outcomes[i], unpacker);
     result_.counters.back().Count(result_.outcomes[i]);
   }
   return true;

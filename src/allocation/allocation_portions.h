@@ -33,6 +33,7 @@ class AllocationPlan final : public PortionPlan {
   std::size_t ItemsPerGroup() const override { return input_.NumberOfOffspring(); }
   std::size_t MostItemsPerPortion() const override;
   std::string Order(const Portion& portion) override;
+  bool IsPossible(const Portion& portion, std::string_view result) const override;
   bool Take(const Portion& portion, std::string_view result) override;
 
  private:

@@ -16,6 +16,12 @@ namespace kaldo {
 // the one that goes on with it: the same program on machines of one kind, so that the bytes in
 // memory serve as they are. No result that a user sees is written in this way.
 
+/// Bytes that are not those of the values wanted.
+class DamagedBytes : public std::runtime_error {
+ public:
+  DamagedBytes() : std::runtime_error("A message between the processes of this run is damaged.") {}
+};
+
 /// Puts values one behind the other.
 class BytePacker {
  public:
@@ -46,7 +52,7 @@ class BytePacker {
   std::string bytes_;
 };
 
-/// Takes the values out again, in the same order. Throws std::runtime_error where the bytes end too
+/// Takes the values out again, in the same order. Throws DamagedBytes where the bytes end too
 /// early: a message was cut, or comes from another version of the program.
 class ByteUnpacker {
  public:
@@ -67,7 +73,7 @@ class ByteUnpacker {
     static_assert(std::is_trivially_copyable_v<Value>);
     const std::string_view bytes = GetText();
     if (bytes.size() % sizeof(Value) != 0) {
-      throw std::runtime_error("A message between the processes of this run is damaged.");
+      throw DamagedBytes();
     }
     std::vector<Value> values(bytes.size() / sizeof(Value));
     if (!bytes.empty()) {
@@ -82,7 +88,7 @@ class ByteUnpacker {
  private:
   std::string_view Next(std::uint64_t bytes) {
     if (bytes > rest_.size()) {
-      throw std::runtime_error("A message between the processes of this run is damaged.");
+      throw DamagedBytes();
     }
     const std::string_view next = rest_.substr(0, bytes);
     rest_.remove_prefix(bytes);

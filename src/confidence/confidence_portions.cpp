@@ -2,8 +2,10 @@
 #include "confidence/confidence_portions.h"
 
 #include <algorithm>
+#include <cmath>
+#include <concepts>
 
-#include "base/byte_packing.h"
+#include "base/field_packing.h"
 #include "confidence/confidence_matrix.h"
 #include "confidence/stranger_scores.h"
 
@@ -30,7 +32,7 @@ class EvidenceWorker final : public PortionWorker {
     BytePacker packer;
     if (unpacker.Get<OrderKind>() == OrderKind::kEvidence) {
       for (const auto& one : unpacker.GetAll<EvidenceOrder>()) {
-        finder_.Find(SlotAt(one.offspring), one.wish, observer).Pack(packer);
+        PackFields(finder_.Find(SlotAt(one.offspring), one.wish, observer), packer);
         observer.OnSteps(1);
       }
       return packer.Take();
@@ -39,7 +41,7 @@ class EvidenceWorker final : public PortionWorker {
       relatives_finder_.emplace(study_);
     }
     for (const auto& one : unpacker.GetAll<RelativesOrder>()) {
-      packer.Add(relatives_finder_->Find(SlotAt(one.offspring), one.wish, observer));
+      PackFields(relatives_finder_->Find(SlotAt(one.offspring), one.wish, observer), packer);
       observer.OnSteps(1);
     }
     return packer.Take();
@@ -54,10 +56,29 @@ class EvidenceWorker final : public PortionWorker {
   SlotRange offspring_;
 };
 
-void TakeFrom(ByteUnpacker& unpacker, Evidence& evidence) { evidence = Evidence::Unpack(unpacker); }
+/// Whether a likelihood or probability, the slot of a candidate, or something else, may be one.
+bool IsPossible(double value, std::size_t /*parents*/) {
+  return std::isfinite(value) && value >= 0;
+}
+bool IsPossible(Slot slot, std::size_t parents) { return slot.Value() < parents; }
+template <std::integral Count>
+bool IsPossible(Count /*count*/, std::size_t /*parents*/) {
+  return true;
+}
 
-void TakeFrom(ByteUnpacker& unpacker, RelativesEvidence& evidence) {
-  evidence = unpacker.Get<RelativesEvidence>();
+template <typename Answers>
+bool IsAnswered(const AskedCandidates& asked, const Answers& answers) {
+  return std::equal(asked.begin(), asked.end(), answers.begin(),
+                    [](auto& one, auto& answer) { return one.has_value() == answer.has_value(); });
+}
+
+/// Whether evidence answers what was asked.
+bool IsAnswerTo(const EvidenceWish& wish, const Evidence& evidence) {
+  return IsAnswered(wish.asked, evidence.fixed.asked);
+}
+
+bool IsAnswerTo(const RelativesWish& wish, const RelativesEvidence& evidence) {
+  return !evidence.weighed.is_possible || IsAnswered(wish.asked, evidence.weighed.asked);
 }
 
 std::vector<std::vector<double>> ScoresOfStrangers(const ConfidenceInput& input,
@@ -139,11 +160,25 @@ std::string GatheringPlan<GivenOrder, GivenEvidence>::Order(const Portion& porti
 }
 
 template <typename GivenOrder, typename GivenEvidence>
+bool GatheringPlan<GivenOrder, GivenEvidence>::IsPossible(const Portion& portion,
+                                                          std::string_view result) const {
+  const auto evidence = UnpackUpToTheEnd<GivenEvidence>(result);
+  bool is_possible = evidence.size() == portion.Size();
+  for (std::size_t i = 0; is_possible && i < evidence.size(); ++i) {
+    is_possible = IsAnswerTo(orders_[portion.begin + i].wish, evidence[i]);
+    VisitPlain(evidence[i], [&](auto value) {
+      is_possible = is_possible && kaldo::IsPossible(value, parents_);
+    });
+  }
+  return is_possible;
+}
+
+template <typename GivenOrder, typename GivenEvidence>
 bool GatheringPlan<GivenOrder, GivenEvidence>::Take(const Portion& portion,
                                                     std::string_view result) {
   ByteUnpacker unpacker(result);
   for (const GivenOrder& order : orders_.subspan(portion.begin, portion.Size())) {
-    TakeFrom(unpacker, evidence_[order.offspring]);
+    UnpackFields(evidence_[order.offspring], unpacker);
   }
   return true;
 }

@@ -47,16 +47,19 @@ class EvidenceTask final : public PortionTask {
 template <typename GivenOrder, typename GivenEvidence>
 class GatheringPlan final : public PortionPlan {
  public:
-  GatheringPlan(std::span<const GivenOrder> orders, std::span<GivenEvidence> evidence)
-      : orders_(orders), evidence_(evidence) {}
+  GatheringPlan(const EvidenceTask& task, std::span<const GivenOrder> orders,
+                std::span<GivenEvidence> evidence)
+      : parents_(task.Study().search.parents), orders_(orders), evidence_(evidence) {}
 
   std::size_t Groups() const override { return 1; }
   std::size_t ItemsPerGroup() const override { return orders_.size(); }
   std::size_t MostItemsPerPortion() const override;
   std::string Order(const Portion& portion) override;
+  bool IsPossible(const Portion& portion, std::string_view result) const override;
   bool Take(const Portion& portion, std::string_view result) override;
 
  private:
+  std::size_t parents_;  ///< slots that a candidate may have
   std::span<const GivenOrder> orders_;
   std::span<GivenEvidence> evidence_;  ///< by offspring
 };

@@ -75,7 +75,7 @@ ConfidenceResult ComputeConfidence(const ConfidenceSettings& settings, const Con
   result.ways = task.Study().ways;
   std::vector<Evidence> evidence(input.offspring.Size());
   for (std::vector<EvidenceOrder> orders = FirstOrders(input, settings.advises); !orders.empty();) {
-    EvidencePlan plan(orders, evidence);
+    EvidencePlan plan(task, orders, evidence);
     observer.OnPart(kWeighingPart, orders.size());
     workforce.Do({kWeighingPart, task, plan, record}, settings.threads, observer);
     ++result.gatherings;

@@ -7,28 +7,6 @@
 
 namespace kaldo {
 
-void Evidence::Pack(BytePacker& packer) const {
-  packer.Add(fixed);
-  for (const auto& shortlist : shortlists) {
-    packer.AddAll(std::span<const ShortlistedCandidate>(shortlist));
-  }
-  for (const auto& listed : most_likely) {
-    packer.AddAll(std::span<const LikelyParents>(listed));
-  }
-}
-
-Evidence Evidence::Unpack(ByteUnpacker& unpacker) {
-  Evidence evidence;
-  evidence.fixed = unpacker.Get<Fixed>();
-  for (auto& shortlist : evidence.shortlists) {
-    shortlist = unpacker.GetAll<ShortlistedCandidate>();
-  }
-  for (auto& listed : evidence.most_likely) {
-    listed = unpacker.GetAll<LikelyParents>();
-  }
-  return evidence;
-}
-
 namespace {
 
 using Candidates = std::vector<ShortlistedCandidate>;

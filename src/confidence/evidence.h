@@ -4,11 +4,9 @@
 #include <array>
 #include <cstdint>
 #include <optional>
-#include <string>
-#include <string_view>
+#include <tuple>
 #include <vector>
 
-#include "base/byte_packing.h"
 #include "confidence/explanations.h"
 #include "method/kept_pairs.h"
 
@@ -22,12 +20,16 @@ namespace kaldo {
 struct EvidenceLimits {
   double pairs = 0;       ///< of two candidates
   double candidates = 0;  ///< of a candidate with a stranger
+
+  static auto Fields(auto& self) { return std::tie(self.pairs, self.candidates); }
 };
 
 /// What speaks for one candidate of a side, or for several that no genotype tells apart.
 struct CandidateEvidence {
   double with_partners = 0;  ///< sum of L(i,j) over its partners
   double with_stranger = 0;  ///< L(i,U)
+
+  static auto Fields(auto& self) { return std::tie(self.with_partners, self.with_stranger); }
 };
 
 /// A candidate that may be among the most probable ones, whatever the shares of the explanations.
@@ -36,6 +38,10 @@ struct ShortlistedCandidate {
   CandidateEvidence evidence;
   std::uint32_t alike = 1;      ///< candidates with its genotype, itself included
   CandidateEvidence all_alike;  ///< their sum
+
+  static auto Fields(auto& self) {
+    return std::tie(self.slot, self.evidence, self.alike, self.all_alike);
+  }
 };
 
 /// The most likely pair under the matrices of this room.
@@ -46,18 +52,27 @@ struct BestPairEvidence {
   std::uint64_t pairs = 0;     ///< that are exactly so likely, itself included; 0: no pair
   double without_parent1 = 0;  ///< L(U, parent 2)
   double without_parent2 = 0;  ///< L(parent 1, U)
+
+  static auto Fields(auto& self) {
+    return std::tie(self.pair, self.likelihood, self.second, self.pairs, self.without_parent1,
+                    self.without_parent2);
+  }
 };
 
 /// A parent with its likelihood; none where there is no candidate.
 struct BestCandidate {
   std::optional<Slot> slot;
   double likelihood = 0;
+
+  static auto Fields(auto& self) { return std::tie(self.slot, self.likelihood); }
 };
 
 /// One way to explain an offspring: candidates by side, none for a stranger.
 struct LikelyParents {
   std::array<std::optional<Slot>, 2> parents;
   double likelihood = 0;
+
+  static auto Fields(auto& self) { return std::tie(self.parents, self.likelihood); }
 };
 
 /// So many of the most likely ways of an explanation are listed where that is asked for.
@@ -87,6 +102,11 @@ struct Evidence {
 
     /// For candidates that were asked for, by side.
     std::array<std::optional<CandidateEvidence>, 2> asked;
+
+    static auto Fields(auto& self) {
+      return std::tie(self.is_typed, self.mean, self.limits, self.best_pair,
+                      self.best_with_stranger, self.asked);
+    }
   } fixed;
 
   /// By side; in the non-sexed flow all stand on the first.
@@ -96,8 +116,7 @@ struct Evidence {
   /// for. By kAllExplanations.
   std::array<std::vector<LikelyParents>, 3> most_likely;
 
-  void Pack(BytePacker& packer) const;
-  static Evidence Unpack(ByteUnpacker& unpacker);
+  static auto Fields(auto& self) { return std::tie(self.fixed, self.shortlists, self.most_likely); }
 };
 
 /// So many candidates of a side are told: the most probable ones of both sides of the non-sexed

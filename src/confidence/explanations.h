@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <span>
+#include <tuple>
 
 #include "method/allowed_pairs.h"
 
@@ -29,6 +30,8 @@ class ByExplanation {
   constexpr const Value& operator[](Explanation e) const {
     return values_[static_cast<std::size_t>(e)];
   }
+
+  static auto Fields(auto& self) { return std::tie(self.values_); }
 
   friend bool operator==(const ByExplanation&, const ByExplanation&) = default;
 

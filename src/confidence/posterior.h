@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <tuple>
 #include <vector>
 
 #include "confidence/evidence.h"
@@ -15,6 +16,8 @@ namespace kaldo {
 struct ProbableParent {
   Slot slot;
   double probability = 0;
+
+  static auto Fields(auto& self) { return std::tie(self.slot, self.probability); }
 };
 
 /// How sure one parent of an offspring is. Sexed: the father, then the mother. Non-sexed: the two
@@ -73,9 +76,13 @@ struct RankedCandidate {
   double probability = 0;
   std::uint32_t alike = 1;
   double p_all_alike = 0;
+
+  static auto Fields(auto& self) {
+    return std::tie(self.slot, self.probability, self.alike, self.p_all_alike);
+  }
 };
 
-/// The explanations of one offspring once their shares are known. Trivially copyable.
+/// The explanations of one offspring once their shares are known.
 struct WeighedExplanations {
   bool is_possible = true;  ///< false where every likelihood is 0: nothing else means anything
   ByExplanation<double> p_explanation;
@@ -91,6 +98,11 @@ struct WeighedExplanations {
 
   /// What the likelihood of a pair of candidates is multiplied by to become its probability.
   double p_per_likelihood_of_pair = 0;
+
+  static auto Fields(auto& self) {
+    return std::tie(self.is_possible, self.p_explanation, self.ranked, self.asked, self.best_alone,
+                    self.p_per_likelihood_of_pair);
+  }
 };
 
 /// Puts down what follows for an offspring.

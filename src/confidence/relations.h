@@ -37,6 +37,8 @@ class ByOrigins {
   constexpr Value& operator[](Origins o) { return values_[Place(o)]; }
   constexpr const Value& operator[](Origins o) const { return values_[Place(o)]; }
 
+  static auto Fields(auto& self) { return std::tie(self.values_); }
+
   friend bool operator==(const ByOrigins&, const ByOrigins&) = default;
 
  private:

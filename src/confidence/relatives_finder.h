@@ -22,12 +22,16 @@ struct RelativesWish {
   AskedCandidates asked;
 };
 
-/// What the genotypes say about one offspring when relatives count. Trivially copyable.
+/// What the genotypes say about one offspring when relatives count.
 struct RelativesEvidence {
   bool is_typed = false;
   ByOrigins<double> mean;    ///< the mean likelihood over the ways of each combination
   ByOrigins<double> limits;  ///< of pairs, with which the means were taken
   WeighedExplanations weighed;
+
+  static auto Fields(auto& self) {
+    return std::tie(self.is_typed, self.mean, self.limits, self.weighed);
+  }
 };
 
 /// Gathers the evidence of one offspring after the other, with parents that are full sibs of

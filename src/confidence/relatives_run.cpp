@@ -120,7 +120,7 @@ class RelativesRun {
   }
 
   void Gather(const std::vector<RelativesOrder>& orders) {
-    RelativesPlan plan(orders, evidence_);
+    RelativesPlan plan(task_, orders, evidence_);
     observer_.OnPart(kWeighingPart, orders.size());
     workforce_.Do({kWeighingPart, task_, plan, record_}, settings_.threads, observer_);
     for (const RelativesOrder& order : orders) {

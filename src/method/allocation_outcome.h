@@ -3,14 +3,14 @@
 
 #include <array>
 #include <span>
+#include <tuple>
 
 #include "method/kept_pairs.h"
 
 namespace kaldo {
 
 /// What was decided for one offspring. The search fills what is known of pairs (OutcomeOf), then
-/// DecideSides the sides of the first pair. A plain value without pointers: processes send it to
-/// each other byte by byte.
+/// DecideSides the sides of the first pair. A plain value: processes send it to each other.
 struct AllocationOutcome {
   /// Parent indices stored in `pairs`, two per pair: 0 (no pair) to 10 (five pairs).
   int pair_entries = 0;
@@ -32,6 +32,12 @@ struct AllocationOutcome {
   bool par2_uncollected = false;
   int errors_par1 = 0;
   int errors_par2 = 0;
+
+  static auto Fields(auto& self) {
+    return std::tie(self.pair_entries, self.pairs, self.more_than_five, self.best_likelihood,
+                    self.par1_uncollected, self.par2_uncollected, self.errors_par1,
+                    self.errors_par2);
+  }
 
   /// False: no pair of collected parents is possible under the model of error. Both sides then
   /// count as uncollected.

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <span>
+#include <tuple>
 
 #include "genotypes/genotype_table.h"
 #include "method/flow.h"
@@ -14,6 +15,8 @@ namespace kaldo {
 struct ParentPair {
   Slot parent1;
   Slot parent2;
+
+  static auto Fields(auto& self) { return std::tie(self.parent1, self.parent2); }
 
   friend bool operator==(ParentPair, ParentPair) = default;
 };

@@ -8,12 +8,15 @@
 
 #include "base/byte_packing.h"
 #include "base/file_digest.h"
+#include "runs/record_shape.h"
 
 namespace kaldo {
 
 namespace {
 
 constexpr std::size_t kDigestBytes = 64;
+constexpr std::uint64_t kMostHeadBytes = kMostRecordBytes + 1024;
+constexpr std::uint64_t kMostEntryBytes = kMostResultBytes + 1024;
 
 /// Says what the file is, and of which kind of machine: results are the bytes of values in memory.
 /// The order of bytes shows in the length of the head, which would be out of all proportion.
@@ -69,7 +72,7 @@ PortionLogReader::PortionLogReader(const std::string& path) {
   if (error || !file_) {
     return;
   }
-  const auto head = ReadPayload();
+  const auto head = ReadPayload(kMostHeadBytes);
   const std::string kind = KindOfFile();
   if (head && head->starts_with(kind)) {
     if (auto record = ParseRunRecord(std::string_view(*head).substr(kind.size()), path)) {
@@ -79,11 +82,12 @@ PortionLogReader::PortionLogReader(const std::string& path) {
   }
 }
 
-std::optional<std::string> PortionLogReader::ReadPayload() {
+std::optional<std::string> PortionLogReader::ReadPayload(std::uint64_t most) {
   std::uint64_t size = 0;
   file_.read(reinterpret_cast<char*>(&size), sizeof(size));
   const std::uint64_t left = bytes_ - bytes_read_;
-  if (!file_ || left < sizeof(size) + kDigestBytes || size > left - sizeof(size) - kDigestBytes) {
+  if (!file_ || size > most || left < sizeof(size) + kDigestBytes ||
+      size > left - sizeof(size) - kDigestBytes) {
     return std::nullopt;
   }
   std::string payload(size, '\0');
@@ -108,7 +112,7 @@ void PortionLogReader::TakeRead() {
   bytes_taken_ = bytes_read_;
   digest_taken_ = digest_read_;
   next_.reset();
-  if (const auto payload = ReadPayload()) {
+  if (const auto payload = ReadPayload(kMostEntryBytes)) {
     try {
       next_ = Unpack(*payload);
     } catch (const std::runtime_error&) {

@@ -17,6 +17,10 @@ namespace kaldo {
 // which they were taken. Each entry ends with a digest of itself and of the one before it, so that
 // the file can be trusted up to the first entry that is not whole, wherever a crash has cut it.
 
+/// The largest result that is kept. No run of usual size has one of a tenth of that; what is read
+/// must not fill the memory, whatever the file says.
+inline constexpr std::size_t kMostResultBytes = std::size_t{256} * 1024 * 1024;
+
 /// The result of a portion.
 struct LoggedPortion {
   std::uint64_t part = 0;  ///< of the run, counted from 0 in the order of their beginning
@@ -62,7 +66,7 @@ class PortionLogReader {
   PortionLogText TextBehind() const { return PortionLogText(digest_taken_); }
 
  private:
-  std::optional<std::string> ReadPayload();
+  std::optional<std::string> ReadPayload(std::uint64_t most);
   void TakeRead();
 
   std::ifstream file_;

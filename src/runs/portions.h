@@ -94,6 +94,12 @@ class PortionPlan {
   /// The order of a portion. Asked in order of groups and items.
   virtual std::string Order(const Portion& portion) = 0;
 
+  /// Whether bytes from a file may be the result of a portion: what they hold leads nowhere that a
+  /// result could not lead. True where nothing can be told, as of a text.
+  virtual bool IsPossible(const Portion& /*portion*/, std::string_view /*result*/) const {
+    return true;
+  }
+
   /// Takes the result of a portion; they come in order of groups and items, however they were done.
   /// False: no further portion is wanted.
   virtual bool Take(const Portion& portion, std::string_view result) = 0;

@@ -3,8 +3,8 @@
 
 #include <fmt/format.h>
 
+#include "base/byte_packing.h"
 #include "base/problem.h"
-#include "runs/run_refused.h"
 
 namespace kaldo {
 
@@ -28,6 +28,10 @@ class RestOfPlan final : public PortionPlan {
   bool HasEnded(std::size_t group) const override { return plan_.HasEnded(group); }
   std::string Order(const Portion& portion) override { return plan_.Order(portion); }
 
+  bool IsPossible(const Portion& portion, std::string_view result) const override {
+    return plan_.IsPossible(portion, result);
+  }
+
   bool Take(const Portion& portion, std::string_view result) override {
     const bool go_on = plan_.Take(portion, result);
     unfinished_.Keep({part_, portion, std::string(result)});
@@ -44,6 +48,9 @@ class RestOfPlan final : public PortionPlan {
       if (observer.StopRequested()) {
         throw RunStopped();
       }
+      if (!Fits(*next)) {
+        return;  // as if the file ended here: what is done from here on takes its place
+      }
       TakeOver(*next);
       unfinished_.Advance();
     }
@@ -53,12 +60,18 @@ class RestOfPlan final : public PortionPlan {
   bool IsDone() const { return has_ended_ || items_ == 0 || first_.group >= groups_; }
 
  private:
+  bool Fits(const LoggedPortion& next) const {
+    const auto& [group, begin, end] = next.portion;
+    try {
+      return PortionPlace{group, begin} == first_ && end > begin && end <= items_ &&
+             plan_.IsPossible(next.portion, next.result);
+    } catch (const DamagedBytes&) {
+      return false;
+    }
+  }
+
   void TakeOver(const LoggedPortion& next) {
     const auto& [group, begin, end] = next.portion;
-    if (PortionPlace{group, begin} != first_ || end <= begin || end > items_) {
-      throw RunRefused(
-          {.kind = ProblemKind::kCannotResume, .found = "its results are not those of this run"});
-    }
     (void)plan_.Order(next.portion);
     has_ended_ = !plan_.Take(next.portion, next.result);
     first_ = end == items_ || plan_.HasEnded(group) ? PortionPlace{group + 1, 0}

@@ -129,6 +129,10 @@ void UnfinishedRun::Keep(const LoggedPortion& portion) {
   if (has_given_up_) {
     return;
   }
+  if (portion.result.size() > kMostResultBytes) {
+    GiveUp("a result is too large to be kept");
+    return;
+  }
   pending_ += text_.Entry(portion);
   if (Clock::now() >= next_write_ || pending_.size() >= kMostPendingBytes) {
     next_write_ = Clock::now();

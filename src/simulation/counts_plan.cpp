@@ -2,6 +2,7 @@
 #include "simulation/counts_plan.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include <fmt/format.h>
 
@@ -16,6 +17,21 @@ namespace {
 /// A portion of so many pseudo-offspring takes some hundredths of a second among a thousand
 /// parents.
 constexpr std::size_t kMostOffspringPerPortion = 16'384;
+
+/// Whether these counts make up so many pseudo-offspring.
+template <std::size_t n>
+bool MakeUp(const std::array<std::int32_t, n>& counts, std::int64_t all) {
+  return std::all_of(counts.begin(), counts.end(), [](std::int32_t count) { return count >= 0; }) &&
+         std::accumulate(counts.begin(), counts.end(), std::int64_t{0}) == all;
+}
+
+/// Whether each pseudo-offspring of a class counts just once in everything.
+bool IsPossible(const ClassCounts& counts) {
+  const std::int64_t single = std::int64_t{counts.size} - counts.ambiguous - counts.nulls;
+  return counts.size >= 0 && counts.ambiguous >= 0 && counts.nulls >= 0 &&
+         MakeUp(counts.rows, counts.size) && MakeUp(counts.single_pair, single) &&
+         MakeUp(counts.first_pair, counts.size);
+}
 
 }  // namespace
 
@@ -49,6 +65,19 @@ std::string CountsPlan::Order(const Portion& portion) {
   }
   ordered_.push_back({portion, stream_.Next(portion.Size())});
   return PackOrder(input_.subsets.At(portion.group), ordered_.back().starts);
+}
+
+bool CountsPlan::IsPossible(const Portion& portion, std::string_view result) const {
+  ByteUnpacker unpacker(result);
+  bool is_possible = result.size() == portion.Size() * sizeof(IterationCounts);
+  while (is_possible && !unpacker.Rest().empty()) {
+    const auto counts = unpacker.Get<IterationCounts>();
+    is_possible =
+        std::all_of(counts.begin(), counts.end(),
+                    [](const ClassCounts& of_class) { return kaldo::IsPossible(of_class); }) &&
+        PseudoOffspring(counts) == static_cast<std::int64_t>(input_.OffspringPerIteration());
+  }
+  return is_possible;
 }
 
 bool CountsPlan::Take(const Portion& portion, std::string_view result) {

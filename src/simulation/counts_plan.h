@@ -30,6 +30,7 @@ class CountsPlan final : public PortionPlan {
   }
   bool HasEnded(std::size_t group) const override { return group < result_.subsets.size(); }
   std::string Order(const Portion& portion) override;
+  bool IsPossible(const Portion& portion, std::string_view result) const override;
   bool Take(const Portion& portion, std::string_view result) override;
 
  private:

@@ -17,6 +17,7 @@ class ReliabilityPlan final : public PortionPlan {
   std::size_t ItemsPerGroup() const override { return result_.states.size(); }
   std::size_t MostItemsPerPortion() const override { return 1; }
   std::string Order(const Portion& portion) override;
+  bool IsPossible(const Portion& portion, std::string_view result) const override;
   bool Take(const Portion& portion, std::string_view result) override;
 
  private:

@@ -87,6 +87,10 @@ class NumbersPlan final : public PortionPlan {
     return packer.Take();
   }
 
+  bool IsPossible(const Portion& portion, std::string_view result) const override {
+    return result.size() == portion.Size() * sizeof(std::uint64_t);
+  }
+
   bool Take(const Portion& portion, std::string_view result) override {
     if (failing_group == portion.group) {
       throw RunFailure("disk full");
