@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulation/saved_loci.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include <fmt/format.h>
 
 #include "base/disk_file.h"
+#include "genotypes/capacities.h"
 #include "simulation/reports/simulation_file_names.h"
 
 namespace kaldo {
@@ -31,7 +35,47 @@ void RemoveUnfinished() {
   }
 }
 
+/// Whether a file stands in the place of the copy that is none: nobody would get it back.
+bool IsSomethingElse() {
+  std::error_code unknown;
+  const auto status = std::filesystem::status(kSavedLociFile, unknown);
+  if (!std::filesystem::exists(status)) {
+    return false;
+  }
+  if (!std::filesystem::is_regular_file(status)) {
+    return true;
+  }
+  std::ifstream file(std::string(kSavedLociFile), std::ios::binary);
+  std::string begin(kMaxLoci * (kMaxLocusNameLength + 1) + 1, '\0');
+  file.read(begin.data(), static_cast<std::streamsize>(begin.size()));
+  begin.resize(static_cast<std::size_t>(file.gcount()));
+  return !IsSavedLociText(begin);
+}
+
+std::string NotSaved(std::string_view why) {
+  return fmt::format(
+      "The names of the loci could not be saved in \"{}\": {}. The results are not "
+      "concerned.",
+      kSavedLociFile, why);
+}
+
 }  // namespace
+
+bool IsSavedLociText(std::string_view text) {
+  std::size_t names = 0;
+  while (!text.empty()) {
+    const std::string_view name = text.substr(0, text.find(' '));
+    const bool is_genotype =
+        name.size() >= 4 && name.find_first_not_of("0123456789") == std::string_view::npos;
+    if (name.empty() || name.size() == text.size() || name.size() > kMaxLocusNameLength ||
+        name.find_first_of("\t\n\v\f\r") != std::string_view::npos || is_genotype ||
+        ++names > kMaxLoci) {
+      return false;
+    }
+    text.remove_prefix(name.size() + 1);
+  }
+  return true;
+}
 
 std::string SavedLociText(const LociList& loci) {
   std::string text;
@@ -43,6 +87,9 @@ std::string SavedLociText(const LociList& loci) {
 
 std::optional<std::string> SaveLoci(const LociList& loci) {
   RemoveUnfinished();
+  if (IsSomethingElse()) {
+    return NotSaved("a file of that name is there, which is no such copy and stays as it is");
+  }
   const std::string unfinished = fmt::format("{}.{}{}", kSavedLociFile, RandomName(), kUnfinished);
   std::error_code error = WriteNewFile(unfinished, SavedLociText(loci));
   if (!error) {
@@ -53,10 +100,7 @@ std::optional<std::string> SaveLoci(const LociList& loci) {
   }
   std::error_code ignored;
   std::filesystem::remove(unfinished, ignored);
-  return fmt::format(
-      "The names of the loci could not be saved in \"{}\": {}. The results are not "
-      "concerned.",
-      kSavedLociFile, error.message());
+  return NotSaved(error.message());
 }
 
 }  // namespace kaldo

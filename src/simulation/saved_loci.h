@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "genotypes/loci_list.h"
 
@@ -11,9 +12,15 @@ namespace kaldo {
 /// The contents of the loci-save file: every name followed by one blank, on one line.
 std::string SavedLociText(const LociList& loci);
 
+/// Whether a file holds such contents, of whatever loci, or nothing. One that does not is no copy:
+/// several lines, an end without a blank, words that are too long or too many, or genotypes
+/// (digits alone, four or more: a list of names has hardly any).
+bool IsSavedLociText(std::string_view text);
+
 /// Writes the loci-save file into the working folder: at the end of a simulation, and in the
 /// windows when the first screen of a simulation is confirmed. It is a convenience: when it cannot
-/// be written the earlier one stays, and why comes back as a sentence.
+/// be written the earlier one stays, and so does a file of that name that is no such copy; why
+/// comes back as a sentence.
 std::optional<std::string> SaveLoci(const LociList& loci);
 
 }  // namespace kaldo

@@ -27,6 +27,7 @@ using test::operator+;  // NOLINT(misc-unused-using-decls): every + here is it
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::StartsWith;
 
 /// A small study in a folder of its own, which is the working folder: the saved loci go there.
@@ -104,6 +105,16 @@ TEST_F(SimulateCommand, TellsTheResultTheSeedAndThatItIsDone) {
   EXPECT_THAT(ReadFile("p/Service file.xls"),
               StartsWith("Seed of the random numbers :\t4294967295\n\nLIST OF ALLELES"));
   EXPECT_EQ(ReadFile("SAUVLOCUSTULM.txt"), "A B C ");
+  for (const std::string mine : {"P1 100102 200204\n", "P1 100102 ", "A B C", "A B\nC "}) {
+    folder_.Write("SAUVLOCUSTULM.txt", mine);
+    EXPECT_THAT(RunCommand(NonSexed()).err, HasSubstr("a file of that name is there"));
+    EXPECT_EQ(ReadFile("SAUVLOCUSTULM.txt"), mine) << "nobody would get it back";
+  }
+  for (const std::string of_other_loci : {"", "Ssa85 Ssa197 "}) {
+    folder_.Write("SAUVLOCUSTULM.txt", of_other_loci);
+    EXPECT_THAT(RunCommand(NonSexed()).err, Not(HasSubstr("SAUVLOCUSTULM.txt")));
+    EXPECT_EQ(ReadFile("SAUVLOCUSTULM.txt"), "A B C ");
+  }
 
   const Outcome sexed =
       RunCommand(Sexed() + Arguments{"--strategy", "minimal", "--criterion", "0", "--seed", "1"});
