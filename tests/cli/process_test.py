@@ -4,6 +4,7 @@
     process_test.py KALDO [unittest options]
 """
 
+import contextlib
 import fcntl
 import json
 import os
@@ -259,15 +260,36 @@ class LongRuns(ProgramTest):
         self.stop(signal.SIGHUP)
 
     def test_signals_that_were_ignored_before_stay_ignored(self):
-        run = self.start(["nohup", *long_run("project")], stdout=subprocess.DEVNULL,
-                         stderr=subprocess.PIPE)
+        run = self.start(["sh", "-c", 'trap "" HUP INT; exec "$@"', "sh", *long_run("project")],
+                         stdout=subprocess.DEVNULL, stderr=subprocess.PIPE)
         project = self.folder / "project"
         wait_until(lambda: list(project.glob(".kaldo-*/new/*")), "reports being written")
-        run.send_signal(signal.SIGHUP)
-        time.sleep(0.3)
+        for ignored in (signal.SIGHUP, signal.SIGINT, signal.SIGINT):
+            run.send_signal(ignored)
+            time.sleep(0.2)
         self.assertIsNone(run.poll())
-        run.send_signal(signal.SIGINT)
+        run.send_signal(signal.SIGTERM)
         self.assertEqual(run.wait(GENEROUS), 130)
+
+    def test_a_second_ctrl_c_ends_what_the_first_cannot(self):
+        """Nobody reads what the run has to say: it cannot tell that it stopped, and hangs."""
+        reader, writer = os.pipe()
+        self.addCleanup(os.close, reader)
+        os.set_blocking(writer, False)
+        with contextlib.suppress(BlockingIOError):
+            while os.write(writer, b" "):
+                pass
+        os.set_blocking(writer, True)
+        run = self.start(long_run("project"), stdout=subprocess.DEVNULL, stderr=writer)
+        os.close(writer)
+        project = self.folder / "project"
+        wait_until(lambda: list(project.glob(".kaldo-*/new/*")), "reports being written")
+        run.send_signal(signal.SIGINT)
+        wait_until(lambda: not list(project.glob(".kaldo-*/new/*")), "the run being stopped")
+        time.sleep(0.2)
+        self.assertIsNone(run.poll(), "the first one was enough")
+        run.send_signal(signal.SIGINT)
+        self.assertEqual(run.wait(GENEROUS), -signal.SIGINT)
 
     def start_on_terminal(self, command):
         controller, terminal = pty.openpty()
