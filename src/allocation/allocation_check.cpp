@@ -3,6 +3,7 @@
 
 #include "allocation/allocation_command.h"
 #include "allocation/allocation_record.h"
+#include "allocation/offspring_knowledge.h"
 #include "genotypes/all_faults.h"
 #include "genotypes/kept_files.h"
 
@@ -47,28 +48,32 @@ std::vector<LocusStatistics> StatisticsOf(const AllocationFiles& files, const Lo
 }
 
 /// Loads the files, which may be sound though choices were not; loci with too many alleles are told
-/// one by one and left out.
-void Load(AllocationSettings settings, const FileOpener& open, AllocationCheck& check) {
+/// one by one and left out. True where all is told that can be, about what is known of offspring.
+bool Load(AllocationSettings settings, const FileOpener& open, AllocationCheck& check) {
   const auto files = OpenAllocationFiles(settings, open);
   if (!files) {
     check.faults.Add(files.error());
-    return;
+    return false;
   }
-  auto loaded = LoadIndividuals(settings, *files);
+  auto loaded = LoadGenotypes(settings, *files);
   if (!loaded) {
     check.faults.Add(std::move(loaded.error()));
-    return;
+    return false;
+  }
+  if (auto faults = FindKnowledgeFaults(settings.flow, *files, *loaded); !faults.IsEmpty()) {
+    check.faults.AddGroups(std::move(faults));
+    return true;
   }
   const LociList all = loaded->loci;
   check.loci = StatisticsOf(*files, all);
   while (auto problem = ApplyChoices(settings, *files, *loaded)) {
     check.faults.Add(*problem);
     if (problem->kind != ProblemKind::kTooManyAlleles) {
-      return;
+      return false;
     }
     LeaveOut(problem->locus, all, settings.loci_in_use);
     if (settings.loci_in_use->empty()) {
-      return;
+      return false;
     }
     loaded->combinations.clear();
   }
@@ -77,6 +82,7 @@ void Load(AllocationSettings settings, const FileOpener& open, AllocationCheck& 
   }
   check.warnings = loaded->warnings;
   check.input = std::move(*loaded);
+  return true;
 }
 
 }  // namespace
@@ -88,9 +94,7 @@ AllocationCheck CheckAllocation(const TypedSettings& typed, bool may_replace_oth
   AllocationSettings settings = ReadableAllocation(typed, check.faults);
   check.settings = settings;
   check.flow = AllocationFlowName(settings.flow);
-  if (check.faults.IsEmpty()) {
-    Load(settings, open, check);
-  }
+  const bool is_told = check.faults.IsEmpty() && Load(settings, open, check);
   if (!check.input) {
     const auto files = OpenWhatIsThere(settings, open, check.faults);
     const LociList loci = files.loci ? LociList(files.loci->tokens) : LociList();
@@ -101,7 +105,9 @@ AllocationCheck CheckAllocation(const TypedSettings& typed, bool may_replace_oth
     if (loci.Count() > 0) {
       FindAllFaults(files, loci, check.faults);
     }
-    Load(settings, open, check);
+    if (!is_told) {
+      (void)Load(settings, open, check);
+    }
   }
   if (!settings.project.empty()) {
     check.project =

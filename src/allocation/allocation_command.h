@@ -20,8 +20,7 @@ AllocationSettings ReadableAllocation(const TypedSettings& typed, AlikeGroups<Pr
 
 /// The command line of an allocation, `kaldo allocate --project ...`: typed into a shell in the
 /// same working folder it repeats the run. What is as it is by default is left out, and so is the
-/// number of threads, which changes nothing. A locus whose name holds a comma cannot be told from
-/// two loci in `--use`.
+/// number of threads, which changes nothing.
 std::string CommandOf(const AllocationSettings& settings);
 
 }  // namespace kaldo

@@ -130,8 +130,8 @@ tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSetti
   return input;
 }
 
-tl::expected<AllocationInput, Problem> LoadIndividuals(const AllocationSettings& settings,
-                                                       const AllocationFiles& files) {
+tl::expected<AllocationInput, Problem> LoadGenotypes(const AllocationSettings& settings,
+                                                     const AllocationFiles& files) {
   if (auto problem = ValidateTolerance(settings.tolerance)) {
     return tl::unexpected(std::move(*problem));
   }
@@ -151,10 +151,18 @@ tl::expected<AllocationInput, Problem> LoadIndividuals(const AllocationSettings&
   }
   FillTable(files, input);
   input.groups = FormGroups(settings.flow, input.table, input.first_parents, input.second_parents);
-  if (auto problem = ReadAllowedPairs(settings.flow, files, input)) {
-    return tl::unexpected(std::move(*problem));
-  }
   input.files = files.Recorded();
+  return input;
+}
+
+tl::expected<AllocationInput, Problem> LoadIndividuals(const AllocationSettings& settings,
+                                                       const AllocationFiles& files) {
+  auto input = LoadGenotypes(settings, files);
+  if (input) {
+    if (auto problem = ReadAllowedPairs(settings.flow, files, *input)) {
+      return tl::unexpected(std::move(*problem));
+    }
+  }
   return input;
 }
 

@@ -60,7 +60,12 @@ tl::expected<AllocationInput, Problem> LoadAllocationInput(const AllocationSetti
 
 // The same in two steps: files that were opened and checked once serve every choice of loci.
 
-/// Tests the open files and loads their individuals. All loci are there, no choice is made.
+/// Tests the open files and loads their genotypes. All loci are there, no choice is made, and what
+/// is known of single offspring is not read.
+tl::expected<AllocationInput, Problem> LoadGenotypes(const AllocationSettings& settings,
+                                                     const AllocationFiles& files);
+
+/// The same with what is known of single offspring.
 tl::expected<AllocationInput, Problem> LoadIndividuals(const AllocationSettings& settings,
                                                        const AllocationFiles& files);
 

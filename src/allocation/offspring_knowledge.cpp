@@ -2,6 +2,7 @@
 #include "allocation/offspring_knowledge.h"
 
 #include <algorithm>
+#include <functional>
 #include <string_view>
 #include <unordered_map>
 
@@ -58,12 +59,16 @@ Problem OtherWords(std::string found) {
   return {.kind = ProblemKind::kOtherWordsWanted, .found = std::move(found)};
 }
 
+/// Is told a fault; false where no other one is wanted.
+using FaultSink = std::function<bool(Problem)>;
+
 /// Reads the files of a run one after the other.
 class KnowledgeReader {
  public:
-  KnowledgeReader(Flow flow, AllocationInput& input)
+  KnowledgeReader(Flow flow, AllocationInput& input, FaultSink sink)
       : flow_(flow),
         input_(input),
+        sink_(std::move(sink)),
         mothers_(flow == Flow::kSexed ? "collected females" : "collected parents") {
     offspring_.Add(input.table, input.offspring);
     for (const CandidateGroup& group : input.groups) {
@@ -77,68 +82,93 @@ class KnowledgeReader {
     places_.resize(input.NumberOfOffspring());
   }
 
-  std::optional<Problem> Read(const AllocationFile& file) {
+  /// False where no more is wanted.
+  bool Read(const AllocationFile& file) {
     std::vector<std::uint32_t> lines(input_.NumberOfOffspring(), 0);
     for (const Line& line : LinesOf(file.tokens.Tokens())) {
-      auto problem = ReadLine(file, line, lines);
-      if (problem) {
-        problem->file = file.tokens.Path();
-        problem->line = line.front().line;
-        return problem;
+      bool goes_on = true;
+      const FaultSink tell = [&](Problem problem) {
+        problem.file = file.tokens.Path();
+        problem.line = line.front().line;
+        goes_on = sink_(std::move(problem));
+        return goes_on;
+      };
+      ReadLine(file, line, lines, tell);
+      if (!goes_on) {
+        return false;
       }
     }
-    return std::nullopt;
+    return true;
   }
 
-  /// The first offspring without a pair, at the line that left it none.
-  std::optional<Problem> FindWithoutPair() const {
+  /// The offspring without a pair, at the line that left them none.
+  void FindWithoutPair() const {
     for (std::size_t i = 0; i < places_.size(); ++i) {
-      if (places_[i].line == 0 || HasPair(flow_, input_.groups, input_.allowed[i])) {
+      if (places_[i].line == 0 || places_[i].is_at_fault ||
+          HasPair(flow_, input_.groups, input_.allowed[i])) {
         continue;
       }
-      return Problem{.kind = ProblemKind::kNoPairAllowed,
-                     .file = std::string(places_[i].file),
-                     .line = places_[i].line,
-                     .found = WhyNoPair(i)};
+      if (!sink_(Problem{.kind = ProblemKind::kNoPairAllowed,
+                         .file = std::string(places_[i].file),
+                         .line = places_[i].line,
+                         .found = WhyNoPair(i)})) {
+        return;
+      }
     }
-    return std::nullopt;
   }
 
  private:
   struct Place {
     std::string_view file;
     std::uint32_t line = 0;
+    bool is_at_fault = false;  ///< something that was said of it
   };
 
-  std::optional<Problem> ReadLine(const AllocationFile& file, const Line& line,
-                                  std::vector<std::uint32_t>& lines) {
+  void ReadLine(const AllocationFile& file, const Line& line, std::vector<std::uint32_t>& lines,
+                const FaultSink& tell) {
     const auto offspring = offspring_.Find(line.front().text);
     if (!offspring) {
-      return offspring.error();
+      (void)tell(offspring.error());
+      return;
     }
     const std::size_t i = offspring->Value() - input_.offspring.begin;
+    const FaultSink tell_of_it = [&](Problem problem) {
+      places_[i].is_at_fault = true;
+      return tell(std::move(problem));
+    };
     if (lines[i] != 0) {
-      return Problem{.kind = ProblemKind::kOffspringHasTwoLines,
-                     .found = fmt::format("{} stands in line {} already", Quoted(line.front().text),
-                                          lines[i])};
+      (void)tell_of_it({.kind = ProblemKind::kOffspringHasTwoLines,
+                        .found = fmt::format("{} stands in line {} already",
+                                             Quoted(line.front().text), lines[i])});
+      return;
     }
     lines[i] = line.front().line;
     const Line words = line.subspan(1);
     if (words.size() == 1 && words.front().text == kAny) {
-      return std::nullopt;
+      return;
     }
-    places_[i] = {file.tokens.Path(), lines[i]};
-    AllowedPairs& allowed = input_.allowed[i];
+    places_[i].file = file.tokens.Path();
+    places_[i].line = lines[i];
+    ReadWords(file, words, input_.allowed[i], tell_of_it);
+  }
+
+  void ReadWords(const AllocationFile& file, const Line& words, AllowedPairs& allowed,
+                 const FaultSink& tell) const {
     if (file.role.path == &AllocationSettings::candidates_file) {
-      return ReadCandidates(words, allowed);
+      return ReadCandidates(words, allowed, tell);
     }
+    std::optional<Problem> problem;
     if (words.size() != 1) {
-      return OtherWords(fmt::format("{} words behind the name of the offspring, expected 1{}",
-                                    words.size(), words.empty() ? "; * stands for any" : ""));
+      problem = OtherWords(fmt::format("{} words behind the name of the offspring, expected 1{}",
+                                       words.size(), words.empty() ? "; * stands for any" : ""));
+    } else {
+      problem = file.role.path == &AllocationSettings::known_mother_file
+                    ? ReadMother(words.front().text, allowed)
+                    : ReadGroup(words.front().text, allowed);
     }
-    return file.role.path == &AllocationSettings::known_mother_file
-               ? ReadMother(words.front().text, allowed)
-               : ReadGroup(words.front().text, allowed);
+    if (problem) {
+      (void)tell(std::move(*problem));
+    }
   }
 
   std::optional<Problem> ReadMother(std::string_view name, AllowedPairs& allowed) const {
@@ -150,24 +180,25 @@ class KnowledgeReader {
     return std::nullopt;
   }
 
-  std::optional<Problem> ReadCandidates(const Line& names, AllowedPairs& allowed) const {
+  void ReadCandidates(const Line& names, AllowedPairs& allowed, const FaultSink& tell) const {
     if (names.empty()) {
-      return OtherWords("no candidate behind the name of the offspring; * stands for all");
+      (void)tell(OtherWords("no candidate behind the name of the offspring; * stands for all"));
+      return;
     }
     auto& candidates = allowed.candidates.emplace();
     for (const Token& name : names) {
-      if (name.text == kAny) {
-        return OtherWords("* stands for all candidates and goes without their names");
+      const tl::expected<Slot, Problem> candidate =
+          name.text == kAny ? tl::unexpected(OtherWords(
+                                  "* stands for all candidates and goes without their names"))
+                            : parents_.Find(name.text);
+      if (candidate) {
+        candidates.push_back(*candidate);
+      } else if (!tell(candidate.error())) {
+        return;
       }
-      const auto candidate = parents_.Find(name.text);
-      if (!candidate) {
-        return candidate.error();
-      }
-      candidates.push_back(*candidate);
     }
     std::sort(candidates.begin(), candidates.end());
     candidates.erase(std::unique(candidates.begin(), candidates.end()), candidates.end());
-    return std::nullopt;
   }
 
   std::optional<Problem> ReadGroup(std::string_view text, AllowedPairs& allowed) const {
@@ -198,26 +229,47 @@ class KnowledgeReader {
 
   Flow flow_;
   AllocationInput& input_;
+  FaultSink sink_;
   Names offspring_{"offspring"};
   Names parents_{"collected parents"};
   Names mothers_;
   std::vector<Place> places_;  ///< by offspring: the last that was said of it
 };
 
+void ReadKnowledge(Flow flow, const AllocationFiles& files, AllocationInput& input,
+                   FaultSink sink) {
+  if (files.knowledge.empty()) {
+    return;
+  }
+  KnowledgeReader reader(flow, input, std::move(sink));
+  for (const AllocationFile& file : files.knowledge) {
+    if (!reader.Read(file)) {
+      return;
+    }
+  }
+  reader.FindWithoutPair();
+}
+
 }  // namespace
 
 std::optional<Problem> ReadAllowedPairs(Flow flow, const AllocationFiles& files,
                                         AllocationInput& input) {
-  if (files.knowledge.empty()) {
-    return std::nullopt;
-  }
-  KnowledgeReader reader(flow, input);
-  for (const AllocationFile& file : files.knowledge) {
-    if (auto problem = reader.Read(file)) {
-      return problem;
-    }
-  }
-  return reader.FindWithoutPair();
+  std::optional<Problem> first;
+  ReadKnowledge(flow, files, input, [&](Problem problem) {
+    first = std::move(problem);
+    return false;
+  });
+  return first;
+}
+
+AlikeGroups<Problem> FindKnowledgeFaults(Flow flow, const AllocationFiles& files,
+                                         AllocationInput& input) {
+  AlikeGroups<Problem> faults;
+  ReadKnowledge(flow, files, input, [&](Problem problem) {
+    faults.Add(std::move(problem));
+    return true;
+  });
+  return faults;
 }
 
 }  // namespace kaldo

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "allocation/allocation_input.h"
+#include "base/alike.h"
 
 namespace kaldo {
 
@@ -12,5 +13,11 @@ namespace kaldo {
 /// must not decide a parentage.
 std::optional<Problem> ReadAllowedPairs(Flow flow, const AllocationFiles& files,
                                         AllocationInput& input);
+
+/// The same, but tells all that is wrong with these files, first what ReadAllowedPairs tells.
+/// Whether an offspring has a pair is asked only where nothing else is wrong with what is told of
+/// it.
+AlikeGroups<Problem> FindKnowledgeFaults(Flow flow, const AllocationFiles& files,
+                                         AllocationInput& input);
 
 }  // namespace kaldo

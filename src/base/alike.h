@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -23,7 +24,7 @@ inline bool AreAlike(const Warning& one, const Warning& other) {
 /// The same one, found twice.
 inline bool AreTheSame(const Problem& one, const Problem& other) {
   return one.line == other.line && one.record == other.record && one.locus == other.locus &&
-         (one.line != 0 || one.found == other.found);
+         (one.record != 0 || !one.locus.empty() || one.found == other.found);
 }
 
 inline bool AreTheSame(const Warning& /*one*/, const Warning& /*other*/) { return false; }
@@ -61,6 +62,11 @@ class AlikeGroups {
     for (Found& found : all) {
       Add(std::move(found));
     }
+  }
+
+  /// Adds all of others, of which none may be alike to one that is here.
+  void AddGroups(AlikeGroups others) {
+    std::move(others.groups_.begin(), others.groups_.end(), std::back_inserter(groups_));
   }
 
   /// Lets every one that was kept be completed. Which are alike must not change.

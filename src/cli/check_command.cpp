@@ -4,6 +4,8 @@
 #include <ostream>
 
 #include "allocation/allocation_check.h"
+#include "allocation/allocation_command.h"
+#include "allocation/allocation_record.h"
 #include "cli/check_json.h"
 #include "cli/check_text.h"
 #include "cli/missing_options.h"
@@ -12,6 +14,8 @@
 #include "cli/tell.h"
 #include "simulation/simulation_check.h"
 #include "simulation/simulation_checks.h"
+#include "simulation/simulation_command.h"
+#include "simulation/simulation_record.h"
 
 namespace kaldo {
 
@@ -47,6 +51,20 @@ ExitCode TellCheck(const FullCheck& check, const std::optional<RunForecast>& for
   return code;
 }
 
+/// Tells a fault that leaves nothing else to be checked.
+ExitCode TellFault(const TypedCheck& choices, bool as_json, const CommandLineStreams& streams) {
+  if (!as_json) {
+    return Tell(*choices.fault, streams);
+  }
+  FullCheck check;
+  AlikeGroups<Problem> of_no_interest;
+  check.flow = choices.simulates
+                   ? SimulationFlowName(ReadableSimulation(choices.typed, of_no_interest).flow)
+                   : AllocationFlowName(ReadableAllocation(choices.typed, of_no_interest).flow);
+  check.faults.Add(*choices.fault);
+  return TellCheck(check, "", as_json, streams);
+}
+
 }  // namespace
 
 ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams,
@@ -56,6 +74,9 @@ ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams,
     return ExitCode::kBadInput;
   }
   const bool as_json = choices.format == "json";
+  if (choices.fault) {
+    return TellFault(choices, as_json, streams);
+  }
   if (const auto project = choices.typed.find("project"); project != choices.typed.end()) {
     SettleProject(ProjectFolder(project->second), streams);
   }

@@ -12,7 +12,10 @@ namespace kaldo {
 
 /// What was typed behind `kaldo check`.
 struct TypedCheck {
-  TypedSettings typed;                 ///< those of the run
+  TypedSettings typed;  ///< those of the run
+  /// Of loci by name or the settings of an earlier run: then nothing else is told, since `typed` is
+  /// not what the run would get.
+  std::optional<Problem> fault;
   std::optional<Warning> odd_options;  ///< that do nothing
   bool simulates = false;              ///< `kaldo check simulate`
   std::string format = "text";

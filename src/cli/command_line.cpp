@@ -237,12 +237,12 @@ struct Commands {
 ExitCode CheckAndTell(Commands& commands, const CommandLineStreams& streams, FileSource& source) {
   TypedCheck& check = commands.typed_check;
   check.simulates = commands.check_simulation->parsed();
-  auto typed = commands.shortcuts.In(
-      (check.simulates ? commands.simulation : commands.allocation).Given(), check.simulates);
-  if (!typed) {
-    return Tell(typed.error(), streams);
+  check.typed = (check.simulates ? commands.simulation : commands.allocation).Given();
+  if (auto typed = commands.shortcuts.In(check.typed, check.simulates)) {
+    check.typed = std::move(*typed);
+  } else {
+    check.fault = std::move(typed.error());
   }
-  check.typed = std::move(*typed);
   if (check.simulates) {
     check.odd_options = WarnOfOptionsWithoutEffect(commands.simulation.Given(), check.typed);
   }

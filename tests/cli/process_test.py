@@ -198,6 +198,28 @@ class Checks(ProgramTest):
         self.assertEqual(as_text.count(b"young.txt, line"), 20)
         self.assertIn(b"\n... and 5 more\n", as_text)
 
+    def test_every_fault_of_what_is_known_of_offspring(self):
+        write_files(self.STUDY | {
+            "young.txt": b"".join(b"O%d 100102 200200\n" % k for k in range(1, 9)),
+            "known.txt": b"O1 P1 X1 P2 X2\nO9 P1\nO2 *\nO2 P1 P2\nO3\nO4 P1\nO5 P1 P2\n",
+            "groups.txt": b"O1 7\nO6 1 1\n"}, self.folder)
+        told = self.check("--candidates", "known.txt", "--offspring-groups", "groups.txt")
+        self.assertEqual([(each["file"], each["line"], each["found"].split()[0])
+                          for each in told["faults"]],
+                         [("known.txt", 1, '"X1"'), ("known.txt", 1, '"X2"'),
+                          ("known.txt", 2, '"O9"'), ("known.txt", 4, '"O2"'),
+                          ("known.txt", 5, "no"), ("groups.txt", 1, '"7";'),
+                          ("groups.txt", 2, "2"), ("known.txt", 6, "no")])
+
+    def test_a_fault_of_choices_by_name(self):
+        write_files(self.STUDY, self.folder)
+        for options, found in ((["--drop", "Q"], "Q"), (["--sequence", "B,Q"], "Q"),
+                               (["--settings", "loci.txt"], "loci.txt")):
+            told = self.check(*options)
+            self.assertEqual(told["flow"], "allocation, non-sexed")
+            self.assertEqual(len(told["faults"]), 1)
+            self.assertIn(found, str(told["faults"][0]))
+
     def test_the_project_folder(self):
         write_files(self.STUDY, self.folder)
         lake = self.folder / "lake"
