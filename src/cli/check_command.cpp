@@ -2,12 +2,14 @@
 #include "cli/check_command.h"
 
 #include <ostream>
+#include <set>
 
 #include "allocation/allocation_check.h"
 #include "allocation/allocation_command.h"
 #include "allocation/allocation_record.h"
 #include "cli/check_json.h"
 #include "cli/check_text.h"
+#include "cli/foreign_hint.h"
 #include "cli/missing_options.h"
 #include "cli/short_result.h"
 #include "cli/simulation_result_text.h"
@@ -34,15 +36,30 @@ void AddMissingOptions(const Settings& settings, AlikeGroups<Problem>& faults) {
   });
 }
 
+/// Tells which of the files at fault are those of other programs, each once.
+void TellForeignFiles(const FullCheck& check, const std::vector<RecordedInput>& inputs,
+                      FileSource& source, const CommandLineStreams& streams) {
+  std::set<std::string> told;
+  for (const Alike<Problem>& group : check.faults.Groups()) {
+    if (told.insert(group.kept.front().file).second &&
+        TellForeignFile(group.kept.front().file, inputs, source, streams)) {
+      return;  // the command converts all of them
+    }
+  }
+}
+
 /// `summary` tells what was read, where all of it is sound.
 ExitCode TellCheck(const FullCheck& check, const std::optional<RunForecast>& forecast,
-                   const std::string& summary, bool as_json, const CommandLineStreams& streams) {
+                   const std::string& summary, bool as_json,
+                   const std::vector<RecordedInput>& inputs, FileSource& source,
+                   const CommandLineStreams& streams) {
   const ExitCode code = check.IsSound() ? ExitCode::kDone : ExitCode::kBadInput;
   if (as_json) {
     streams.out << JsonText(check, forecast);
     return code;
   }
   streams.err << FaultsText(check);
+  TellForeignFiles(check, inputs, source, streams);
   TellWarnings(check.warnings, streams);
   if (check.IsSound()) {
     streams.err << summary;
@@ -93,13 +110,14 @@ ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams,
     const auto forecast = check.input && check.IsSound()
                               ? std::optional(ForecastRun(check.settings, *check.input))
                               : std::nullopt;
-    return TellCheck(check, forecast, summary, as_json, streams);
+    return TellCheck(check, forecast, summary, as_json, InputsOf(check.settings), source, streams);
   }
   auto check = CheckAllocation(choices.typed, choices.may_replace_other_flow, source);
   AddMissingOptions(check.settings, check.faults);
   const std::string summary =
       check.input ? InputSummary(check.settings.flow, *check.input) + '\n' : "";
-  return TellCheck(check, std::nullopt, summary, as_json, streams);
+  return TellCheck(check, std::nullopt, summary, as_json, InputsOf(check.settings), source,
+                   streams);
 }
 
 }  // namespace kaldo

@@ -14,7 +14,9 @@
 #include "base/version.h"
 #include "cli/check_command.h"
 #include "cli/completion.h"
+#include "cli/foreign_hint.h"
 #include "cli/help_footer.h"
+#include "cli/import_command.h"
 #include "cli/loci_by_name.h"
 #include "cli/missing_options.h"
 #include "cli/recorded_run.h"
@@ -41,7 +43,9 @@ ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineSt
     return RunAllocation(settings, progress, workforce);
   }();
   if (!run) {
-    return Tell(WithMissingOptions(run.error(), settings), streams);
+    const ExitCode code = Tell(WithMissingOptions(run.error(), settings), streams);
+    TellForeignFile(run.error().file, InputsOf(settings), workforce.Files(), streams);
+    return code;
   }
   TellWarnings(run->input.warnings, streams);
   streams.out << EscapedLines(ShortResult(settings, *run));
@@ -58,7 +62,9 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
     return RunSimulation(settings, progress, workforce);
   }();
   if (!run) {
-    return Tell(WithMissingOptions(run.error(), settings), streams);
+    const ExitCode code = Tell(WithMissingOptions(run.error(), settings), streams);
+    TellForeignFile(run.error().file, InputsOf(settings), workforce.Files(), streams);
+    return code;
   }
   TellWarnings(run->input.warnings, streams);
   streams.out << EscapedLines(ShortResult(settings, *run));
@@ -128,12 +134,15 @@ struct Commands {
       app.add_subcommand("rerun", "Repeat a run from its run record and compare the results");
   CLI::App* verify = app.add_subcommand("verify", "Tell whether results and inputs are unchanged");
 
+  CLI::App* import =
+      app.add_subcommand("import", "Convert files of other programs into those of a run");
   CLI::App* completion =
       app.add_subcommand("completion", "Print a script that completes command lines in a shell");
 
   TypedOptions allocation;  ///< of allocate and check
   TypedOptions simulation;  ///< of simulate and check simulate
   TypedCheck typed_check;
+  TypedImport typed_import;
   RerunChoices rerun_choices;
   std::string verified;
   std::string shell;
@@ -149,6 +158,7 @@ struct Commands {
     AddCheckOptions();
     AddShortcuts();
     AddRecordOptions();
+    typed_import.AddTo(*import);
     for (CLI::App* const command : {allocate, simulate, check, check_simulation, rerun}) {
       command->add_flag("--replace", decisions.may_replace_other_flow,
                         "Replace results of another flow in the project folder, too");
@@ -171,6 +181,7 @@ struct Commands {
              {check_simulation, "check simulate"},
              {rerun, "rerun"},
              {verify, "verify"},
+             {import, "import"},
              {completion, "completion"}}) {
       command->set_version_flag("--version", VersionLine());
       command->footer(HelpFooter(name));
@@ -316,6 +327,9 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
   }
   if (commands.verify->parsed()) {
     return RunVerify(commands.verified, streams);
+  }
+  if (commands.import->parsed()) {
+    return RunImport(commands.typed_import, streams, workforce.Files());
   }
   if (commands.completion->parsed()) {
     return PrintCompletion(commands, streams);

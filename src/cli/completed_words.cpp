@@ -8,6 +8,7 @@
 
 #include "allocation/allocation_settings.h"
 #include "cli/completion.h"
+#include "interchange/import/format_readers.h"
 #include "simulation/simulation_settings.h"
 
 namespace kaldo {
@@ -25,6 +26,15 @@ void AddChoices(SettingTable<Settings> table, Choices& choices) {
   }
 }
 
+void AddImportChoices(Choices& choices) {
+  for (const FormatReader& reader : FormatReaders()) {
+    choices["--from"].emplace_back(reader.key);
+  }
+  choices["--half-missing"] = {"undefined", "error"};
+  choices["--missing-parents"] = {"drop-individuals", "drop-loci", "least", "keep"};
+  choices["--rows"] = {"1", "2"};
+}
+
 /// The names that the options of a command take.
 Choices ChoicesOf(const std::string& path) {
   Choices choices;
@@ -34,6 +44,9 @@ Choices ChoicesOf(const std::string& path) {
     AddChoices(SimulationSettingTable(), choices);
   }
   choices["--format"] = {"text", "json"};
+  if (path == "import") {
+    AddImportChoices(choices);
+  }
   return choices;
 }
 

@@ -76,6 +76,11 @@ constexpr std::string_view kRerun =
 
 constexpr std::string_view kVerify = "  kaldo verify lake\n";
 
+constexpr std::string_view kImport =
+    "  kaldo import examples/foreign/pond.gen --offspring-populations pop3 --to imported\n"
+    "  kaldo import --parents examples/foreign/adults.csv \\\n"
+    "               --offspring examples/foreign/young.csv --to sexed-study\n";
+
 constexpr std::string_view kCompletion =
     "  eval \"$(kaldo completion bash)\"\n"
     "  kaldo completion fish > ~/.config/fish/completions/kaldo.fish\n";
@@ -88,13 +93,14 @@ constexpr std::string_view kExitCodes =
 /// The examples of a command, in their order.
 using Examples = std::array<std::string_view, 4>;
 
-constexpr std::array<std::pair<std::string_view, Examples>, 7> kExamples{
+constexpr std::array<std::pair<std::string_view, Examples>, 8> kExamples{
     {{"allocate", {kLake, kPonds, "", ""}},
      {"simulate", {kTrial, kPilot, kSexedTrial, kSexedPilot}},
      {"check", {kChecks, kCheckSimulation, "", ""}},
      {"check simulate", {kCheckSimulation, "", "", ""}},
      {"rerun", {kRerun, "", "", ""}},
      {"verify", {kVerify, "", "", ""}},
+     {"import", {kImport, "", "", ""}},
      {"completion", {kCompletion, "", "", ""}}}};
 
 }  // namespace
