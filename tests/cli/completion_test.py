@@ -22,7 +22,8 @@ import programs
 from programs import GENEROUS, ProgramTest, write_files
 
 KALDO, = programs.arguments(["KALDO"], __doc__)
-COMMANDS = ["allocate", "simulate", "check", "check simulate", "rerun", "verify", "completion"]
+COMMANDS = ["allocate", "simulate", "check", "check simulate", "rerun", "verify", "import",
+            "completion"]
 # Presses of the tabulator are what readline and its like understand; functions are asked directly
 # where every option is wanted.
 ASK_BASH = """source ./script; compopt() { :; }

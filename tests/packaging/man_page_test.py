@@ -24,7 +24,8 @@ COMMANDS = {"allocate": ["OPTIONS OF KALDO ALLOCATE AND KALDO CHECK", OF_RUNS],
             "check": ["OPTIONS OF KALDO ALLOCATE AND KALDO CHECK", OF_CHECKS],
             "check simulate": ["OPTIONS OF KALDO SIMULATE", OF_CHECKS],
             "simulate": ["OPTIONS OF KALDO SIMULATE", OF_RUNS],
-            "rerun": ["OPTIONS OF KALDO RERUN", OF_RUNS], "verify": [], "completion": []}
+            "rerun": ["OPTIONS OF KALDO RERUN", OF_RUNS], "verify": [],
+            "import": ["OPTIONS OF KALDO IMPORT"], "completion": []}
 OF_ALL = "OPTIONS OF ALL COMMANDS"
 OPTION = re.compile(r"(--[a-z-]+)(?:\s(\S+))?")
 

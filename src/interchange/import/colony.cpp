@@ -233,8 +233,8 @@ class ColonyReader {
 
 std::optional<std::string> RecogniseColony(const ForeignFile& file) {
   const auto lines = FullLinesOf(*file.text, kFirstSettings + 1);
-  if (lines.size() <= kFirstSettings || CountIn(lines[2].words[0]) == 0 ||
-      CountIn(lines[3].words[0]) == 0) {
+  if (lines.size() <= kFirstSettings || lines[2].words.size() != 1 || lines[3].words.size() != 1 ||
+      CountIn(lines[2].words[0]) == 0 || CountIn(lines[3].words[0]) == 0) {
     return std::nullopt;
   }
   const bool are_settings =

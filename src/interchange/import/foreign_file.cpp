@@ -35,6 +35,26 @@ std::vector<Row> ForeignFile::FirstRows(std::size_t count) const {
   return first;
 }
 
+std::optional<RowFault> ForeignFile::FaultOfFirstRows() const {
+  constexpr int kRowsLookedAt = 20;
+  if (!rows) {
+    return std::nullopt;
+  }
+  rows->Rewind();
+  Row row;
+  for (int k = 0; k < kRowsLookedAt; ++k) {
+    const auto read = rows->Next(row);
+    if (!read) {
+      return read.error();
+    }
+    if (!*read) {
+      break;
+    }
+  }
+  rows->Rewind();
+  return std::nullopt;
+}
+
 tl::expected<ForeignFile, std::string> OpenForeignBytes(const std::string& path, std::string bytes,
                                                         const std::optional<std::string>& sheet) {
   ForeignFile file;

@@ -27,6 +27,9 @@ struct ForeignFile {
 
   /// The first rows, of at most so many; fewer at a fault.
   std::vector<Row> FirstRows(std::size_t count) const;
+
+  /// What makes one of the first rows unreadable; nothing where they can be read.
+  std::optional<RowFault> FaultOfFirstRows() const;
 };
 
 /// Opens the file, or tells why it cannot be read. `sheet` names one of a workbook.

@@ -132,7 +132,7 @@ std::vector<std::string_view> WordsBetween(std::string_view text, std::string_vi
   std::vector<std::string_view> words;
   while (true) {
     text.remove_prefix(std::min(text.find_first_not_of(signs), text.size()));
-    if (text.empty()) {
+    if (text.empty() || words.size() == kMaxWords) {
       return words;
     }
     const std::size_t end = std::min(text.find_first_of(signs), text.size());

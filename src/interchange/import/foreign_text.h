@@ -56,7 +56,10 @@ std::string_view Trimmed(std::string_view text);
 /// With ASCII letters in lower case.
 std::string Lower(std::string_view text);
 
-/// The words of a text that any of the signs part.
+/// Words of a line; more are cut off, and then fit no study.
+inline constexpr std::size_t kMaxWords = 50'000;
+
+/// The words of a text that any of the signs part, so many at most.
 std::vector<std::string_view> WordsBetween(std::string_view text, std::string_view signs);
 
 }  // namespace kaldo

@@ -11,10 +11,10 @@ namespace {
 // A table with one column or two per locus is what everything else with columns would pass for.
 constexpr std::array<FormatReader, 7> kReaders{
     {{"genepop", "GENEPOP", RecogniseGenepop, ReadGenepop},
-     {"colony", "COLONY", RecogniseColony, ReadColony},
-     {"fstat", "FSTAT", RecogniseFstat, ReadFstat},
      {"genalex", "GenAlEx", RecogniseGenAlEx, ReadGenAlEx},
      {"genemapper", "GeneMapper", RecogniseGeneMapper, ReadGeneMapper},
+     {"colony", "COLONY", RecogniseColony, ReadColony},
+     {"fstat", "FSTAT", RecogniseFstat, ReadFstat},
      {"structure", "STRUCTURE", RecogniseStructure, ReadStructure},
      {"table", "a table of loci", RecogniseTable, ReadTable}}};
 

@@ -54,6 +54,10 @@ class GenepopReader {
           loci_.emplace_back(name);
         }
       }
+      if (loci_.size() > kMaxColumns) {
+        builder_.Fault(line_.number, "", "", fmt::format("it has more than {} loci", kMaxColumns));
+        return false;
+      }
     }
     builder_.Fault(line_.number, "", "", "there is no line POP behind the loci");
     return false;

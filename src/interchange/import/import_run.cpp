@@ -40,7 +40,9 @@ std::optional<RecognisedFormat> ChooseFormat(const ForeignFile& file, const Impo
     return RecognisedFormat{reader, "--from says so"};
   }
   auto recognised = RecogniseFormat(file);
-  if (!recognised) {
+  if (const auto fault = recognised ? std::nullopt : file.FaultOfFirstRows()) {
+    faults.Add({.file = file.path, .line = fault->line, .found = fault->found});
+  } else if (!recognised) {
     faults.Add({.file = file.path,
                 .found = fmt::format("its format is not known; if it is one of these, say so with "
                                      "--from: {}",

@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Files as other programs write them, oddities included, against what a geneticist makes of them by
+// hand.
+#include <filesystem>
+#include <map>
+
+#include <rapidcheck/gtest.h>
+
+#include "interchange/original_names.h"
+#include "tests/cli/command_support.h"
+
+namespace kaldo {
+namespace {
+
+using test::Arguments;
+using test::Outcome;
+using test::ReadFile;
+using test::RunCommand;
+using test::Words;
+using testing::HasSubstr;
+using namespace std::string_literals;
+
+using Files = std::map<std::string, std::string>;
+
+class ImportTest : public testing::Test {
+ protected:
+  ImportTest() { std::filesystem::current_path(folder_.Path(".")); }
+  ~ImportTest() override { std::filesystem::current_path("/"); }
+
+  Outcome Import(const Files& files, const std::string& arguments) {
+    for (const auto& [name, text] : files) {
+      folder_.Write(name, text);
+    }
+    return RunCommand(Words("import --to out " + arguments));
+  }
+
+  /// All that was written but the report and, unless wanted, the names.
+  Files Written(bool with_names = false) {
+    Files written;
+    for (const std::string& name : folder_.FilesIn("out")) {
+      if (name != "Import report.txt" && (with_names || name != "names.tsv")) {
+        written[name] = ReadFile(folder_.Path("out/" + name));
+      }
+    }
+    return written;
+  }
+
+  test::TempFolder folder_;
+};
+
+struct Case {
+  std::string what;
+  Files files;
+  std::string arguments;
+  Files written;
+};
+
+const std::string kPairs = "id,role,L.1,L.2,Ma,Mb\n";
+
+const std::vector<Case> kCases = {
+    {"GENEPOP with two widths, lines continued, names with blanks or none",
+     {{"g",
+       "\r\nL, M\r\nN 1\r\nPoP\r\nA, 124128 0810 001002\r\n B 2 , 124130 0808\r\n001001\r\n"
+       "pop\r\n, 128130\t0810 000002\r\n, 128128 0000 000000\r\n"}},
+     "g --offspring-populations 2",
+     {{"loci.txt", "L\nM\nLoc1\n"},
+      {"parents.txt", "A 124128 008010 001002\nInd1 124130 008008 001001\n"},
+      {"offspring.txt", "pop2_row1 128130 008010 000000\npop2_row2 128128 000000 000000\n"},
+      {"names.tsv", "kind\tcode\toriginal\nindividual\tInd1\tB 2\nlocus\tLoc1\tN 1\n"}}},
+    {"every word for a missing allele, and allele 120",
+     {{"t",
+       "id;role;L;;M.1;M.2;N\nA;adult;120;120.0;99;101,0;120/120\nB;offspring;NA;n/a;-9;-1;?\n"
+       "C;young;0;00;.;-;X\nD;juvenile;120;0;-9.0;;000000\n"}},
+     "t --missing X",
+     {{"loci.txt", "L\nM\nN\n"},
+      {"parents.txt", "A 120120 099101 120120\n"},
+      {"offspring.txt", "B 000000 000000 000000\nC 000000 000000 000000\nD 000000 000000 000000\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"Windows-1252, quoted cells, sexes, groups of both sexes together, four digits",
+     {{"t",
+       "name,Sex,Pond,\"L\"\"1\"\n\"J\xf6rg\",M,b,9981002\nK,male,a,998/1002\n"
+       "L,1,b,998/1002\nM,f,\"c,d\",998/998\nN,2,a,1002/1002\n"},
+      {"y", "ID\tL\"1\nY\t998/1002\n"}},
+     "--parents t --offspring y",
+     {}},
+    {"UTF-16 with groups of one sex",
+     {{"t",
+       "\xff\xfei\0d\0,\0s\0e\0x\0,\0p\0o\0p\0,\0L\0\n\0A\0,\0m\0,\0x\0,\0"
+       "1\0/\0"
+       "2\0\n\0B\0,\0f\0,\0y\0,\0"
+       "1\0/\0"
+       "1\0\n\0"s},
+      {"y", "id,L\nY,1/2\n"}},
+     "--parents t --offspring y",
+     {{"loci.txt", "L\n"},
+      {"males.txt", "A 001002\n*\n"},
+      {"females.txt", "*\nB 001001\n"},
+      {"offspring.txt", "Y 001002\n"},
+      {"names.tsv", "kind\tcode\toriginal\ngroup\t1\tx\ngroup\t2\ty\n"}}},
+    {"GenAlEx with other columns behind",
+     {{"a",
+       "2,4,2,2,2\n,,,old,young\nSample,Pop,L,,M,,,x\nA,old,124,128,96,96,,1\n"
+       "B,old,126,126,98,96,,2\nY1,young,124,126,96,98,,3\nY2,young,0,0,96,98,,\n"}},
+     "a --offspring-populations young",
+     {{"loci.txt", "L\nM\n"},
+      {"parents.txt", "A 124128 096096\nB 126126 098096\n"},
+      {"offspring.txt", "Y1 124126 096098\nY2 000000 096098\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"GeneMapper with homozygotes, repeated calls and lines of samples mixed",
+     {{"m",
+       "Run\tSample Name\tMarker\tAllele 1\tAllele 2\tAllele 3\n1\tA\tL\t124\t128\t\n"
+       "1\tB\tL\t126\t\t\n2\tA\tM\t96\t98\t\n2\tA\tL\t128\t124\t\n2\tB\tM\t96\t96\t\n"},
+      {"y", "id,M,L\nY,96/96,124/126\n"}},
+     "--parents m --offspring y",
+     {{"loci.txt", "L\nM\n"},
+      {"parents.txt", "A 128124 096098\nB 126126 096096\n"},
+      {"offspring.txt", "Y 124126 096096\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"STRUCTURE in two rows, repeats made sizes",
+     {{"s", "L M\nA 1 0 10 96\nA 1 0 12 98\nY 2 0 10 -9\nY 2 0 11 -9\n"}},
+     "s --leading id,group,flag --offspring-populations 2 --repeat-length L=4",
+     {{"loci.txt", "L\nM\n"},
+      {"parents.txt", "A 040048 096098\n"},
+      {"offspring.txt", "Y 040044 000000\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"STRUCTURE in one row",
+     {{"s", "\tL\tM\nA\t124\t128\t96\t98\nB\t124\t124\t96\t96\n"}, {"y", "id,L,M\nY,1/2,3/4\n"}},
+     "--parents s --offspring y",
+     {{"loci.txt", "L\nM\n"},
+      {"parents.txt", "A 124128 096098\nB 124124 096096\n"},
+      {"offspring.txt", "Y 001002 003004\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"FSTAT",
+     {{"f", "2 2 130 3\nL\nM\n 1 124128 096098\n 1 124124 96096\n 2 124128 0\n"}},
+     "f --offspring-populations 2",
+     {{"loci.txt", "L\nM\n"},
+      {"parents.txt", "pop1_row1 124128 096098\npop1_row2 124124 096096\n"},
+      {"offspring.txt", "pop2_row1 124128 000000\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"COLONY with a known father, a known mother and an excluded one",
+     {{"c",
+       "'d'\n'o'\n3 ! offspring\n2 ! loci\n1\n0\n2\n0\n0\n0 0\n0\n1\n0\n0\n1\n2\n0\n9\n0\n1\n3\n"
+       "mk@\n0@\n0.0@\n0.01@\nY1 1 2 3 4\nY2 1 1 3 3\nY3 0 0 3 4\n\n0.5 0.5\n2 2\n"
+       "M1 1 1 3 3\nM2 2 2 4 4\nF1 1 2 3 4\nF2 2 2 3 3\n1 0\nY1 M2\n1 0\nY2 F1\n0\n0\n0\n"
+       "1\nY3 1 F2\n"}},
+     "c",
+     {{"loci.txt", "mk1\nmk2\n"},
+      {"males.txt", "M1 001001 003003\nM2 002002 004004\n"},
+      {"females.txt", "F1 001002 003004\nF2 002002 003003\n"},
+      {"offspring.txt", "Y1 001002 003004\nY2 001001 003003\nY3 000000 003004\n"},
+      {"known-mothers.txt", "Y2 F1\n"},
+      {"candidates.txt", "Y1 M2 F1 F2\nY3 M1 M2 F1\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"names that get codes, an individual twice, loci chosen",
+     {{"t", kPairs + "Station04_01,parent,1,2,x,\nStation04_02,parent,1,2,y,\nUC,parent,1,1,,\n"
+                     "*A,parent,2,2,,\nB,parent,1,2,1,1\nB,parent,1,2,3,3\nY,offspring,1,1,,\n"}},
+     "t --loci L",
+     {{"loci.txt", "L\n"},
+      {"parents.txt", "Ind1 001002\nInd2 001002\nInd3 001001\nInd4 002002\nB 001002\n"},
+      {"offspring.txt", "Y 001001\n"},
+      {"names.tsv",
+       "kind\tcode\toriginal\nindividual\tInd1\tStation04_01\nindividual\tInd2\tStation04_02\n"
+       "individual\tInd3\tUC\nindividual\tInd4\t*A\n"}}},
+    {"the least loss: locus M rather than two parents, parent D rather than locus L",
+     {{"t", kPairs + "A,parent,1,2,,\nB,parent,1,2,0,0\nC,parent,1,1,1,1\nD,parent,,,1,1\n"
+                     "E,parent,1,1,0,0\nY,offspring,1,1,5,5\n"}},
+     "t --missing-parents least",
+     {{"loci.txt", "L\n"},
+      {"parents.txt", "A 001002\nB 001002\nC 001001\nE 001001\n"},
+      {"offspring.txt", "Y 001001\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+};
+
+TEST_F(ImportTest, WritesWhatTheFilesMean) {
+  for (const Case& each : kCases) {
+    std::filesystem::remove_all("out");
+    const Outcome outcome = Import(each.files, each.arguments);
+    EXPECT_EQ(outcome.code, ExitCode::kDone) << each.what << '\n' << outcome.err;
+    if (!each.written.empty()) {
+      EXPECT_EQ(Written(true), each.written) << each.what;
+    }
+  }
+}
+
+struct Refused {
+  Files files;
+  std::string arguments;
+  std::string message;
+};
+
+TEST_F(ImportTest, TellsEveryFaultWithItsPlaceAndWritesNothing) {
+  const std::vector<Refused> cases = {
+      {{{"t", kPairs + "A,parent,206.84,1,\"95,4\",1\nB,parent,154*,1,A,1\nC,egg,12345,1,1,1\n"}},
+       "t",
+       "t, line 2, column \"L.1\" (A): \"206.84\" is a raw size; bin it to whole base pairs first\n"
+       "t, line 2, column \"Ma\" (A): \"95,4\" is a raw size; bin it to whole base pairs first\n"
+       "t, line 3, column \"L.1\" (B): \"154*\" is no allele"},
+      {{{"t", "id,role,L\nA,parent,96104\n"}}, "t", "\"96104\" has 5 digits"},
+      {{{"t", "id,role,L\nA,parent,124/x\nB,parent,124\n"}},
+       "t",
+       "t, line 3, column \"L\" (B): \"124\" has 3 digits: it is one allele alone"},
+      {{{"t", kPairs + "A,parent,1,2,3,3\nA,parent,1,1,3,3\n"}},
+       "t",
+       "t, line 3 (A): the name stands in line 2 of t with other genotypes"},
+      {{{"t", kPairs + "A,parent,1,2,3,0\n"}},
+       "t --half-missing error",
+       "t, line 2, column \"Mb\" (A): one allele is 3, the other one is missing"},
+      {{{"t", kPairs + "A,parent,1,2,,\nB,parent,1,2,3,3\n"}},
+       "t",
+       "1 of 2 parents are undefined at some locus"},
+      {{{"t", "id,L\nA,1/2\nB,1/2\n"}}, "t", "Who is a parent and who an offspring? Of 2 indiv"},
+      {{{"g", "t\nL\nM\npop\nA, 001002\nB, 001002 0102\nC 001002 001001\n"}},
+       "--parents g",
+       "g, line 5 (A): it has 1 of 2 loci\n"},
+      {{{"g", "t\nL\npop\nA, 0102\nB, 001002\nA, 01\n"}},
+       "--parents g --unique-names",
+       "g, line 5, column \"L\" (B): \"001002\" has 6 digits, the fields of the locus before have "
+       "4\n"
+       "g, line 6, column \"L\" (A): \"01\" holds one allele"},
+      {{{"a", "1,3,2,1,2\n,,,x,y\nID,Pop,L,\nA,x,1,2\nB,y,1,2\n"}},
+       "--parents a",
+       "a, line 1: line 1 says 3 samples, there are 2: is the file whole?\n"
+       "a, line 1: line 1 says 2 samples of population \"y\", there are 1"},
+      {{{"m", "Sample Name,Marker,Allele 1,Allele 2,Allele 3\nA,L,1,2,\nA,L,1,1,\nB,L,1,2,3\n"}},
+       "--parents m",
+       "m, line 3, column \"L\" (A): line 2 calls this sample and marker otherwise\n"
+       "m, line 4, column \"Allele 3\" (B): \"3\" is a third allele"},
+      {{{"t", "id,L\nA,1/2\n"}, {"y", "id,M\nY,1/2\n"}},
+       "--parents t --offspring y",
+       "y: the locus \"M\" is not in t"},
+      {{{"t", "id,L\n\"A,1/2\n"}},
+       "--parents t",
+       "t, line 2: a quotation mark is opened and never"},
+      {{{"t", "id,L\nA,1\0/2\n"s}}, "--parents t", "t: it holds bytes of 0"},
+      {{{"t", "\xd0\xcf\x11\xe0"}}, "--parents t", "t: it is a workbook of the old kind"},
+      {{{"t", "PK\x03\x04 no archive"}}, "--parents t", "t: it is "},
+      {{}, "--parents nowhere", "nowhere: Cannot open file"},
+      {{{"t", "A 124128 166170\n"}}, "t", "t: its format is not known"},
+      {{{"out/loci.txt", "mine"}, {"t", "id,L\nA,1/2\n"}},
+       "--parents t",
+       "\"out/loci.txt\" is there"},
+  };
+  for (const Refused& each : cases) {
+    std::filesystem::remove_all("out");
+    std::filesystem::create_directory("out");
+    const Outcome outcome = Import(each.files, each.arguments);
+    EXPECT_EQ(outcome.code, ExitCode::kBadInput) << each.message;
+    EXPECT_THAT(outcome.err, HasSubstr(each.message));
+    EXPECT_EQ(Written().size(), each.files.contains("out/loci.txt") ? 1U : 0U) << each.message;
+  }
+}
+
+TEST_F(ImportTest, RunsGivenForeignFilesNameTheirFormatBehindTheirOwnSentence) {
+  folder_.Write("g", "t\nL\nM\npop\nA, 001002 001002\npop\nY, 001001 001002\n");
+  folder_.Write("y", "id;L\nY;1/2\n");
+  folder_.Write("loci", "L\n");
+  for (const std::string command : {"allocate --project p", "check"}) {
+    const Outcome outcome = RunCommand(Words(command + " --loci loci --parents g --offspring y"));
+    EXPECT_EQ(outcome.code, ExitCode::kBadInput);
+    EXPECT_THAT(outcome.err, testing::StartsWith("Some offspring loci are represented"));
+    EXPECT_THAT(outcome.err, testing::EndsWith("Convert it:\n  kaldo import --parents g "
+                                               "--offspring y --to imported\n"));
+  }
+}
+
+/// A cell of one allele or of both as a table writes it.
+std::string Joined(const std::vector<std::string>& cells, const std::string& sign) {
+  return fmt::format("{}", fmt::join(cells, sign));
+}
+
+using Genotypes = std::vector<std::pair<int, int>>;
+
+RC_GTEST_FIXTURE_PROP(ImportTest, EveryFormatOfOneStudyGivesTheSameFiles, ()) {
+  const auto loci = *rc::gen::inRange<std::size_t>(1, 5);
+  const auto individuals = *rc::gen::container<std::vector<Genotypes>>(
+      *rc::gen::inRange<std::size_t>(2, 8),
+      rc::gen::container<Genotypes>(
+          loci, rc::gen::pair(rc::gen::inRange(100, 140), rc::gen::inRange(100, 140))));
+  std::string genepop = "title\n";
+  std::string wide = "id";
+  std::string narrow = "id";
+  std::string structure;
+  std::string genemapper = "Sample Name\tMarker\tAllele 1\tAllele 2\n";
+  for (std::size_t k = 0; k < loci; ++k) {
+    genepop += fmt::format("L{}\n", k);
+    wide += fmt::format(";L{0}.1;L{0}.2", k);
+    narrow += fmt::format(",L{}", k);
+    structure += fmt::format("L{} ", k);
+  }
+  genepop += "POP\n";
+  wide += '\n';
+  narrow += '\n';
+  structure += '\n';
+  for (std::size_t i = 0; i < individuals.size(); ++i) {
+    std::vector<std::string> joined;
+    std::vector<std::string> first;
+    std::vector<std::string> second;
+    std::vector<std::string> both;
+    for (std::size_t k = 0; k < loci; ++k) {
+      const auto [one, two] = individuals[i][k];
+      joined.push_back(fmt::format("{}{}", one, two));
+      first.push_back(fmt::format("{}", one));
+      second.push_back(fmt::format("{}", two));
+      both.push_back(fmt::format("{};{}", one, two));
+      genemapper += fmt::format("A{}\tL{}\t{}\t{}\n", i, k, one, one == two ? "" : second.back());
+    }
+    genepop += fmt::format("A{}, {}\n", i, Joined(joined, " "));
+    wide += fmt::format("A{};{}\n", i, Joined(both, ";"));
+    narrow += fmt::format("A{},{}\n", i, Joined(joined, ","));
+    structure += fmt::format("A{0} {1}\nA{0} {2}\n", i, Joined(first, " "), Joined(second, " "));
+  }
+  std::filesystem::remove_all("out");
+  RC_ASSERT(Import({{"f", genepop}}, "--parents f").code == ExitCode::kDone);
+  const Files expected = Written();
+  for (const std::string& text : {wide, narrow, structure, genemapper}) {
+    const Outcome outcome = Import({{"f", text}}, "--parents f");
+    RC_ASSERT(outcome.err == "");
+    RC_ASSERT(Written() == expected);
+  }
+}
+
+TEST(OriginalNames, AreReadAsTheyWereWritten) {
+  OriginalNames names;
+  names.Add({NameKind::kIndividual, "Ind1", "a\"b\tc\nd"});
+  names.Add({NameKind::kLocus, "Ind1", " "});
+  names.Add({NameKind::kGroup, "1", ""});
+  const auto read = OriginalNames::FromText(names.Text(), "names.tsv");
+  ASSERT_TRUE(read.has_value());
+  EXPECT_EQ(read->All(), names.All());
+  EXPECT_EQ(read->Original(NameKind::kIndividual, "Ind1"), "a\"b\tc\nd");
+  EXPECT_EQ(read->Original(NameKind::kGroup, "Ind1"), "Ind1");
+  EXPECT_FALSE(OriginalNames::FromText(names.Text() + "group\t1\tx\n", "names.tsv").has_value());
+}
+
+}  // namespace
+}  // namespace kaldo
