@@ -86,7 +86,7 @@ std::vector<std::string> ConversionLines(const ImportLog& log) {
   std::vector<std::string> lines;
   lines.reserve(log.conversions.size());
   for (const auto& [what, where] : log.conversions) {
-    lines.push_back(fmt::format("{}: lines {}", what, where.Text()));
+    lines.push_back(fmt::format("{}: line {}", what, where.Text()));
   }
   return lines;
 }
