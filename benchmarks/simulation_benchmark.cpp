@@ -80,7 +80,7 @@ class Study {
 void JumpOverIteration(benchmark::State& state) {
   const Study study(Flow::kNonSexed, 200, 1000);
   const SimulationInput input = study.Load();
-  IterationStates states(study.Settings().flow, input, 1);
+  IterationStates states(study.Settings(), input, 1);
   for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(states.Next(1));
   }

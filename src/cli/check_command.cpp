@@ -69,7 +69,8 @@ ExitCode TellCheck(const FullCheck& check, const std::optional<RunForecast>& for
 }
 
 /// Tells a fault that leaves nothing else to be checked.
-ExitCode TellFault(const TypedCheck& choices, bool as_json, const CommandLineStreams& streams) {
+ExitCode TellFault(const TypedCheck& choices, bool as_json, FileSource& source,
+                   const CommandLineStreams& streams) {
   if (!as_json) {
     return Tell(*choices.fault, streams);
   }
@@ -79,7 +80,7 @@ ExitCode TellFault(const TypedCheck& choices, bool as_json, const CommandLineStr
                    ? SimulationFlowName(ReadableSimulation(choices.typed, of_no_interest).flow)
                    : AllocationFlowName(ReadableAllocation(choices.typed, of_no_interest).flow);
   check.faults.Add(*choices.fault);
-  return TellCheck(check, "", as_json, streams);
+  return TellCheck(check, std::nullopt, "", as_json, {}, source, streams);
 }
 
 }  // namespace
@@ -92,7 +93,7 @@ ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams,
   }
   const bool as_json = choices.format == "json";
   if (choices.fault) {
-    return TellFault(choices, as_json, streams);
+    return TellFault(choices, as_json, source, streams);
   }
   if (const auto project = choices.typed.find("project"); project != choices.typed.end()) {
     SettleProject(ProjectFolder(project->second), streams);

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <map>
 
+#include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
 #include "interchange/original_names.h"
