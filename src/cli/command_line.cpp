@@ -280,6 +280,24 @@ ExitCode PrintCompletion(const Commands& commands, const CommandLineStreams& str
   return ExitCode::kDone;
 }
 
+ExitCode SimulateTyped(const Commands& commands, const CommandLineStreams& streams,
+                       Workforce& workforce) {
+  const TypedSettings given = commands.simulation.Given();
+  const auto typed = commands.shortcuts.In(given, true);
+  if (typed) {
+    if (const auto problem = MissingProject(*typed)) {
+      return Tell(*problem, streams);
+    }
+  }
+  auto settings = typed.and_then(SimulationFrom);
+  const ExitCode code = RunAndTell(std::move(settings), commands.decisions, streams, workforce);
+  const auto odd = typed ? WarnOfOptionsWithoutEffect(given, *typed) : std::nullopt;
+  if (code == ExitCode::kDone && odd) {
+    TellWarnings({*odd}, streams);
+  }
+  return code;
+}
+
 ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineStreams& streams,
                   Workforce& workforce) {
   Commands commands;
@@ -301,20 +319,7 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
         commands.decisions, streams, workforce);
   }
   if (commands.simulate->parsed()) {
-    const TypedSettings given = commands.simulation.Given();
-    const auto typed = commands.shortcuts.In(given, true);
-    if (typed) {
-      if (const auto problem = MissingProject(*typed)) {
-        return Tell(*problem, streams);
-      }
-    }
-    auto settings = typed.and_then(SimulationFrom);
-    const ExitCode code = RunAndTell(std::move(settings), commands.decisions, streams, workforce);
-    const auto odd = typed ? WarnOfOptionsWithoutEffect(given, *typed) : std::nullopt;
-    if (code == ExitCode::kDone && odd) {
-      TellWarnings({*odd}, streams);
-    }
-    return code;
+    return SimulateTyped(commands, streams, workforce);
   }
   if (commands.check->parsed()) {
     return CheckAndTell(commands, streams, workforce.Files());

@@ -65,7 +65,7 @@ void SubsetModel::sort(int column, Qt::SortOrder order) {
   Arrange();
 }
 
-/// Picks the subsets to show and puts them into order; equals stay in the order of the run.
+/// Picks the subsets to show and puts them into order.
 void SubsetModel::Arrange() {
   beginResetModel();
   shown_.clear();
@@ -78,6 +78,12 @@ void SubsetModel::Arrange() {
       shown_.push_back(static_cast<std::uint32_t>(subset));
     }
   }
+  SortShown();
+  endResetModel();
+}
+
+/// Equals stay in the order of the run.
+void SubsetModel::SortShown() {
   const auto sort_by = [this](auto key_of) {
     std::stable_sort(shown_.begin(), shown_.end(), [&](std::uint32_t a, std::uint32_t b) {
       return order_ == Qt::AscendingOrder ? key_of(a) < key_of(b) : key_of(b) < key_of(a);
@@ -110,7 +116,6 @@ void SubsetModel::Arrange() {
       sort_by([](std::size_t subset) { return subset; });
       break;
   }
-  endResetModel();
 }
 
 int SubsetModel::rowCount(const QModelIndex& parent) const {

@@ -45,6 +45,7 @@ class SubsetModel : public QAbstractTableModel {
   const std::vector<SubsetFigures>& Subsets() const { return simulation_->run.result.subsets; }
   bool IsBest(std::size_t subset) const;
   void Arrange();
+  void SortShown();
   QString CellText(SubsetColumn column, std::size_t subset) const;
   double ErrorOf(std::size_t subset) const;
 
