@@ -135,7 +135,7 @@ TEST_F(FlowsTest, SimulatesAllSubsetsWithoutSexes) {
     TypeExample(script, "", false, {"5.5", "20"});
     script.Click("Ok").Await("PseudoOffspring").Type("OffspringPerIteration", Text("30"));
     script.Click("Uniform").Click("Ok").Await("Tolerance");
-    script.Do([](QWidget&) { EXPECT_FALSE(test::VisibleWidget("Tolerance")->isEnabled()); });
+    script.Do([](QWidget&) { EXPECT_FALSE(VisibleWidget("Tolerance")->isEnabled()); });
     script.Click("AllocateWithRun").Type("Tolerance", Text("0"));
     script.Click("Ok").Await("Strategy").Click("AllSubsets").Type("StartWith", Text("8"));
     script.Click("Ok").Await("Output").Click("PrintIterations").Click("KeepMatrices");

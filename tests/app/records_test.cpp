@@ -94,7 +94,8 @@ TEST_F(RecordsTest, ASimulationOfMinimalSubsets) {
   ExpectRepeated(
       "kaldo simulate --project p --loci data/loci.txt --pseudo-collected-sample data/sample.txt "
       "--pseudo-collected 5 --uncollected-sample data/parents.txt --uncollected 2.5 --iterations 4 "
-      "--offspring-per-iteration 20 --tolerance 2 --error uniform=0.02 --allocate-with uniform=0.01 "
+      "--offspring-per-iteration 20 --tolerance 2 --error uniform=0.02 --allocate-with "
+      "uniform=0.01 "
       "--undefined 0.1 --strategy minimal --criterion 0.3 "
       "--start-with 2 --use A,B,D --print-iterations --keep matrices --seed 9",
       {"NonSexedSimulationStart", "Parents", "PseudoOffspring", "Tolerance", "Strategy", "Output"});
