@@ -2,7 +2,10 @@
 #include "cli/import_command.h"
 
 #include <algorithm>
+#include <array>
+#include <map>
 #include <ostream>
+#include <tuple>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -17,8 +20,10 @@ namespace kaldo {
 namespace {
 
 std::vector<std::string> NamesIn(const std::string& text) {
+  const auto words = WordsBetween(text, ",");
   std::vector<std::string> names;
-  for (const std::string_view word : WordsBetween(text, ",")) {
+  names.reserve(words.size());
+  for (const std::string_view word : words) {
     names.emplace_back(Trimmed(word));
   }
   return names;
@@ -199,9 +204,9 @@ ExitCode RunImport(const TypedImport& typed, const CommandLineStreams& streams,
     streams.err << "Warning: " << Escaped(warning) << '\n';
   }
   streams.out << EscapedLines(study->summary)
-              << Escaped(fmt::format("Files in \"{}\"; what was done is told in \"Import "
-                                     "report.txt\"",
-                                     choices->folder))
+              << Escaped(
+                     fmt::format(R"(Files in "{}"; what was done is told in "Import report.txt")",
+                                 choices->folder))
               << "\n\n"
               << Escaped(study->command) << '\n';
   return ExitCode::kDone;

@@ -22,8 +22,10 @@ struct FstatHead {
 };
 
 std::optional<FstatHead> HeadIn(std::string_view line) {
+  const auto words = WordsBetween(line, kBlanks);
   std::vector<std::int32_t> numbers;
-  for (const std::string_view word : WordsBetween(line, kBlanks)) {
+  numbers.reserve(words.size());
+  for (const std::string_view word : words) {
     numbers.push_back(ParseInteger(word).value_or(0));
   }
   if (numbers.size() != 4 || numbers[0] < 1 || numbers[1] < 1 || numbers[2] < 1 || numbers[3] < 1 ||

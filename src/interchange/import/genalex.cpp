@@ -49,6 +49,7 @@ std::optional<Counts> CountsIn(const Row& row) {
 /// The names of the loci, and columns behind them that are passed over.
 std::vector<std::string> LociIn(const Row& heads, const Counts& counts, StudyBuilder& builder) {
   std::vector<std::string> loci;
+  loci.reserve(counts.loci);
   for (std::size_t k = 0; k < counts.loci; ++k) {
     const std::string& first = heads.Cell(2 + 2 * k);
     const std::string& second = heads.Cell(3 + 2 * k);

@@ -152,7 +152,8 @@ void SettleGroups(SettledStudy& settled, bool no_groups, ImportLog& log) {
     const std::size_t population = settled.populations[group];
     settled.names.originals.Add(
         {NameKind::kGroup, fmt::format("{}", group + 1), study.populations[population]});
-    for (const auto& [sex, word] : {std::pair(Sex::kMale, "male"), {Sex::kFemale, "female"}}) {
+    for (const auto& [sex, word] :
+         {std::pair(Sex::kMale, "male"), std::pair(Sex::kFemale, "female")}) {
       if (settled.is_sexed && !HasParent(study, population, sex)) {
         log.warnings.push_back(fmt::format("Group {} ({}) has no {}: no pair can be formed in it.",
                                            group + 1, study.populations[population], word));

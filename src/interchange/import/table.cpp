@@ -279,7 +279,7 @@ std::optional<std::string> RecogniseTable(const ForeignFile& file) {
 
 void ReadTable(ForeignFile& file, StudyBuilder& builder) {
   if (!file.rows) {
-    builder.Fault(1, "", "", "there is no tab, \";\" or \",\" between cells in its first line");
+    builder.Fault(1, "", "", R"(there is no tab, ";" or "," between cells in its first line)");
     return;
   }
   file.rows->Rewind();
