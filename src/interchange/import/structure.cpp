@@ -41,15 +41,12 @@ struct Layout {
   std::size_t leading = 1;  ///< fields before the genotypes
 };
 
-/// As far as the number of fields tells it.
+/// The layout with so many rows per individual, if the fields of a line fit it.
 std::optional<Layout> LayoutOf(std::size_t loci, std::size_t fields, std::size_t rows) {
-  for (const std::size_t each : {std::size_t{2}, std::size_t{1}}) {
-    const std::size_t genotypes = each == 2 ? loci : 2 * loci;
-    if ((rows == 0 || rows == each) && fields > genotypes && fields - genotypes <= kMostLeading) {
-      return Layout{loci, each, fields - genotypes};
-    }
-  }
-  return std::nullopt;
+  const std::size_t genotypes = rows == 2 ? loci : 2 * loci;
+  return fields > genotypes && fields - genotypes <= kMostLeading
+             ? std::optional(Layout{loci, rows, fields - genotypes})
+             : std::nullopt;
 }
 
 /// Lines with genotypes have as many fields, and numbers behind the leading ones.
@@ -60,10 +57,34 @@ bool AreGenotypes(const FieldsOfLine& fields, const Layout& layout) {
                      IsWholeNumber);
 }
 
+/// The layout that the first lines show: two rows of an individual have the same field at their
+/// head. `rows` is what the user says of them, or 0.
+std::optional<Layout> FindLayoutIn(std::string_view text, std::size_t rows) {
+  TextLines lines(text);
+  TextLine line;
+  FieldsOfLine heads;
+  FieldsOfLine first;
+  FieldsOfLine second;
+  if (!NextFullLine(lines, line, heads) || !NextFullLine(lines, line, first) ||
+      std::all_of(heads.begin(), heads.end(), IsWholeNumber)) {
+    return std::nullopt;
+  }
+  const bool has_second = NextFullLine(lines, line, second);
+  for (const std::size_t each : {std::size_t{2}, std::size_t{1}}) {
+    const auto layout = LayoutOf(heads.size(), first.size(), each);
+    const bool are_alike = has_second && first.front() == second.front();
+    const bool looks_so = layout && AreGenotypes(first, *layout) && (each == 1 || are_alike);
+    if (layout && (rows == 0 ? looks_so : rows == each)) {
+      return layout;
+    }
+  }
+  return std::nullopt;
+}
+
 class StructureReader {
  public:
   StructureReader(std::string_view text, StudyBuilder& builder)
-      : lines_(text), builder_(builder), leading_(builder.Choices().leading) {}
+      : text_(text), lines_(text), builder_(builder), leading_(builder.Choices().leading) {}
 
   void Read() {
     FieldsOfLine fields;
@@ -83,8 +104,7 @@ class StructureReader {
 
  private:
   bool FindLayout(const FieldsOfLine& fields) {
-    const auto found =
-        LayoutOf(loci_.size(), fields.size(), builder_.Choices().rows_per_individual);
+    const auto found = FindLayoutIn(text_, builder_.Choices().rows_per_individual);
     if (!found) {
       builder_.Fault(line_.number, "", "",
                      fmt::format("{} and {} fields do not fit: say --rows 1 or --rows 2",
@@ -170,6 +190,7 @@ class StructureReader {
     return true;
   }
 
+  std::string_view text_;
   TextLines lines_;
   StudyBuilder& builder_;
   std::vector<std::string> leading_;
@@ -181,23 +202,12 @@ class StructureReader {
 }  // namespace
 
 std::optional<std::string> RecogniseStructure(const ForeignFile& file) {
-  TextLines lines(*file.text);
-  TextLine line;
-  FieldsOfLine heads;
-  FieldsOfLine first;
-  FieldsOfLine second;
-  if (!NextFullLine(lines, line, heads) || !NextFullLine(lines, line, first) ||
-      !NextFullLine(lines, line, second) ||
-      std::all_of(heads.begin(), heads.end(), IsWholeNumber)) {
-    return std::nullopt;
-  }
-  const auto layout = LayoutOf(heads.size(), first.size(), 0);
-  if (!layout || !AreGenotypes(first, *layout) || !AreGenotypes(second, *layout) ||
-      (layout->rows == 2 && first.front() != second.front())) {
+  const auto layout = FindLayoutIn(*file.text, 0);
+  if (!layout) {
     return std::nullopt;
   }
   return fmt::format("the first line names {}, and {} with {} of alleles behind each name",
-                     Counted(heads.size(), "locus", "loci"),
+                     Counted(layout->loci, "locus", "loci"),
                      layout->rows == 2 ? "two rows follow" : "one row follows",
                      layout->rows == 2 ? "one column" : "two columns");
 }

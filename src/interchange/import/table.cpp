@@ -41,8 +41,12 @@ constexpr std::array<std::string_view, 1> kRoleHeads = {"role"};
 /// What the cells of a column look like.
 struct ColumnLook {
   bool is_empty = true;
-  bool holds_both = false;       ///< two alleles in one cell
+  std::size_t cells = 0;         ///< that are not missing
+  std::size_t both = 0;          ///< two alleles in one cell
   bool only_four_digits = true;  ///< one allele, or two of two digits
+
+  /// A single cell at fault does not make another column of it.
+  bool HoldsBoth() const { return 2 * both > cells; }
 };
 
 void LookAt(std::string_view cell, ColumnLook& look) {
@@ -52,8 +56,10 @@ void LookAt(std::string_view cell, ColumnLook& look) {
     return;
   }
   const bool is_number = cell.find_first_not_of("0123456789") == std::string_view::npos;
-  look.holds_both = look.holds_both || cell.find_first_of("/:|") != std::string_view::npos ||
-                    (is_number && cell.size() > 4);
+  const bool holds_both =
+      cell.find_first_of("/:|") != std::string_view::npos || (is_number && cell.size() > 4);
+  ++look.cells;
+  look.both += holds_both ? 1U : 0U;
   look.only_four_digits = look.only_four_digits && is_number && cell.size() == 4;
 }
 
@@ -170,8 +176,8 @@ class TableReader {
   /// Whether a locus has its alleles in this column and the next.
   bool ArePair(std::size_t column) const {
     const std::size_t next = column + 1;
-    if (next >= heads_.cells.size() || columns_.IsTaken(next) || looks_[column].holds_both ||
-        looks_[next].holds_both) {
+    if (next >= heads_.cells.size() || columns_.IsTaken(next) || looks_[column].HoldsBoth() ||
+        looks_[next].HoldsBoth()) {
       return false;
     }
     const std::string& first = heads_.cells[column];
@@ -251,7 +257,8 @@ class TableReader {
 
 bool IsGenotypeLike(std::string_view cell) {
   cell = Trimmed(cell);
-  return cell.size() >= 2 && cell.find_first_not_of("0123456789/:|.") == std::string_view::npos;
+  return cell.find_first_of("0123456789") != std::string_view::npos &&
+         cell.find_first_not_of("0123456789/:|.,-") == std::string_view::npos;
 }
 
 std::size_t GenotypesIn(const Row& row) {
