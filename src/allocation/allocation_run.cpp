@@ -45,7 +45,8 @@ tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& set
 }
 
 tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& settings,
-                                                   RunObserver& observer, Workforce& workforce) {
+                                                   RunObserver& observer, Workforce& workforce,
+                                                   AllocationExports* exports) {
   if (settings.project.empty()) {
     return tl::unexpected(Problem{.kind = ProblemKind::kNoProject});
   }
@@ -53,14 +54,25 @@ tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& set
   if (!input) {
     return tl::unexpected(std::move(input.error()));
   }
-  return RunAllocation(settings, std::move(*input), observer, workforce);
+  AllocationSettings completed = settings;
+  if (exports != nullptr) {
+    if (auto problem = exports->Prepare(completed, *input, workforce.Files())) {
+      return tl::unexpected(std::move(*problem));
+    }
+  }
+  return RunAllocation(completed, std::move(*input), observer, workforce, exports);
 }
 
-AllocationRun RunAllocation(const AllocationSettings& settings, AllocationInput input,
-                            RunObserver& observer, Workforce& workforce) {
+AllocationRun RunAllocation(const AllocationSettings& wanted, AllocationInput input,
+                            RunObserver& observer, Workforce& workforce,
+                            AllocationExports* exports) {
+  AllocationSettings settings = wanted;
+  if (exports == nullptr) {
+    settings.exports = {};
+  }
   // The reports are opened first: a folder that cannot be written to shows at once, not after
   // hours.
-  AllocationReports reports(settings, input, observer);
+  AllocationReports reports(settings, input, observer, exports);
   ResumingWorkforce resuming(workforce, reports.Unfinished(), DifferenceOfAllocations);
   AllocationResult result = Allocate(settings, input, observer, resuming);
   reports.Write(settings, input, result, observer);

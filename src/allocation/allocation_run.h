@@ -60,18 +60,24 @@ struct AllocationRun {
   AllocationResult result;
 };
 
+/// Makes the further files of an allocation.
+using AllocationExports = RunExports<AllocationSettings, AllocationInput, AllocationResult>;
+
 /// The whole run: checks, allocates, and writes all reports and the run record into the project
 /// folder, each whole or not at all. A Problem means that nothing was done. Throws RunFailure when
 /// a report cannot be written and RunStopped when the observer asks to stop; the reports of earlier
-/// runs then are as they were. Without a workforce the threads of this process do it.
+/// runs then are as they were. Without a workforce the threads of this process do it. Without
+/// exports no further files are written, nor does the run record tell of any.
 tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& settings,
                                                    RunObserver& observer);
 tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& settings,
-                                                   RunObserver& observer, Workforce& workforce);
+                                                   RunObserver& observer, Workforce& workforce,
+                                                   AllocationExports* exports = nullptr);
 
 /// The run with an input that was loaded before with these settings. The record tells the contents
-/// that were loaded, whatever has become of the files since.
+/// that were loaded, whatever has become of the files since. The exports have been prepared.
 AllocationRun RunAllocation(const AllocationSettings& settings, AllocationInput input,
-                            RunObserver& observer, Workforce& workforce);
+                            RunObserver& observer, Workforce& workforce,
+                            AllocationExports* exports = nullptr);
 
 }  // namespace kaldo

@@ -74,6 +74,36 @@ Declared RelativesSetting() {
       .value = ValueAt<AllocationSettings>(InConfidence(&WantedConfidence::relatives), FlagKind())};
 }
 
+/// A place in the wanted exports.
+template <typename Value>
+auto InExports(Value WantedExports::*member) {
+  return [member](auto& settings) -> auto& { return settings.exports.*member; };
+}
+
+/// A file that the exports need and the method does not.
+Declared ExportFileSetting(const std::string& name, std::string help,
+                           std::string WantedExports::*path) {
+  return {.key = name,
+          .option = "--" + name,
+          .metavar = "FILE",
+          .group = "Output",
+          .help = std::move(help),
+          .value = ValueAt<AllocationSettings>(InExports(path), OptionalTextKind()),
+          .may_be_left_out = true,
+          .of_exports = true};
+}
+
+Declared LeastProbabilitySetting() {
+  return {.key = "min_probability",
+          .option = "--min-probability",
+          .metavar = "P",
+          .group = "Output",
+          .help = "Pedigrees leave out parents that are less probable; default: none is",
+          .value = ValueAt<AllocationSettings>(InExports(&WantedExports::least_probability),
+                                               LeastProbabilityKind()),
+          .of_exports = true};
+}
+
 std::vector<Declared> DeclareSettings() {
   return {
       ProjectSetting<AllocationSettings>(),
@@ -108,6 +138,14 @@ std::vector<Declared> DeclareSettings() {
       ComputedSetting(),
       ConfidenceLevelSetting<AllocationSettings>(InConfidence(&WantedConfidence::level)),
       RelativesSetting(),
+      ExportFormsSetting<AllocationSettings>(InExports(&WantedExports::forms), kAllExportForms),
+      ExportFileSetting("sexes", "For pedigrees: per line an individual and its sex, f or m",
+                        &WantedExports::sexes_file),
+      ExportFileSetting("names",
+                        "Further files give the original names of this table; default: names.tsv "
+                        "beside the offspring, where it is",
+                        &WantedExports::names_file),
+      LeastProbabilitySetting(),
       ThreadsSetting<AllocationSettings>(),
   };
 }

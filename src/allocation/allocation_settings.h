@@ -10,6 +10,7 @@
 #include "method/error_model.h"
 #include "method/flow.h"
 #include "method/offset_tolerance.h"
+#include "runs/exports.h"
 #include "runs/keeping_pace.h"
 #include "runs/setting.h"
 
@@ -57,6 +58,8 @@ struct AllocationSettings {
   std::optional<std::vector<std::int32_t>> sequence;
 
   WantedConfidence confidence;
+
+  WantedExports exports;  ///< further files, in forms of other programs
 
   unsigned threads = 0;  ///< 0: as many as the machine has cores. Results never depend on it.
 

@@ -14,12 +14,15 @@
 #include "base/version.h"
 #include "cli/check_command.h"
 #include "cli/completion.h"
+#include "cli/convert_command.h"
+#include "cli/export_command.h"
 #include "cli/foreign_hint.h"
 #include "cli/help_footer.h"
 #include "cli/import_command.h"
 #include "cli/loci_by_name.h"
 #include "cli/missing_options.h"
 #include "cli/recorded_run.h"
+#include "cli/result_json.h"
 #include "cli/settings_of_record.h"
 #include "cli/short_result.h"
 #include "cli/simulation_result_text.h"
@@ -27,6 +30,8 @@
 #include "cli/terminal_progress.h"
 #include "cli/typed_options.h"
 #include "cli/usage_error.h"
+#include "interchange/export/allocation_exporter.h"
+#include "interchange/export/simulation_exporter.h"
 #include "runs/report_set.h"
 #include "simulation/run_settings.h"
 #include "simulation/simulation_checks.h"
@@ -36,11 +41,23 @@ namespace kaldo {
 
 namespace {
 
-ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineStreams& streams,
-                         Workforce& workforce) {
+/// In which form the short result of a run is told.
+enum class ResultForm { kText, kJson };
+
+/// The short result of a finished run.
+template <typename Settings, typename Run>
+std::string ResultText(ResultForm form, const Settings& settings, const Run& run,
+                       const std::vector<std::string>& exports) {
+  return form == ResultForm::kJson ? ResultJson(settings, run, exports)
+                                   : EscapedLines(ShortResult(settings, run, exports));
+}
+
+ExitCode AllocateAndTell(const AllocationSettings& settings, ResultForm form,
+                         const CommandLineStreams& streams, Workforce& workforce) {
+  AllocationExporter exporter;
   const auto run = [&] {
     TerminalProgress progress(streams.err, streams.err_is_terminal);
-    return RunAllocation(settings, progress, workforce);
+    return RunAllocation(settings, progress, workforce, &exporter);
   }();
   if (!run) {
     const ExitCode code = Tell(WithMissingOptions(run.error(), settings), streams);
@@ -48,18 +65,19 @@ ExitCode AllocateAndTell(const AllocationSettings& settings, const CommandLineSt
     return code;
   }
   TellWarnings(run->input.warnings, streams);
-  streams.out << EscapedLines(ShortResult(settings, *run));
+  streams.out << ResultText(form, settings, *run, exporter.Made());
   return ExitCode::kDone;
 }
 
-ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineStreams& streams,
-                         Workforce& workforce) {
+ExitCode SimulateAndTell(const SimulationSettings& settings, ResultForm form,
+                         const CommandLineStreams& streams, Workforce& workforce) {
   if (WarnsOfManyIterations(settings.flow, settings.iterations)) {
     streams.err << kManyIterations << '\n';
   }
+  SimulationExporter exporter;
   const auto run = [&] {
     TerminalProgress progress(streams.err, streams.err_is_terminal);
-    return RunSimulation(settings, progress, workforce);
+    return RunSimulation(settings, progress, workforce, &exporter);
   }();
   if (!run) {
     const ExitCode code = Tell(WithMissingOptions(run.error(), settings), streams);
@@ -67,7 +85,7 @@ ExitCode SimulateAndTell(const SimulationSettings& settings, const CommandLineSt
     return code;
   }
   TellWarnings(run->input.warnings, streams);
-  streams.out << EscapedLines(ShortResult(settings, *run));
+  streams.out << ResultText(form, settings, *run, exporter.Made());
   return ExitCode::kDone;
 }
 
@@ -76,6 +94,7 @@ struct Decisions {
   bool may_replace_other_flow = false;
   bool resumes = false;
   bool is_quiet = false;
+  std::string format = "text";  ///< of the short result
 };
 
 /// Ways to type settings that are not settings themselves.
@@ -96,6 +115,11 @@ struct TypedShortcuts {
 /// Runs with the settings, unless they are at fault.
 ExitCode RunAndTell(tl::expected<RunSettings, Problem> settings, const Decisions& decisions,
                     const CommandLineStreams& streams, Workforce& workforce) {
+  if (decisions.format != "text" && decisions.format != "json") {
+    streams.err << "There is no format " << Quoted(decisions.format) << ": text or json.\n";
+    return ExitCode::kBadInput;
+  }
+  const ResultForm form = decisions.format == "json" ? ResultForm::kJson : ResultForm::kText;
   if (!settings) {
     return Tell(settings.error(), streams);
   }
@@ -109,9 +133,9 @@ ExitCode RunAndTell(tl::expected<RunSettings, Problem> settings, const Decisions
   const CommandLineStreams told =
       decisions.is_quiet ? CommandLineStreams{nowhere, streams.err, false} : streams;
   if (const auto* allocation = std::get_if<AllocationSettings>(&*settings)) {
-    return AllocateAndTell(*allocation, told, workforce);
+    return AllocateAndTell(*allocation, form, told, workforce);
   }
-  return SimulateAndTell(std::get<SimulationSettings>(*settings), told, workforce);
+  return SimulateAndTell(std::get<SimulationSettings>(*settings), form, told, workforce);
 }
 
 std::string VersionLine() { return fmt::format("kaldo {} ({})", Version(), BuildNote()); }
@@ -132,6 +156,10 @@ struct Commands {
       app.add_subcommand("simulate", "Estimate how far allocations with these loci can be trusted");
   CLI::App* rerun =
       app.add_subcommand("rerun", "Repeat a run from its run record and compare the results");
+  CLI::App* export_results =
+      app.add_subcommand("export", "Write the results of a recorded run in the forms of others");
+  CLI::App* convert = app.add_subcommand(
+      "convert", "Write the genotypes of a study in the form of another program");
   CLI::App* verify = app.add_subcommand("verify", "Tell whether results and inputs are unchanged");
 
   CLI::App* import =
@@ -144,6 +172,9 @@ struct Commands {
   TypedCheck typed_check;
   TypedImport typed_import;
   RerunChoices rerun_choices;
+  ExportChoices export_choices;
+  ConvertChoices convert_choices;
+  std::map<std::string, std::optional<std::string>> converted;  ///< its files, by setting
   std::string verified;
   std::string shell;
   Decisions decisions;
@@ -159,6 +190,8 @@ struct Commands {
     AddShortcuts();
     AddRecordOptions();
     typed_import.AddTo(*import);
+    AddExportOptions();
+    AddConvertOptions();
     for (CLI::App* const command : {allocate, simulate, check, check_simulation, rerun}) {
       command->add_flag("--replace", decisions.may_replace_other_flow,
                         "Replace results of another flow in the project folder, too");
@@ -180,12 +213,25 @@ struct Commands {
              {check, "check"},
              {check_simulation, "check simulate"},
              {rerun, "rerun"},
+             {export_results, "export"},
+             {convert, "convert"},
              {verify, "verify"},
              {import, "import"},
              {completion, "completion"}}) {
       command->set_version_flag("--version", VersionLine());
       command->footer(HelpFooter(name));
     }
+  }
+
+  /// Of `kaldo convert`. It takes parents as they are.
+  TypedSettings GenotypeFiles() const {
+    TypedSettings typed = {{"allow_undefined_parents", ""}};
+    for (const auto& [key, path] : converted) {
+      if (path) {
+        typed[key] = *path;
+      }
+    }
+    return typed;
   }
 
  private:
@@ -217,10 +263,65 @@ struct Commands {
       command->get_option("--project")
           ->description("Folder for the results, which is looked at, too");
     }
+    for (CLI::App* const command : {allocate, simulate}) {
+      command
+          ->add_option("--format", decisions.format,
+                       "Form of the short result: text, or json for programs")
+          ->type_name("NAME")
+          ->group("Output")
+          ->default_str("text");
+    }
   }
 
   void AddCompletionOptions() {
     completion->add_option("shell", shell, "bash, zsh or fish")->type_name("SHELL")->required();
+  }
+
+  void AddExportOptions() {
+    ExportChoices& choices = export_choices;
+    const auto add = [this](const std::string& name, auto& place, const std::string& kind,
+                            const std::string& help) {
+      return export_results->add_option(name, place, help)->type_name(kind);
+    };
+    add("record", choices.record, "FILE",
+        "A project folder, or the run record in it. The run is repeated in memory from its input "
+        "files, which must be unchanged; of its results only what is asked for is written")
+        ->required();
+    add("--as", choices.forms, "NAME,...", "Forms, between commas: tsv, xlsx, html, pedigree")
+        ->required();
+    add("--to", choices.folder, "DIR", "Write into this folder, not beside the record");
+    for (const auto& [key, place] :
+         std::initializer_list<std::pair<std::string_view, std::optional<std::string>*>>{
+             {"sexes", &choices.sexes},
+             {"names", &choices.names},
+             {"min_probability", &choices.min_probability},
+             {"threads", &choices.threads}}) {
+      for (const auto& setting : AllocationSettingTable()) {
+        if (setting.key == key) {
+          add(setting.option, *place, setting.metavar, setting.help);
+        }
+      }
+    }
+  }
+
+  void AddConvertOptions() {
+    convert->add_option("--as", convert_choices.format, "The form: genepop or csv")
+        ->type_name("NAME")
+        ->required();
+    convert->add_option("--to", convert_choices.file, "The file to be made")
+        ->type_name("FILE")
+        ->required();
+    convert
+        ->add_option("--names", convert_choices.names,
+                     "Names before an import; default: names.tsv beside the offspring, where it is")
+        ->type_name("FILE");
+    for (const auto& setting : AllocationSettingTable()) {
+      const bool is_genotypes = setting.metavar == "FILE" && !setting.may_be_left_out;
+      if (is_genotypes) {
+        convert->add_option(setting.option, converted[setting.key], setting.help)
+            ->type_name(setting.metavar);
+      }
+    }
   }
 
   void AddRecordOptions() {
@@ -329,6 +430,13 @@ ExitCode Dispatch(const std::vector<std::string>& arguments, const CommandLineSt
                     [&](const RunSettings& settings, const CommandLineStreams& told) {
                       return RunAndTell(settings, commands.decisions, told, workforce);
                     });
+  }
+  if (commands.export_results->parsed()) {
+    return RunExport(commands.export_choices, streams, workforce);
+  }
+  if (commands.convert->parsed()) {
+    return RunConvert(commands.convert_choices, commands.GenotypeFiles(), streams,
+                      workforce.Files());
   }
   if (commands.verify->parsed()) {
     return RunVerify(commands.verified, streams);

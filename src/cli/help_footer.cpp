@@ -74,6 +74,15 @@ constexpr std::string_view kRerun =
     "  kaldo rerun \"lake/Run record.toml\"\n"
     "  kaldo rerun trial --project \"trial again\"\n";
 
+constexpr std::string_view kExport =
+    "  kaldo export \"lake/Run record.toml\" --as tsv,html,pedigree\n"
+    "  kaldo export ponds --as pedigree --min-probability 0.95 --to \"for nadiv\"\n";
+
+constexpr std::string_view kConvert =
+    "  kaldo convert --loci examples/non-sexed/loci.txt \\\n"
+    "                --parents examples/non-sexed/parents.txt \\\n"
+    "                --offspring examples/non-sexed/offspring.txt --as genepop --to lake.gen\n";
+
 constexpr std::string_view kVerify = "  kaldo verify lake\n";
 
 constexpr std::string_view kImport =
@@ -93,12 +102,14 @@ constexpr std::string_view kExitCodes =
 /// The examples of a command, in their order.
 using Examples = std::array<std::string_view, 4>;
 
-constexpr std::array<std::pair<std::string_view, Examples>, 8> kExamples{
+constexpr std::array<std::pair<std::string_view, Examples>, 10> kExamples{
     {{"allocate", {kLake, kPonds, "", ""}},
      {"simulate", {kTrial, kPilot, kSexedTrial, kSexedPilot}},
      {"check", {kChecks, kCheckSimulation, "", ""}},
      {"check simulate", {kCheckSimulation, "", "", ""}},
      {"rerun", {kRerun, "", "", ""}},
+     {"export", {kExport, "", "", ""}},
+     {"convert", {kConvert, "", "", ""}},
      {"verify", {kVerify, "", "", ""}},
      {"import", {kImport, "", "", ""}},
      {"completion", {kCompletion, "", "", ""}}}};

@@ -10,10 +10,9 @@
 
 #include <fmt/format.h>
 
-#include "base/version.h"
+#include "cli/opened_record.h"
 #include "cli/result_comparison.h"
 #include "cli/tell.h"
-#include "runs/earlier_run.h"
 #include "runs/value_kinds.h"
 #include "simulation/recorded_files.h"
 
@@ -45,44 +44,9 @@ class TemporaryFolder {
   std::string path_;
 };
 
-std::string FolderOf(const std::string& record) {
-  const auto folder = std::filesystem::path(record).parent_path().string();
-  return folder.empty() ? "." : folder;
-}
-
-/// The record that is meant where it or its folder is named. What a crashed run left half done in
-/// the folder is settled first.
-std::string RecordToRead(const std::string& path, const CommandLineStreams& streams) {
-  std::string record = RecordNamedBy(path);
-  SettleProject(ProjectFolder(FolderOf(record)), streams);
-  return record;
-}
-
 void TellEach(const std::vector<std::string>& phrases, std::ostream& stream) {
   for (const std::string& phrase : phrases) {
     stream << "  " << Escaped(phrase) << '\n';
-  }
-}
-
-/// What a user should know of the files before they are used again.
-void TellPlaces(const RunRecord& then, const LocatedRecord& now,
-                const CommandLineStreams& streams) {
-  if (then.version != Version()) {
-    streams.err << Escaped(
-                       fmt::format("Warning: the record was made by KALDO {}, this is KALDO {}.",
-                                   then.version, Version()))
-                << '\n';
-  }
-  for (std::size_t i = 0; i < then.inputs.size(); ++i) {
-    const RecordedInput& input = now.record.inputs[i];
-    if (input.path != then.inputs[i].path) {
-      streams.err << Escaped(fmt::format("Note: {} is read from \"{}\".", input.role, input.path))
-                  << '\n';
-    }
-  }
-  if (!now.changes.missing.empty()) {
-    streams.err << fmt::format("Note: the recorded run was started in the folder {}\n",
-                               Quoted(then.folder));
   }
 }
 
@@ -147,7 +111,7 @@ std::optional<Problem> Adapt(const RerunChoices& choices, RunSettings& settings)
   std::visit(
       [&](auto& each) {
         each.threads = choices.threads ? threads : each.threads;
-        each.project = choices.project.value_or(FolderOf(choices.record));
+        each.project = choices.project.value_or(FolderOfRecord(choices.record));
       },
       settings);
   if (auto* const simulation = std::get_if<SimulationSettings>(&settings)) {
@@ -159,38 +123,26 @@ std::optional<Problem> Adapt(const RerunChoices& choices, RunSettings& settings)
 }  // namespace
 
 ExitCode RunRerun(RerunChoices choices, const CommandLineStreams& streams, const Runner& run) {
-  choices.record = RecordToRead(choices.record, streams);
-  const auto record = ReadRunRecord(choices.record);
-  if (!record) {
-    return Tell(record.error(), streams);
+  auto opened = OpenRecord(choices.record, streams);
+  if (!opened) {
+    return Tell(opened.error(), streams);
   }
-  // First of all: a flow or a setting that is not understood says nothing about files.
-  if (const auto recorded = RunSettingsOf(*record, choices.record); !recorded) {
-    return Tell(recorded.error(), streams);
-  }
-  const auto located = LocateRecordedFiles(*record, choices.record);
-  if (!located) {
-    return Tell(located.error(), streams);
-  }
-  TellPlaces(*record, *located, streams);
-  const auto& changed = located->changes.changed;
+  choices.record = opened->path;
+  const auto& changed = opened->now.changes.changed;
   if (!changed.empty() && !choices.with_changed_inputs) {
-    return Tell({.kind = ProblemKind::kInputsChanged,
-                 .file = choices.record,
-                 .found = fmt::format("{} --with-changed-inputs uses the files as they are",
-                                      fmt::join(changed, " "))},
+    return Tell(ChangedInputsProblem(*opened, " --with-changed-inputs uses the files as they are"),
                 streams);
   }
   for (const std::string& sentence : changed) {
     streams.err << "Warning: " << Escaped(sentence) << '\n';
   }
-  auto settings = RunSettingsOf(located->record, choices.record);
-  if (const auto problem = Adapt(choices, *settings)) {
+  if (const auto problem = Adapt(choices, opened->settings)) {
     return Tell(*problem, streams);
   }
   return choices.project || choices.overwrites
-             ? run(*settings, streams)
-             : RepeatAndCompare(*record, located->record, choices, *settings, streams, run);
+             ? run(opened->settings, streams)
+             : RepeatAndCompare(opened->then, opened->now.record, choices, opened->settings,
+                                streams, run);
 }
 
 ExitCode RunVerify(const std::string& path, const CommandLineStreams& streams) {
@@ -203,7 +155,7 @@ ExitCode RunVerify(const std::string& path, const CommandLineStreams& streams) {
   if (!located) {
     return Tell(located.error(), streams);
   }
-  const auto results = CompareResults(*record, FolderOf(record_path));
+  const auto results = CompareResults(*record, FolderOfRecord(record_path));
   const bool intact = results.IsIntact(*record);
   streams.out << fmt::format("Results: {}, {} of {} files\n", intact ? "intact" : "not intact",
                              results.same, record->outputs.size());

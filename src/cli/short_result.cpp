@@ -94,7 +94,8 @@ std::string Doubts(const ErrorModel& model, const AllocationResult& result) {
   return text.empty() ? text : '\n' + text;
 }
 
-std::string FilesWritten(const AllocationSettings& settings, const AllocationResult& result) {
+std::string FilesWritten(const AllocationSettings& settings, const AllocationResult& result,
+                         const std::vector<std::string>& exports) {
   std::string text = fmt::format("\nFiles in \"{}\":\n", settings.project);
   std::vector<std::string_view> files = {kAllocationResultsFile, kMaxLikePairsFile,
                                          kTransmissionMatricesFile, kSteppingErrorFile};
@@ -111,6 +112,9 @@ std::string FilesWritten(const AllocationSettings& settings, const AllocationRes
   for (const std::string_view file : files) {
     text += fmt::format("  {}\n", file.substr(1));
   }
+  for (const std::string& file : exports) {
+    text += fmt::format("  {}\n", file);
+  }
   return text;
 }
 
@@ -124,7 +128,8 @@ std::string InputSummary(Flow flow, const AllocationInput& input) {
                      input.digits_per_field);
 }
 
-std::string ShortResult(const AllocationSettings& settings, const AllocationRun& run) {
+std::string ShortResult(const AllocationSettings& settings, const AllocationRun& run,
+                        const std::vector<std::string>& exports) {
   const auto& [input, result] = run;
   std::string text = fmt::format("KALDO {}, {} allocation\n", Version(),
                                  settings.flow == Flow::kSexed ? "sexed" : "non-sexed");
@@ -137,7 +142,7 @@ std::string ShortResult(const AllocationSettings& settings, const AllocationRun&
   }
   text += Doubts(settings.error_model, result);
   text += ConfidenceText(settings, run);
-  text += FilesWritten(settings, result);
+  text += FilesWritten(settings, result, exports);
   return text + '\n' + std::string(ClosingSentence(result)) + '\n';
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "allocation/allocation_run.h"
 
@@ -11,7 +12,8 @@ namespace kaldo {
 std::string InputSummary(Flow flow, const AllocationInput& input);
 
 /// The result of a run as a user reads it first on standard output, ending with the closing
-/// sentence.
-std::string ShortResult(const AllocationSettings& settings, const AllocationRun& run);
+/// sentence. `exports` are the further files written.
+std::string ShortResult(const AllocationSettings& settings, const AllocationRun& run,
+                        const std::vector<std::string>& exports);
 
 }  // namespace kaldo

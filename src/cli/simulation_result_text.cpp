@@ -232,7 +232,8 @@ std::string InputSummary(const SimulationSettings& settings, const SimulationInp
       ShortDescription(settings.error_model), settings.tolerance.Value());
 }
 
-std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run) {
+std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run,
+                        const std::vector<std::string>& exports) {
   const bool modern = settings.random == RandomSource::kModern;
   std::string text = fmt::format("KALDO {}\n{}\n  {}  seed {}{}\n\n", Version(), TypeLine(settings),
                                  InputSummary(settings, run.input), run.result.seed,
@@ -245,8 +246,12 @@ std::string ShortResult(const SimulationSettings& settings, const SimulationRun&
   if (const auto note = AllocatedWithoutErrorsNote(settings, "--allocate-with run")) {
     text += '\n' + Wrapped(*note) + '\n';
   }
-  text += fmt::format("\nFiles in \"{}\", first of all {}\n\n", settings.project,
-                      kSummaryFile.substr(1));
+  text +=
+      fmt::format("\nFiles in \"{}\", first of all {}\n", settings.project, kSummaryFile.substr(1));
+  for (const std::string& file : exports) {
+    text += fmt::format("  {}\n", file);
+  }
+  text += '\n';
   if (run.result.stepping.any_out_of_step) {
     text.append(kSteppingSentence).append("\n");
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "simulation/simulation_run.h"
 
@@ -13,6 +14,8 @@ std::string InputSummary(const SimulationSettings& settings, const SimulationInp
 
 /// The result of a simulation as a user reads it first on standard output: per origin class and
 /// globally the estimated probability of a correct allocation, ending with the closing sentences.
-std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run);
+/// `exports` are the further files written.
+std::string ShortResult(const SimulationSettings& settings, const SimulationRun& run,
+                        const std::vector<std::string>& exports);
 
 }  // namespace kaldo

@@ -106,7 +106,13 @@ std::string UsageErrorText(const CLI::App& app, const CLI::ParseError& error) {
     return MismatchText(app, error.what());
   }
   if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
-    return CommandIn(app).get_name() == "completion"
+    const std::string command = CommandIn(app).get_name();
+    const std::string missing = error.what();
+    if (missing.starts_with("--")) {
+      return fmt::format("{} is missing: see kaldo {} --help", missing.substr(0, missing.find(' ')),
+                         command);
+    }
+    return command == "completion"
                ? "The shell is missing: bash, zsh or fish"
                : "The run record is missing: the file \"Run record.toml\" of a project folder";
   }

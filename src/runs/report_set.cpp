@@ -112,7 +112,23 @@ void ReportSet::Remove(std::string_view file) {
   obsolete_.emplace_back(file);
 }
 
+void ReportSet::RemoveEarlierExports() {
+  if (!earlier_ || order_.adds_to_run) {
+    return;
+  }
+  for (const RecordedOutput& output : earlier_->outputs) {
+    const std::string name = '/' + output.file;
+    const bool is_new = std::any_of(reports_.begin(), reports_.end(),
+                                    [&](const Report& report) { return report.name == name; });
+    if (!is_new && IsExportFile(earlier_->flow, name)) {
+      CheckPlace(name);
+      obsolete_.push_back(name);
+    }
+  }
+}
+
 std::vector<SwappedFile> ReportSet::FinishReports() {
+  RemoveEarlierExports();
   std::vector<SwappedFile> files;
   for (Report& report : reports_) {
     if (report.only_if_any && report.file->IsEmpty()) {
@@ -131,7 +147,7 @@ std::vector<SwappedFile> ReportSet::FinishReports() {
     }
   }
   const std::string unfinished(kUnfinishedRunFile);
-  if (IsThere(order_.project.Path(unfinished))) {
+  if (!order_.adds_to_run && IsThere(order_.project.Path(unfinished))) {
     files.push_back({unfinished, false, true});
   }
   // The record comes last: it vouches for the others.
@@ -156,7 +172,7 @@ void ReportSet::Commit() {
   swap_->Do(files);
   is_committed_ = true;
   made_folders_.clear();
-  if (earlier_) {
+  if (earlier_ && !order_.adds_to_run) {
     observer_.OnMessage(RunMessage::kNote,
                         ReplacedSentence(order_.project, *earlier_, order_.flow, order_.inputs));
   }

@@ -24,6 +24,9 @@ struct ReportsOrder {
   const std::vector<RecordedInput>& inputs;  ///< none of which may be replaced or removed
   bool may_replace_other_flow = false;
   KeptWork kept_work = KeptWork::kAnew;
+
+  /// The reports are further files of the run whose results are there, which stay.
+  bool adds_to_run = false;
 };
 
 /// The reports of one run. All are opened before it computes, and written in a working folder of
@@ -78,6 +81,7 @@ class ReportSet {
 
   void LockAndOpen();
   void RemoveOtherFlow();
+  void RemoveEarlierExports();
   void TellWhatIsKept() const;
   void Clear();
   ReportFile& Open(std::string_view file, bool only_if_any);

@@ -58,6 +58,15 @@ constexpr std::array<std::string_view, 19> kOfSexedSimulations = {
     "/Scan.tsv",
 };
 
+constexpr std::array<std::string_view, 9> kExportsOfAllocations = {
+    "/Allocations.tsv",      "/Parents.tsv",           "/Sequence.tsv",
+    "/Report.html",          "/Results.xlsx",          "/Pedigree.tsv",
+    "/Pedigree optiSel.tsv", "/Pedigree kinship2.tsv", "/Pedigree.fam",
+};
+
+constexpr std::array<std::string_view, 2> kExportsOfSimulations = {"/Iterations.tsv",
+                                                                   "/Sequence.tsv"};
+
 }  // namespace
 
 std::span<const std::string_view> ResultFiles(std::string_view flow) {
@@ -73,9 +82,24 @@ std::span<const std::string_view> ResultFiles(std::string_view flow) {
   return {};
 }
 
+std::span<const std::string_view> ExportFiles(std::string_view flow) {
+  if (ResultFiles(flow).empty()) {
+    return {};
+  }
+  return flow.starts_with("allocation, ")
+             ? std::span<const std::string_view>(kExportsOfAllocations)
+             : std::span<const std::string_view>(kExportsOfSimulations);
+}
+
+bool IsExportFile(std::string_view flow, std::string_view file) {
+  const auto files = ExportFiles(flow);
+  return std::find(files.begin(), files.end(), file) != files.end();
+}
+
 bool IsResultFile(std::string_view flow, std::string_view file) {
   const auto files = ResultFiles(flow);
-  return file == kRunRecordFile || std::find(files.begin(), files.end(), file) != files.end();
+  return file == kRunRecordFile || IsExportFile(flow, file) ||
+         std::find(files.begin(), files.end(), file) != files.end();
 }
 
 }  // namespace kaldo

@@ -108,6 +108,7 @@ struct Setting {
   bool always_told = false;        ///< a copied command gives it even where it is as by default
   bool may_stand_alone = false;    ///< the option may go without its value
   bool in_head_of_record = false;  ///< a run record tells it above its settings, in another form
+  bool of_exports = false;         ///< says which further files are written, not what is computed
   std::optional<std::string> first_shown = {};  ///< in a window; the default, when nothing is said
 
   bool Applies(const Settings& settings) const { return !applies || applies(settings); }
@@ -219,7 +220,8 @@ std::optional<std::string> FirstDifference(SettingTable<Settings> table, const S
                                            const Settings& now) {
   for (const Setting<Settings>& setting : table) {
     const bool matters = setting.metavar != "FILE" && setting.metavar != "DIR" &&
-                         setting.key != "threads" && !setting.in_head_of_record;
+                         setting.key != "threads" && !setting.in_head_of_record &&
+                         !setting.of_exports;
     std::string said_then = matters ? SaidFor(setting, then) : std::string();
     const std::string said_now = matters ? SaidFor(setting, now) : std::string();
     if (said_then != said_now) {

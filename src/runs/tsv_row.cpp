@@ -14,7 +14,7 @@ TsvRow& TsvRow::Plain(std::string_view word) {
 }
 
 TsvRow& TsvRow::Text(std::string_view text) {
-  if (text.find('"') == std::string_view::npos) {
+  if (text.find_first_of("\"\t\r\n") == std::string_view::npos) {
     return Plain(text);
   }
   std::string quoted;

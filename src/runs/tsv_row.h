@@ -9,8 +9,8 @@
 namespace kaldo {
 
 /// A line of a table that statistics programs read without being told anything: cells between tabs,
-/// "NA" where there is nothing. A name with a quotation mark stands between quotation marks, its
-/// own doubled, as both R and pandas expect.
+/// "NA" where there is nothing. A name with a quotation mark, a tab or a line end stands between
+/// quotation marks, its own doubled (RFC 4180), as both R and pandas expect.
 class TsvRow {
  public:
   TsvRow& Text(std::string_view text);

@@ -72,6 +72,12 @@ SimulationResult Simulate(const SimulationSettings& settings, const SimulationIn
 
 }  // namespace
 
+SimulationResult Simulate(const SimulationSettings& settings, const SimulationInput& input,
+                          RunObserver& observer, Workforce& workforce) {
+  SimulatedIteration last(settings, input);
+  return Simulate(settings, input, std::nullopt, last, observer, workforce);
+}
+
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
                                                    RunObserver& observer) {
   LocalThreads threads;
@@ -79,7 +85,8 @@ tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& set
 }
 
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
-                                                   RunObserver& observer, Workforce& workforce) {
+                                                   RunObserver& observer, Workforce& workforce,
+                                                   SimulationExports* exports) {
   if (settings.project.empty()) {
     return tl::unexpected(Problem{.kind = ProblemKind::kNoProject});
   }
@@ -87,12 +94,23 @@ tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& set
   if (!input) {
     return tl::unexpected(std::move(input.error()));
   }
-  return RunSimulation(settings, std::move(*input), observer, workforce);
+  SimulationSettings completed = settings;
+  if (exports != nullptr) {
+    if (auto problem = exports->Prepare(completed, *input, workforce.Files())) {
+      return tl::unexpected(std::move(*problem));
+    }
+  }
+  return RunSimulation(completed, std::move(*input), observer, workforce, exports);
 }
 
-SimulationRun RunSimulation(const SimulationSettings& settings, SimulationInput input,
-                            RunObserver& observer, Workforce& workforce) {
-  SimulationReports reports(settings, input, observer);
+SimulationRun RunSimulation(const SimulationSettings& wanted, SimulationInput input,
+                            RunObserver& observer, Workforce& workforce,
+                            SimulationExports* exports) {
+  SimulationSettings settings = wanted;
+  if (exports == nullptr) {
+    settings.also = {};
+  }
+  SimulationReports reports(settings, input, observer, exports);
   SimulatedIteration last(settings, input);
   ResumingWorkforce resuming(workforce, reports.Unfinished(), DifferenceOfSimulations);
   SimulationResult result =

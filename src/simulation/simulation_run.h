@@ -56,18 +56,27 @@ struct SimulationRun {
   SimulationResult result;
 };
 
+/// Makes the further files of a simulation.
+using SimulationExports = RunExports<SimulationSettings, SimulationInput, SimulationResult>;
+
+/// Simulates and writes nothing. The seed is that of the settings.
+SimulationResult Simulate(const SimulationSettings& settings, const SimulationInput& input,
+                          RunObserver& observer, Workforce& workforce);
+
 /// The whole run: checks, simulates, and writes all reports and the run record, each whole or not
 /// at all. Whether it is sexed is told by the settings. Iterations run in parallel: each starts at
 /// a state of the random numbers known beforehand, so that the result is the same for any
-/// workforce. Problems, failures, stops and the workforce are as in RunAllocation.
+/// workforce. Problems, failures, stops, workforce and exports are as in RunAllocation.
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
                                                    RunObserver& observer);
 tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& settings,
-                                                   RunObserver& observer, Workforce& workforce);
+                                                   RunObserver& observer, Workforce& workforce,
+                                                   SimulationExports* exports = nullptr);
 
 /// The run with an input that was loaded before with these settings; seed, outputs and threads may
 /// have been chosen since.
 SimulationRun RunSimulation(const SimulationSettings& settings, SimulationInput input,
-                            RunObserver& observer, Workforce& workforce);
+                            RunObserver& observer, Workforce& workforce,
+                            SimulationExports* exports = nullptr);
 
 }  // namespace kaldo

@@ -481,6 +481,7 @@ std::vector<Declared> Output() {
                            "and none when sexed",
                            fmt::join(NamesIn(kKeptFiles), ",")),
        .value = Member(&SimulationSettings::keep, KeptFilesKind())},
+      ExportFormsSetting<SimulationSettings>(&SimulationSettings::also, kSimulationExportForms),
       ThreadsSetting<SimulationSettings>(),
       {.key = "seed",
        .option = "--seed",

@@ -12,6 +12,7 @@
 #include "method/error_model.h"
 #include "method/flow.h"
 #include "method/offset_tolerance.h"
+#include "runs/exports.h"
 #include "runs/keeping_pace.h"
 #include "runs/value_kinds.h"
 #include "simulation/undefined_loci.h"
@@ -119,6 +120,7 @@ struct SimulationSettings {
   bool print_iterations = false;
   bool print_subset_statistics = false;
   std::optional<KeptFiles> keep;  ///< nothing said: see KeptFilesOf
+  ExportForms also;               ///< further files, one of kSimulationExportForms
 
   bool scores_confidence = false;  ///< whether posterior probabilities are compared with the truth
   double confidence_level = kDefaultConfidenceLevel;  ///< scored beside the usual ones

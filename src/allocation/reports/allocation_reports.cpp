@@ -16,8 +16,10 @@
 namespace kaldo {
 
 AllocationReports::AllocationReports(const AllocationSettings& settings,
-                                     const AllocationInput& input, RunObserver& observer)
-    : reports_({ProjectFolder(settings.project), AllocationFlowName(settings.flow), input.files,
+                                     const AllocationInput& input, RunObserver& observer,
+                                     AllocationExports* exports)
+    : exports_(exports),
+      reports_({ProjectFolder(settings.project), AllocationFlowName(settings.flow), input.files,
                 settings.may_replace_other_flow, settings.kept_work},
                observer),
       results_(reports_.Add(kAllocationResultsFile)),
@@ -38,6 +40,11 @@ AllocationReports::AllocationReports(const AllocationSettings& settings,
   } else {
     reports_.Remove(kSequenceResultsFile);
     reports_.Remove(kServiceFile);
+  }
+  if (exports_ != nullptr) {
+    for (const std::string_view file : exports_->Files()) {
+      further_[file] = &reports_.AddIfAny(file);
+    }
   }
 }
 
@@ -83,6 +90,14 @@ void AllocationReports::Write(const AllocationSettings& settings, const Allocati
   }
   RunRecord record = RecordOf(settings, input, result);
   record.outputs = reports_.Outputs();
+  if (!further_.empty()) {
+    const Exported exported = exports_->Make(settings, input, result, record);
+    for (const ExportedFile& file : exported.files) {
+      further_.at(file.name)->Append(file.text);
+    }
+    TellExports(exported, observer);
+    record.outputs = reports_.Outputs();
+  }
   record_.Append(FormatRunRecord(record));
   reports_.Commit();
 }

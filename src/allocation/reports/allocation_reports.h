@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <map>
+#include <string_view>
+
 #include "allocation/allocation_run.h"
 #include "runs/report_set.h"
 
@@ -14,7 +17,7 @@ class AllocationReports {
   /// RunRefused when the run would destroy an input file or the results of another flow. The input
   /// and the observer are used as long as this object lives.
   AllocationReports(const AllocationSettings& settings, const AllocationInput& input,
-                    RunObserver& observer);
+                    RunObserver& observer, AllocationExports* exports = nullptr);
 
   /// Where the run keeps what is done meanwhile.
   UnfinishedRun& Unfinished() { return reports_.Unfinished(); }
@@ -27,6 +30,7 @@ class AllocationReports {
   void WriteOffspring(const AllocationSettings& settings, const AllocationInput& input,
                       const AllocationResult& result, RunObserver& observer);
 
+  AllocationExports* exports_;
   ReportSet reports_;
   ReportFile& results_;
   ReportFile& pairs_;
@@ -36,6 +40,7 @@ class AllocationReports {
   ReportFile* loci_ = nullptr;
   ReportFile* sequence_ = nullptr;  ///< only with a sequence, as the next
   ReportFile* service_ = nullptr;
+  std::map<std::string_view, ReportFile*> further_;  ///< those of the exports, by their names
   ReportFile& record_;
 };
 

@@ -47,8 +47,10 @@ class MatricesPlan final : public PortionPlan {
 }  // namespace
 
 SimulationReports::SimulationReports(const SimulationSettings& settings,
-                                     const SimulationInput& input, RunObserver& observer)
+                                     const SimulationInput& input, RunObserver& observer,
+                                     SimulationExports* exports)
     : texts_(TextsOf(settings.flow)),
+      exports_(exports),
       reports_({ProjectFolder(settings.project), SimulationFlowName(settings.flow), input.files,
                 settings.may_replace_other_flow, settings.kept_work},
                observer),
@@ -68,6 +70,11 @@ SimulationReports::SimulationReports(const SimulationSettings& settings,
   }
   for (const std::string_view file : texts_.group_files) {
     parents_.push_back(&reports_.AddIfAny(file));
+  }
+  if (exports_ != nullptr) {
+    for (const std::string_view file : exports_->Files()) {
+      further_[file] = &reports_.AddIfAny(file);
+    }
   }
   if (settings.saves_loci) {
     reports_.RefuseInput(std::string(kSavedLociFile));
@@ -142,6 +149,20 @@ void SimulationReports::WriteMatrices(const SimulationSettings& settings,
                settings.threads, observer);
 }
 
+void SimulationReports::WriteExports(const SimulationSettings& settings,
+                                     const SimulationInput& input, const SimulationResult& result,
+                                     RunRecord& record, RunObserver& observer) {
+  if (further_.empty()) {
+    return;
+  }
+  const Exported exported = exports_->Make(settings, input, result, record);
+  for (const ExportedFile& file : exported.files) {
+    further_.at(file.name)->Append(file.text);
+  }
+  TellExports(exported, observer);
+  record.outputs = reports_.Outputs();
+}
+
 void SimulationReports::Write(const SimulationSettings& settings, const SimulationInput& input,
                               const SimulationResult& result, const SimulatedIteration& last,
                               RunObserver& observer, Workforce& workforce) {
@@ -150,6 +171,7 @@ void SimulationReports::Write(const SimulationSettings& settings, const Simulati
   WriteMatrices(settings, input, result, observer, workforce);
   RunRecord record = RecordOf(settings, input, result);
   record.outputs = reports_.Outputs();
+  WriteExports(settings, input, result, record, observer);
   record_.Append(FormatRunRecord(record));
   reports_.Commit();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <map>
+#include <string_view>
 #include <vector>
 
 #include "runs/report_set.h"
@@ -18,7 +20,7 @@ class SimulationReports {
   /// would destroy an input file or the results of another flow. The input and the observer are
   /// used as long as this object lives.
   SimulationReports(const SimulationSettings& settings, const SimulationInput& input,
-                    RunObserver& observer);
+                    RunObserver& observer, SimulationExports* exports = nullptr);
 
   /// Where the run keeps what is done meanwhile.
   UnfinishedRun& Unfinished() { return reports_.Unfinished(); }
@@ -38,7 +40,11 @@ class SimulationReports {
   void WriteMatrices(const SimulationSettings& settings, const SimulationInput& input,
                      const SimulationResult& result, RunObserver& observer, Workforce& workforce);
 
+  void WriteExports(const SimulationSettings& settings, const SimulationInput& input,
+                    const SimulationResult& result, RunRecord& record, RunObserver& observer);
+
   const SimulationTexts& texts_;
+  SimulationExports* exports_;
   ReportSet reports_;
   ReportFile& summary_;
   std::vector<ReportFile*> tables_;   ///< one per class, then the global one
@@ -53,6 +59,7 @@ class SimulationReports {
   ReportFile& scan_;
   ReportFile& service_;
   ReportFile& record_;
+  std::map<std::string_view, ReportFile*> further_;  ///< those of the exports, by their names
 };
 
 }  // namespace kaldo
