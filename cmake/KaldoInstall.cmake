@@ -39,6 +39,7 @@ install(DIRECTORY examples DESTINATION "${CMAKE_INSTALL_DATADIR}/kaldo")
 install(FILES README.md CHANGELOG.md CITATION.cff packaging/copyright TYPE DOC)
 install(DIRECTORY docs DESTINATION "${CMAKE_INSTALL_DOCDIR}" FILES_MATCHING PATTERN "*.md"
   PATTERN "*.png" PATTERN man EXCLUDE)
+install(DIRECTORY contrib DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 file(RELATIVE_PATH kaldo_examples
   "${CMAKE_INSTALL_FULL_DOCDIR}" "${CMAKE_INSTALL_FULL_DATADIR}/kaldo/examples")
 install(CODE "file(CREATE_LINK \"${kaldo_examples}\"

@@ -46,6 +46,12 @@ Choices ChoicesOf(const std::string& path) {
   choices["--format"] = {"text", "json"};
   if (path == "import") {
     AddImportChoices(choices);
+  } else if (path == "export") {
+    for (const NamedExportForm& form : kAllExportForms) {
+      choices["--as"].emplace_back(form.name);
+    }
+  } else if (path == "convert") {
+    choices["--as"] = {"genepop", "csv"};
   }
   return choices;
 }

@@ -146,8 +146,8 @@ class Documents(ProgramTest):
                     self.run_command(command, page)
 
     def test_examples_of_the_help_run(self):
-        for command in ("", "allocate", "simulate", "check", "check simulate", "rerun", "verify",
-                        "import"):
+        for command in ("", "allocate", "simulate", "check", "check simulate", "rerun", "export",
+                        "convert", "verify", "import"):
             text = programs.run([KALDO, *command.split(), "--help"], ".", text=True).stdout
             block = "".join(line for line in
                             text.partition("Examples")[2].splitlines(True)[1:]

@@ -20,12 +20,14 @@ import programs
 KALDO, PAGE = programs.arguments(["KALDO", "PAGE"], __doc__)
 OF_RUNS = "OPTIONS OF KALDO ALLOCATE, SIMULATE AND RERUN"
 OF_CHECKS = "OPTIONS OF KALDO CHECK"
-COMMANDS = {"allocate": ["OPTIONS OF KALDO ALLOCATE AND KALDO CHECK", OF_RUNS],
+OF_RESULTS = "OPTIONS OF KALDO ALLOCATE AND KALDO SIMULATE"
+COMMANDS = {"allocate": ["OPTIONS OF KALDO ALLOCATE AND KALDO CHECK", OF_RUNS, OF_RESULTS],
             "check": ["OPTIONS OF KALDO ALLOCATE AND KALDO CHECK", OF_CHECKS],
             "check simulate": ["OPTIONS OF KALDO SIMULATE", OF_CHECKS],
-            "simulate": ["OPTIONS OF KALDO SIMULATE", OF_RUNS],
-            "rerun": ["OPTIONS OF KALDO RERUN", OF_RUNS], "verify": [],
-            "import": ["OPTIONS OF KALDO IMPORT"], "completion": []}
+            "simulate": ["OPTIONS OF KALDO SIMULATE", OF_RUNS, OF_RESULTS],
+            "rerun": ["OPTIONS OF KALDO RERUN", OF_RUNS],
+            "export": ["OPTIONS OF KALDO EXPORT"], "convert": ["OPTIONS OF KALDO CONVERT"],
+            "verify": [], "import": ["OPTIONS OF KALDO IMPORT"], "completion": []}
 OF_ALL = "OPTIONS OF ALL COMMANDS"
 OPTION = re.compile(r"(--[a-z-]+)(?:\s(\S+))?")
 

@@ -235,6 +235,12 @@ std::vector<std::string> PlinkNames(const Pedigree& pedigree) {
 }  // namespace
 
 tl::expected<Pedigree, Problem> PedigreeOf(const ExportedStudy& study, bool by_sex) {
+  const auto& confidence = study.Result().confidence;
+  if (study.Settings().exports.least_probability && !(confidence && confidence->is_meaningful)) {
+    return tl::unexpected(
+        Problem{.kind = ProblemKind::kCannotExport,
+                .found = "--min-probability asks for probabilities, which were not computed"});
+  }
   return PedigreeMaker(study, by_sex).Make();
 }
 
