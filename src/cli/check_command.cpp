@@ -14,6 +14,7 @@
 #include "cli/short_result.h"
 #include "cli/simulation_result_text.h"
 #include "cli/tell.h"
+#include "interchange/export/allocation_exporter.h"
 #include "simulation/simulation_check.h"
 #include "simulation/simulation_checks.h"
 #include "simulation/simulation_command.h"
@@ -115,6 +116,12 @@ ExitCode RunCheck(const TypedCheck& choices, const CommandLineStreams& streams,
   }
   auto check = CheckAllocation(choices.typed, choices.may_replace_other_flow, source);
   AddMissingOptions(check.settings, check.faults);
+  if (check.input) {
+    AllocationExporter exporter;
+    if (auto fault = exporter.Prepare(check.settings, *check.input, source)) {
+      check.faults.Add(std::move(*fault));
+    }
+  }
   const std::string summary =
       check.input ? InputSummary(check.settings.flow, *check.input) + '\n' : "";
   return TellCheck(check, std::nullopt, summary, as_json, InputsOf(check.settings), source,

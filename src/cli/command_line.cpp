@@ -287,7 +287,7 @@ struct Commands {
         "A project folder, or the run record in it. The run is repeated in memory from its input "
         "files, which must be unchanged; of its results only what is asked for is written")
         ->required();
-    add("--as", choices.forms, "NAME,...", "Forms, between commas: tsv, xlsx, html, pedigree")
+    add("--as", choices.forms, "FORMS", "Forms, between commas: tsv, xlsx, html, pedigree")
         ->required();
     add("--to", choices.folder, "DIR", "Write into this folder, not beside the record");
     for (const auto& [key, place] :

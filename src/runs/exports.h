@@ -69,7 +69,7 @@ Setting<Settings> ExportFormsSetting(Place place, std::span<const NamedExportFor
   }
   return {.key = "also",
           .option = "--also",
-          .metavar = "NAME,...",
+          .metavar = "FORMS",
           .group = "Output",
           .help = std::move(help),
           .value = ValueAt<Settings>(place, ExportFormsKind(forms)),

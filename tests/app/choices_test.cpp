@@ -63,16 +63,18 @@ TEST_P(ChoicesTest, CanAllBeMadeWithTheButtonsOfTheScreens) {
       }
     }
   }
+  std::size_t with_choices = 0;
   for (const auto& setting : SimulationSettingTable()) {
+    if (setting.of_exports) {
+      continue;  // further files are made of a finished run
+    }
+    with_choices += setting.value.choices.empty() ? 0 : 1;
     for (const std::string_view choice : setting.value.choices) {
       EXPECT_TRUE(chosen[setting.key].contains(std::string(choice)))
           << setting.key << ": no screen offers " << choice;
     }
   }
-  const auto table = SimulationSettingTable();
-  EXPECT_EQ(std::count_if(table.begin(), table.end(),
-                          [](const auto& setting) { return !setting.value.choices.empty(); }),
-            4)
+  EXPECT_EQ(with_choices, 4U)
       << "procedure, error model, strategy, kept files; a further one needs its screen above";
 }
 

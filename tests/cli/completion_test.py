@@ -22,8 +22,8 @@ import programs
 from programs import GENEROUS, ProgramTest, write_files
 
 KALDO, = programs.arguments(["KALDO"], __doc__)
-COMMANDS = ["allocate", "simulate", "check", "check simulate", "rerun", "verify", "import",
-            "completion"]
+COMMANDS = ["allocate", "simulate", "check", "check simulate", "rerun", "export",
+            "convert", "verify", "import", "completion"]
 # Presses of the tabulator are what readline and its like understand; functions are asked directly
 # where every option is wanted.
 ASK_BASH = """source ./script; compopt() { :; }
@@ -56,7 +56,7 @@ class Completion(ProgramTest):
 
     def test_bash_offers_what_the_help_tells(self):
         self.script("bash")
-        self.assertEqual(self.ask_bash("c"), {"check", "completion"})
+        self.assertEqual(self.ask_bash("c"), {"check", "convert", "completion"})
         for command in COMMANDS:
             self.assertEqual(self.ask_bash(*command.split(), "--"), options_of_help(command))
         self.assertEqual(self.ask_bash("simulate", "--strategy", "m"), {"minimal"})
@@ -112,7 +112,7 @@ class Completion(ProgramTest):
             self.assertEqual(done.stderr, "")
             return {line.split("\t")[0] for line in done.stdout.splitlines()}
 
-        self.assertEqual(ask("kaldo c"), {"check", "completion"})
+        self.assertEqual(ask("kaldo c"), {"check", "convert", "completion"})
         for command in COMMANDS:
             self.assertEqual(ask(f"kaldo {command} --"), options_of_help(command), command)
         self.assertEqual(ask("kaldo simulate --strategy m"), {"minimal"})

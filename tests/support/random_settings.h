@@ -68,6 +68,9 @@ std::string RandomText(const Setting<Settings>& setting) {
   if (kind == "X" || kind == "U" || kind == "RATE") {
     return fmt::format("{}", *RandomReal());
   }
+  if (kind == "P") {
+    return fmt::format("{}", *rc::gen::inRange(0, 1001) / 1000.0);
+  }
   if (kind == "LEVEL") {
     return fmt::format("{}", *rc::gen::inRange(50, 101) / 100.0);
   }
@@ -96,9 +99,12 @@ std::string RandomText(const Setting<Settings>& setting) {
   if (kind == "NAME") {
     return std::string(*rc::gen::elementOf(setting.value.choices));
   }
-  if (kind == "KINDS") {
+  if (kind == "KINDS" || kind == "FORMS") {
     std::vector<std::string_view> kinds = setting.value.choices;
     std::erase_if(kinds, [](std::string_view) { return *rc::gen::arbitrary<bool>(); });
+    if (kind == "FORMS" && kinds.empty()) {
+      return std::string(setting.value.choices.front());
+    }
     return kinds.empty() ? "none" : fmt::format("{}", fmt::join(kinds, ","));
   }
   RC_FAIL("no text is known for the kind of value " + kind);

@@ -59,6 +59,9 @@ std::string Paragraph(std::string_view text) { return fmt::format("<p>{}</p>\n",
 
 std::string Percent(double share) { return fmt::format("{:.1f} %", 100 * share); }
 
+/// The quantile of the normal distribution that leaves 2.5 % above.
+constexpr double kZ = 1.959964;
+
 /// From where to where a share lies with a probability of 95 %.
 struct Interval {
   double from = 0;
@@ -68,16 +71,14 @@ struct Interval {
 /// Of a share of n independent ones: Wilson, Journal of the American Statistical Association 22
 /// (1927) 209-212, doi:10.1080/01621459.1927.10502953.
 Interval WilsonInterval(double share, double n) {
-  constexpr double z = 1.959964;
-  const double center = (share + z * z / (2 * n)) / (1 + z * z / n);
+  const double center = (share + kZ * kZ / (2 * n)) / (1 + kZ * kZ / n);
   const double half =
-      z / (1 + z * z / n) * std::sqrt(share * (1 - share) / n + z * z / (4 * n * n));
+      kZ / (1 + kZ * kZ / n) * std::sqrt(share * (1 - share) / n + kZ * kZ / (4 * n * n));
   return {std::max(center - half, 0.0), std::min(center + half, 1.0)};
 }
 
 Interval NormalInterval(double share, double standard_error) {
-  constexpr double z = 1.959964;
-  return {std::max(share - z * standard_error, 0.0), std::min(share + z * standard_error, 1.0)};
+  return {std::max(share - kZ * standard_error, 0.0), std::min(share + kZ * standard_error, 1.0)};
 }
 
 std::string Within(Interval interval) {
