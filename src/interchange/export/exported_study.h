@@ -9,11 +9,9 @@
 
 #include "allocation/allocation_run.h"
 #include "interchange/original_names.h"
+#include "interchange/sex.h"
 
 namespace kaldo {
-
-/// The sex of an individual.
-enum class Sex { kUnknown = 0, kMale = 1, kFemale = 2 };
 
 /// The sexes of individuals by the names in their genotype files.
 using Sexes = std::map<std::string, Sex, std::less<>>;

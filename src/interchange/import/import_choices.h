@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "interchange/sex.h"
+
 namespace kaldo {
 
 /// Who an individual is in an allocation.
 enum class Role : std::uint8_t { kUnknown, kParent, kOffspring };
-
-enum class Sex : std::uint8_t { kUnknown, kMale, kFemale };
 
 /// What becomes of parents that are not typed at every locus.
 enum class MissingParents : std::uint8_t {
