@@ -74,8 +74,9 @@ TEST_P(ChoicesTest, CanAllBeMadeWithTheButtonsOfTheScreens) {
           << setting.key << ": no screen offers " << choice;
     }
   }
-  EXPECT_EQ(with_choices, 4U)
-      << "procedure, error model, strategy, kept files; a further one needs its screen above";
+  EXPECT_EQ(with_choices, 6U)
+      << "procedure, error model, strategy, kept files, random numbers and theirs of subsets; a "
+         "further one needs its screen above";
 }
 
 INSTANTIATE_TEST_SUITE_P(BothFlows, ChoicesTest, testing::Values(Flow::kNonSexed, Flow::kSexed));

@@ -127,8 +127,6 @@ SimulationSettings SimulationFlowWindow::SettingsUpTo(Known known) const {
   }
   if (known >= Known::kAll) {
     output_->FillIn(settings);
-    settings.random = of_record_.random;
-    settings.subset_randoms = of_record_.subset_randoms;
     settings.until_error = of_record_.until_error;
   }
   return settings;

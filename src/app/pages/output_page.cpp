@@ -22,6 +22,13 @@ constexpr FieldText kPrintIterations{"Print results for each &iteration", "Print
 constexpr FieldText kPrintSubsets{
     "Print global statistics for each &subset of loci (recommended)", "PrintSubsets",
     "Write means and standard deviations of every subset at the end of the summary."};
+constexpr FieldText kModernRandoms{"modern &random numbers", "ModernRandoms",
+                                   "Numbers of 64 bits, without the coarse draws of the default "
+                                   "ones: needed where alleles have two "
+                                   "digits."};
+constexpr FieldText kCommonRandoms{
+    "the same random numbers for &all subsets", "CommonRandoms",
+    "All subsets of loci see the same parents and offspring, so that they differ less by chance."};
 constexpr FieldText kKeepParents{
     "simulated &parents", "KeepParents",
     "Keep the simulated parents of the last iteration, one file per group."};
@@ -54,12 +61,17 @@ OutputPage::OutputPage(Flow flow) : FlowPage(kOutputScreen, SimulationCaption(fl
   keep_parents_ = NewBox(*keep_column, kKeepParents);
   keep_offspring_ = NewBox(*keep_column, kKeepOffspring);
   keep_matrices_ = NewBox(*keep_column, kKeepMatrices);
+  auto* const randoms = new QGroupBox(Text("  Random numbers  "));
+  auto* const randoms_column = new QVBoxLayout(randoms);
+  modern_randoms_ = NewBox(*randoms_column, kModernRandoms);
+  common_randoms_ = NewBox(*randoms_column, kCommonRandoms);
   auto* const form = new QFormLayout;
   seed_ = AddLineEdit(*form, kSeed);
   seed_->setPlaceholderText(Text("calendar time"));
   auto* const column = new QVBoxLayout(this);
   column->addWidget(print);
   column->addWidget(keep);
+  column->addWidget(randoms);
   column->addLayout(form);
   column->addStretch();
   Set(FirstShownSimulation(flow));
@@ -72,6 +84,8 @@ void OutputPage::Set(const SimulationSettings& settings) {
   keep_parents_->setChecked(kept.parents);
   keep_offspring_->setChecked(kept.offspring);
   keep_matrices_->setChecked(kept.matrices);
+  modern_randoms_->setChecked(settings.random == RandomSource::kModern);
+  common_randoms_->setChecked(settings.subset_randoms == SubsetRandoms::kCommon);
   seed_->setText(settings.seed ? Text(fmt::format("{}", *settings.seed)) : QString());
 }
 
@@ -80,6 +94,9 @@ void OutputPage::FillIn(SimulationSettings& settings) const {
   settings.print_subset_statistics = print_subsets_->isChecked();
   settings.keep = KeptFiles{keep_parents_->isChecked(), keep_offspring_->isChecked(),
                             keep_matrices_->isChecked()};
+  settings.random = modern_randoms_->isChecked() ? RandomSource::kModern : RandomSource::kDefault;
+  settings.subset_randoms =
+      common_randoms_->isChecked() ? SubsetRandoms::kCommon : SubsetRandoms::kOwn;
   settings.seed = ParseSeedNumber(Bytes(seed_->text().trimmed()));
 }
 

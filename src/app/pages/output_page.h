@@ -31,6 +31,8 @@ class OutputPage : public FlowPage {
   QCheckBox* keep_parents_;
   QCheckBox* keep_offspring_;
   QCheckBox* keep_matrices_;
+  QCheckBox* modern_randoms_;
+  QCheckBox* common_randoms_;
   QLineEdit* seed_;
 };
 
