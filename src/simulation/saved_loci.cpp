@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include <fmt/format.h>
 
@@ -35,21 +34,17 @@ void RemoveUnfinished() {
   }
 }
 
-/// Whether a file stands in the place of the copy that is none: nobody would get it back.
-bool IsSomethingElse() {
+/// Whether a file of genotypes stands in the place of the copy: nobody would get it back.
+bool IsSomebodysData() {
   std::error_code unknown;
-  const auto status = std::filesystem::status(kSavedLociFile, unknown);
-  if (!std::filesystem::exists(status)) {
+  if (!std::filesystem::is_regular_file(kSavedLociFile, unknown)) {
     return false;
   }
-  if (!std::filesystem::is_regular_file(status)) {
-    return true;
-  }
   std::ifstream file(std::string(kSavedLociFile), std::ios::binary);
-  std::string begin(kMaxLoci * (kMaxLocusNameLength + 1) + 1, '\0');
+  std::string begin(kMaxLociBytes, '\0');
   file.read(begin.data(), static_cast<std::streamsize>(begin.size()));
   begin.resize(static_cast<std::size_t>(file.gcount()));
-  return !IsSavedLociText(begin);
+  return HoldsGenotypes(begin);
 }
 
 std::string NotSaved(std::string_view why) {
@@ -61,20 +56,18 @@ std::string NotSaved(std::string_view why) {
 
 }  // namespace
 
-bool IsSavedLociText(std::string_view text) {
-  std::size_t names = 0;
+bool HoldsGenotypes(std::string_view text) {
+  constexpr std::string_view kBlanks = " \t\n\v\f\r";
+  constexpr std::size_t kFewestDigits = 4;  // two sizes of two digits
   while (!text.empty()) {
-    const std::string_view name = text.substr(0, text.find(' '));
-    const bool is_genotype =
-        name.size() >= 4 && name.find_first_not_of("0123456789") == std::string_view::npos;
-    if (name.empty() || name.size() == text.size() || name.size() > kMaxLocusNameLength ||
-        name.find_first_of("\t\n\v\f\r") != std::string_view::npos || is_genotype ||
-        ++names > kMaxLoci) {
-      return false;
+    const std::string_view word = text.substr(0, text.find_first_of(kBlanks));
+    if (word.size() >= kFewestDigits &&
+        word.find_first_not_of("0123456789") == std::string_view::npos) {
+      return true;
     }
-    text.remove_prefix(name.size() + 1);
+    text.remove_prefix(std::min(word.size() + 1, text.size()));
   }
-  return true;
+  return false;
 }
 
 std::string SavedLociText(const LociList& loci) {
@@ -87,8 +80,8 @@ std::string SavedLociText(const LociList& loci) {
 
 std::optional<std::string> SaveLoci(const LociList& loci) {
   RemoveUnfinished();
-  if (IsSomethingElse()) {
-    return NotSaved("a file of that name is there, which is no such copy and stays as it is");
+  if (IsSomebodysData()) {
+    return NotSaved("a file of that name is there, which holds genotypes and stays as it is");
   }
   const std::string unfinished = fmt::format("{}.{}{}", kSavedLociFile, RandomName(), kUnfinished);
   std::error_code error = WriteNewFile(unfinished, SavedLociText(loci));

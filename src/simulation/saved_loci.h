@@ -12,10 +12,9 @@ namespace kaldo {
 /// The contents of the loci-save file: every name followed by one blank, on one line.
 std::string SavedLociText(const LociList& loci);
 
-/// Whether a file holds such contents, of whatever loci, or nothing. One that does not is no copy:
-/// several lines, an end without a blank, words that are too long or too many, or genotypes
-/// (digits alone, four or more: a list of names has hardly any).
-bool IsSavedLociText(std::string_view text);
+/// Whether a word of a text is a genotype: digits alone, four or more. A line of names of loci has
+/// none, but for a locus that is called so.
+bool HoldsGenotypes(std::string_view text);
 
 /// Writes the loci-save file into the working folder: at the end of a simulation, and in the
 /// windows when the first screen of a simulation is confirmed. It is a convenience: when it cannot
