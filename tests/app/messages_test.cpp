@@ -149,7 +149,7 @@ TEST_F(MessagesTest, FaultyFilesEndASimulation) {
   OpenFlow(script_, "SIMULATIONSNON-SEXED");
   script_.Click("Ok").Answer().Type("LociFile", Text("data/loci.txt")).Click("Ok");
   script_.Await("Parents").Click("Ok").Answer().Type("CollectedFile", Text("data/parents.txt"));
-  script_.Click("Ok").Answer().Press(Qt::Key_Escape);
+  script_.Type("Uncollected", Text("2")).Click("Ok").Answer().Press(Qt::Key_Escape);
   OpenFlow(script_, "SIMULATIONSSEXED");
   script_.Type("LociFile", Text("data/loci.txt")).Click("Ok").Await("Parents");
   TypeCollected("Males", "data/males.txt");

@@ -121,9 +121,6 @@ TEST_F(ResultsSimulationTest, ShowsTheSequenceOfTheReport) {
   EXPECT_TRUE(Find<QTextBrowser>(*shown.window, "SummaryText")
                   .toPlainText()
                   .contains(Text("(results for the last combination of loci only)")));
-  EXPECT_TRUE(Find<QTextBrowser>(*shown.window, "SummaryText")
-                  .toPlainText()
-                  .contains(Text("the figures describe strict exclusion")));
 }
 
 TEST_F(ResultsSimulationTest, MarksTheBestSubsetOfEachSize) {
