@@ -127,8 +127,8 @@ void TypedImport::AddRules(CLI::App& command) {
       ->default_str("undefined");
   add("--missing-parents", missing_parents_, "WAY",
       "What becomes of parents undefined at a locus: drop-individuals, drop-loci, least or keep");
-  add("--repeat-length", repeat_lengths_, "NAME=N,...",
-      "Loci whose alleles count repeats, with the length of a repeat in bp");
+  add("--repeat-length", repeat_lengths_, "LENGTHS",
+      "Loci whose alleles count repeats, with the length of a repeat: L=4,M=2 (bp)");
 }
 
 std::vector<ImportedFile> TypedImport::Files() const {
