@@ -24,13 +24,13 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
          Text("&Summary"), Text("What was simulated, and how often decisions were correct."));
   AddTab(new SpreadPage(classes, Text(LastCombinationNote(strategy)), Folder()), Text("S&pread"),
          Text("How much the share of correct decisions varies between iterations."));
-  auto* estimates = new ChartPanel(Text("Estimates"), Qt::Horizontal, Folder(), nullptr);
+  auto* estimates = new ChartPanel(Text("Estimates"), Qt::Vertical, Folder(), nullptr);
   estimates->Show(EstimatesChart(shared->settings, shared->run.result),
                   EstimatesTable(shared->settings.flow, shared->run.result));
   AddTab(estimates, Text("&Estimates"),
          Text("Every estimated probability that an allocation is correct, and how exact it is."));
   if (strategy == LociStrategy::kCumulative) {
-    auto* sequence = new ChartPanel(Text("Sequence"), Qt::Horizontal, Folder(), nullptr);
+    auto* sequence = new ChartPanel(Text("Sequence"), Qt::Vertical, Folder(), nullptr);
     sequence->Show(SequenceChart(shared->settings.flow, shared->run));
     AddTab(sequence, Text("Se&quence"), Text("What each further locus adds."));
   }
