@@ -7,21 +7,12 @@ namespace kaldo {
 
 namespace {
 
-/// A choice that a record tells only where it is not the first one, which is the default.
+/// A choice of which a record tells only what is not as by default.
 template <typename Choice, std::size_t n>
-ValueKind<Choice> ChoiceUnlessDefault(const std::array<NamedChoice<Choice>, n>& choices) {
-  ValueKind<Choice> kind = ChoiceKind(choices, ProblemKind::kUnknownRandomNumbers);
-  kind.record = [record = kind.record, by_default = choices.front().choice](
-                    const Choice& choice, const std::string& key, RunRecord& written) {
-    if (choice != by_default) {
-      record(choice, key, written);
-    }
-  };
-  kind.recorded = [recorded = kind.recorded, by_default = choices.front().choice](
-                      const std::string& key, RecordedSettings& settings) {
-    return settings.Optional<std::string>(key) ? recorded(key, settings) : by_default;
-  };
-  return kind;
+SettingValue<SimulationSettings> Unusual(Choice SimulationSettings::*member,
+                                         const std::array<NamedChoice<Choice>, n>& choices) {
+  return Member(member, ToldUnlessDefault(SimulationSettings().*member,
+                                          ChoiceKind(choices, ProblemKind::kUnknownRandomNumbers)));
 }
 
 /// A number above 0 and below 1, or nothing.
@@ -71,15 +62,14 @@ std::vector<Setting<SimulationSettings>> RandomSettings() {
   subset_randoms.group = "Subsets of loci";
   subset_randoms.help =
       "Random numbers of each subset: own | common, so that subsets differ less by chance";
-  subset_randoms.value =
-      Member(&SimulationSettings::subset_randoms, ChoiceUnlessDefault(kSubsetRandoms));
+  subset_randoms.value = Unusual(&SimulationSettings::subset_randoms, kSubsetRandoms);
   Declared random;
   random.key = "random";
   random.option = "--random";
   random.metavar = "NAME";
   random.group = "Method";
   random.help = "Random numbers: default | modern, with 64 bits and no coarse draws";
-  random.value = Member(&SimulationSettings::random, ChoiceUnlessDefault(kRandomSources));
+  random.value = Unusual(&SimulationSettings::random, kRandomSources);
   Declared until_error;
   until_error.key = "until_se";
   until_error.option = "--until-se";
