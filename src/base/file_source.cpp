@@ -20,8 +20,14 @@ namespace {
 constexpr std::size_t kBlockBytes = std::size_t{1} << 16U;
 
 /// Without its mark: every other byte of ASCII letters and digits is zero, which no other text has.
+/// Packed files, such as workbooks, hold zeros anywhere.
 bool LooksLikeUtf16(std::string_view text) {
-  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\0')) > text.size() / 3;
+  std::array<std::size_t, 2> zeros{};  // at even places, at odd ones
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    zeros.at(i % 2) += text[i] == '\0' ? 1 : 0;
+  }
+  const auto [fewer, more] = std::minmax(zeros[0], zeros[1]);
+  return more > text.size() / 3 && fewer * 10 <= more;
 }
 
 }  // namespace
