@@ -5,11 +5,11 @@
 
 #include <cstdlib>
 
-#include "fuzz/temporary_folder.h"
+#include "fuzz/files_of_fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   using namespace kaldo;
-  static const fuzz::TemporaryFolder folder;
+  static const fuzz::FilesOfFuzzer folder;
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   PortionLogReader reader(folder.Write("log", bytes));
   if (!reader.Record()) {

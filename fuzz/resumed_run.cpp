@@ -7,8 +7,8 @@
 
 #include "allocation/allocation_run.h"
 #include "base/byte_packing.h"
+#include "fuzz/files_of_fuzzer.h"
 #include "fuzz/memory_files.h"
-#include "fuzz/temporary_folder.h"
 #include "runs/resuming_workforce.h"
 #include "simulation/counts_plan.h"
 #include "simulation/iteration_portions.h"
@@ -58,8 +58,8 @@ class OneWorker final : public Workforce {
   std::uint64_t parts_ = 0;
 };
 
-const fuzz::TemporaryFolder& Folder() {
-  static const fuzz::TemporaryFolder folder;
+const fuzz::FilesOfFuzzer& Folder() {
+  static const fuzz::FilesOfFuzzer folder;
   return folder;
 }
 

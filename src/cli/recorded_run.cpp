@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/recorded_run.h"
 
-#include <cerrno>
-#include <cstdlib>
-#include <filesystem>
 #include <ostream>
 #include <sstream>
-#include <system_error>
 
 #include <fmt/format.h>
 
+#include "base/temporary_folder.h"
 #include "cli/opened_record.h"
 #include "cli/result_comparison.h"
 #include "cli/tell.h"
@@ -19,30 +16,6 @@
 namespace kaldo {
 
 namespace {
-
-/// A folder that goes away with everything in it.
-class TemporaryFolder {
- public:
-  TemporaryFolder() : path_((std::filesystem::temp_directory_path() / "kaldo-XXXXXX").string()) {
-    if (::mkdtemp(path_.data()) == nullptr) {
-      throw RunFailure(fmt::format("Cannot make the folder \"{}\": {}", path_,
-                                   std::generic_category().message(errno)));
-    }
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  TemporaryFolder(TemporaryFolder&&) = delete;
-  TemporaryFolder& operator=(TemporaryFolder&&) = delete;
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-
-  const std::string& Path() const { return path_; }
-
- private:
-  std::string path_;
-};
 
 void TellEach(const std::vector<std::string>& phrases, std::ostream& stream) {
   for (const std::string& phrase : phrases) {

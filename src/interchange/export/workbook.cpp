@@ -2,19 +2,15 @@
 #include "interchange/export/workbook.h"
 
 #include "base/problem.h"
+#include "base/temporary_folder.h"
 #include "interchange/export/allocation_tables.h"
 #include "interchange/export/told_settings.h"
 
 #ifdef KALDO_HAS_XLSXWRITER
 
-#include <cerrno>
-#include <cstdio>
-#include <cstdlib>
 #include <ctime>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <system_error>
 #include <xlsxwriter.h>
 
 #include <fmt/format.h>
@@ -26,34 +22,6 @@ namespace {
 [[noreturn]] void Fail(const std::string& reason) {
   throw RunFailure(fmt::format("Cannot make the workbook: {}", reason));
 }
-
-/// A file in the folder for temporary files, which goes away.
-class TemporaryFile {
- public:
-  TemporaryFile() : path_((std::filesystem::temp_directory_path() / "kaldo-XXXXXX").string()) {
-    const int handle = ::mkstemp(path_.data());
-    if (handle < 0) {
-      Fail(std::generic_category().message(errno));
-    }
-    std::FILE* const file = ::fdopen(handle, "w");
-    if (file != nullptr) {
-      (void)std::fclose(file);
-    }
-  }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  TemporaryFile(TemporaryFile&&) = delete;
-  TemporaryFile& operator=(TemporaryFile&&) = delete;
-  ~TemporaryFile() {
-    std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
-  }
-
-  const std::string& Path() const { return path_; }
-
- private:
-  std::string path_;
-};
 
 /// Workbooks hold no control characters but tabs and line ends.
 std::string WorkbookText(std::string text) {
@@ -123,8 +91,9 @@ void SetDate(lxw_workbook* book) {
 bool CanWriteWorkbooks() { return true; }
 
 std::string WorkbookBytes(const ExportedStudy& study, const RunRecord& record) {
-  const TemporaryFile file;
-  lxw_workbook* const book = workbook_new(file.Path().c_str());
+  const TemporaryFolder folder;
+  const std::string path = folder.Path() + "/workbook.xlsx";
+  lxw_workbook* const book = workbook_new(path.c_str());
   if (book == nullptr) {
     Fail("out of memory");
   }
@@ -138,7 +107,7 @@ std::string WorkbookBytes(const ExportedStudy& study, const RunRecord& record) {
   if (const lxw_error error = workbook_close(book); error != LXW_NO_ERROR) {
     Fail(lxw_strerror(error));
   }
-  std::ifstream stream(file.Path(), std::ios::binary);
+  std::ifstream stream(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
