@@ -76,7 +76,7 @@ tl::expected<AllocationRun, Problem> RunAllocation(const AllocationSettings& set
 
 /// The run with an input that was loaded before with these settings. The record tells the contents
 /// that were loaded, whatever has become of the files since. The exports have been prepared.
-AllocationRun RunAllocation(const AllocationSettings& settings, AllocationInput input,
+AllocationRun RunAllocation(const AllocationSettings& wanted, AllocationInput input,
                             RunObserver& observer, Workforce& workforce,
                             AllocationExports* exports = nullptr);
 

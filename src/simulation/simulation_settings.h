@@ -110,11 +110,10 @@ struct SimulationSettings {
   ErrorModel error_model = kErrorModelUnlessTold;
 
   std::optional<std::vector<std::string>> loci_in_use;  ///< by name; all when nothing is said
-  bool allow_undefined_parents = false;  ///< among collected ones, see AddUndefinedAllele
 
   LociStrategy strategy = LociStrategy::kChoice;
-  double criterion = 0.95;             ///< kMinimal: the probability that any allocation is correct
   std::int32_t start_with = 1;         ///< smallest number of loci of the subset strategies
+  double criterion = 0.95;             ///< kMinimal: the probability that any allocation is correct
   std::vector<std::int32_t> sequence;  ///< kCumulative: position of each locus; empty: file order
 
   bool print_iterations = false;
@@ -122,7 +121,9 @@ struct SimulationSettings {
   std::optional<KeptFiles> keep;  ///< nothing said: see KeptFilesOf
   ExportForms also;               ///< further files, one of kSimulationExportForms
 
+  bool allow_undefined_parents = false;  ///< among collected ones, see AddUndefinedAllele
   bool scores_confidence = false;  ///< whether posterior probabilities are compared with the truth
+  UndefinedInSample undefined_in_sample = UndefinedInSample::kCount;  ///< of uncollected parents
   double confidence_level = kDefaultConfidenceLevel;  ///< scored beside the usual ones
 
   /// Non-sexed: with which model the pseudo-offspring are allocated; nothing: with that of the run.
@@ -130,7 +131,6 @@ struct SimulationSettings {
 
   double undefined = 0;        ///< share of loci at which pseudo-offspring are undefined, below 1
   std::string undefined_like;  ///< or a file of offspring: as often, locus by locus, as they are
-  UndefinedInSample undefined_in_sample = UndefinedInSample::kCount;
 
   // Simulations run beside that of the settings, see scan.h; empty: none.
   std::vector<std::int32_t> scan_tolerance;
