@@ -75,7 +75,7 @@ tl::expected<SimulationRun, Problem> RunSimulation(const SimulationSettings& set
 
 /// The run with an input that was loaded before with these settings; seed, outputs and threads may
 /// have been chosen since.
-SimulationRun RunSimulation(const SimulationSettings& settings, SimulationInput input,
+SimulationRun RunSimulation(const SimulationSettings& wanted, SimulationInput input,
                             RunObserver& observer, Workforce& workforce,
                             SimulationExports* exports = nullptr);
 

@@ -90,7 +90,7 @@ std::vector<Slot> ExportedStudy::Parents() const {
   parents.reserve(all.Size());
   for (std::uint32_t slot = all.begin; slot < all.end; ++slot) {
     if (!IsSeparatorName(input_.table.Name(Slot{slot}).Text())) {
-      parents.push_back(Slot{slot});
+      parents.emplace_back(slot);
     }
   }
   return parents;

@@ -135,7 +135,7 @@ class PedigreeMaker {
 
   /// Founders first, then whoever has both parents above, again and again.
   tl::expected<Pedigree, Problem> InOrder() {
-    constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
+    constexpr auto kNowhere = static_cast<std::size_t>(-1);
     Pedigree pedigree{{}, by_sex_};
     std::vector<std::size_t> places(rows_.size(), kNowhere);
     std::vector<std::size_t> waiting(rows_.size());

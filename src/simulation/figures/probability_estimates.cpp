@@ -10,7 +10,7 @@ namespace kaldo {
 
 namespace {
 
-constexpr std::size_t kKinds = static_cast<std::size_t>(AllocationKind::kCount);
+constexpr auto kKinds = static_cast<std::size_t>(AllocationKind::kCount);
 
 /// By AllocationKind. Every pseudo-offspring has its two sides decided in some way, so that any
 /// allocation is always made, but in a class without pseudo-offspring.
