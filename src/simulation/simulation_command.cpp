@@ -118,7 +118,7 @@ std::optional<Warning> WarnOfOptionsWithoutEffect(const TypedSettings& typed,
     std::string_view option;
     std::vector<std::string_view> strategies;
   };
-  static const std::vector<Bound> kBound = {
+  static const std::vector<Bound> bound_options = {
       {"criterion", "--criterion", {"minimal"}},
       {"start_with", "--start-with", {"all", "minimal", "cumulative"}},
       {"sequence", "--sequence", {"cumulative"}},
@@ -128,7 +128,7 @@ std::optional<Warning> WarnOfOptionsWithoutEffect(const TypedSettings& typed,
   const std::string_view strategy =
       chosen == all.end() ? "choice" : std::string_view(chosen->second);
   std::vector<std::string> found;
-  for (const auto& [key, option, strategies] : kBound) {
+  for (const auto& [key, option, strategies] : bound_options) {
     const bool serves =
         std::find(strategies.begin(), strategies.end(), strategy) != strategies.end();
     if (typed.contains(key) && !serves) {

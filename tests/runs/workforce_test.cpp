@@ -72,7 +72,7 @@ TEST(LocalThreads, LeaveGroupsThatHadEnough) {
       CountingObserver observer;
       Do(task, plan, threads, observer);
       std::vector<std::uint64_t> expected;
-      for (std::size_t item = 0; item < 200 * 50; ++item) {
+      for (std::size_t item = 0; item < std::size_t{200} * 50; ++item) {
         if (item % 50 < enough) {
           expected.push_back(Expected(item / 50, item % 50));
         }
