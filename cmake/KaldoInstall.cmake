@@ -17,8 +17,15 @@ if(TARGET kaldo-desktop)
     DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
   install(FILES packaging/io.github.kaldo.kaldo.metainfo.xml
     DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+  install(FILES packaging/kaldo-run-record.xml
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages")
 endif()
 install(FILES ${kaldo_man_pages} DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+# The manual names the folders of its own installation, wherever that is.
+install(CODE "set(page \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_MANDIR}/man1/kaldo.1\")
+  file(READ \"\${page}\" text)
+  string(REPLACE \"/usr/share/\" \"\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DATADIR}/\" text \"\${text}\")
+  file(WRITE \"\${page}\" \"\${text}\")")
 set(kaldo_completions "${PROJECT_BINARY_DIR}/src/cli/completion")
 install(FILES "${kaldo_completions}.bash" RENAME kaldo
   DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
@@ -36,7 +43,7 @@ endif()
 
 # The documents keep their places towards each other, so that the links between them lead somewhere.
 install(DIRECTORY examples DESTINATION "${CMAKE_INSTALL_DATADIR}/kaldo")
-install(FILES README.md CHANGELOG.md CITATION.cff packaging/copyright TYPE DOC)
+install(FILES README.md CHANGELOG.md CITATION.cff CONTRIBUTING.md LICENSE packaging/copyright TYPE DOC)
 install(DIRECTORY docs DESTINATION "${CMAKE_INSTALL_DOCDIR}" FILES_MATCHING PATTERN "*.md"
   PATTERN "*.png" PATTERN man EXCLUDE)
 install(DIRECTORY contrib DESTINATION "${CMAKE_INSTALL_DOCDIR}")
@@ -49,7 +56,7 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME kaldo)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "parentage allocation with uncollected parents")
 set(CPACK_PACKAGE_VENDOR "The KALDO developers")
-set(CPACK_PACKAGE_CONTACT "The KALDO developers <maintainers@kaldo.invalid>")
+set(CPACK_PACKAGE_CONTACT "The KALDO developers")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
