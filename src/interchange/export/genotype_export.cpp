@@ -6,6 +6,8 @@
 
 #include <fmt/format.h>
 
+#include "interchange/import/foreign_text.h"
+
 namespace kaldo {
 
 namespace {
@@ -22,13 +24,12 @@ std::vector<Population> PopulationsOf(const AllocationInput& input, const Origin
                                       Flow flow) {
   const bool sexed = flow == Flow::kSexed;
   std::vector<Population> populations;
-  for (const bool is_first : {true, false}) {
-    for (std::size_t k = 0; k < input.groups.size() && (is_first || sexed); ++k) {
-      const CandidateGroup& group = input.groups[k];
-      const std::string number = std::to_string(k + 1);
-      populations.push_back({is_first ? group.first : group.second, "parent",
-                             sexed ? (is_first ? "m" : "f") : "",
-                             names.Original(NameKind::kGroup, number)});
+  populations.reserve(2 * input.groups.size() + 1);
+  for (std::size_t k = 0; k < input.groups.size(); ++k) {
+    const std::string name = names.Original(NameKind::kGroup, std::to_string(k + 1));
+    populations.push_back({input.groups[k].first, "parent", sexed ? "m" : "", name});
+    if (sexed) {
+      populations.push_back({input.groups[k].second, "parent", "f", name});
     }
   }
   populations.push_back({input.offspring, "offspring", "", ""});
@@ -54,8 +55,9 @@ std::string GenepopName(const OriginalNames& names, NameKind kind, const std::st
   return original.find_first_of(",\r\n") == std::string::npos ? original : code;
 }
 
+/// Between quotation marks as well what another program could take for the separator.
 std::string CsvCell(const std::string& text) {
-  if (text.find_first_of("\",\r\n") == std::string::npos) {
+  if (text.find_first_of("\",;\t\r\n") == std::string::npos) {
     return text;
   }
   std::string quoted = "\"";
@@ -69,10 +71,16 @@ std::string AlleleCell(AlleleSize allele) {
   return allele == kUndefinedAllele ? std::string() : std::to_string(allele.Value());
 }
 
-/// The first allele that three digits do not hold.
-std::optional<Problem> CheckDigits(const AllocationInput& input) {
+/// The first allele that three digits do not hold, and a locus that would begin a population.
+std::optional<Problem> CheckForGenepop(const AllocationInput& input, const OriginalNames& names) {
   static constexpr AlleleSize kMost{999};
   for (const LocusIndex locus : AllLoci(input)) {
+    const std::string name = GenepopName(names, NameKind::kLocus, input.loci.Name(locus));
+    if (Lower(Trimmed(name)) == "pop") {
+      return Problem{.kind = ProblemKind::kCannotExport,
+                     .locus = name,
+                     .found = "in GENEPOP a line with that name begins a population"};
+    }
     const auto genotypes = input.table.Locus(locus);
     const auto large = std::find_if(genotypes.begin(), genotypes.end(), [](const auto& genotype) {
       return genotype.allele1 > kMost || genotype.allele2 > kMost;
@@ -92,7 +100,7 @@ std::optional<Problem> CheckDigits(const AllocationInput& input) {
 
 tl::expected<std::string, Problem> GenepopText(const AllocationInput& input,
                                                const OriginalNames& names, Flow flow) {
-  if (auto problem = CheckDigits(input)) {
+  if (auto problem = CheckForGenepop(input, names)) {
     return tl::unexpected(std::move(*problem));
   }
   const auto loci = AllLoci(input);

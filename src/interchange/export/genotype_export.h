@@ -12,9 +12,9 @@ namespace kaldo {
 
 // The genotypes of a study in the forms of other programs, with the names before an import.
 
-/// GENEPOP: three digits per allele; each group of parents is a population (sexed: each group of
-/// males, then each group of females), and the offspring are the last one. Empty groups are left
-/// out. Alleles of four digits are a Problem. A name that holds a comma stands as its code.
+/// GENEPOP: three digits per allele; each group of parents is a population (sexed: its males,
+/// then its females), and the offspring are the last one. Empty groups are left out. Alleles of
+/// four digits and a locus called POP are a Problem. A name that holds a comma stands as its code.
 tl::expected<std::string, Problem> GenepopText(const AllocationInput& input,
                                                const OriginalNames& names, Flow flow);
 

@@ -19,20 +19,24 @@ namespace {
 constexpr std::string_view kBlanks = " \t";
 constexpr std::size_t kFirstSettings = 12;  ///< full lines before the loci, at the least
 
+/// A line that holds more than a remark. Its words are found when they are needed: those of all
+/// lines would take many times the memory of the file.
 struct FullLine {
   std::uint32_t number = 0;
-  std::vector<std::string_view> words;
+  std::string_view text;
+
+  std::vector<std::string_view> Words() const { return WordsBetween(text, kBlanks); }
+  std::string_view FirstWord() const { return text.substr(0, text.find_first_of(kBlanks)); }
 };
 
-/// The lines that hold more than a remark.
 std::vector<FullLine> FullLinesOf(std::string_view text, std::size_t most) {
   std::vector<FullLine> full;
   TextLines lines(text);
   TextLine line;
   while (full.size() < most && lines.Next(line)) {
-    auto words = WordsBetween(line.text.substr(0, line.text.find('!')), kBlanks);
-    if (!words.empty()) {
-      full.push_back({line.number, std::move(words)});
+    line.text = Trimmed(line.text.substr(0, line.text.find('!')));
+    if (!line.text.empty()) {
+      full.push_back({line.number, line.text});
     }
   }
   return full;
@@ -52,13 +56,13 @@ class ColonyReader {
     if (!FindLoci() || !builder_.SetLoci(loci_)) {
       return;
     }
-    const std::size_t offspring = CountIn(lines_[2].words.front());
+    const std::size_t offspring = CountIn(lines_[2].FirstWord());
     if (!TakeGenotypes(offspring, Role::kOffspring, Sex::kUnknown)) {
       return;
     }
     ++at_;  // how probable it is that parents are among the candidates
     const auto counts = Counts(2);
-    const bool has_sexes = lines_[6].words.front() != "1" || counts[1] > 0;
+    const bool has_sexes = lines_[6].FirstWord() != "1" || counts[1] > 0;
     if (!TakeGenotypes(counts[0], Role::kParent, has_sexes ? Sex::kMale : Sex::kUnknown) ||
         !TakeGenotypes(counts[1], Role::kParent, Sex::kFemale)) {
       return;
@@ -68,16 +72,18 @@ class ColonyReader {
 
  private:
   static constexpr std::size_t kMostLines = 400'000;
+  static constexpr std::size_t kMostExclusions = 1'000'000;
 
   /// The names of the loci stand before three lines of settings of the loci and the genotypes.
   bool FindLoci() {
-    const std::size_t number = lines_.size() > 3 ? CountIn(lines_[3].words.front()) : 0;
+    const std::size_t number = lines_.size() > 3 ? CountIn(lines_[3].FirstWord()) : 0;
     const auto fits = [number](const FullLine& line) {
-      return line.words.size() == number || line.words.back().ends_with('@');
+      const auto words = line.Words();
+      return words.size() == number || (words.size() == 1 && words.back().ends_with('@'));
     };
     for (std::size_t k = kFirstSettings; number > 0 && k + 4 < lines_.size(); ++k) {
       if (fits(lines_[k]) && fits(lines_[k + 1]) && fits(lines_[k + 2]) && fits(lines_[k + 3]) &&
-          lines_[k + 4].words.size() == 1 + 2 * number) {
+          lines_[k + 4].Words().size() == 1 + 2 * number) {
         NameLoci(lines_[k], number);
         CheckTypes(lines_[k + 1]);
         at_ = k + 4;
@@ -93,16 +99,18 @@ class ColonyReader {
 
   /// "mk@" stands for mk1, mk2, ...
   void NameLoci(const FullLine& line, std::size_t number) {
-    const std::string_view stem = line.words.back().substr(0, line.words.back().find('@'));
-    const bool is_numbered = line.words.size() == 1 && line.words.back().ends_with('@');
+    const auto words = line.Words();
+    const std::string_view stem = words.back().substr(0, words.back().find('@'));
+    const bool is_numbered = words.size() == 1 && words.back().ends_with('@');
     for (std::size_t k = 0; k < number; ++k) {
       loci_.push_back(is_numbered ? fmt::format("{}{}", stem, k + 1)
-                                  : std::string(k + 1 == number ? stem : line.words[k]));
+                                  : std::string(k + 1 == number ? stem : words[k]));
     }
   }
 
   void CheckTypes(const FullLine& line) {
-    if (std::any_of(line.words.begin(), line.words.end(),
+    const auto words = line.Words();
+    if (std::any_of(words.begin(), words.end(),
                     [](std::string_view word) { return word.starts_with('1'); })) {
       builder_.Fault(line.number, "", "",
                      "a locus is dominant; only codominant ones such as microsatellites are read");
@@ -113,7 +121,7 @@ class ColonyReader {
   std::vector<std::size_t> Counts(std::size_t wanted) {
     std::vector<std::size_t> counts;
     if (at_ < lines_.size()) {
-      for (const std::string_view word : lines_[at_++].words) {
+      for (const std::string_view word : lines_[at_++].Words()) {
         counts.push_back(CountIn(word));
       }
     }
@@ -123,24 +131,25 @@ class ColonyReader {
 
   bool TakeGenotypes(std::size_t count, Role role, Sex sex) {
     for (std::size_t k = 0; k < count; ++k, ++at_) {
-      if (at_ == lines_.size() || lines_[at_].words.size() != 1 + 2 * loci_.size()) {
-        builder_.Fault(at_ == lines_.size() ? 0 : lines_[at_].number, "", "",
+      const FullLine line = at_ < lines_.size() ? lines_[at_] : FullLine();
+      const auto words = line.Words();
+      if (words.size() != 1 + 2 * loci_.size()) {
+        builder_.Fault(line.number, "", "",
                        fmt::format("expected the name and the {} alleles of individual {} of {}",
                                    2 * loci_.size(), k + 1, count));
         return false;
       }
-      const FullLine& line = lines_[at_];
-      if (!builder_.AddIndividual(line.words[0], line.number)) {
+      if (!builder_.AddIndividual(words[0], line.number)) {
         return false;
       }
       builder_.Individual().role = role;
       builder_.Individual().sex = sex;
       for (std::size_t locus = 0; locus < loci_.size(); ++locus) {
-        builder_.SetAlleles(locus, {line.words[1 + 2 * locus], line.number, loci_[locus]},
-                            {line.words[2 + 2 * locus], line.number, loci_[locus]});
+        builder_.SetAlleles(locus, {words[1 + 2 * locus], line.number, loci_[locus]},
+                            {words[2 + 2 * locus], line.number, loci_[locus]});
       }
       if (role == Role::kParent) {
-        (sex == Sex::kFemale ? females_ : males_).emplace_back(line.words[0]);
+        (sex == Sex::kFemale ? females_ : males_).emplace_back(words[0]);
       }
     }
     return true;
@@ -150,7 +159,7 @@ class ColonyReader {
   void ForEachLine(Take take) {
     const std::size_t count = Counts(1)[0];
     for (std::size_t k = 0; k < count && at_ < lines_.size(); ++k, ++at_) {
-      take(lines_[at_].words);
+      take(lines_[at_].Words());
     }
   }
 
@@ -169,15 +178,19 @@ class ColonyReader {
       });
     }
     std::size_t sibs = 0;
+    std::size_t exclusions = 0;
     for (int side = 0; side < 2; ++side) {
       ForEachLine([&](const FieldsOfLine&) { ++sibs; });
     }
     for (int side = 0; side < 2; ++side) {
       ForEachLine([&](const FieldsOfLine& words) {
-        for (std::size_t k = 2; k < words.size(); ++k) {
-          excluded[std::string(words[0])].emplace(words[k]);
+        for (std::size_t k = 2; k < words.size() && exclusions < kMostExclusions; ++k) {
+          exclusions += excluded[std::string(words[0])].emplace(words[k]).second ? 1U : 0U;
         }
       });
+    }
+    if (exclusions == kMostExclusions) {
+      builder_.Fault(0, "", "", fmt::format("it excludes {} parents or more", exclusions));
     }
     if (sibs > 0) {
       builder_.Note(fmt::format("{} known sibships are not taken over", sibs));
@@ -217,7 +230,9 @@ class ColonyReader {
         });
         std::for_each(females_.begin(), females_.end(), add);
       }
-      builder_.AddKnown(std::move(known));
+      if (!builder_.AddKnown(std::move(known))) {
+        return;
+      }
     }
   }
 
@@ -233,13 +248,13 @@ class ColonyReader {
 
 std::optional<std::string> RecogniseColony(const ForeignFile& file) {
   const auto lines = FullLinesOf(*file.text, kFirstSettings + 1);
-  if (lines.size() <= kFirstSettings || lines[2].words.size() != 1 || lines[3].words.size() != 1 ||
-      CountIn(lines[2].words[0]) == 0 || CountIn(lines[3].words[0]) == 0) {
+  if (lines.size() <= kFirstSettings || CountIn(lines[2].text) == 0 ||
+      CountIn(lines[3].text) == 0) {
     return std::nullopt;
   }
   const bool are_settings =
       std::all_of(lines.begin() + 2, lines.begin() + kFirstSettings, [](const FullLine& line) {
-        return line.words.size() <= 4 && ParseDouble(line.words[0]).has_value();
+        return line.Words().size() <= 4 && ParseDouble(line.FirstWord()).has_value();
       });
   if (!are_settings) {
     return std::nullopt;

@@ -33,6 +33,14 @@ std::optional<std::string_view> Stem(std::string_view first, std::string_view se
   return std::nullopt;
 }
 
+/// Without the one sign that parts the name of a locus from that of its allele, and blanks around
+/// it: a name may end with such a sign itself.
+std::string_view WithoutSign(std::string_view stem) {
+  stem = Trimmed(stem);
+  const bool has_sign = !stem.empty() && kSigns.find(stem.back()) != std::string_view::npos;
+  return Trimmed(stem.substr(0, stem.size() - (has_sign ? 1 : 0)));
+}
+
 }  // namespace
 
 bool IsBlankHead(std::string_view head) {
@@ -52,9 +60,8 @@ std::optional<std::string> CommonHead(std::string_view first, std::string_view s
     return std::nullopt;
   }
   if (const auto stem = Stem(first, second)) {
-    const std::size_t end = stem->find_last_not_of(kSigns);
-    return end == std::string_view::npos ? std::nullopt
-                                         : std::optional(std::string(stem->substr(0, end + 1)));
+    const std::string_view name = WithoutSign(*stem);
+    return name.empty() ? std::nullopt : std::optional(std::string(name));
   }
   const bool is_numbered_by_programs =
       second.starts_with(first) &&

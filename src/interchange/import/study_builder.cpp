@@ -17,6 +17,9 @@ namespace {
 /// Individuals, parents and offspring, that any run could take.
 constexpr std::size_t kMostIndividuals = 2 * kMaxIndividuals;
 
+/// Candidates that the offspring of a file have, all together.
+constexpr std::size_t kMostCandidates = 2'000'000;
+
 /// Genotypes of all loci, wanted or not, that are kept while a study is read.
 constexpr std::size_t kMostGenotypes = 20'000'000;
 
@@ -286,6 +289,17 @@ void StudyBuilder::SetGenotype(std::size_t locus, ForeignCell both) {
     NoteDecimal(both);
   }
   Place(Individual(), locus, {reading.first, reading.second}, both);
+}
+
+bool StudyBuilder::AddKnown(KnownOffspring known) {
+  candidates_ += known.candidates.size();
+  if (candidates_ > kMostCandidates) {
+    Fault(0, "", "",
+          fmt::format("its offspring have more than {} candidates, all together", kMostCandidates));
+    return false;
+  }
+  study_.known.push_back(std::move(known));
+  return true;
 }
 
 }  // namespace kaldo

@@ -71,8 +71,9 @@ class StudyBuilder {
   void SetAlleles(ForeignIndividual& individual, std::size_t locus, ForeignCell first,
                   ForeignCell second);
 
-  /// What is known of an offspring.
-  void AddKnown(KnownOffspring known) { study_.known.push_back(std::move(known)); }
+  /// What is known of an offspring. False where the candidates of all offspring are too many, which
+  /// is a fault.
+  bool AddKnown(KnownOffspring known);
 
  private:
   static constexpr std::size_t kNotWanted = static_cast<std::size_t>(-1);
@@ -88,6 +89,7 @@ class StudyBuilder {
   const ImportChoices& choices_;
   const ImportedFile& file_;
   std::size_t first_ = study_.individuals.size();  ///< individual of this file
+  std::size_t candidates_ = 0;                     ///< of all offspring of this file
   std::vector<std::size_t> places_;                ///< of the loci of the file in the study
   std::vector<std::size_t> digits_;  ///< per locus, of alleles side by side; 0 until one is met
   std::map<std::string, std::size_t, std::less<>> populations_;

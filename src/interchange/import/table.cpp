@@ -120,6 +120,9 @@ class TableReader {
   }
 
   void LookAtColumns() {
+    if (file_.is_workbook) {
+      heads_.cells.emplace_back();  // a sheet does not store a blank head at its end
+    }
     looks_.resize(heads_.cells.size());
     while (NextRow()) {
       for (std::size_t k = 0; k < std::min(looks_.size(), row_.cells.size()); ++k) {
@@ -184,7 +187,8 @@ class TableReader {
     const std::string& second = heads_.cells[next];
     const bool may_be_two = MayBeTwoLoci(first, second) && looks_[column].only_four_digits &&
                             looks_[next].only_four_digits;
-    return CommonHead(first, second) && !may_be_two;
+    const bool is_nothing = IsBlankHead(second) && looks_[next].is_empty;
+    return CommonHead(first, second) && !may_be_two && !is_nothing;
   }
 
   void FindLoci() {

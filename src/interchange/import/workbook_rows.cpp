@@ -25,6 +25,7 @@ constexpr std::size_t kMaxSheetBytes = 64 * kMegabyte;
 constexpr std::size_t kMaxOtherBytes = 16 * kMegabyte;
 constexpr std::size_t kMaxElementBytes = 2 * kMegabyte;  ///< of a row or a shared text
 constexpr std::size_t kMaxSharedTexts = 500'000;
+constexpr std::uint32_t kMostRows = 1'048'576;  ///< of a sheet, as the format has it
 
 using Failure = tl::unexpected<std::string>;
 
@@ -202,7 +203,7 @@ class WorkbookRows final : public RowSource {
       }
       const pugi::xml_node node = document.first_child();
       const unsigned told = node.attribute("r").as_uint();
-      line_ = told > line_ ? told : line_ + 1;
+      line_ = told > line_ && told <= kMostRows ? told : line_ + 1;
       row.line = line_;
       if (auto found = TakeCells(node, row)) {
         return tl::unexpected(RowFault{line_, std::move(*found)});
