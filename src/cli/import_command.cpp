@@ -3,31 +3,19 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 #include <ostream>
 #include <tuple>
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
-#include "base/number_text.h"
 #include "base/problem.h"
-#include "interchange/import/foreign_text.h"
 #include "interchange/import/import_run.h"
+#include "interchange/import/import_words.h"
 
 namespace kaldo {
 
 namespace {
-
-std::vector<std::string> NamesIn(const std::string& text) {
-  const auto words = WordsBetween(text, ",");
-  std::vector<std::string> names;
-  names.reserve(words.size());
-  for (const std::string_view word : words) {
-    names.emplace_back(Trimmed(word));
-  }
-  return names;
-}
 
 std::optional<MissingParents> MissingParentsNamed(std::string_view name) {
   constexpr std::array<std::pair<std::string_view, MissingParents>, 5> kNames{
@@ -39,25 +27,6 @@ std::optional<MissingParents> MissingParentsNamed(std::string_view name) {
   const auto* const found = std::find_if(kNames.begin(), kNames.end(),
                                          [name](const auto& each) { return each.first == name; });
   return found == kNames.end() ? std::nullopt : std::optional(found->second);
-}
-
-/// "L=4,M=2".
-tl::expected<std::map<std::string, unsigned>, std::string> RepeatLengthsIn(
-    const std::string& text) {
-  constexpr std::int32_t kLongestRepeat = 100;
-  std::map<std::string, unsigned> lengths;
-  for (const std::string& word : NamesIn(text)) {
-    const std::size_t sign = word.rfind('=');
-    const auto length =
-        sign == std::string::npos ? std::nullopt : ParseInteger(word.substr(sign + 1));
-    if (!length || *length < 1 || *length > kLongestRepeat) {
-      return tl::unexpected(
-          fmt::format("--repeat-length: {} is no locus with the length of its repeat, as in L=4.",
-                      Quoted(word)));
-    }
-    lengths[word.substr(0, sign)] = static_cast<unsigned>(*length);
-  }
-  return lengths;
 }
 
 }  // namespace
@@ -181,9 +150,9 @@ tl::expected<ImportChoices, std::string> TypedImport::Choices() const {
   choices.repeat_lengths = std::move(*lengths);
   choices.half_missing_is_error = half_missing_ == "error";
   choices.missing_parents = *way;
-  choices.offspring_populations = NamesIn(offspring_populations_);
-  choices.loci = NamesIn(loci_);
-  choices.leading = NamesIn(leading_);
+  choices.offspring_populations = NamesBetweenCommas(offspring_populations_);
+  choices.loci = NamesBetweenCommas(loci_);
+  choices.leading = NamesBetweenCommas(leading_);
   return choices;
 }
 

@@ -9,6 +9,7 @@
 #include "base/counted_text.h"
 #include "base/shell_text.h"
 #include "genotypes/capacities.h"
+#include "interchange/import/foreign_text.h"
 #include "interchange/import/format_readers.h"
 #include "interchange/import/import_report.h"
 #include "interchange/import/missing_parents.h"
@@ -52,7 +53,7 @@ std::optional<RecognisedFormat> ChooseFormat(const ForeignFile& file, const Impo
 }
 
 void ReadOne(const ImportedFile& file, const ImportChoices& choices, FileSource& source,
-             ForeignStudy& study, ImportLog& log) {
+             ForeignStudy& study, std::vector<std::string>& heads, ImportLog& log) {
   auto opened = OpenForeignFile(file.path, choices.sheet, source);
   if (!opened) {
     log.faults.Add({.file = file.path, .found = opened.error()});
@@ -61,6 +62,9 @@ void ReadOne(const ImportedFile& file, const ImportChoices& choices, FileSource&
   const auto format = ChooseFormat(*opened, choices, log.faults);
   if (!format) {
     return;
+  }
+  if (const auto first = opened->FirstRows(1); heads.empty() && !first.empty()) {
+    heads = first.front().cells;
   }
   StudyBuilder builder(study, log, choices, file);
   builder.File().format = format->reader->name;
@@ -184,38 +188,78 @@ std::string SummaryOf(const SettledStudy& settled) {
   return summary + KeptText(settled) + '\n';
 }
 
-}  // namespace
-
-tl::expected<ImportedStudy, ImportFaults> ImportStudy(const ImportChoices& choices,
-                                                      FileSource& source) {
-  SettledStudy settled;
-  ImportLog log;
-  for (const ImportedFile& file : choices.files) {
-    ReadOne(file, choices, source, settled.study, log);
+std::vector<CountedPopulation> PopulationsOf(const ForeignStudy& study) {
+  std::vector<CountedPopulation> populations;
+  populations.reserve(study.populations.size());
+  for (const std::string& name : study.populations) {
+    populations.push_back({name});
   }
-  if (log.faults.IsEmpty()) {
-    Settle(choices, settled, log);
-  }
-  ImportedStudy imported;
-  if (log.faults.IsEmpty()) {
-    imported.files = FilesOfStudy(settled, log);
-    const auto settings = SettingsFor(choices, settled, imported.files);
-    if (!settings.offspring_file.empty()) {
-      CheckAsRun(settings, choices, imported.files, log);
+  for (const ForeignIndividual& individual : study.individuals) {
+    if (individual.population) {
+      ++populations[*individual.population].individuals;
     }
-    imported.command = CommandFor(settings);
   }
+  return populations;
+}
+
+/// Makes the files of a settled study and tests them as a run does.
+void Finish(const ImportChoices& choices, const SettledStudy& settled, ImportLog& log,
+            ImportedStudy& imported, StudyPreview& preview) {
+  imported.files = FilesOfStudy(settled, log);
+  imported.settings = SettingsFor(choices, settled, imported.files);
+  if (!imported.settings.offspring_file.empty()) {
+    CheckAsRun(imported.settings, choices, imported.files, log);
+  }
+  imported.command = CommandFor(imported.settings);
   if (!log.faults.IsEmpty()) {
-    return tl::unexpected(std::move(log.faults));
+    return;
   }
+  UnwrittenFiles unwritten(choices.folder, imported.files);
+  preview = PreviewAsWritten(settled, imported.files, choices.folder, unwritten);
   imported.summary = SummaryOf(settled);
   imported.warnings = log.warnings;
   imported.files.push_back({kImportReport, ImportReport(settled, log, imported.command)});
-  return imported;
+}
+
+}  // namespace
+
+ImportTry TryImport(const ImportChoices& choices, FileSource& source) {
+  SettledStudy settled;
+  ImportLog log;
+  ImportTry tried;
+  for (const ImportedFile& file : choices.files) {
+    ReadOne(file, choices, source, settled.study, tried.heads, log);
+  }
+  tried.files = settled.study.files;
+  tried.populations = PopulationsOf(settled.study);
+  if (log.faults.IsEmpty()) {
+    Settle(choices, settled, log);
+  }
+  tried.preview = PreviewAsRead(settled.study);
+  ImportedStudy imported;
+  if (log.faults.IsEmpty()) {
+    Finish(choices, settled, log, imported, tried.preview);
+  }
+  if (log.faults.IsEmpty()) {
+    tried.study = std::move(imported);
+  } else {
+    tried.study = tl::unexpected(std::move(log.faults));
+  }
+  return tried;
+}
+
+tl::expected<ImportedStudy, ImportFaults> ImportStudy(const ImportChoices& choices,
+                                                      FileSource& source) {
+  return TryImport(choices, source).study;
 }
 
 std::optional<ForeignLook> LookAtForeignFile(const std::string& path, FileSource& source) {
-  auto file = OpenForeignFile(path, std::nullopt, source);
+  auto bytes = ReadForeignBytes(path, source);
+  return bytes ? LookAtForeignBytes(path, std::move(*bytes)) : std::nullopt;
+}
+
+std::optional<ForeignLook> LookAtForeignBytes(const std::string& path, std::string bytes) {
+  auto file = OpenForeignBytes(path, std::move(bytes), std::nullopt);
   const auto format = file ? RecogniseFormat(*file) : std::nullopt;
   if (!format) {
     return std::nullopt;

@@ -72,6 +72,17 @@ std::vector<SwappedFile> WriteAside(const ProjectFolder& folder, const ResultsSw
 
 }  // namespace
 
+std::vector<std::string> FilesToReplace(const ImportChoices& choices) {
+  const ProjectFolder folder(choices.folder);
+  std::vector<std::string> names;
+  for (const std::string_view name : kAllFiles) {
+    if (IsThere(folder.Path(name))) {
+      names.emplace_back(name.substr(1));
+    }
+  }
+  return names;
+}
+
 void WriteStudy(const ImportChoices& choices, const ImportedStudy& study) {
   const ProjectFolder folder(choices.folder);
   const auto made = folder.Create();
