@@ -168,6 +168,16 @@ TEST_F(AccessibilityTest, TheFirstScreens) {
   Go(script_);
 }
 
+TEST_F(AccessibilityTest, TheScreenThatConvertsFiles) {
+  WriteExamples();
+  OpenFlow(script_, "ALLOCATIONSEXED");
+  script_.Type("MalesFile", Text("data/foreign/adults.csv")).Click("MalesFileConvert");
+  script_.Await("Import").Click("ImportMore");
+  Inspect("Import");
+  script_.Press(Qt::Key_Escape).Press(Qt::Key_Escape).Await("MainMenu");
+  Go(script_);
+}
+
 TEST_F(AccessibilityTest, AllScreensAndResults) {
   for (const bool sexed : {false, true}) {
     InspectAllocation(sexed);

@@ -177,6 +177,22 @@ void TakeMessage(const Photographer& photographer, MainMenu& menu) {
   script.Run([&menu] { menu.activateWindow(); });
 }
 
+/// A file of another program, from its field to the screen that converts it.
+void TakeImport(const Photographer& photographer, MainMenu& menu) {
+  QFile::copy(Text(KALDO_ROOT "/examples/foreign/pond.gen"), Text("pond.gen"));
+  Script script;
+  script.Await("MainMenu").Type("Project", Text("lake"));
+  script.Click("ALLOCATIONNON-SEXED").Await("NonSexedAllocationFiles");
+  script.Type("ParentsFile", Text("pond.gen")).Await("ParentsFileConvert");
+  photographer.Take(script, "import-field");
+  script.Click("ParentsFileConvert").Await("Import");
+  script.Press(Qt::Key_P, Qt::AltModifier).Press(Qt::Key_End).Press(Qt::Key_Space);
+  script.Do([](QWidget&) { QTest::qWait(600); });
+  photographer.Take(script, "import");
+  script.Press(Qt::Key_Escape).Press(Qt::Key_Escape).Await("MainMenu");
+  script.Run([&menu] { menu.activateWindow(); });
+}
+
 int TakeAll(const QString& folder) {
   const QTemporaryDir work;
   const Photographer photographer(QDir::current().absoluteFilePath(folder));
@@ -197,6 +213,7 @@ int TakeAll(const QString& folder) {
   }
   TakeProgress(photographer, menu);
   TakeMessage(photographer, menu);
+  TakeImport(photographer, menu);
   return done ? 0 : 1;
 }
 

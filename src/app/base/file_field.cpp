@@ -37,6 +37,16 @@ FileField::FileField(const FieldText& text, QWidget* parent)
   path_->setAcceptDrops(false);  // a dropped file replaces the text, it is not inserted into it
   hint_->setMinimumHeight(fontMetrics().height());  // the screen does not jump when a file is named
   hint_->setObjectName(path_->objectName() + Text("Hint"));
+  convert_ = new QPushButton(Text("Convert..."), this);
+  convert_->setObjectName(path_->objectName() + Text("Convert"));
+  convert_->setAccessibleName(Text("Convert: ") + title_);
+  convert_->setToolTip(Text("Make files that a run takes of this file of another program"));
+  convert_->setAutoDefault(false);
+  convert_->setMaximumHeight(fontMetrics().height() * 3 / 2);
+  QSizePolicy policy = convert_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);  // as the hint does
+  convert_->setSizePolicy(policy);
+  convert_->hide();
 
   auto* const browse = new QPushButton(Text("Browse..."), this);
   browse->setObjectName(path_->objectName() + Text("Browse"));
@@ -51,7 +61,10 @@ FileField::FileField(const FieldText& text, QWidget* parent)
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(column->spacing() / 2);
   column->addLayout(row);
-  column->addWidget(hint_);
+  auto* const below = new QHBoxLayout;
+  below->addWidget(hint_, 1);
+  below->addWidget(convert_, 0, Qt::AlignTop);
+  column->addLayout(below);
 
   setAcceptDrops(true);
   setFocusProxy(path_);
@@ -82,13 +95,28 @@ void FileField::Refresh() {
   if (!isVisible()) {
     return;  // read once, when it is shown
   }
-  const std::string path = Path();
-  hint_->setText(path.empty() || !describer_ ? QString() : Text(describer_(path)));
+  ShowHint(Path());
+}
+
+void FileField::ShowHint(const std::string& path) {
+  const auto foreign = path.empty() || !recogniser_ ? std::nullopt : recogniser_(path);
+  convert_->setVisible(foreign.has_value());
+  hint_->setText(foreign                       ? Text(*foreign)
+                 : path.empty() || !describer_ ? QString()
+                                               : Text(describer_(path)));
+}
+
+void FileField::SetRecogniser(Recogniser recogniser, std::function<void()> convert) {
+  recogniser_ = std::move(recogniser);
+  connect(convert_, &QPushButton::clicked, this, std::move(convert));
 }
 
 void FileField::Browse() {
-  const QString picked = QFileDialog::getOpenFileName(
-      this, title_, path_->text(), Text("Text files (.txt) (*.txt);;All files (*)"));
+  const QString picked =
+      QFileDialog::getOpenFileName(this, title_, path_->text(),
+                                   Text("Text files (.txt) (*.txt);;Files of other programs (*.gen "
+                                        "*.csv *.tsv *.xlsx *.dat *.str "
+                                        "*.txt);;All files (*)"));
   if (!picked.isEmpty()) {
     SetPath(PathBytes(picked));
   }

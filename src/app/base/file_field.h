@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "app/base/form_fields.h"
@@ -11,6 +12,7 @@
 class QFormLayout;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 
 namespace kaldo {
 
@@ -24,6 +26,13 @@ class FileField : public QWidget {
   explicit FileField(const FieldText& text, QWidget* parent = nullptr);
 
   void SetDescriber(Describer describer) { describer_ = std::move(describer); }
+
+  /// Tells what a file of another program holds, in a sentence; nothing where it is none.
+  using Recogniser = std::function<std::optional<std::string>(const std::string&)>;
+
+  /// Where such a file is named, its sentence stands in the line below, beside a button to convert
+  /// it.
+  void SetRecogniser(Recogniser recogniser, std::function<void()> convert);
 
   /// Called whenever another file was named.
   void SetOnChange(std::function<void()> on_change) { on_change_ = std::move(on_change); }
@@ -44,11 +53,14 @@ class FileField : public QWidget {
 
  private:
   void Browse();
+  void ShowHint(const std::string& path);
 
   QLineEdit* path_;
   QLabel* hint_;
   QTimer typing_;  ///< files are not read at every key
+  QPushButton* convert_;
   Describer describer_;
+  Recogniser recogniser_;
   std::function<void()> on_change_;
   QString title_;
 };

@@ -3,6 +3,8 @@
 
 #include <chrono>
 
+#include "interchange/import/foreign_text.h"
+
 namespace kaldo {
 
 namespace {
@@ -14,6 +16,26 @@ constexpr auto kClockStep = 2s;
 
 /// More than any flow has: a user who looks for the right file must not fill the memory.
 constexpr std::size_t kMostKept = 12;
+
+/// Looks at the bytes of a file on their way, whether they are those of another program.
+class LookingSource final : public FileSource {
+ public:
+  explicit LookingSource(FileSource& source) : source_(source) {}
+
+  tl::expected<std::vector<char>, Problem> Read(const std::string& path) override {
+    auto bytes = source_.Read(path);
+    look_ = bytes && bytes->size() <= kMaxForeignBytes
+                ? LookAtForeignBytes(path, std::string(bytes->begin(), bytes->end()))
+                : std::nullopt;
+    return bytes;
+  }
+
+  std::optional<ForeignLook> Look() && { return std::move(look_); }
+
+ private:
+  FileSource& source_;
+  std::optional<ForeignLook> look_;
+};
 
 }  // namespace
 
@@ -43,7 +65,12 @@ tl::expected<TokenFile, Problem> OpenedFiles::Open(const std::string& path,
     }
     kept_.erase(kept);
   }
-  auto file = TokenFile::Read(path, *source_, most_bytes);
+  LookingSource source(*source_);
+  auto file = TokenFile::Read(path, source, most_bytes);
+  if (looked_at_.size() == kMostKept) {
+    looked_at_.clear();
+  }
+  looked_at_[place] = std::move(source).Look();
   // What has just been changed may be changed again without looking different.
   if (file && looks && now - looks->changed > kClockStep) {
     if (kept_.size() == kMostKept) {
@@ -52,6 +79,18 @@ tl::expected<TokenFile, Problem> OpenedFiles::Open(const std::string& path,
     kept_[place] = {*looks, *file};
   }
   return file;
+}
+
+std::optional<ForeignLook> OpenedFiles::ForeignLookAt(const std::string& path) {
+  (void)Open(path);
+  std::error_code ignored;
+  const auto found = looked_at_.find(std::filesystem::absolute(path, ignored));
+  return found == looked_at_.end() ? std::nullopt : found->second;
+}
+
+void OpenedFiles::Forget() {
+  kept_.clear();
+  looked_at_.clear();
 }
 
 FileOpener OpenedFiles::Opener() {

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "genotypes/token_file.h"
+#include "interchange/import/import_run.h"
 
 namespace kaldo {
 
@@ -26,8 +27,15 @@ class OpenedFiles {
   /// Open() for whoever opens several files; valid as long as this.
   FileOpener Opener();
 
+  /// What a file of another program holds, as it is on disk now; nothing where it is none. The
+  /// file is not read again for that.
+  std::optional<ForeignLook> ForeignLookAt(const std::string& path);
+
+  /// Where the bytes come from, for whoever reads something else than words.
+  FileSource& Source() { return *source_; }
+
   /// Forgets all contents, when a flow is over.
-  void Forget() { kept_.clear(); }
+  void Forget();
 
  private:
   /// How a file looks from outside.
@@ -47,6 +55,7 @@ class OpenedFiles {
 
   std::unique_ptr<FileSource> source_;
   std::map<std::filesystem::path, Kept> kept_;
+  std::map<std::filesystem::path, std::optional<ForeignLook>> looked_at_;  ///< when last read
 };
 
 }  // namespace kaldo

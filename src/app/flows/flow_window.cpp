@@ -14,6 +14,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include <fmt/format.h>
+
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
@@ -166,7 +168,16 @@ void FlowWindow::CopyCommand() {
   }
 }
 
-void FlowWindow::Refuse(const Problem& problem) { ShowProblem(this, problem); }
+void FlowWindow::Refuse(const Problem& problem) {
+  Problem told = problem;
+  if (const auto look = told.file.empty() ? std::nullopt : opened_.ForeignLookAt(told.file)) {
+    told.found += fmt::format(
+        "{}{} The button \"Convert...\" below its field makes files of it that "
+        "a run takes.",
+        told.found.empty() ? "" : " ", look->sentence);
+  }
+  ShowProblem(this, told);
+}
 
 QString FlowWindow::ResultsFolder() const {
   return QDir::current().absoluteFilePath(PathText(project_));

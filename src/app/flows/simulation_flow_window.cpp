@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/flows/simulation_flow_window.h"
 
+#include <fmt/format.h>
+
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
@@ -29,8 +31,10 @@ namespace kaldo {
 SimulationFlowWindow::SimulationFlowWindow(Flow flow, OpenedFiles& opened, QWidget* parent)
     : FlowWindow(opened, parent),
       flow_(flow),
-      start_(Own(new SimulationStartPage(flow, opened))),
-      parents_(Own(new ParentalPage(flow, opened))),
+      start_(Own(new SimulationStartPage(
+          flow, opened, [this](const AllocationSettings& imported) { TakeStudy(imported); }))),
+      parents_(Own(new ParentalPage(
+          flow, opened, [this](const AllocationSettings& imported) { TakeLoci(imported); }))),
       offspring_(Own(new PseudoOffspringPage(flow))),
       tolerance_(Own(new TolerancePage(flow))),
       strategy_(Own(new StrategyPage(flow))),
@@ -52,6 +56,24 @@ void SimulationFlowWindow::Set(const SimulationSettings& settings) {
             settings.sequence.empty() ? std::nullopt : std::optional(settings.sequence));
   loci_.Choice().SetSequenceWanted(false);  // the strategy screen leads to the sequence
   output_->Set(settings);
+}
+
+void SimulationFlowWindow::TakeStudy(const AllocationSettings& imported) {
+  start_->SetLociFile(imported.loci_file);
+  parents_->TakeImported(imported);
+}
+
+void SimulationFlowWindow::TakeLoci(const AllocationSettings& imported) {
+  const auto then = Opened().Open(SettingsUpTo(Known::kStart).loci_file);
+  const auto now = Opened().Open(imported.loci_file);
+  if (then && now && LociList(*then).Names() == LociList(*now).Names()) {
+    return;
+  }
+  ShowFailure(this,
+              Text(fmt::format("The converted files have other loci than the names-of-loci file "
+                               "of this simulation, or in another order. Theirs are in \"{}\": "
+                               "all files of a simulation need the same.",
+                               imported.loci_file)));
 }
 
 FlowPage& SimulationFlowWindow::FirstPage() { return *start_; }

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "allocation/allocation_settings.h"
 #include "app/flows/flow_window.h"
 #include "app/flows/loci_screens.h"
 #include "simulation/simulation_input.h"
@@ -55,6 +56,12 @@ class SimulationFlowWindow : public FlowWindow {
   /// unless the files have changed since.
   tl::expected<SimulationInput, Problem> Input(const SimulationSettings& settings,
                                                const SimulationFiles& files) const;
+
+  /// The loci of a converted study, with its parents.
+  void TakeStudy(const AllocationSettings& imported);
+
+  /// Tells where the loci of converted parents are not those of the simulation.
+  void TakeLoci(const AllocationSettings& imported);
 
   void ConfirmStart();
   void ConfirmParents();

@@ -52,36 +52,42 @@ const ScreenEntry& EntryOf(Flow flow) {
 }  // namespace
 
 AllocationFilePage::AllocationFilePage(Flow flow, OpenedFiles& opened)
-    : FlowPage(EntryOf(flow), AllocationCaption(flow)), opened_(opened) {
+    : FlowPage(EntryOf(flow), AllocationCaption(flow)),
+      opened_(opened),
+      offer_(*this, {.flow = flow}, opened,
+             [this](const AllocationSettings& imported) { TakeImported(imported); }) {
   auto* const form = new QFormLayout(this);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   if (flow == Flow::kSexed) {
-    males_ = AddFile(*form, &AllocationSettings::males_file, true, kMales);
-    females_ = AddFile(*form, &AllocationSettings::females_file, true, kFemales);
+    males_ = AddFile(*form, {&AllocationSettings::males_file, Role::kParent, Sex::kMale}, kMales);
+    females_ =
+        AddFile(*form, {&AllocationSettings::females_file, Role::kParent, Sex::kFemale}, kFemales);
     males_->SetOnChange([this] { females_->Refresh(); });
     females_->SetOnChange([this] { males_->Refresh(); });
   } else {
-    AddFile(*form, &AllocationSettings::parents_file, true, kParents);
+    AddFile(*form, {&AllocationSettings::parents_file, Role::kParent}, kParents);
   }
-  AddFile(*form, &AllocationSettings::offspring_file, false, kOffspring);
+  AddFile(*form, {&AllocationSettings::offspring_file, Role::kOffspring}, kOffspring);
   loci_ = AddFileField(*form, kLoci);
   loci_->SetDescriber(
       [this](const std::string& file) { return DescribeLociFile(file, opened_.Opener()); });
   loci_->SetOnChange([this] { RefreshFiles(); });
+  offer_.Watch(*loci_);
   AddKnowledge(*form);
   tolerance_.emplace(*form);
 }
 
-FileField* AllocationFilePage::AddFile(QFormLayout& form, std::string AllocationSettings::*path,
-                                       bool holds_parents, const FieldText& text) {
+FileField* AllocationFilePage::AddFile(QFormLayout& form, FileOf file, const FieldText& text) {
   FileField* const field = AddFileField(form, text);
-  field->SetDescriber([this, holds_parents](const std::string& file) {
+  const bool holds_parents = file.role == Role::kParent;
+  field->SetDescriber([this, holds_parents](const std::string& path) {
     std::string line = DescribeGenotypeFile(
-        file, loci_->Path(), holds_parents ? Separators::kAllowed : Separators::kNone,
+        path, loci_->Path(), holds_parents ? Separators::kAllowed : Separators::kNone,
         opened_.Opener());
     return holds_parents ? line + GroupsFault() : line;
   });
-  rows_.push_back({path, field});
+  offer_.Watch(*field, file.role, file.sex);
+  rows_.push_back({file.path, field});
   return field;
 }
 
@@ -95,6 +101,7 @@ void AllocationFilePage::AddKnowledge(QFormLayout& form) {
            std::pair(&AllocationSettings::offspring_groups_file, kOffspringGroups),
        }) {
     knowledge_.push_back({path, AddFileField(form, text)});
+    offer_.Watch(*knowledge_.back().field);
   }
   const auto show_rows = [this, &form](bool shown) {
     for (const Row& row : knowledge_) {
@@ -130,6 +137,18 @@ std::string AllocationFilePage::GroupsFault() const {
 void AllocationFilePage::RefreshFiles() {
   for (const Row& row : rows_) {
     row.field->Refresh();
+  }
+}
+
+void AllocationFilePage::TakeImported(const AllocationSettings& imported) {
+  loci_->SetPath(imported.loci_file);
+  for (const auto* const rows : {&rows_, &knowledge_}) {
+    for (const Row& row : *rows) {
+      if (const std::string& path = imported.*row.path; !path.empty()) {
+        row.field->SetPath(path);
+        something_known_->setChecked(something_known_->isChecked() || rows == &knowledge_);
+      }
+    }
   }
 }
 

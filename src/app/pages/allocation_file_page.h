@@ -6,6 +6,7 @@
 #include "allocation/allocation_settings.h"
 #include "app/base/form_fields.h"
 #include "app/flows/flow_window.h"
+#include "app/flows/import_offer.h"
 #include "app/pages/tolerance_field.h"
 
 class QCheckBox;
@@ -32,8 +33,17 @@ class AllocationFilePage : public FlowPage {
   std::optional<Problem> ToleranceFault() const { return tolerance_->Fault(); }
 
  private:
-  FileField* AddFile(QFormLayout& form, std::string AllocationSettings::*path, bool holds_parents,
-                     const FieldText& text);
+  /// What a file field is for.
+  struct FileOf {
+    std::string AllocationSettings::*path;
+    Role role;
+    Sex sex = Sex::kUnknown;
+  };
+
+  FileField* AddFile(QFormLayout& form, FileOf file, const FieldText& text);
+
+  /// Fills in the files that were made of those of another program.
+  void TakeImported(const AllocationSettings& imported);
 
   /// The files of what is known of single offspring, behind a box to tick: most studies have none.
   void AddKnowledge(QFormLayout& form);
@@ -52,6 +62,7 @@ class AllocationFilePage : public FlowPage {
   };
 
   OpenedFiles& opened_;
+  ImportOffer offer_;
   std::vector<Row> rows_;
   QCheckBox* something_known_ = nullptr;
   std::vector<Row> knowledge_;  ///< count while the box is ticked

@@ -92,8 +92,13 @@ void ShowRow(QFormLayout& form, QWidget* field, bool shown) {
 
 }  // namespace
 
-ParentalPage::ParentalPage(Flow flow, OpenedFiles& opened)
-    : FlowPage(kParentalScreen, SimulationCaption(flow)), flow_(flow), opened_(opened) {
+ParentalPage::ParentalPage(Flow flow, OpenedFiles& opened, ImportOffer::OnImported on_imported)
+    : FlowPage(kParentalScreen, SimulationCaption(flow)),
+      flow_(flow),
+      opened_(opened),
+      collected_(NewOffer(&SetFields::collected_file, on_imported)),
+      pseudo_collected_(NewOffer(&SetFields::pseudo_collected_sample, on_imported)),
+      uncollected_(NewOffer(&SetFields::uncollected_sample, on_imported)) {
   auto* const column = new QVBoxLayout(this);
   for (std::size_t set = 0; set < Sets().size(); ++set) {
     column->addWidget(NewSet(set));
@@ -106,8 +111,36 @@ std::span<const ParentalPage::SetFields> ParentalPage::Sets() const {
   return std::span(sets_).first(flow_ == Flow::kSexed ? 2 : 1);
 }
 
-FileField* ParentalPage::NewFile(QFormLayout& form, const FieldText& text) {
+ImportOffer ParentalPage::NewOffer(FileField* SetFields::*field,
+                                   ImportOffer::OnImported on_imported) {
+  return {*this,
+          {flow_, true},
+          opened_,
+          [this, field, on_imported = std::move(on_imported)](const AllocationSettings& imported) {
+            FillFields(field, imported);
+            on_imported(imported);
+          }};
+}
+
+void ParentalPage::FillFields(FileField* SetFields::*field, const AllocationSettings& imported) {
+  const std::array<const std::string*, 2> files =
+      flow_ == Flow::kSexed ? std::array{&imported.males_file, &imported.females_file}
+                            : std::array{&imported.parents_file, &imported.parents_file};
+  for (std::size_t set = 0; set < Sets().size(); ++set) {
+    (sets_.at(set).*field)->SetPath(*files.at(set));
+  }
+}
+
+void ParentalPage::TakeImported(const AllocationSettings& imported) {
+  FillFields(&SetFields::collected_file, imported);
+  FillFields(&SetFields::pseudo_collected_sample, imported);
+}
+
+FileField* ParentalPage::NewFile(QFormLayout& form, const FieldText& text, std::size_t set,
+                                 ImportOffer& offer) {
   FileField* const field = AddFileField(form, text);
+  const Sex sex = flow_ == Flow::kNonSexed ? Sex::kUnknown : set == 0 ? Sex::kMale : Sex::kFemale;
+  offer.Watch(*field, Role::kParent, sex);
   field->SetDescriber([this](const std::string& file) {
     return DescribeGenotypeFile(file, loci_file_, Separators::kNone, opened_.Opener());
   });
@@ -121,10 +154,11 @@ QWidget* ParentalPage::NewSet(std::size_t set) {
   auto* const form = new QFormLayout(group);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   fields.form = form;
-  fields.collected_file = NewFile(*form, texts.collected_file);
-  fields.pseudo_collected_sample = NewFile(*form, texts.pseudo_collected_sample);
+  fields.collected_file = NewFile(*form, texts.collected_file, set, collected_);
+  fields.pseudo_collected_sample =
+      NewFile(*form, texts.pseudo_collected_sample, set, pseudo_collected_);
   fields.pseudo_collected = AddLineEdit(*form, texts.pseudo_collected);
-  fields.uncollected_sample = NewFile(*form, texts.uncollected_sample);
+  fields.uncollected_sample = NewFile(*form, texts.uncollected_sample, set, uncollected_);
   fields.uncollected = AddLineEdit(*form, texts.uncollected);
   if (flow_ == Flow::kSexed) {
     fields.estimated_collected = AddLineEdit(*form, texts.estimated_collected);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/flows/flow_window.h"
+#include "app/flows/import_offer.h"
 #include "simulation/simulation_settings.h"
 
 class QFormLayout;
@@ -22,14 +23,18 @@ struct FieldText;
 /// flow, males and females in the sexed one.
 class ParentalPage : public FlowPage {
  public:
-  /// `opened` must live as long as the page.
-  ParentalPage(Flow flow, OpenedFiles& opened);
+  /// `opened` must live as long as the page. `on_imported` is called when files of another program
+  /// were converted in their fields.
+  ParentalPage(Flow flow, OpenedFiles& opened, ImportOffer::OnImported on_imported);
 
   /// Shows the fields of the procedure. The names-of-loci file tells what is in the others.
   void Prepare(Procedure procedure, const std::string& loci_file);
 
   /// Fills the fields.
   void Set(const SimulationSettings& settings);
+
+  /// Fills in the parents that came along with the names of the loci.
+  void TakeImported(const AllocationSettings& imported);
 
   /// Files as typed, and the numbers that can be read.
   void FillIn(SimulationSettings& settings) const;
@@ -58,7 +63,12 @@ class ParentalPage : public FlowPage {
   };
 
   QWidget* NewSet(std::size_t set);
-  FileField* NewFile(QFormLayout& form, const FieldText& text);
+  FileField* NewFile(QFormLayout& form, const FieldText& text, std::size_t set, ImportOffer& offer);
+
+  /// Lets the fields of one kind be converted together: a sample is another study than the parents
+  /// collected.
+  ImportOffer NewOffer(FileField* SetFields::*field, ImportOffer::OnImported on_imported);
+  void FillFields(FileField* SetFields::*field, const AllocationSettings& imported);
   static std::vector<NumberRow> NumbersOf(const SetFields& fields);
   std::span<const SetFields> Sets() const;
 
@@ -66,6 +76,9 @@ class ParentalPage : public FlowPage {
   OpenedFiles& opened_;
   Procedure procedure_ = Procedure::kParental;
   std::string loci_file_;
+  ImportOffer collected_;
+  ImportOffer pseudo_collected_;
+  ImportOffer uncollected_;
   std::array<SetFields, 2> sets_{};
 };
 

@@ -33,15 +33,18 @@ constexpr FieldText kPreParental{
 
 }  // namespace
 
-SimulationStartPage::SimulationStartPage(Flow flow, OpenedFiles& opened)
+SimulationStartPage::SimulationStartPage(Flow flow, OpenedFiles& opened,
+                                         ImportOffer::OnImported on_imported)
     : FlowPage(flow == Flow::kSexed ? kSexedSimulationScreen : kNonSexedSimulationScreen,
                SimulationCaption(flow)),
+      offer_(*this, {flow, true}, opened, std::move(on_imported)),
       procedure_(new QButtonGroup(this)) {
   auto* const form = new QFormLayout;
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   loci_ = AddFileField(*form, kLoci);
   loci_->SetDescriber(
       [&opened](const std::string& file) { return DescribeLociFile(file, opened.Opener()); });
+  offer_.Watch(*loci_);
   iterations_ = AddLineEdit(*form, kIterations);
   const SimulationSettings first_shown = FirstShownSimulation(flow);
   iterations_->setText(NumberText(first_shown.iterations));
@@ -67,6 +70,8 @@ void SimulationStartPage::Set(const SimulationSettings& settings) {
   iterations_->setText(NumberText(settings.iterations));
   procedure_->button(static_cast<int>(settings.procedure))->setChecked(true);
 }
+
+void SimulationStartPage::SetLociFile(const std::string& path) { loci_->SetPath(path); }
 
 void SimulationStartPage::FillIn(SimulationSettings& settings) const {
   settings.loci_file = loci_->Path();

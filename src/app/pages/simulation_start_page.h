@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "app/flows/flow_window.h"
+#include "app/flows/import_offer.h"
 #include "simulation/simulation_settings.h"
 
 class QButtonGroup;
@@ -18,16 +19,20 @@ class OpenedFiles;
 /// have been collected already (parental procedure) or not (pre-parental).
 class SimulationStartPage : public FlowPage {
  public:
-  /// `opened` must live as long as the page.
-  SimulationStartPage(Flow flow, OpenedFiles& opened);
+  /// `opened` must live as long as the page. A file of another program that is named for the loci
+  /// holds parents, too: `on_imported` gets them.
+  SimulationStartPage(Flow flow, OpenedFiles& opened, ImportOffer::OnImported on_imported);
 
   /// Fills the fields.
   void Set(const SimulationSettings& settings);
+
+  void SetLociFile(const std::string& path);
 
   /// A number of iterations that cannot be read counts as 0, which no simulation has.
   void FillIn(SimulationSettings& settings) const;
 
  private:
+  ImportOffer offer_;
   FileField* loci_ = nullptr;
   QLineEdit* iterations_ = nullptr;
   QButtonGroup* procedure_;

@@ -91,8 +91,9 @@ void WorkplaceTest::TearDown() {
 }
 
 void WorkplaceTest::WriteExamples() {
-  std::filesystem::copy(std::string(KALDO_ROOT) + "/examples", "data",
-                        std::filesystem::copy_options::recursive);
+  std::filesystem::copy(
+      std::string(KALDO_ROOT) + "/examples", "data",
+      std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing);
 }
 
 void WorkplaceTest::WriteStudy() const {

@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/flows/import_screen.h"
+
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <filesystem>
+
+#include <fmt/format.h>
+
+#include "app/base/form_fields.h"
+#include "app/base/messages.h"
+#include "app/base/text.h"
+#include "app/flows/import_fields.h"
+#include "app/flows/import_files.h"
+#include "app/flows/import_preview.h"
+#include "runs/run_refused.h"
+
+namespace kaldo {
+
+namespace {
+
+constexpr int kTypingPause = 400;  // milliseconds
+
+constexpr std::string_view kNotYet =
+    "The files cannot be converted yet. What is to be settled stands in the list.";
+constexpr std::string_view kNoSexes =
+    "This flow needs the sexes of all parents. Tell them by file (\"males\" and \"females\") or by "
+    "a "
+    "column of sexes (\"More choices\"), or convert the files in the NON-SEXED flow.";
+
+/// Beside the first file, under its name.
+std::string FolderBeside(const std::vector<ImportedFile>& files) {
+  const std::filesystem::path first = files.empty() ? "study" : files.front().path;
+  return (first.parent_path() / (first.stem().string() + "-imported")).string();
+}
+
+QLabel* NewLabelOf(QWidget& field, std::string_view text) {
+  auto* const label = new QLabel(Text(text));
+  label->setBuddy(&field);
+  return label;
+}
+
+/// Waits of the program show at the pointer.
+class WaitCursor {
+ public:
+  WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+  WaitCursor(WaitCursor&&) = delete;
+  WaitCursor& operator=(WaitCursor&&) = delete;
+  ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+}  // namespace
+
+ImportScreen::ImportScreen(QWidget* parent, ImportNeed need, const std::vector<ImportedFile>& files,
+                           FileSource& source)
+    : QDialog(parent),
+      need_(need),
+      source_(source),
+      files_(new ImportFiles(files, [this] { TryLater(); })),
+      fields_(new ImportFields(need, [this] { TryLater(); })),
+      status_(NewHint(nullptr)),
+      findings_(new QPlainTextEdit),
+      preview_(new ImportPreview),
+      folder_(new QLineEdit(PathText(FolderBeside(files)))) {
+  setObjectName(Text("Import"));
+  setWindowTitle(Text("Convert files of another program"));
+  auto* const area = new QScrollArea;
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setWidget(NewBody());
+  auto* const column = new QVBoxLayout(this);
+  column->addWidget(area, 1);
+  column->addLayout(NewFolderRow());
+  column->addLayout(NewButtons());
+  pause_.setSingleShot(true);
+  pause_.setInterval(kTypingPause);
+  connect(&pause_, &QTimer::timeout, this, [this] { Try(); });
+  Try();
+  const QSize wanted(fontMetrics().averageCharWidth() * 110, fontMetrics().lineSpacing() * 46);
+  resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+QWidget* ImportScreen::NewBody() {
+  status_->setObjectName(Text("ImportStatus"));
+  QFont strong = status_->font();
+  strong.setBold(true);
+  status_->setFont(strong);
+  findings_->setObjectName(Text("ImportFindings"));
+  findings_->setAccessibleName(Text("What is to be settled, and what was found"));
+  findings_->setToolTip(Text("Everything at once, with file, line and cell; can be copied"));
+  findings_->setReadOnly(true);
+  findings_->setTabChangesFocus(true);
+  findings_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  findings_->setMinimumHeight(fontMetrics().lineSpacing() * 6);
+  auto* const body = new QWidget;
+  auto* const column = new QVBoxLayout(body);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(files_);
+  column->addWidget(fields_);
+  column->addWidget(status_);
+  column->addWidget(findings_, 1);
+  column->addWidget(NewLabelOf(*preview_, "&The first individuals"));
+  column->addWidget(preview_, 2);
+  return body;
+}
+
+QLayout* ImportScreen::NewFolderRow() {
+  Describe(*folder_, {"&Write to", "ImportFolder",
+                      "The folder for the converted files; it is made where it is not there."});
+  auto* const browse =
+      NewButton("&Browse...", "ImportBrowse", "Choose a folder that is there already");
+  browse->setAutoDefault(false);
+  connect(browse, &QPushButton::clicked, this, [this] { BrowseFolder(); });
+  connect(folder_, &QLineEdit::textChanged, this, [this] { TryLater(); });
+  auto* const row = new QHBoxLayout;
+  row->addWidget(NewLabelOf(*folder_, "&Write to"));
+  row->addWidget(folder_, 1);
+  row->addWidget(browse);
+  return row;
+}
+
+QLayout* ImportScreen::NewButtons() {
+  auto* const convert =
+      NewButton("&Convert", "ImportConvert", "Write the files and fill in the fields of the flow");
+  auto* const cancel =
+      NewButton("Cancel", "ImportCancel", "Back to the flow; nothing is written (Esc)");
+  convert->setDefault(true);
+  cancel->setAutoDefault(false);
+  connect(convert, &QPushButton::clicked, this, [this] { Convert(); });
+  connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
+  auto* const row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(cancel);
+  row->addWidget(convert);
+  return row;
+}
+
+void ImportScreen::TryLater() {
+  study_.reset();
+  pause_.start();
+}
+
+void ImportScreen::Try() {
+  pause_.stop();
+  const WaitCursor waiting;
+  study_.reset();
+  choices_ = {};
+  choices_.files = files_->Files();
+  choices_.folder = PathBytes(folder_->text());
+  const auto not_understood = fields_->FillIn(choices_);
+  ImportTry tried = TryImport(choices_, source_);
+  std::string faults = not_understood ? *not_understood + '\n' : "";
+  if (choices_.files.empty()) {
+    faults += "Name a file to be converted.\n";
+  } else if (!tried.study) {
+    faults += tried.study.error().Text();
+  } else {
+    faults += FaultForFlow(*tried.study);
+  }
+  if (choices_.folder.empty()) {
+    faults += "Name the folder for the converted files.\n";
+  }
+  ShowTry(tried, faults);
+  if (faults.empty()) {
+    study_ = std::move(*tried.study);
+  }
+}
+
+std::string ImportScreen::FaultForFlow(const ImportedStudy& study) const {
+  return study.settings.flow == need_.flow ? "" : std::string(kNoSexes) + '\n';
+}
+
+void ImportScreen::ShowTry(const ImportTry& tried, const std::string& faults) {
+  std::string text = faults;
+  if (faults.empty()) {
+    text =
+        tried.study->summary + "\"Import report.txt\" in the folder will tell all that is done.\n";
+    for (const std::string& warning : tried.study->warnings) {
+      text += "Warning: " + warning + '\n';
+    }
+    if (tried.study->settings.offspring_file.empty() && !need_.is_simulation) {
+      text += "There are no offspring among them.\n";
+    }
+  }
+  status_->setText(faults.empty() ? Text("Ready to convert.") : Text("To be settled first:"));
+  findings_->setPlainText(InWordsOfFields(EscapedLines(text)));
+  files_->ShowFound(tried.files);
+  fields_->ShowNeeded(tried, text, files_->HasOpenFile());
+  preview_->Show(tried.preview);
+}
+
+void ImportScreen::BrowseFolder() {
+  const QString picked =
+      QFileDialog::getExistingDirectory(this, Text("Folder for the files"), folder_->text());
+  if (!picked.isEmpty()) {
+    folder_->setText(picked);
+  }
+}
+
+bool ImportScreen::MayReplace() {
+  const auto names = FilesToReplace(choices_);
+  return names.empty() ||
+         AskYesNo(this,
+                  Text(fmt::format("These files are in the folder \"{}\" already and would be "
+                                   "replaced or removed: {}. Go on?",
+                                   choices_.folder, fmt::join(names, ", "))));
+}
+
+void ImportScreen::Convert() {
+  Try();
+  if (!study_) {
+    ShowSentence(this, kNotYet);
+    findings_->setFocus();
+    return;
+  }
+  if (!MayReplace()) {
+    return;
+  }
+  choices_.may_replace = true;  // was asked
+  try {
+    WriteStudy(choices_, *study_);
+  } catch (const RunRefused& refused) {
+    return ShowProblem(this, refused.Reason());
+  } catch (const RunFailure& failure) {
+    return ShowFailure(this, Text(failure.what()));
+  }
+  imported_ = study_->settings;
+  accept();
+}
+
+}  // namespace kaldo
