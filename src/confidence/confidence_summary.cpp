@@ -1,16 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "confidence/confidence_summary.h"
 
+#include "confidence/certainty.h"
+
 namespace kaldo {
 
 namespace {
 
 void CountVerdict(const SideConfidence& side, ConfidenceSummary& summary) {
+  switch (CertaintyOf(side)) {
+    case Certainty::kSure:
+      ++summary.surely_named;
+      break;
+    case Certainty::kLikely:
+      ++summary.named;
+      break;
+    case Certainty::kOpen:
+      ++summary.open;
+      break;
+    case Certainty::kUncollected:
+      ++summary.uncollected;
+      break;
+  }
   if (side.verdict == Verdict::kNamed) {
-    ++(side.candidate->probability >= kSureLevel ? summary.surely_named : summary.named);
     summary.wrong_names += 1 - side.candidate->probability;
-  } else {
-    ++(side.verdict == Verdict::kOpen ? summary.open : summary.uncollected);
   }
 }
 

@@ -9,6 +9,7 @@ elsewhere.
 
 import csv
 import html.parser
+import itertools
 import io
 import re
 import shutil
@@ -169,6 +170,12 @@ class Exports(ProgramTest):
         for project in ("at once", "later"):
             self.assertIn("intact, 13 of 13", self.kaldo("verify", project).stdout)
             self.assertIn("identical, 13 of 13", self.kaldo("rerun", project).stdout)
+        sides = [row[side] for row in table_of(self.folder / "later/Confidence.tsv")
+                 for side in ("father", "mother") if row[f"{side}_verdict"] == "named"]
+        same = sum(a == b for a, b in itertools.permutations(sides, 2))
+        breeders = len(sides) * (len(sides) - 1) / same
+        self.assertIn(f"Effective number of breeders: {breeders:.1f} ",
+                      later["Report.html"].decode())
         (self.folder / "later/Pedigree.fam").write_text("edited", encoding="utf-8")
         (self.folder / "later/Sequence.tsv").write_text("a user's own", encoding="utf-8")
         self.kaldo("verify", "later", code=3)

@@ -10,9 +10,12 @@
 #include <fmt/format.h>
 
 #include "allocation/allocation_confidence.h"
+#include "allocation/findings.h"
+#include "allocation/parent_summary.h"
 #include "base/counted_text.h"
 #include "base/version.h"
 #include "confidence/confidence_summary.h"
+#include "confidence/effective_breeders.h"
 #include "interchange/export/allocation_tables.h"
 #include "interchange/export/html_text.h"
 #include "interchange/export/told_settings.h"
@@ -130,6 +133,7 @@ class Page {
     if (!summary_) {
       return answer + ".";
     }
+    answer = FindingsSentence(FindingsOf(result_)) + " " + answer;
     const ExplanationShares& shares = result_.confidence->shares;
     return fmt::format(
         "{}; by the likelihoods of all candidates {} of them were collected ({}), and {} of the {} "
@@ -173,11 +177,8 @@ class Page {
       bars.push_back({std::string(share.name), share.number});
     }
     return BarChart("Offspring by the allocation of both parents", bars) +
-           Paragraph(study_.IsSexed()
-                         ? "Offspring by the allocation of both parents. CM, CF: to a collected "
-                           "male or female. UCM, UCF: taken as uncollected."
-                         : "Offspring by the allocation of both parents. C: to a collected parent. "
-                           "UC: taken as uncollected.");
+           Paragraph(fmt::format("Offspring by the allocation of both parents. {}",
+                                 ClassLegend(study_.Settings().flow)));
   }
 
   std::string Probabilities() const {
@@ -227,7 +228,8 @@ class Page {
   std::string OffspringPerParent() const {
     constexpr std::size_t kMostBars = 30;
     std::map<std::size_t, std::size_t> parents_by_offspring;
-    for (const ParentSummary& parent : SummariesOfParents(study_)) {
+    for (const ParentSummary& parent :
+         SummariesOfParents(study_.Settings().flow, input_, result_)) {
       ++parents_by_offspring[parent.offspring];
     }
     std::vector<Bar> bars;
@@ -241,7 +243,17 @@ class Page {
       }
     }
     return BarChart("Collected parents by their number of offspring", bars) +
-           Paragraph("Collected parents by the number of offspring allocated to them.");
+           Paragraph("Collected parents by the number of offspring allocated to them.") +
+           Families();
+  }
+
+  std::string Families() const {
+    if (!summary_) {
+      return {};
+    }
+    const auto named = NamedParentsOf(result_.confidence->offspring);
+    return Paragraph(SibshipsSentence(SibshipsOf(named))) +
+           Paragraph(BreedersSentence(EffectiveBreedersOf(named)));
   }
 
   std::string Loci() const {

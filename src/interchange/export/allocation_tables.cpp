@@ -3,9 +3,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
 
 #include <fmt/format.h>
+
+#include "allocation/parent_summary.h"
 
 namespace kaldo {
 
@@ -244,49 +245,10 @@ ExportTable AllocationsTable(const ExportedStudy& study) {
           }};
 }
 
-std::vector<ParentSummary> SummariesOfParents(const ExportedStudy& study) {
-  const std::size_t slots = study.Input().Parents().Size();
-  std::vector<ParentSummary> by_slot(slots);
-  std::vector<std::set<Slot>> mates(slots);
-  for (std::size_t place = 0; place < study.NumberOfOffspring(); ++place) {
-    const auto sides = study.Offspring(place).sides;
-    for (std::size_t k = 0; k < sides.size(); ++k) {
-      const auto parent = sides.at(k).Parent();
-      if (!parent) {
-        continue;
-      }
-      ParentSummary& summary = by_slot[parent->Value()];
-      ++summary.offspring;
-      if (sides.at(k).probability) {
-        summary.expected_offspring =
-            summary.expected_offspring.value_or(0) + *sides.at(k).probability;
-      }
-      if (const auto mate = sides.at(1 - k).Parent()) {
-        mates[parent->Value()].insert(*mate);
-      } else {
-        ++summary.with_uncollected;
-      }
-    }
-  }
-  std::vector<ParentSummary> summaries;
-  summaries.reserve(slots);
-  const auto& confidence = study.Result().confidence;
-  for (const Slot parent : study.Parents()) {
-    ParentSummary& summary = by_slot[parent.Value()];
-    summary.slot = parent;
-    summary.mates = mates[parent.Value()].size();
-    if (summary.offspring == 0 && confidence && confidence->is_meaningful) {
-      summary.expected_offspring = 0;
-    }
-    summaries.push_back(summary);
-  }
-  return summaries;
-}
-
 ExportTable ParentsTable(const ExportedStudy& study) {
   auto columns = ParentColumns();
   auto heads = HeadsOf(columns);
-  auto summaries = SummariesOfParents(study);
+  auto summaries = SummariesOfParents(study.Settings().flow, study.Input(), study.Result());
   const std::size_t rows = summaries.size();
   return {
       kParentsTable, "Parents", std::move(heads), rows,

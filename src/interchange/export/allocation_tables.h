@@ -15,21 +15,6 @@ inline constexpr std::string_view kSequenceTable = "/Sequence.tsv";
 /// A row per offspring.
 ExportTable AllocationsTable(const ExportedStudy& study);
 
-/// What is allocated to one collected parent.
-struct ParentSummary {
-  Slot slot;
-  std::size_t offspring = 0;         ///< allocated to it
-  std::size_t mates = 0;             ///< collected parents with whom it has some of them
-  std::size_t with_uncollected = 0;  ///< offspring whose other parent is UC
-
-  /// The sum of the probabilities of these allocations: so many of the offspring are expected to be
-  /// its own. None without probabilities.
-  std::optional<double> expected_offspring;
-};
-
-/// All collected parents in the order of their files.
-std::vector<ParentSummary> SummariesOfParents(const ExportedStudy& study);
-
 /// A row per collected parent.
 ExportTable ParentsTable(const ExportedStudy& study);
 
