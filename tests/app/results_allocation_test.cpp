@@ -203,7 +203,10 @@ TEST_F(ResultsAllocationTest, FindsByNameAndClass) {
                    Text("male01"));  // Male01 and Female01, and whoever they are parents of
   Rows expected = {all.front()};
   std::copy_if(all.begin() + 1, all.end(), std::back_inserter(expected), [](const auto& row) {
-    return row.mid(1, 3).join(QLatin1Char('|')).contains(Text("male01"), Qt::CaseInsensitive);
+    const QString names = row[Place(OffspringColumn::kOffspring)] + Text("|") +
+                          row[Place(OffspringColumn::kParent1)] + Text("|") +
+                          row[Place(OffspringColumn::kParent2)];
+    return names.contains(Text("male01"), Qt::CaseInsensitive);
   });
   EXPECT_TRUE(expected.size() > 1 && expected.size() < all.size());
   EXPECT_EQ(ModelRows(model), expected);
@@ -308,7 +311,7 @@ TEST_F(ResultsAllocationTest, ComparesWithEveryPair) {
 TEST_F(ResultsAllocationTest, CountsTheAllelesOfTheFiles) {
   Shown shown(Flow::kSexed);
   shown.Run();
-  Find<QTabWidget>(*shown.window, "Tabs").setCurrentIndex(2);
+  Find<QTabWidget>(*shown.window, "Tabs").setCurrentIndex(3);
   const auto copies = CopiesInFiles(
       {shown.settings.males_file, shown.settings.females_file, shown.settings.offspring_file}, 8);
   const QAbstractItemModel& model = ModelIn(*shown.window, "AllelesTable");
@@ -362,7 +365,10 @@ TEST_F(ResultsAllocationTest, TellsWhatWasRun) {
   Shown shown(Flow::kSexed);
   shown.settings.error_model = ErrorModel{};
   shown.Run();
-  const QString text = Find<QTextBrowser>(*shown.window, "SummaryText").toPlainText();
+  const auto& summary = Find<QTextBrowser>(*shown.window, "SummaryText");
+  EXPECT_TRUE(!summary.toPlainText().contains(Text("in 2 groups")));
+  QTest::mouseClick(&Find<QPushButton>(*shown.window, "SummaryMore"), Qt::LeftButton);
+  const QString text = summary.toPlainText();
   for (const char* part :
        {"16 males and 16 females in 2 groups", "54 (", "8 of 8: Mir03Di", "Allocation results.xls",
         "Max like pairs.txt", "Run record.toml", "no possible pair"}) {
@@ -416,7 +422,8 @@ TEST_F(ResultsAllocationTest, KeepsTheRulesOfModels) {
   Shown shown(Flow::kNonSexed);
   shown.Run();
   using Mode = QAbstractItemModelTester::FailureReportingMode;
-  for (const char* name : {"OffspringTable", "ComparisonTable", "AllelesTable", "SummaryTable"}) {
+  for (const char* name : {"OffspringTable", "ComparisonTable", "AllelesTable", "SummaryTable",
+                           "ParentsTable", "LociTable"}) {
     const QAbstractItemModelTester tester(&ModelIn(*shown.window, name), Mode::Fatal);
     Find<QTableView>(*shown.window, "OffspringTable").selectRow(7);
     Find<QComboBox>(*shown.window, "OffspringShow").setCurrentIndex(2);

@@ -52,8 +52,8 @@ class AllocationFlowWindow : public FlowWindow {
   ErrorPage* error_;
   LociScreens loci_;
 
-  /// No screen asks for it: as a record has it, else nothing is computed.
-  WantedConfidence confidence_{.computed = false};
+  /// No screen asks for it: as a record has it, else as a command has it that says nothing.
+  WantedConfidence confidence_;
 
   /// The individuals of the confirmed files, before any choice of loci.
   std::optional<AllocationInput> confirmed_;

@@ -23,8 +23,8 @@ std::size_t ClassOf(Flow flow, const AllocationOutcome& outcome) {
                                   numbers.begin());
 }
 
-bool HasSeveralPairs(const AllocationOutcome& outcome) {
-  return outcome.Pairs().size() > 1 || outcome.more_than_five;
+QString CertaintyText(Certainty certainty) {
+  return Text(Sign(certainty)) + Text(" ") + Text(Word(certainty));
 }
 
 }  // namespace kaldo

@@ -4,6 +4,7 @@
 #include <QString>
 #include <vector>
 
+#include "confidence/certainty.h"
 #include "method/allocation_shares.h"
 
 namespace kaldo {
@@ -14,8 +15,7 @@ std::vector<QString> ClassNames(Flow flow);
 /// The class of one offspring, by its place among them.
 std::size_t ClassOf(Flow flow, const AllocationOutcome& outcome);
 
-/// True where several pairs explain the offspring equally well, so that the order of the files
-/// decided.
-bool HasSeveralPairs(const AllocationOutcome& outcome);
+/// "● sure": the sign says what colours say.
+QString CertaintyText(Certainty certainty);
 
 }  // namespace kaldo

@@ -5,10 +5,13 @@
 
 #include <fmt/format.h>
 
+#include "allocation/allocation_confidence.h"
 #include "allocation/allocation_file_names.h"
+#include "allocation/findings.h"
 #include "app/base/text.h"
 #include "app/results/allocation_classes.h"
 #include "base/counted_text.h"
+#include "confidence/confidence_summary.h"
 #include "runs/project_folder.h"
 #include "runs/run_record.h"
 
@@ -86,6 +89,32 @@ void AddWarnings(const AllocationRun& run, Summary& summary) {
   }
 }
 
+void AddFindings(const AllocationSettings& settings, const AllocationRun& run, Summary& summary) {
+  const AllocationFindings findings = FindingsOf(run.result);
+  summary.headline = Text(FindingsSentence(findings));
+  if (!findings.knows_certainty) {
+    return;
+  }
+  for (const OffspringToCheck& check : findings.to_check) {
+    if (static_cast<std::size_t>(summary.to_check.size()) == kMostToCheck) {
+      summary.to_check +=
+          Text(fmt::format("... and {} more", findings.to_check.size() - kMostToCheck));
+      break;
+    }
+    const Slot slot{run.input.offspring.begin + static_cast<std::uint32_t>(check.place)};
+    summary.to_check += Text(fmt::format("{}: {}", run.input.table.Name(slot).Text(),
+                                         DoubtText(run.input, run.result, settings.flow, check)));
+  }
+  const ConfidenceSummary sides =
+      SummaryOf(run.result.confidence->offspring, ReportedBy(settings.flow, run.result));
+  summary.notes +=
+      Text(fmt::format("Of {} parents {} are sure, {} likely, {} open and {} not collected; of the "
+                       "{} that are named "
+                       "{:.1f} are expected to be wrong.",
+                       sides.Sides(), sides.surely_named, sides.named, sides.open,
+                       sides.uncollected, sides.Named(), sides.wrong_names));
+}
+
 }  // namespace
 
 Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
@@ -94,6 +123,7 @@ Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
   Summary summary;
   summary.title =
       settings.flow == Flow::kSexed ? Text("Sexed allocation") : Text("Non-sexed allocation");
+  AddFindings(settings, run, summary);
   AddFiles(settings, summary);
   summary.lines.emplace_back(Text("collected"), ParentsText(settings.flow, input));
   summary.lines.emplace_back(
@@ -111,20 +141,30 @@ Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
         "all of them are in the tab Sequence.");
   }
   summary.files_title = Text("Files in \"%1\"").arg(folder);
-  summary.files = FilesPresent(
-      folder, {kAllocationResultsFile, kMaxLikePairsFile, kTransmissionMatricesFile,
-               kSteppingErrorFile, kSequenceResultsFile, kServiceFile, kRunRecordFile});
+  summary.files =
+      FilesPresent(folder, {kAllocationResultsFile, kMaxLikePairsFile, kTransmissionMatricesFile,
+                            kSteppingErrorFile, kSequenceResultsFile, kServiceFile, kConfidenceFile,
+                            kLociFile, kRunRecordFile});
   return summary;
 }
 
-BarChart ProportionsChart(const AllocationShares& shares) {
+BarChart ProportionsChart(Flow flow, const AllocationResult& result) {
   BarChart chart;
   chart.texts = {Text("Offspring by allocation of their parents"), Text("class"),
-                 Text("share of the offspring"), true};
+                 Text("share of the offspring"), true, Text(ClassLegend(flow))};
   chart.series.name = Text("share");
-  for (const AllocationShare& pair : shares.pairs) {
-    chart.categories.push_back(Text(pair.name));
-    chart.series.values.push_back({pair.share, {}});
+  const std::vector<AllocationShare>& pairs = result.LastShares().pairs;
+  std::vector<double> unsettled(pairs.size());
+  for (std::size_t place = 0; place < result.outcomes.size(); ++place) {
+    unsettled[ClassOf(flow, result.outcomes[place])] += IsTiedOrOpen(result, place) ? 1 : 0;
+  }
+  chart.settled_name = Text("settled");
+  chart.hatched.emplace().name = Text("tied or open");
+  for (std::size_t k = 0; k < pairs.size(); ++k) {
+    chart.categories.push_back(Text(pairs[k].name));
+    chart.series.values.push_back({pairs[k].share, {}});
+    const double part = pairs[k].number > 0 ? unsettled[k] / pairs[k].number : 0;
+    chart.hatched->values.push_back({pairs[k].share * part, {}});
   }
   return chart;
 }

@@ -7,13 +7,16 @@
 
 namespace kaldo {
 
-/// What was run, what to mind, and the files in `folder`.
+/// So many offspring to check are listed; a last line tells of all others.
+inline constexpr std::size_t kMostToCheck = 200;
+
+/// What was found, what to check, what was run, and the files in `folder`.
 Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
                   const QString& folder);
 
-/// The share of offspring in each class, and the same with numbers and the shares of the single
-/// allocations.
-BarChart ProportionsChart(const AllocationShares& shares);
+/// The share of offspring in each class, hatched where it is tied or open, and the same with
+/// numbers and the shares of the single allocations.
+BarChart ProportionsChart(Flow flow, const AllocationResult& result);
 DataTable ProportionsTable(const AllocationShares& shares);
 
 /// The shares after each locus of a cumulative sequence.

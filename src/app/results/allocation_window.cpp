@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/allocation_window.h"
 
+#include <algorithm>
+
+#include "allocation/findings.h"
 #include "app/base/text.h"
 #include "app/results/alleles_page.h"
 #include "app/results/allocation_summary.h"
 #include "app/results/chart_panel.h"
+#include "app/results/loci_use_page.h"
 #include "app/results/offspring_page.h"
+#include "app/results/parents_page.h"
 
 namespace kaldo {
 
@@ -14,12 +19,16 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
     : ResultsWindow(settings.project, std::move(folder), parent) {
   const SharedAllocation shared = std::make_shared<const FinishedAllocation>(
       FinishedAllocation{std::move(settings), std::move(run)});
-  const AllocationShares& shares = shared->run.result.LastShares();
-  AddTab(new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
-                         ProportionsChart(shares), ProportionsTable(shares), Folder()),
-         Text("&Summary"), Text("What was run, and the proportions of allocations."));
-  AddTab(new OffspringPage(shared, Folder()), Text("&Offspring"),
+  auto* offspring = new OffspringPage(shared, Folder());
+  AddSummary(shared, *offspring);
+  AddTab(offspring, Text("&Offspring"),
          Text("The parents of every offspring, and why, locus by locus."));
+  const auto show_offspring = [this, offspring](Slot of_parent) {
+    offspring->ShowOffspringOf(of_parent);
+    ShowTab(*offspring);
+  };
+  AddTab(new ParentsPage(shared, Folder(), show_offspring), Text("&Parents"),
+         Text("The offspring and mates of every collected parent, and who has none."));
   if (shared->settings.sequence) {
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Horizontal, Folder(), nullptr);
     sequence->Show(SequenceChart(shared->run.input, shared->run.result));
@@ -27,6 +36,26 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
   }
   AddTab(new AllelesPage(shared, Folder()), Text("&Alleles"),
          Text("The allele frequencies of each locus."));
+  if (!shared->run.result.loci_quality.empty()) {
+    AddTab(new LociUsePage(*shared, Folder()), Text("Loc&i"),
+           Text("What each locus is worth, and what may be wrong with it."));
+  }
+}
+
+void AllocationWindow::AddSummary(const SharedAllocation& shared, OffspringPage& offspring) {
+  const AllocationResult& result = shared->run.result;
+  auto* summary = new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
+                                  ProportionsChart(shared->settings.flow, result),
+                                  ProportionsTable(result.LastShares()), Folder());
+  summary->SetOnCheck([this, &offspring, checks = FindingsOf(result).to_check](std::size_t line) {
+    if (line < std::min(checks.size(), kMostToCheck)) {
+      offspring.ShowOffspring(checks[line].place);
+    } else {
+      offspring.ShowToCheck();
+    }
+    ShowTab(offspring);
+  });
+  AddTab(summary, Text("&Summary"), Text("What was found, what to check, and what was run."));
 }
 
 }  // namespace kaldo

@@ -32,9 +32,15 @@ void AppendValue(const ChartSeries& series, std::size_t place, QStringList& row)
 DataTable TableOfChart(const BarChart& chart) {
   DataTable table{{chart.texts.x_title}, {}};
   AppendHeads(chart.series, table.heads);
+  if (chart.hatched) {
+    AppendHeads(*chart.hatched, table.heads);
+  }
   for (std::size_t k = 0; k < chart.series.values.size(); ++k) {
     QStringList row{chart.positions.empty() ? chart.categories[k] : FullNumber(chart.positions[k])};
     AppendValue(chart.series, k, row);
+    if (chart.hatched) {
+      AppendValue(*chart.hatched, k, row);
+    }
     table.rows.push_back(row);
   }
   return table;

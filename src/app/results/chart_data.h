@@ -31,6 +31,7 @@ struct ChartTexts {
   QString x_title;
   QString y_title;
   bool shares = false;
+  QString legend = {};  ///< what the names in the chart stand for; stands below it
 };
 
 /// Bars beside each other: one per category, or one per allele size where the sizes matter.
@@ -39,6 +40,11 @@ struct BarChart {
   std::vector<QString> categories;
   std::vector<double> positions;  ///< on a numeric axis, ascending; empty: the categories in turn
   ChartSeries series;
+
+  /// The part of each bar that is not settled, drawn hatched at its top; nothing where that is
+  /// unknown. It has no deviations.
+  std::optional<ChartSeries> hatched;
+  QString settled_name;  ///< of the rest, beside the name of the hatched part
 };
 
 /// Lines over numbers, for instance of loci.

@@ -42,6 +42,27 @@ ChartTheme ThemeOf(const QPalette& palette) {
   return {background, text, grid, SeriesColours(IsDark(palette))};
 }
 
+const CellColours& CertaintyColours::Cell(Certainty certainty) const {
+  switch (certainty) {
+    case Certainty::kSure:
+      return sure;
+    case Certainty::kLikely:
+      return likely;
+    case Certainty::kOpen:
+      return open;
+    case Certainty::kUncollected:
+      break;
+  }
+  return uncollected;
+}
+
+CertaintyColours CertaintyColoursOf(const QPalette& palette) {
+  const FitColours fit = FitColoursOf(palette);
+  const CellColours plain = IsDark(palette) ? CellColours{QColor(72, 72, 74), QColor(255, 255, 255)}
+                                            : CellColours{QColor(228, 228, 228), QColor(0, 0, 0)};
+  return {fit.exact, fit.tolerated, fit.excluded, plain};
+}
+
 FitColours FitColoursOf(const QPalette& palette) {
   if (IsDark(palette)) {
     const QColor text(255, 255, 255);

@@ -4,6 +4,8 @@
 #include <QColor>
 #include <vector>
 
+#include "confidence/certainty.h"
+
 class QPalette;
 
 namespace kaldo {
@@ -34,6 +36,18 @@ struct FitColours {
   CellColours tolerated;
   CellColours excluded;
 };
+
+/// Of a table that tells how sure allocations are.
+struct CertaintyColours {
+  CellColours sure;
+  CellColours likely;
+  CellColours open;
+  CellColours uncollected;
+
+  const CellColours& Cell(Certainty certainty) const;
+};
+
+CertaintyColours CertaintyColoursOf(const QPalette& palette);
 
 /// The colours of a comparison that can be read on this palette.
 FitColours FitColoursOf(const QPalette& palette);

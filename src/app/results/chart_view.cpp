@@ -50,6 +50,7 @@ class ChartPainter {
   void Paint(const Chart& chart, int width) {
     PaintTexts(TextsOf(chart), width);
     std::visit([this](const auto& any) { PaintData(any); }, chart);
+    PaintNote(TextsOf(chart).legend);
     if (TextsOf(chart).shares) {
       const bool bars = std::holds_alternative<BarChart>(chart);
       Values()->setRange(bars ? 0 : kShareAxisBegin,
@@ -88,6 +89,16 @@ class ChartPainter {
     Places()->setLabel(texts.x_title);
     Places()->grid()->setVisible(false);
     Values()->setLabel(texts.y_title);
+  }
+
+  /// A text below everything else.
+  void PaintNote(const QString& text) {
+    if (text.isEmpty()) {
+      return;
+    }
+    auto* note = new QCPTextElement(&plot_, Folded(text, QFontMetrics(font_), width_), font_);
+    note->setTextColor(theme_.text);
+    plot_.plotLayout()->addElement(plot_.plotLayout()->rowCount(), 0, note);
   }
 
   /// Texts below places; many of them stand aslant.
@@ -147,7 +158,8 @@ class ChartPainter {
   void PaintData(const SpreadChart& chart);
   void PaintLine(const LineChart& chart, std::size_t number);
   void PaintLevel(double value, Qt::PenStyle style, const QString& text);
-  void PlaceLegend(const LineChart& chart);
+  void PlaceLegend(const QStringList& names);
+  void PaintHatched(const BarChart& chart, QCPBars& settled);
 
   QCustomPlot& plot_;
   const ChartTheme& theme_;
@@ -160,9 +172,32 @@ double DrawnDeviation(const ChartValue& value) {
   return value.value ? value.deviation.value_or(qQNaN()) : qQNaN();
 }
 
+/// Takes the part that is not settled off the bars and puts it on top of them.
+void ChartPainter::PaintHatched(const BarChart& chart, QCPBars& settled) {
+  auto* hatched = new QCPBars(Places(), Values());
+  hatched->setName(chart.hatched->name);
+  hatched->setWidth(settled.width());
+  hatched->setPen(settled.pen());
+  hatched->setBrush(QBrush(Colour(0), Qt::BDiagPattern));
+  hatched->moveAbove(&settled);
+  const std::vector<double> places = PlacesOf(chart);
+  QVector<double> below;
+  QVector<double> above;
+  for (std::size_t k = 0; k < places.size(); ++k) {
+    above += chart.hatched->values[k].value.value_or(0);
+    below += chart.series.values[k].value.value_or(0) - above.back();
+  }
+  const QVector<double> keys(places.begin(), places.end());
+  settled.setData(keys, below, true);
+  hatched->setData(keys, above, true);
+}
+
 void ChartPainter::PaintData(const BarChart& chart) {
   const std::vector<double> places = PlacesOf(chart);
   const double step = SmallestStep(places);
+  if (chart.hatched) {
+    PlaceLegend({chart.settled_name, chart.hatched->name});
+  }
   auto* bars = new QCPBars(Places(), Values());
   bars->setWidth(step * kBarWidth);
   bars->setPen(QPen(Colour(0)));
@@ -178,6 +213,10 @@ void ChartPainter::PaintData(const BarChart& chart) {
   }
   bars->setData(QVector<double>(places.begin(), places.end()), heights, true);
   AddErrorBars(bars, deviations);
+  if (chart.hatched) {
+    bars->setName(chart.settled_name);
+    PaintHatched(chart, *bars);
+  }
   Values()->setRange(0, highest > 0 ? highest * kRoomForNumbers : 1);
   FitPlaces(places, step);
   if (chart.positions.empty()) {
@@ -219,10 +258,10 @@ void ChartPainter::PaintLine(const LineChart& chart, std::size_t number) {
   AddErrorBars(line, deviations);
 }
 
-void ChartPainter::PlaceLegend(const LineChart& chart) {
+void ChartPainter::PlaceLegend(const QStringList& names) {
   int widest = 0;
-  for (const ChartSeries& series : chart.series) {
-    widest = std::max(widest, QFontMetrics(font_).horizontalAdvance(series.name));
+  for (const QString& name : names) {
+    widest = std::max(widest, QFontMetrics(font_).horizontalAdvance(name));
   }
   plot_.legend = new QCPLegend;
   plot_.plotLayout()->addElement(2, 0, plot_.legend);
@@ -238,7 +277,11 @@ void ChartPainter::PlaceLegend(const LineChart& chart) {
 
 void ChartPainter::PaintData(const LineChart& chart) {
   if (chart.series.size() > 1) {
-    PlaceLegend(chart);
+    QStringList names;
+    for (const ChartSeries& series : chart.series) {
+      names += series.name;
+    }
+    PlaceLegend(names);
   }
   for (std::size_t number = 0; number < chart.series.size(); ++number) {
     PaintLine(chart, number);

@@ -3,6 +3,7 @@
 
 #include <fmt/format.h>
 
+#include "allocation/findings.h"
 #include "app/base/text.h"
 
 namespace kaldo {
@@ -46,10 +47,27 @@ std::string_view ConditionTip(LocusCondition condition) {
 }
 
 bool IsFirst(Column column) {
-  return column == Column::kParent1 || column == Column::kDistance1 || column == Column::kOffset1;
+  return column == Column::kParent1 || column == Column::kDistance1 || column == Column::kOffset1 ||
+         column == Column::kOther1 || column == Column::kOtherOffset1;
+}
+
+bool IsOther(Column column) { return column >= Column::kOther1 && column <= Column::kOtherOffset2; }
+
+bool IsOffset(Column column) {
+  return column == Column::kOffset1 || column == Column::kOffset2 ||
+         column == Column::kOtherOffset1 || column == Column::kOtherOffset2;
 }
 
 bool IsNumeric(Column column) { return column == Column::kUnit || column >= Column::kDistance1; }
+
+/// An allele of the offspring stands in neither parent: some error there must be. Where a parent
+/// is undefined it may carry any allele.
+bool IsCarriedByNone(const LocusComparison& locus) {
+  const bool all_typed =
+      !locus.offspring.IsMissing() && !locus.par1.IsMissing() && !locus.par2.IsMissing();
+  return all_typed &&
+         (!(locus.R_in_par1 || locus.R_in_par2) || !(locus.J_in_par1 || locus.J_in_par2));
+}
 
 QString DistanceText(const LocusComparison& locus, BasePairs distance) {
   if (locus.offspring.IsMissing()) {
@@ -108,13 +126,36 @@ void ComparisonModel::ShowPair(std::size_t offspring, std::size_t pair) {
     pair_ = pairs[pair];
     comparisons_ = CompareWithPair(Input().table, *offspring_, *pair_, Loci());
   }
+  FindOthers(offspring);
   endResetModel();
+}
+
+void ComparisonModel::FindOthers(std::size_t offspring) {
+  others_ = {};
+  const OffspringConfidence* const confidence = ConfidenceIn(allocation_->run.result, offspring);
+  if (!pair_ || confidence == nullptr) {
+    return;
+  }
+  const std::array<Slot, 2> parents = {pair_->parent1, pair_->parent2};
+  for (std::size_t side = 0; side < others_.size(); ++side) {
+    const auto next = NextCandidate(*confidence, allocation_->settings.flow, side, parents);
+    if (next) {
+      ParentPair pair = *pair_;
+      (side == 0 ? pair.parent1 : pair.parent2) = next->slot;
+      others_.at(side) = Other{*next, CompareWithPair(Input().table, *offspring_, pair, Loci())};
+    }
+  }
+}
+
+bool ComparisonModel::HasOthers() const {
+  return ConfidenceIn(allocation_->run.result, 0) != nullptr;
 }
 
 void ComparisonModel::Clear() {
   beginResetModel();
   offspring_.reset();
   pair_.reset();
+  others_ = {};
   comparisons_.clear();
   endResetModel();
 }
@@ -127,7 +168,8 @@ void ComparisonModel::SetColours(const FitColours& colours) {
   }
 }
 
-QString ComparisonModel::VerdictOn(Slot parent, UnitDistances LocusComparison::*offset) const {
+QString ComparisonModel::VerdictOn(Slot parent, UnitDistances LocusComparison::*offset,
+                                   bool all_carried) const {
   std::vector<UnitDistances> offsets;
   QStringList excluding;
   const OffsetTolerance tolerance = allocation_->settings.tolerance;
@@ -143,9 +185,21 @@ QString ComparisonModel::VerdictOn(Slot parent, UnitDistances LocusComparison::*
     return Text("%1: UC, offset above the tolerance of %2 at %3.")
         .arg(name, QString::number(tolerance.Value()), excluding.join(Text(", ")));
   }
-  return verdict.errors == 0
-             ? Text("%1: accepted without errors.").arg(name)
-             : Text("%1: accepted, errors assumed: %2.").arg(name, QString::number(verdict.errors));
+  if (verdict.errors > 0) {
+    return Text("%1: accepted, errors assumed: %2.").arg(name, QString::number(verdict.errors));
+  }
+  return (all_carried ? Text("%1: accepted without errors.") : Text("%1: accepted, offsets 0."))
+      .arg(name);
+}
+
+QStringList ComparisonModel::LociCarriedByNone() const {
+  QStringList loci;
+  for (std::size_t k = 0; k < comparisons_.size(); ++k) {
+    if (IsCarriedByNone(comparisons_[k])) {
+      loci += Text(Input().loci.Name(Loci().loci[k]));
+    }
+  }
+  return loci;
 }
 
 QString ComparisonModel::Verdict() const {
@@ -158,8 +212,20 @@ QString ComparisonModel::Verdict() const {
                "parents count as UC.")
         .arg(Text(Input().table.Name(*offspring_).Text()));
   }
-  return VerdictOn(pair_->parent1, &LocusComparison::offset_par1) + Text("  ") +
-         VerdictOn(pair_->parent2, &LocusComparison::offset_par2);
+  const QStringList none = LociCarriedByNone();
+  QString verdict = VerdictOn(pair_->parent1, &LocusComparison::offset_par1, none.isEmpty()) +
+                    Text("  ") +
+                    VerdictOn(pair_->parent2, &LocusComparison::offset_par2, none.isEmpty());
+  if (!none.isEmpty()) {
+    verdict +=
+        Text("  An allele of the offspring is in neither parent at %1.").arg(none.join(Text(", ")));
+  }
+  return verdict;
+}
+
+const LocusComparison& ComparisonModel::Compared(Column column, std::size_t row) const {
+  return IsOther(column) ? others_.at(IsFirst(column) ? 0 : 1)->comparisons[row]
+                         : comparisons_[row];
 }
 
 int ComparisonModel::rowCount(const QModelIndex& parent) const {
@@ -182,14 +248,16 @@ QString ComparisonModel::CellText(Column column, std::size_t row) const {
     default:
       break;
   }
-  if (!pair_) {
+  const bool first = IsFirst(column);
+  if (!pair_ || (IsOther(column) && !others_.at(first ? 0 : 1))) {
     return {};
   }
-  const LocusComparison& comparison = comparisons_[row];
-  const bool first = IsFirst(column);
+  const LocusComparison& comparison = Compared(column, row);
   switch (column) {
     case Column::kParent1:
     case Column::kParent2:
+    case Column::kOther1:
+    case Column::kOther2:
       return GenotypeText(first ? comparison.par1 : comparison.par2);
     case Column::kCondition:
       return Text(Label(comparison.condition));
@@ -204,11 +272,11 @@ QString ComparisonModel::CellText(Column column, std::size_t row) const {
 
 std::optional<LocusFit> ComparisonModel::FitAt(Column column, std::size_t row) const {
   const bool is_measured = column == Column::kParent1 || column == Column::kParent2 ||
-                           column == Column::kOffset1 || column == Column::kOffset2;
-  if (!pair_ || !is_measured) {
+                           IsOffset(column) || IsOther(column);
+  if (!pair_ || !is_measured || (IsOther(column) && !others_.at(IsFirst(column) ? 0 : 1))) {
     return std::nullopt;
   }
-  const LocusComparison& locus = comparisons_[row];
+  const LocusComparison& locus = Compared(column, row);
   return FitOf(locus, IsFirst(column) ? locus.offset_par1 : locus.offset_par2,
                allocation_->settings.tolerance);
 }
@@ -241,6 +309,17 @@ QVariant ComparisonModel::data(const QModelIndex& index, int role) const {
   return role == Qt::ForegroundRole ? QVariant(cell.text) : QVariant();
 }
 
+/// "Adult07 (p 0.031)".
+QString ComparisonModel::OtherHead(Column column) const {
+  const auto& other = others_.at(IsFirst(column) ? 0 : 1);
+  if (!other) {
+    return Text("Runner-up");
+  }
+  return Text("or %1 (p %2)")
+      .arg(Text(Input().table.Name(other->parent.slot).Text()),
+           QString::number(other->parent.probability, 'g', 3));
+}
+
 QString ComparisonModel::Head(Column column) const {
   const bool sexed = allocation_->settings.flow == Flow::kSexed;
   const QString who = IsFirst(column) ? Text(sexed ? "male" : "1") : Text(sexed ? "female" : "2");
@@ -260,6 +339,12 @@ QString ComparisonModel::Head(Column column) const {
     case Column::kParent2:
       return named(pair_ ? std::optional(pair_->parent2) : std::nullopt,
                    Text(sexed ? "Female" : "Parent 2"));
+    case Column::kOther1:
+    case Column::kOther2:
+      return OtherHead(column);
+    case Column::kOtherOffset1:
+    case Column::kOtherOffset2:
+      return Text("Offset (units)");
     case Column::kCondition:
       return Text("Condition");
     case Column::kDistance1:
@@ -280,6 +365,11 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
   }
   if (role == Qt::TextAlignmentRole && IsNumeric(column)) {
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+  }
+  if (role == Qt::ToolTipRole && IsOther(column)) {
+    return Text(
+               "The most probable other candidate, in the place of parent %1 beside the same mate.")
+        .arg(IsFirst(column) ? 1 : 2);
   }
   return {};
 }

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <array>
 #include <optional>
+#include <vector>
 
 #include "app/results/chart_theme.h"
 #include "app/results/finished_runs.h"
@@ -17,6 +19,10 @@ enum class ComparisonColumn {
   kParent2,
   kOffset1,
   kOffset2,
+  kOther1,  ///< who competes with parent 1, beside the same mate
+  kOtherOffset1,
+  kOther2,
+  kOtherOffset2,
   kCondition,
   kDistance1,
   kDistance2,
@@ -40,7 +46,8 @@ LocusFit FitOf(const LocusComparison& locus, UnitDistances offset, OffsetToleran
 QString SignOf(LocusFit fit);
 
 /// An offspring beside one pair of parents, locus by locus: the loci of the run in file order.
-/// Without a pair only the offspring's genotype is there.
+/// Without a pair only the offspring's genotype is there. With posteriors the candidate that
+/// competes with each parent, see NextCandidate, stands beside them.
 class ComparisonModel : public QAbstractTableModel {
  public:
   ComparisonModel(SharedAllocation allocation, QObject* parent);
@@ -52,6 +59,9 @@ class ComparisonModel : public QAbstractTableModel {
   void Clear();
 
   void SetColours(const FitColours& colours);
+
+  /// True where the columns of competing candidates mean something.
+  bool HasOthers() const;
 
   /// What the offsets say about both parents, in sentences.
   QString Verdict() const;
@@ -66,7 +76,11 @@ class ComparisonModel : public QAbstractTableModel {
   QString CellText(ComparisonColumn column, std::size_t row) const;
   std::optional<LocusFit> FitAt(ComparisonColumn column, std::size_t row) const;
   QString Head(ComparisonColumn column) const;
-  QString VerdictOn(Slot parent, UnitDistances LocusComparison::*offset) const;
+  QString OtherHead(ComparisonColumn column) const;
+  QString VerdictOn(Slot parent, UnitDistances LocusComparison::*offset, bool all_carried) const;
+  QStringList LociCarriedByNone() const;
+  void FindOthers(std::size_t offspring);
+  const LocusComparison& Compared(ComparisonColumn column, std::size_t row) const;
   const AllocationInput& Input() const { return allocation_->run.input; }
   const LociOfRun& Loci() const { return allocation_->run.result.loci; }
 
@@ -75,6 +89,13 @@ class ComparisonModel : public QAbstractTableModel {
   std::optional<Slot> offspring_;
   std::optional<ParentPair> pair_;
   std::vector<LocusComparison> comparisons_;
+
+  /// Who competes with each parent, and the pair with it in that parent's place.
+  struct Other {
+    ProbableParent parent;
+    std::vector<LocusComparison> comparisons;
+  };
+  std::array<std::optional<Other>, 2> others_;
 };
 
 }  // namespace kaldo

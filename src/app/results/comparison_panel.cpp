@@ -35,13 +35,17 @@ ComparisonPanel::ComparisonPanel(SharedAllocation allocation, QWidget* parent)
   table_->setObjectName(Text("ComparisonTable"));
   model_->SetColours(FitColoursOf(palette()));
   table_->setModel(model_);
+  for (const auto column : {ComparisonColumn::kOther1, ComparisonColumn::kOtherOffset1,
+                            ComparisonColumn::kOther2, ComparisonColumn::kOtherOffset2}) {
+    table_->setColumnHidden(static_cast<int>(column), !model_->HasOthers());
+  }
   LayOut();
   connect(pair_, &QComboBox::currentIndexChanged, this, [this] { ShowPair(); });
   Clear();
 }
 
 void ComparisonPanel::LayOut() {
-  auto* pair_label = new QLabel(Text("&Pair:"));
+  auto* pair_label = new QLabel(Text("Pair &beside it:"));
   pair_label->setBuddy(pair_);
   auto* head = new QHBoxLayout;
   head->addWidget(pair_label);

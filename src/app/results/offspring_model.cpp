@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/offspring_model.h"
 
+#include "allocation/findings.h"
 #include "allocation/reports/result_line.h"
 #include "app/base/text.h"
 #include "app/results/allocation_classes.h"
@@ -16,61 +17,22 @@ constexpr std::string_view kManyPairsTip =
     "More than five equally likely pairs were met during the search. The mark stays, also when a "
     "better pair was found later.";
 
-struct ColumnTexts {
-  std::string_view head;
-  std::string_view sexed_head;
-  std::string_view tip;
-};
-
-ColumnTexts TextsOf(Column column) {
-  switch (column) {
-    case Column::kPlace:
-      return {"No.", "No.", "Place in the offspring file."};
-    case Column::kOffspring:
-      return {"Offspring", "Offspring", "Name of the offspring."};
-    case Column::kParent1:
-      return {"Parent 1", "Male",
-              "The collected parent, or UC: the true one is taken not to be among the collected."};
-    case Column::kParent2:
-      return {"Parent 2", "Female",
-              "The collected parent, or UC: the true one is taken not to be among the collected."};
-    case Column::kRank1:
-      return {"Rank 1", "Male rank", "Place in the file of the parents, separators counted."};
-    case Column::kRank2:
-      return {"Rank 2", "Female rank", "Place in the file of the parents, separators counted."};
-    case Column::kErrors1:
-      return {"Errors 1", "Male errors", "Loci at which an error had to be assumed."};
-    case Column::kErrors2:
-      return {"Errors 2", "Female errors", "Loci at which an error had to be assumed."};
-    case Column::kClass:
-      return {"Class", "Class", "How many parents, or which, are collected."};
-    case Column::kPairs:
-      return {"Pairs", "Pairs",
-              "Pairs that explain the offspring equally well; the first decided. 0: no pair is "
-              "possible; 5+: more than five were met."};
-    case Column::kLikelihood:
-      return {"Likelihood", "Likelihood", "Of the best pair. It ranks pairs; it is no certainty."};
-    case Column::kCount:
-      break;
-  }
-  return {};
-}
-
-bool IsNumeric(Column column) {
-  return column != Column::kOffspring && column != Column::kParent1 && column != Column::kParent2 &&
-         column != Column::kClass;
-}
-
-const AllocatedSide& SideOf(const AllocatedSides& sides, Column column) {
-  const bool is_second =
-      column == Column::kParent2 || column == Column::kRank2 || column == Column::kErrors2;
-  return is_second ? sides.second : sides.first;
+const AllocatedSide& SideIn(const AllocatedSides& sides, Column column) {
+  return SideOf(column) == 1 ? sides.second : sides.first;
 }
 
 }  // namespace
 
 OffspringModel::OffspringModel(SharedAllocation allocation, QObject* parent)
     : QAbstractTableModel(parent), allocation_(std::move(allocation)) {}
+
+void OffspringModel::SetColours(const CertaintyColours& colours) {
+  colours_ = colours;
+  if (rowCount() > 0) {
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1),
+                       {Qt::BackgroundRole, Qt::ForegroundRole});
+  }
+}
 
 int OffspringModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(allocation_->run.result.outcomes.size());
@@ -84,6 +46,10 @@ const AllocationOutcome& OffspringModel::Outcome(int row) const {
   return allocation_->run.result.outcomes[static_cast<std::size_t>(row)];
 }
 
+const OffspringConfidence* OffspringModel::Confidence(int row) const {
+  return ConfidenceIn(allocation_->run.result, static_cast<std::size_t>(row));
+}
+
 QString OffspringModel::Name(int row) const {
   const AllocationInput& input = allocation_->run.input;
   const Slot slot{input.offspring.begin + static_cast<std::uint32_t>(row)};
@@ -92,13 +58,80 @@ QString OffspringModel::Name(int row) const {
 
 QString OffspringModel::SideName(Column column, int row) const {
   const AllocatedSides sides = SidesOf(RunFlow(), Outcome(row));
-  const AllocatedSide& side = SideOf(sides, column);
+  const AllocatedSide& side = SideIn(sides, column);
   return side.parent ? Text(allocation_->run.input.table.Name(*side.parent).Text()) : Text("UC");
+}
+
+bool OffspringModel::HasParent(int row, Slot parent) const {
+  const AllocatedSides sides = SidesOf(RunFlow(), Outcome(row));
+  return sides.first.parent == parent || sides.second.parent == parent;
+}
+
+/// A probability of "/Confidence.tsv"; none where that has NA.
+std::optional<double> OffspringModel::ConfidenceNumber(Column column, int row) const {
+  const OffspringConfidence* const confidence = Confidence(row);
+  if (confidence == nullptr || !confidence->is_possible) {
+    return std::nullopt;
+  }
+  const SideConfidence& side = confidence->sides.at(SideOf(column));
+  const auto of = [](const std::optional<ProbableParent>& parent) {
+    return parent ? std::optional(parent->probability) : std::nullopt;
+  };
+  switch (column) {
+    case Column::kReported1:
+    case Column::kReported2:
+      return side.p_reported;
+    case Column::kProbability1:
+    case Column::kProbability2:
+      return of(side.candidate);
+    case Column::kRunnerUpProbability1:
+    case Column::kRunnerUpProbability2:
+      return of(side.runner_up);
+    default:
+      return side.p_uncollected;
+  }
+}
+
+std::optional<Slot> OffspringModel::ConfidenceName(Column column, int row) const {
+  const OffspringConfidence* const confidence = Confidence(row);
+  if (confidence == nullptr) {
+    return std::nullopt;
+  }
+  const SideConfidence& side = confidence->sides.at(SideOf(column));
+  const bool is_candidate = column == Column::kCandidate1 || column == Column::kCandidate2;
+  const auto& parent = is_candidate ? side.candidate : side.runner_up;
+  return parent ? std::optional(parent->slot) : std::nullopt;
+}
+
+QString OffspringModel::ConfidenceText(Column column, int row) const {
+  const OffspringConfidence* const confidence = Confidence(row);
+  if (confidence == nullptr) {
+    return Text("NA");
+  }
+  switch (column) {
+    case Column::kCertainty:
+      return CertaintyText(CertaintyOf(*confidence));
+    case Column::kVerdict1:
+    case Column::kVerdict2:
+      return Text(Label(confidence->sides.at(SideOf(column)).verdict));
+    case Column::kCandidate1:
+    case Column::kCandidate2:
+    case Column::kRunnerUp1:
+    case Column::kRunnerUp2: {
+      const auto parent = ConfidenceName(column, row);
+      return parent ? Text(allocation_->run.input.table.Name(*parent).Text()) : Text("NA");
+    }
+    default:
+      return ShortNumber(ConfidenceNumber(column, row));
+  }
 }
 
 /// The number of a cell; below all others where the side is UC.
 double OffspringModel::Number(Column column, int row) const {
   const AllocationOutcome& outcome = Outcome(row);
+  if (NeedsConfidence(column)) {
+    return ConfidenceNumber(column, row).value_or(-1);
+  }
   switch (column) {
     case Column::kPlace:
       return row + 1;
@@ -111,7 +144,7 @@ double OffspringModel::Number(Column column, int row) const {
       break;
   }
   const AllocatedSides sides = SidesOf(RunFlow(), outcome);
-  const AllocatedSide& side = SideOf(sides, column);
+  const AllocatedSide& side = SideIn(sides, column);
   if (!side.parent) {
     return -1;
   }
@@ -121,6 +154,9 @@ double OffspringModel::Number(Column column, int row) const {
 }
 
 QString OffspringModel::CellText(Column column, int row) const {
+  if (NeedsConfidence(column)) {
+    return ConfidenceText(column, row);
+  }
   switch (column) {
     case Column::kOffspring:
       return Name(row);
@@ -152,11 +188,18 @@ QVariant OffspringModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) {
     return CellText(column, index.row());
   }
-  if (role == Qt::TextAlignmentRole && IsNumeric(column)) {
+  if (role == Qt::TextAlignmentRole && TextsOf(column).is_numeric) {
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   if (role == Qt::ToolTipRole && column == Column::kPairs && Outcome(index.row()).more_than_five) {
     return Text(kManyPairsTip);
+  }
+  const bool is_coloured = role == Qt::BackgroundRole || role == Qt::ForegroundRole;
+  if (is_coloured && column == Column::kCertainty) {
+    if (const OffspringConfidence* const confidence = Confidence(index.row())) {
+      const CellColours& cell = colours_.Cell(CertaintyOf(*confidence));
+      return role == Qt::BackgroundRole ? cell.background : cell.text;
+    }
   }
   return {};
 }
@@ -166,25 +209,28 @@ QVariant OffspringModel::headerData(int section, Qt::Orientation orientation, in
     return {};
   }
   const auto column = static_cast<Column>(section);
-  const ColumnTexts texts = TextsOf(column);
+  const OffspringColumnTexts texts = TextsOf(column);
   if (role == Qt::DisplayRole) {
     return Text(RunFlow() == Flow::kSexed ? texts.sexed_head : texts.head);
   }
   if (role == Qt::ToolTipRole) {
     return Text(texts.tip);
   }
-  if (role == Qt::TextAlignmentRole && IsNumeric(column)) {
+  if (role == Qt::TextAlignmentRole && TextsOf(column).is_numeric) {
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   return {};
 }
 
 bool OffspringModel::IsBefore(Column column, int a, int b) const {
-  if (IsNumeric(column)) {
+  if (TextsOf(column).is_numeric) {
     return Number(column, a) < Number(column, b);
   }
   if (column == Column::kClass) {
     return ClassOf(RunFlow(), Outcome(a)) < ClassOf(RunFlow(), Outcome(b));
+  }
+  if (column == Column::kCertainty && Confidence(a) != nullptr) {
+    return CertaintyOf(*Confidence(a)) < CertaintyOf(*Confidence(b));
   }
   return CellText(column, a) < CellText(column, b);
 }
@@ -211,6 +257,17 @@ bool OffspringFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) c
     return false;
   }
   if (choice_.only_without_pair && outcome.HasPair()) {
+    return false;
+  }
+  const OffspringConfidence* const confidence = model_.Confidence(row);
+  if (choice_.only_to_check && (confidence == nullptr || !DoubtAbout(*confidence))) {
+    return false;
+  }
+  if (choice_.certainty &&
+      (confidence == nullptr || CertaintyOf(*confidence) != *choice_.certainty)) {
+    return false;
+  }
+  if (choice_.parent && !model_.HasParent(row, *choice_.parent)) {
     return false;
   }
   if (choice_.the_class && ClassOf(model_.RunFlow(), outcome) != *choice_.the_class) {

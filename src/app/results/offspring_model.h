@@ -5,31 +5,20 @@
 #include <QSortFilterProxyModel>
 #include <optional>
 
+#include "app/results/chart_theme.h"
 #include "app/results/finished_runs.h"
+#include "app/results/offspring_columns.h"
+#include "confidence/certainty.h"
 
 namespace kaldo {
 
-/// What stands in the columns of the offspring table. Parent 1 and 2 are the male and the female of
-/// a sexed run.
-enum class OffspringColumn {
-  kPlace,  ///< in the offspring file, from 1
-  kOffspring,
-  kParent1,
-  kParent2,
-  kRank1,
-  kRank2,
-  kErrors1,
-  kErrors2,
-  kClass,
-  kPairs,
-  kLikelihood,
-  kCount,
-};
-
-/// The offspring of an allocation with the parents that the results report names, one row each.
+/// The offspring of an allocation with the parents that the results report names and how sure they
+/// are, one row each.
 class OffspringModel : public QAbstractTableModel {
  public:
   OffspringModel(SharedAllocation allocation, QObject* parent);
+
+  void SetColours(const CertaintyColours& colours);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -44,22 +33,36 @@ class OffspringModel : public QAbstractTableModel {
   /// True where the name of the offspring or of a parent shown in its row contains `text`.
   bool HasName(int row, const QString& text) const;
 
+  /// True where the results name this parent in the row.
+  bool HasParent(int row, Slot parent) const;
+
   const AllocationOutcome& Outcome(int row) const;
+
+  /// How sure the parents in the row are; nothing without posteriors.
+  const OffspringConfidence* Confidence(int row) const;
+
   Flow RunFlow() const { return allocation_->settings.flow; }
 
  private:
   QString CellText(OffspringColumn column, int row) const;
+  QString ConfidenceText(OffspringColumn column, int row) const;
+  std::optional<double> ConfidenceNumber(OffspringColumn column, int row) const;
+  std::optional<Slot> ConfidenceName(OffspringColumn column, int row) const;
   double Number(OffspringColumn column, int row) const;
   QString Name(int row) const;
   QString SideName(OffspringColumn column, int row) const;
 
   SharedAllocation allocation_;
+  CertaintyColours colours_;
 };
 
 /// Which offspring are shown.
 struct OffspringChoice {
   QString name;                          ///< part of a name; empty for all
   std::optional<std::size_t> the_class;  ///< by its place in ClassNames()
+  std::optional<Certainty> certainty;
+  std::optional<Slot> parent;  ///< of the offspring, as the results name it
+  bool only_to_check = false;  ///< those with a Doubt
   bool only_several_pairs = false;
   bool only_without_pair = false;
 };

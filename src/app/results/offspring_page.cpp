@@ -2,13 +2,16 @@
 #include "app/results/offspring_page.h"
 
 #include <QComboBox>
+#include <QEvent>
+#include <QLabel>
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include "allocation/findings.h"
+#include "app/base/form_fields.h"
 #include "app/base/text.h"
 #include "app/results/allocation_classes.h"
 #include "app/results/comparison_panel.h"
-#include "app/results/offspring_model.h"
 #include "app/results/result_table.h"
 #include "app/results/searchable_table.h"
 
@@ -29,24 +32,24 @@ constexpr SearchableTexts kTexts{
 OffspringPage::OffspringPage(const SharedAllocation& allocation, const QString& folder,
                              QWidget* parent)
     : QWidget(parent),
+      allocation_(allocation),
       model_(new OffspringModel(allocation, this)),
       filter_(new OffspringFilter(*model_, this)),
       list_(new SearchableTable(kTexts, folder)),
       comparison_(new ComparisonPanel(allocation)) {
-  QComboBox& choices = list_->Choices();
-  choices.addItem(Text("all offspring"));
-  for (const QString& name : ClassNames(model_->RunFlow())) {
-    choices.addItem(name);
-  }
-  choices.addItem(Text("several pairs"));
-  choices.addItem(Text("no pair"));
+  FillChoices();
+  model_->SetColours(CertaintyColoursOf(palette()));
   ResultTable& table = list_->Table();
   table.setModel(filter_);
   table.setSortingEnabled(true);
   table.sortByColumn(0, Qt::AscendingOrder);
   table.FitColumns();
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    table.setColumnHidden(column, NeedsConfidence(static_cast<OffspringColumn>(column)) &&
+                                      ConfidenceIn(allocation->run.result, 0) == nullptr);
+  }
   auto* splitter = new QSplitter(Qt::Vertical);
-  splitter->addWidget(list_);
+  splitter->addWidget(NewUpperHalf());
   splitter->addWidget(comparison_);
   splitter->setStretchFactor(0, 3);
   splitter->setStretchFactor(1, 2);
@@ -61,16 +64,98 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, const QString& 
   table.setCurrentIndex(filter_->index(0, 0));
 }
 
-void OffspringPage::Narrow() {
-  const auto classes = static_cast<int>(ClassNames(model_->RunFlow()).size());
-  const int chosen = list_->Choices().currentIndex();
-  OffspringChoice choice;
-  choice.name = list_->SoughtText();
-  if (chosen >= 1 && chosen <= classes) {
-    choice.the_class = static_cast<std::size_t>(chosen - 1);
+/// The table with what its marks mean.
+QWidget* OffspringPage::NewUpperHalf() {
+  if (ConfidenceIn(allocation_->run.result, 0) == nullptr) {
+    return list_;
   }
-  choice.only_several_pairs = chosen == classes + 1;
-  choice.only_without_pair = chosen == classes + 2;
+  QStringList meanings;
+  for (const Certainty certainty : kAllCertainties) {
+    meanings += CertaintyText(certainty) + Text(": ") + Text(MeaningForOffspring(certainty));
+  }
+  auto* legend = NewHint(nullptr);
+  legend->setObjectName(Text("OffspringLegend"));
+  legend->setText(meanings.join(Text("   ")));
+  auto* half = new QWidget;
+  auto* layout = new QVBoxLayout(half);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(list_, 1);
+  layout->addWidget(legend);
+  return half;
+}
+
+void OffspringPage::AddChoice(const QString& text, const OffspringChoice& choice,
+                              const QString& tip) {
+  QComboBox& list = list_->Choices();
+  choices_.push_back(choice);
+  list.addItem(text);
+  list.setItemData(list.count() - 1, tip, Qt::ToolTipRole);
+}
+
+void OffspringPage::FillChoices() {
+  AddChoice(Text("all offspring"), {});
+  const std::vector<QString> classes = ClassNames(model_->RunFlow());
+  for (std::size_t k = 0; k < classes.size(); ++k) {
+    OffspringChoice choice;
+    choice.the_class = k;
+    AddChoice(classes[k], choice);
+  }
+  OffspringChoice several;
+  several.only_several_pairs = true;
+  AddChoice(Text("several pairs"), several);
+  OffspringChoice none;
+  none.only_without_pair = true;
+  AddChoice(Text("no pair"), none);
+  if (ConfidenceIn(allocation_->run.result, 0) == nullptr) {
+    return;
+  }
+  OffspringChoice check;
+  check.only_to_check = true;
+  to_check_ = static_cast<int>(choices_.size());
+  AddChoice(Text("to check"), check,
+            Text("A parent is open, or what the results say is less probable than not."));
+  for (const Certainty certainty : kAllCertainties) {
+    OffspringChoice choice;
+    choice.certainty = certainty;
+    AddChoice(CertaintyText(certainty), choice, Text(MeaningForOffspring(certainty)));
+  }
+}
+
+void OffspringPage::ShowAll() {
+  list_->ClearSought();
+  list_->Choices().setCurrentIndex(0);
+}
+
+void OffspringPage::ShowOffspring(std::size_t place) {
+  ShowAll();
+  const QModelIndex row = filter_->mapFromSource(model_->index(static_cast<int>(place), 0));
+  list_->Table().setCurrentIndex(row);
+  list_->Table().scrollTo(row);
+}
+
+void OffspringPage::ShowToCheck() {
+  list_->ClearSought();
+  list_->Choices().setCurrentIndex(to_check_);
+}
+
+void OffspringPage::ShowOffspringOf(Slot parent) {
+  OffspringChoice choice;
+  choice.parent = parent;
+  const QString text =
+      Text("offspring of %1").arg(Text(allocation_->run.input.table.Name(parent).Text()));
+  ShowAll();
+  if (of_parent_ < 0) {
+    of_parent_ = static_cast<int>(choices_.size());
+    AddChoice(text, choice);
+  }
+  choices_[static_cast<std::size_t>(of_parent_)] = choice;
+  list_->Choices().setItemText(of_parent_, text);
+  list_->Choices().setCurrentIndex(of_parent_);
+}
+
+void OffspringPage::Narrow() {
+  OffspringChoice choice = choices_[static_cast<std::size_t>(list_->Choices().currentIndex())];
+  choice.name = list_->SoughtText();
   filter_->Choose(choice);
   list_->SetCount(Text("%1 of %2 offspring").arg(filter_->rowCount()).arg(model_->rowCount()));
   ShowCurrent();
@@ -82,6 +167,13 @@ void OffspringPage::ShowCurrent() {
     comparison_->ShowOffspring(static_cast<std::size_t>(current.row()));
   } else {
     comparison_->Clear();
+  }
+}
+
+void OffspringPage::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) {
+    model_->SetColours(CertaintyColoursOf(palette()));
   }
 }
 

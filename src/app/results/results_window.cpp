@@ -76,4 +76,12 @@ void ResultsWindow::AddTab(QWidget* page, const QString& title, const QString& t
   tabs_->setTabToolTip(tabs_->addTab(framed, title), tip);
 }
 
+void ResultsWindow::ShowTab(const QWidget& page) {
+  for (int tab = 0; tab < tabs_->count(); ++tab) {
+    if (tabs_->widget(tab)->isAncestorOf(&page)) {
+      tabs_->setCurrentIndex(tab);
+    }
+  }
+}
+
 }  // namespace kaldo

@@ -28,6 +28,9 @@ class ResultsWindow : public QWidget {
   /// `title` carries its mnemonic; `tip` says in a sentence what the tab shows.
   void AddTab(QWidget* page, const QString& title, const QString& tip);
 
+  /// Brings the tab of a page that was added to the front.
+  void ShowTab(const QWidget& page);
+
  private:
   QWidget* ButtonRow();
 

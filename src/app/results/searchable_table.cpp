@@ -70,6 +70,8 @@ QLayout* SearchableTable::NewButtons(const SearchableTexts& texts, const QString
 
 QString SearchableTable::SoughtText() const { return find_->text(); }
 
+void SearchableTable::ClearSought() { find_->clear(); }
+
 void SearchableTable::SetCount(const QString& text) { count_->setText(text); }
 
 void SearchableTable::SetOnChoice(const std::function<void()>& narrow) {

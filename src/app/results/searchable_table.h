@@ -39,6 +39,9 @@ class SearchableTable : public QWidget {
 
   QString SoughtText() const;
 
+  /// Looks for nothing.
+  void ClearSought();
+
   /// Tells how many rows are shown.
   void SetCount(const QString& text);
 

@@ -3,15 +3,21 @@
 
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
 #include <QSplitter>
 #include <QTextBrowser>
 
+#include "app/base/form_fields.h"
 #include "app/base/text.h"
 #include "app/results/chart_panel.h"
 
 namespace kaldo {
 
 namespace {
+
+constexpr int kMostLines = 9;  ///< of what to check, seen at once
 
 QString Paragraphs(const QString& mark, const QStringList& sentences) {
   QString html;
@@ -21,20 +27,32 @@ QString Paragraphs(const QString& mark, const QStringList& sentences) {
   return html;
 }
 
-QString HtmlOf(const Summary& summary) {
-  QString html = Text("<h3>%1</h3><table>").arg(summary.title.toHtmlEscaped());
+QString SettingsHtml(const Summary& summary) {
+  QString html = Text("<table>");
   for (const auto& [label, text] : summary.lines) {
     html += Text("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>")
                 .arg(label.toHtmlEscaped(), text.toHtmlEscaped());
   }
-  html += Text("</table>");
-  html += Paragraphs(Text("<b>&#9888; Warning:</b> "), summary.warnings);
-  html += Paragraphs(QString(), summary.notes);
-  html += Text("<p><b>%1</b></p><ul>").arg(summary.files_title.toHtmlEscaped());
+  return html + Text("</table>");
+}
+
+QString FilesHtml(const Summary& summary) {
+  QString html = Text("<p><b>%1</b></p><ul>").arg(summary.files_title.toHtmlEscaped());
   for (const QString& file : summary.files) {
     html += Text("<li>%1</li>").arg(file.toHtmlEscaped());
   }
   return html + Text("</ul>");
+}
+
+QString HtmlOf(const Summary& summary, bool with_settings) {
+  QString html = Text("<h3>%1</h3>").arg(summary.title.toHtmlEscaped());
+  const QString found = Paragraphs(Text("<b>&#9888; Warning:</b> "), summary.warnings) +
+                        Paragraphs(QString(), summary.notes);
+  if (summary.headline.isEmpty()) {
+    return html + SettingsHtml(summary) + found + FilesHtml(summary);
+  }
+  html += Text("<p><b>%1</b></p>").arg(summary.headline.toHtmlEscaped()) + found;
+  return with_settings ? html + SettingsHtml(summary) + FilesHtml(summary) : html;
 }
 
 }  // namespace
@@ -49,19 +67,18 @@ QStringList FilesPresent(const QString& folder, const std::vector<std::string_vi
   return files;
 }
 
-SummaryPage::SummaryPage(const Summary& summary, const Chart& chart, const DataTable& table,
+SummaryPage::SummaryPage(Summary summary, const Chart& chart, const DataTable& table,
                          const QString& folder, QWidget* parent)
-    : QWidget(parent) {
-  auto* text = new QTextBrowser;
-  text->setObjectName(Text("SummaryText"));
-  text->setAccessibleName(Text("Summary of the run"));
-  text->setTabChangesFocus(true);
-  text->setHtml(HtmlOf(summary));
-  text->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
+    : QWidget(parent),
+      summary_(std::move(summary)),
+      text_(new QTextBrowser),
+      to_check_(new QListWidget),
+      more_(NewButton("Files an&d settings", "SummaryMore",
+                      "Show which files and settings this run had, and what it wrote.")) {
   auto* figures = new ChartPanel(Text("Summary"), Qt::Vertical, folder, nullptr);
   figures->Show(chart, table);
   auto* splitter = new QSplitter;
-  splitter->addWidget(text);
+  splitter->addWidget(NewTextSide());
   splitter->addWidget(figures);
   splitter->setStretchFactor(0, 1);
   splitter->setStretchFactor(1, 1);
@@ -69,6 +86,48 @@ SummaryPage::SummaryPage(const Summary& summary, const Chart& chart, const DataT
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(splitter);
+  ShowText();
+}
+
+QWidget* SummaryPage::NewTextSide() {
+  text_->setObjectName(Text("SummaryText"));
+  text_->setAccessibleName(Text("Summary of the run"));
+  text_->setTabChangesFocus(true);
+  text_->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
+  to_check_->setObjectName(Text("SummaryToCheck"));
+  to_check_->setAccessibleName(Text("Offspring to check"));
+  to_check_->setToolTip(Text("Choose a line to see the offspring, locus by locus."));
+  to_check_->addItems(summary_.to_check);
+  to_check_->setWordWrap(true);
+  to_check_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  to_check_->setMaximumHeight((kMostLines + 1) * fontMetrics().lineSpacing() * 4 / 3);
+  more_->setCheckable(true);
+  auto* label = new QLabel(Text("To chec&k:"));
+  label->setBuddy(to_check_);
+  auto* side = new QWidget;
+  auto* layout = new QVBoxLayout(side);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(text_, 1);
+  layout->addWidget(label);
+  layout->addWidget(to_check_);
+  layout->addWidget(more_, 0, Qt::AlignLeft);
+  const bool checks = !summary_.to_check.isEmpty();
+  label->setVisible(checks);
+  to_check_->setVisible(checks);
+  more_->setVisible(!summary_.headline.isEmpty());
+  connect(more_, &QPushButton::toggled, this, [this] { ShowText(); });
+  return side;
+}
+
+void SummaryPage::ShowText() { text_->setHtml(HtmlOf(summary_, more_->isChecked())); }
+
+void SummaryPage::SetOnCheck(std::function<void(std::size_t)> on_check) {
+  const auto choose = [this, on_check = std::move(on_check)](const QListWidgetItem* item) {
+    on_check(static_cast<std::size_t>(to_check_->row(item)));
+  };
+  // A click shows it; from the keyboard Enter does.
+  connect(to_check_, &QListWidget::itemClicked, this, choose);
+  connect(to_check_, &QListWidget::itemActivated, this, choose);
 }
 
 }  // namespace kaldo

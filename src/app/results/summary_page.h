@@ -3,16 +3,29 @@
 
 #include <QStringList>
 #include <QWidget>
+#include <functional>
 #include <utility>
 #include <vector>
 
 #include "app/results/chart_data.h"
+
+class QListWidget;
+class QPushButton;
+class QTextBrowser;
 
 namespace kaldo {
 
 /// What a run tells about itself, part by part.
 struct Summary {
   QString title;
+
+  /// What was found, in a sentence. Where there is one it comes first, and files and settings are
+  /// folded away.
+  QString headline;
+
+  /// What to look at, a line each; see SummaryPage::SetOnCheck.
+  QStringList to_check;
+
   std::vector<std::pair<QString, QString>> lines;  ///< "error model", "Uniform (0.01)"
   QStringList warnings;  ///< what a geneticist should look at before using the results
   QStringList notes;
@@ -24,14 +37,27 @@ struct Summary {
 /// their leading "/".
 QStringList FilesPresent(const QString& folder, const std::vector<std::string_view>& candidates);
 
-/// The first tab of a results window: the summary as text to be read and copied, beside the main
-/// figures as a chart and a table.
+/// The first tab of a results window: what was found and what to check, as text to be read and
+/// copied, beside the main figures as a chart and a table.
 ///
-/// Object names: "SummaryText", and those of a ChartPanel "Summary".
+/// Object names: "SummaryText", with a headline also "SummaryToCheck" and "SummaryMore", and those
+/// of a ChartPanel "Summary".
 class SummaryPage : public QWidget {
  public:
-  SummaryPage(const Summary& summary, const Chart& chart, const DataTable& table,
-              const QString& folder, QWidget* parent = nullptr);
+  SummaryPage(Summary summary, const Chart& chart, const DataTable& table, const QString& folder,
+              QWidget* parent = nullptr);
+
+  /// Called with the place of a line of what to check when the user wants to see it.
+  void SetOnCheck(std::function<void(std::size_t)> on_check);
+
+ private:
+  QWidget* NewTextSide();
+  void ShowText();
+
+  Summary summary_;
+  QTextBrowser* text_;
+  QListWidget* to_check_;
+  QPushButton* more_;
 };
 
 }  // namespace kaldo

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/results/loci_use_page.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/base/form_fields.h"
+#include "app/base/text.h"
+#include "app/results/locus_table.h"
+#include "app/results/result_table.h"
+
+namespace kaldo {
+
+LociUsePage::LociUsePage(const FinishedAllocation& allocation, const QString& folder,
+                         QWidget* parent)
+    : QWidget(parent) {
+  auto* hint = NewHint(nullptr);
+  hint->setText(
+      Text("The locus that excludes most pairs of strangers stands first. Many homozygote "
+           "mismatches, a high null allele frequency or a high error rate ask for another look at "
+           "its gels."));
+  auto* model = new DataTableModel(this);
+  model->SetTable(LocusTable(allocation));
+  auto* table = new ResultTable(Text("What each locus is worth"));
+  table->setObjectName(Text("LociTable"));
+  table->setModel(model);
+  auto* copy = NewButton("Copy &rows", "LociCopy",
+                         "Copy the selected loci, or all, with their heads, to be pasted into a "
+                         "spreadsheet (Ctrl+C).");
+  auto* save = NewButton("&Export table...", "LociExport", "Save the table as it is shown (CSV).");
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(copy);
+  row->addWidget(save);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(hint);
+  layout->addWidget(table, 1);
+  layout->addLayout(row);
+  connect(copy, &QPushButton::clicked, table, [table] { table->CopyRows(); });
+  connect(save, &QPushButton::clicked, table,
+          [table, folder] { table->ExportRows(folder + Text("/loci.csv")); });
+}
+
+}  // namespace kaldo
