@@ -50,6 +50,10 @@ void TypedImport::AddFiles(CLI::App& command) {
   add("--males", males_, "File in which all are male parents");
   add("--females", females_, "File in which all are female parents");
   add("--offspring", offspring_, "File in which all are offspring");
+  add("--offspring-list", choices_.offspring_list,
+      "List of offspring, with their known parents and candidates");
+  add("--father-list", choices_.father_list, "List of candidate fathers");
+  add("--mother-list", choices_.mother_list, "List of candidate mothers");
   command.add_option("--from", choices_.format, "Format of the files; recognised unless told")
       ->type_name("NAME")
       ->group("Files");

@@ -58,7 +58,22 @@ struct Case {
 
 const std::string kPairs = "id,role,L.1,L.2,Ma,Mb\n";
 
+const std::string kVcf =
+    "##fileformat=VCFv4.2\n#CHROM\tPOS\tID\tREF\tALT\tQUAL\tFILTER\tINFO\tFORMAT\tA\tB\tY\n";
+
 const std::vector<Case> kCases = {
+    {"VCF with sequences, numbers of repeats by allele and by call, and a SNP",
+     {{"v", kVcf + "1\t10\tL\tCACACA\tCACA,CACACACA,*\t.\tPASS\t.\tGT:FT\t0/1:PASS\t1|2:q10\t./.\n"
+                   "1\t20\trs1\tA\tC\t.\tPASS\t.\tGT\t0/1\t0/0\t0/0\n"
+                   "2\t30\t.\tC\t<STR12>,<STR15>\t.\tLowDepth\tEND=9;REF=10;RU=CAG\tGT\t0/1\t2|1\t"
+                   ".\n"
+                   "3\t40\tM\tN\t<CNV:TR>\t.\t.\tRU=AT\tREPCN:GT\t20/21:0/1\t22,20:1/0\t20/.:1/.\n"},
+      {"o", "Y\n"}},
+     "v --offspring-list o --loci L,2_30,M",
+     {{"loci.txt", "L\n2_30\nM\n"},
+      {"parents.txt", "A 006004 030036 040042\nB 004008 045036 044040\n"},
+      {"offspring.txt", "Y 000000 000000 000000\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
     {"GENEPOP with two widths, lines continued, names with blanks or none",
      {{"g",
        "\r\nL, M\r\nN 1\r\nPoP\r\nA, 124128 0810 001002\r\n B 2 , 124130 0808\r\n001001\r\n"
@@ -156,6 +171,40 @@ const std::vector<Case> kCases = {
       {"known-mothers.txt", "Y2 F1\n"},
       {"candidates.txt", "Y1 M2 F1 F2\nY3 M1 M2 F1\n"},
       {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"a list of offspring with mothers and candidate fathers; X stands in no list",
+     {{"t", "id,L\nY1,1/2\nY2,1/1\nY3,1/2\nF1,1/2\nM1,1/1\nM2,2/2\nX,1/1\nF2,2/2\nM3,1/2\n"},
+      {"o",
+       "Offspring ID,Mother ID,Candidate father,\nY1,F1,M1,M2\nY2,0,M3,\nY3,F2,,\nY4,F2,M1\n"}},
+     "t --offspring-list o",
+     {{"loci.txt", "L\n"},
+      {"males.txt", "M1 001001\nM2 002002\nM3 001002\n"},
+      {"females.txt", "F1 001002\nF2 002002\n"},
+      {"offspring.txt", "Y1 001002\nY2 001001\nY3 001002\n"},
+      {"known-mothers.txt", "Y1 F1\nY3 F2\n"},
+      {"candidates.txt", "Y1 M1 M2 F1 F2\nY2 M3 F1 F2\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"a father per line, mothers per offspring, an offspring that became a mother",
+     {{"t", "id,L\nY1,1/2\nY2,1/1\nF1,1/2\nM1,1/1\nM2,2/2\nF2,2/2\n"},
+      {"o", "Y1\nY2\n"},
+      {"f", "Candidates\nM1\nM2\nuntyped\n"},
+      {"m", "Offspring;Mothers\nY1;F2;F1;F2\nY2;F2;Y1\n"}},
+     "t --offspring-list o --father-list f --mother-list m",
+     {{"loci.txt", "L\n"},
+      {"males.txt", "M1 001001\nM2 002002\n"},
+      {"females.txt", "F1 001002\nF2 002002\nY1 001002\n"},
+      {"offspring.txt", "Y1 001002\nY2 001001\n"},
+      {"candidates.txt", "Y1 M1 M2 F2 F1\nY2 M1 M2 F2 Y1\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
+    {"known parents and candidates without sexes",
+     {{"t", "id,L\nY1,1/2\nY2,1/1\nP1,1/2\nP2,1/1\nP3,2/2\n"},
+      {"o", "Offspring\tKnown parent\tCandidate\t\nY1\tP1\tP2\tP3\nY2\tP2\t\t\n"}},
+     "t --offspring-list o",
+     {{"loci.txt", "L\n"},
+      {"parents.txt", "P1 001002\nP2 001001\nP3 002002\n"},
+      {"offspring.txt", "Y1 001002\nY2 001001\n"},
+      {"known-mothers.txt", "Y1 P1\nY2 P2\n"},
+      {"candidates.txt", "Y1 P1 P2 P3\n"},
+      {"names.tsv", "kind\tcode\toriginal\n"}}},
     {"names that get codes, an individual twice, loci chosen",
      {{"t", kPairs + "Station04_01,parent,1,2,x,\nStation04_02,parent,1,2,y,\nUC,parent,1,1,,\n"
                      "*A,parent,2,2,,\nB,parent,1,2,1,1\nB,parent,1,2,3,3\nY,offspring,1,1,,\n"}},
@@ -228,9 +277,29 @@ TEST_F(ImportTest, TellsEveryFaultWithItsPlaceAndWritesNothing) {
        "--parents m",
        "m, line 3, column \"L\" (A): line 2 calls this sample and marker otherwise\n"
        "m, line 4, column \"Allele 3\" (B): \"3\" is a third allele"},
+      {{{"m", "Sample Name,Marker,Allele 1,Allele 2\nA,L,1,2\n,L,1,2\nA,M,1,2\n"}},
+       "--parents m",
+       "m, line 3: a line needs the name of a sample and a marker\n"},
+      {{{"t", "id,L\nA,1/2\nB,1/2\nY,1/2\n"}, {"o", "Y,A\nY,B\n"}, {"f", "A\n"}, {"m", "B\nA\n"}},
+       "t --offspring-list o --father-list f --mother-list m",
+       "o, line 2: \"Y\" stands in an earlier line\nm, line 2: \"A\" has the other sex "
+       "elsewhere\n"},
+      {{{"t", "id,L\nA,1/2\nY,1/2\n"}, {"o", "Offspring,Weight\nY,A\n"}},
+       "t --offspring-list o",
+       "o, line 1: \"Weight\" is none of Mother, Father, Parent and Candidate"},
       {{{"t", "id,L\nA,1/2\n"}, {"y", "id,M\nY,1/2\n"}},
        "--parents t --offspring y",
        "y: the locus \"M\" is not in t"},
+      {{{"v", kVcf + "1\t20\trs1\tA\tC\t.\tq\t.\tGT\t0/1\t0/0\t0/0\n"
+                     "1\t30\tL\tCACA\tCA,<DEL>\t.\t.\t.\tGT\t0\t0/3\t2/2\n"}},
+       "--parents v",
+       "v, line 3, column \"rs1\": it is a SNP: single bases have no sizes; name the loci to be "
+       "kept with --loci\n"
+       "v, line 4, column \"L\" (A): \"0\" is no genotype of two alleles: haploid ones have no two "
+       "parents\n"
+       "v, line 4, column \"L\" (B): there is no allele \"3\" among 3\n"
+       "v, line 4, column \"L\" (Y): nothing tells the length of allele \"<DEL>\""},
+      {{{"v", kVcf + "1\t20\tL\tA\n"}}, "--parents v", "it has 4 columns, the heads are 12"},
       {{{"t", "id,L\n\"A,1/2\n"}},
        "--parents t",
        "t, line 2: a quotation mark is opened and never"},

@@ -4,6 +4,8 @@
     import_test.py KALDO [unittest options]
 """
 
+import gzip
+import shutil
 import sys
 import unittest
 import zipfile
@@ -117,6 +119,23 @@ class Imports(ProgramTest):
         damaged[whole.index(b"s0.xml") + 20] ^= 0xff
         book.write_bytes(damaged)
         self.refused(book, "damaged")
+
+    def test_packed_files_are_unpacked(self):
+        path = self.folder / "table.csv.gz"
+        blocks = [gzip.compress(text) for text in (b"id,L\nA,1", b"24/128\n", b"")]
+        path.write_bytes(b"".join(blocks))
+        done = self.imported("--parents", path)
+        if "zlib was not there" in done.stderr:
+            self.skipTest("built without zlib")
+        self.assertEqual((self.folder / "out/parents.txt").read_text(encoding="utf-8"),
+                         "A 124128\n")
+        shutil.rmtree(self.folder / "out")
+        for data, message in ((blocks[0] + blocks[1][:-9], "cut off or damaged"),
+                              (blocks[0] + b"rest", "cut off or damaged"),
+                              (gzip.compress(b"BCF\2\2"), "save it as VCF"),
+                              (gzip.compress(b"a,b\n" * 17_000_000), "holds more than 64 MB")):
+            path.write_bytes(data)
+            self.refused(path, message)
 
     def test_hostile_texts_are_refused(self):
         path = self.folder / "table.csv"

@@ -5,6 +5,7 @@
 
 #include "interchange/delimited_rows.h"
 #include "interchange/import/foreign_text.h"
+#include "interchange/import/unpacked_bytes.h"
 #include "interchange/import/workbook_rows.h"
 
 namespace kaldo {
@@ -63,6 +64,18 @@ tl::expected<ForeignFile, std::string> OpenForeignBytes(const std::string& path,
     return tl::unexpected(
         std::string("it is a workbook of the old kind (.xls): save it as .xlsx or as CSV"));
   }
+  std::string packing;
+  if (IsGzip(bytes)) {
+    auto unpacked = UnpackedGzip(std::move(bytes), kMaxForeignBytes);
+    if (!unpacked) {
+      return tl::unexpected(unpacked.error());
+    }
+    bytes = std::move(*unpacked);
+    packing = "packed (gzip), ";
+  }
+  if (bytes.starts_with("BCF")) {
+    return tl::unexpected(std::string("it is BCF: save it as VCF (bcftools view)"));
+  }
   if (bytes.starts_with("PK\x03\x04")) {
     auto workbook = OpenWorkbook(std::move(bytes), sheet);
     if (!workbook) {
@@ -77,7 +90,7 @@ tl::expected<ForeignFile, std::string> OpenForeignBytes(const std::string& path,
   if (!text) {
     return tl::unexpected(text.error());
   }
-  file.how = text->encoding;
+  file.how = packing + text->encoding;
   file.text = std::make_shared<const std::string>(std::move(text->text));
   if (const auto separator = FindSeparator(*file.text)) {
     file.rows = std::make_shared<DelimitedRows>(*file.text, *separator);

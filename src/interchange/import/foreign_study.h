@@ -31,6 +31,9 @@ struct ForeignIndividual {
   std::vector<ForeignGenotype> genotypes = {};  ///< in the order of the loci
 };
 
+/// Candidates that the offspring of a study may have, all together.
+inline constexpr std::size_t kMostCandidates = 2'000'000;
+
 /// What is known of the parents of an offspring, by their names.
 struct KnownOffspring {
   std::string name;

@@ -9,8 +9,9 @@ namespace kaldo {
 namespace {
 
 // A table with one column or two per locus is what everything else with columns would pass for.
-constexpr std::array<FormatReader, 7> kReaders{
-    {{"genepop", "GENEPOP", RecogniseGenepop, ReadGenepop},
+constexpr std::array<FormatReader, 8> kReaders{
+    {{"vcf", "VCF", RecogniseVcf, ReadVcf},
+     {"genepop", "GENEPOP", RecogniseGenepop, ReadGenepop},
      {"genalex", "GenAlEx", RecogniseGenAlEx, ReadGenAlEx},
      {"genemapper", "GeneMapper", RecogniseGeneMapper, ReadGeneMapper},
      {"colony", "COLONY", RecogniseColony, ReadColony},

@@ -39,6 +39,9 @@ struct RecognisedFormat {
 /// such as a genotype file of this program.
 std::optional<RecognisedFormat> RecogniseFormat(const ForeignFile& file);
 
+std::optional<std::string> RecogniseVcf(const ForeignFile& file);
+void ReadVcf(ForeignFile& file, StudyBuilder& builder);
+
 std::optional<std::string> RecogniseGenepop(const ForeignFile& file);
 void ReadGenepop(ForeignFile& file, StudyBuilder& builder);
 

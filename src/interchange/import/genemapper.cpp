@@ -67,7 +67,7 @@ class GeneMapperReader {
   void Read() {
     // Loci come before individuals, and lines of both are mixed.
     NameList markers;
-    ForEachRow([&](const Row& row) {
+    const bool are_complete = ForEachRow([&](const Row& row) {
       const auto marker = Trimmed(row.Cell(columns_.marker));
       if (marker.empty() || Trimmed(row.Cell(columns_.sample)).empty()) {
         builder_.Fault(row.line, "", "", "a line needs the name of a sample and a marker");
@@ -79,7 +79,7 @@ class GeneMapperReader {
       builder_.Fault(0, "", "", fmt::format("it has more than {} markers", kMaxColumns));
       return;
     }
-    if (!builder_.SetLoci(markers.names)) {
+    if (!are_complete || !builder_.SetLoci(markers.names)) {
       return;
     }
     ForEachRow([&](const Row& row) {
@@ -88,8 +88,9 @@ class GeneMapperReader {
   }
 
  private:
+  /// False where a row cannot be read or taken, and ends it.
   template <typename Take>
-  void ForEachRow(Take take) {
+  bool ForEachRow(Take take) {
     rows_.Rewind();
     Row row;
     bool is_head = true;
@@ -97,10 +98,13 @@ class GeneMapperReader {
       const auto read = rows_.Next(row);
       if (!read) {
         builder_.Fault(read.error().line, "", "", read.error().found);
-        return;
+        return false;
       }
-      if (!*read || (!is_head && !take(row))) {
-        return;
+      if (!*read) {
+        return true;
+      }
+      if (!is_head && !take(row)) {
+        return false;
       }
       is_head = false;
     }

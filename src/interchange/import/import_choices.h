@@ -38,6 +38,11 @@ struct ImportChoices {
   std::optional<std::string> format;  ///< its name; recognised where nothing is said
   std::optional<std::string> sheet;   ///< of a workbook; the first unless said
 
+  // Lists beside the genotypes; empty where there is none.
+  std::string offspring_list;
+  std::string father_list;
+  std::string mother_list;
+
   // Heads of columns; usual ones are recognised.
   std::optional<std::string> id_column;
   std::optional<std::string> sex_column;

@@ -9,6 +9,7 @@
 #include "base/counted_text.h"
 #include "base/shell_text.h"
 #include "genotypes/capacities.h"
+#include "interchange/import/candidate_lists.h"
 #include "interchange/import/foreign_text.h"
 #include "interchange/import/format_readers.h"
 #include "interchange/import/import_report.h"
@@ -232,6 +233,9 @@ ImportTry TryImport(const ImportChoices& choices, FileSource& source) {
   }
   tried.files = settled.study.files;
   tried.populations = PopulationsOf(settled.study);
+  if (log.faults.IsEmpty()) {
+    TakeCandidateLists(choices, source, settled.study, log);
+  }
   if (log.faults.IsEmpty()) {
     Settle(choices, settled, log);
   }

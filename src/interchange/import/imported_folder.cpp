@@ -24,9 +24,15 @@ constexpr std::array<std::string_view, 9> kAllFiles = {
 /// Throws where a file is in the way that the import may not replace.
 void CheckPlaces(const ProjectFolder& folder, const ImportChoices& choices) {
   std::vector<RecordedInput> inputs;
-  inputs.reserve(choices.files.size());
+  inputs.reserve(choices.files.size() + 3);
   for (const ImportedFile& file : choices.files) {
     inputs.push_back({"file", file.path, {}});
+  }
+  for (const std::string& list :
+       {choices.offspring_list, choices.father_list, choices.mother_list}) {
+    if (!list.empty()) {
+      inputs.push_back({"file", list, {}});
+    }
   }
   const bool has_earlier = IsThere(folder.Path(kImportReport));
   for (const std::string_view name : kAllFiles) {

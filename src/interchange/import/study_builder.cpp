@@ -17,9 +17,6 @@ namespace {
 /// Individuals, parents and offspring, that any run could take.
 constexpr std::size_t kMostIndividuals = 2 * kMaxIndividuals;
 
-/// Candidates that the offspring of a file have, all together.
-constexpr std::size_t kMostCandidates = 2'000'000;
-
 /// Genotypes of all loci, wanted or not, that are kept while a study is read.
 constexpr std::size_t kMostGenotypes = 20'000'000;
 
