@@ -5,7 +5,6 @@
 #include <map>
 
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include "interchange/original_names.h"
 #include "tests/cli/command_support.h"
@@ -63,11 +62,12 @@ const std::string kVcf =
 
 const std::vector<Case> kCases = {
     {"VCF with sequences, numbers of repeats by allele and by call, and a SNP",
-     {{"v", kVcf + "1\t10\tL\tCACACA\tCACA,CACACACA,*\t.\tPASS\t.\tGT:FT\t0/1:PASS\t1|2:q10\t./.\n"
-                   "1\t20\trs1\tA\tC\t.\tPASS\t.\tGT\t0/1\t0/0\t0/0\n"
-                   "2\t30\t.\tC\t<STR12>,<STR15>\t.\tLowDepth\tEND=9;REF=10;RU=CAG\tGT\t0/1\t2|1\t"
-                   ".\n"
-                   "3\t40\tM\tN\t<CNV:TR>\t.\t.\tRU=AT\tREPCN:GT\t20/21:0/1\t22,20:1/0\t20/.:1/.\n"},
+     {{"v", kVcf +
+                "1\t10\tL\tCACACA\tCACA,CACACACA,*\t.\tPASS\t.\tGT:FT\t0/1:PASS\t1|2:q10\t./.\n"
+                "1\t20\trs1\tA\tC\t.\tPASS\t.\tGT\t0/1\t0/0\t0/0\n"
+                "2\t30\t.\tC\t<STR12>,<STR15>\t.\tLowDepth\tEND=9;REF=10;RU=CAG\tGT\t0/1\t2|1\t"
+                ".\n"
+                "3\t40\tM\tN\t<CNV:TR>\t.\t.\tRU=AT\tREPCN:GT\t20/21:0/1\t22,20:1/0\t20/.:1/.\n"},
       {"o", "Y\n"}},
      "v --offspring-list o --loci L,2_30,M",
      {{"loci.txt", "L\n2_30\nM\n"},
@@ -332,62 +332,6 @@ TEST_F(ImportTest, RunsGivenForeignFilesNameTheirFormatBehindTheirOwnSentence) {
     EXPECT_THAT(outcome.err, testing::StartsWith("Some offspring loci are represented"));
     EXPECT_THAT(outcome.err, testing::EndsWith("Convert it:\n  kaldo import --parents g "
                                                "--offspring y --to imported\n"));
-  }
-}
-
-/// A cell of one allele or of both as a table writes it.
-std::string Joined(const std::vector<std::string>& cells, const std::string& sign) {
-  return fmt::format("{}", fmt::join(cells, sign));
-}
-
-using Genotypes = std::vector<std::pair<int, int>>;
-
-RC_GTEST_FIXTURE_PROP(ImportTest, EveryFormatOfOneStudyGivesTheSameFiles, ()) {
-  const auto loci = *rc::gen::inRange<std::size_t>(1, 5);
-  const auto individuals = *rc::gen::container<std::vector<Genotypes>>(
-      *rc::gen::inRange<std::size_t>(2, 8),
-      rc::gen::container<Genotypes>(
-          loci, rc::gen::pair(rc::gen::inRange(100, 140), rc::gen::inRange(100, 140))));
-  std::string genepop = "title\n";
-  std::string wide = "id";
-  std::string narrow = "id";
-  std::string structure;
-  std::string genemapper = "Sample Name\tMarker\tAllele 1\tAllele 2\n";
-  for (std::size_t k = 0; k < loci; ++k) {
-    genepop += fmt::format("L{}\n", k);
-    wide += fmt::format(";L{0}.1;L{0}.2", k);
-    narrow += fmt::format(",L{}", k);
-    structure += fmt::format("L{} ", k);
-  }
-  genepop += "POP\n";
-  wide += '\n';
-  narrow += '\n';
-  structure += '\n';
-  for (std::size_t i = 0; i < individuals.size(); ++i) {
-    std::vector<std::string> joined;
-    std::vector<std::string> first;
-    std::vector<std::string> second;
-    std::vector<std::string> both;
-    for (std::size_t k = 0; k < loci; ++k) {
-      const auto [one, two] = individuals[i][k];
-      joined.push_back(fmt::format("{}{}", one, two));
-      first.push_back(fmt::format("{}", one));
-      second.push_back(fmt::format("{}", two));
-      both.push_back(fmt::format("{};{}", one, two));
-      genemapper += fmt::format("A{}\tL{}\t{}\t{}\n", i, k, one, one == two ? "" : second.back());
-    }
-    genepop += fmt::format("A{}, {}\n", i, Joined(joined, " "));
-    wide += fmt::format("A{};{}\n", i, Joined(both, ";"));
-    narrow += fmt::format("A{},{}\n", i, Joined(joined, ","));
-    structure += fmt::format("A{0} {1}\nA{0} {2}\n", i, Joined(first, " "), Joined(second, " "));
-  }
-  std::filesystem::remove_all("out");
-  RC_ASSERT(Import({{"f", genepop}}, "--parents f").code == ExitCode::kDone);
-  const Files expected = Written();
-  for (const std::string& text : {wide, narrow, structure, genemapper}) {
-    const Outcome outcome = Import({{"f", text}}, "--parents f");
-    RC_ASSERT(outcome.err == "");
-    RC_ASSERT(Written() == expected);
   }
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Random studies, written for other programs and read again: the same individuals with the same
 // genotypes, and the same parents allocated to the same offspring.
-#include <map>
 #include <random>
 
 #include <fmt/format.h>
@@ -10,23 +9,10 @@
 #include "allocation/allocation_run.h"
 #include "interchange/export/genotype_export.h"
 #include "interchange/import/import_run.h"
+#include "tests/support/memory_files.h"
 
 namespace kaldo {
 namespace {
-
-/// Files that are nowhere on disk.
-class MemoryFiles final : public FileSource {
- public:
-  explicit MemoryFiles(std::map<std::string, std::string> texts) : texts_(std::move(texts)) {}
-
-  tl::expected<std::vector<char>, Problem> Read(const std::string& path) override {
-    const std::string& text = texts_.at(path);
-    return std::vector<char>(text.begin(), text.end());
-  }
-
- private:
-  std::map<std::string, std::string> texts_;
-};
 
 /// A study in the files of this program.
 struct OwnStudy {
@@ -183,7 +169,7 @@ OwnStudy Imported(const std::string& text, const AllocationSettings& settings) {
        at = text.find("\nPOP\n", at + 1)) {
     choices.offspring_populations = {fmt::format("pop{}", ++populations)};
   }
-  MemoryFiles files({{"foreign", text}});
+  test::MemoryFiles files({{"foreign", text}});
   const auto study = ImportStudy(choices, files);
   OwnStudy imported{settings, {}, {}};
   if (!study) {
@@ -199,7 +185,7 @@ OwnStudy Imported(const std::string& text, const AllocationSettings& settings) {
 }
 
 AllocationInput Loaded(const OwnStudy& study) {
-  MemoryFiles files(study.texts);
+  test::MemoryFiles files(study.texts);
   return LoadAllocationInput(study.settings, files).value();
 }
 
