@@ -14,11 +14,6 @@
 
 namespace kaldo {
 
-namespace {
-
-/// A portion among 50,000 parents takes up to a tenth of a second.
-constexpr std::size_t kMostOffspringPerPortion = 256;
-
 LociOfRun LociOfCombination(const AllocationInput& input, std::vector<LocusIndex> loci) {
   std::sort(loci.begin(), loci.end());
   LociOfRun run{std::move(loci), {}};
@@ -44,6 +39,11 @@ std::vector<TransmissionMatrix> BuildMatrices(const AllocationSettings& settings
   }
   return matrices;
 }
+
+namespace {
+
+/// A portion among 50,000 parents takes up to a tenth of a second.
+constexpr std::size_t kMostOffspringPerPortion = 256;
 
 class AllocationWorker final : public PortionWorker {
  public:

@@ -9,6 +9,13 @@
 
 namespace kaldo {
 
+/// A combination of loci as it runs: in file order, with their unit distances.
+LociOfRun LociOfCombination(const AllocationInput& input, std::vector<LocusIndex> loci);
+
+/// The transmission matrices of the run, one per locus of the names-of-loci file.
+std::vector<TransmissionMatrix> BuildMatrices(const AllocationSettings& settings,
+                                              const AllocationInput& input);
+
 /// The allocation of stretches of offspring, each with the loci of one combination.
 class AllocationTask final : public PortionTask {
  public:

@@ -10,6 +10,7 @@
 #include <clocale>
 
 #include "app/base/text.h"
+#include "app/base/wrapped_tips.h"
 #include "app/introduction_screen.h"
 #include "app/main_menu.h"
 #include "base/version.h"
@@ -23,6 +24,7 @@ void PrepareApplication() {
   InitResources();
   std::setlocale(LC_NUMERIC, "C");
   QLocale::setDefault(QLocale::c());
+  qApp->installEventFilter(new WrappedTips(qApp));
 }
 
 int RunDesktop(const QString& record) {

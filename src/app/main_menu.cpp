@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -13,15 +14,21 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "app/about_box.h"
+#include "app/base/elided_label.h"
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
+#include "app/base/recent_folders.h"
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
 #include "app/example_data.h"
 #include "app/flows/allocation_flow_window.h"
+#include "app/flows/results_opener.h"
 #include "app/flows/simulation_flow_window.h"
+#include "app/guide.h"
+#include "app/results/results_window.h"
 #include "base/version.h"
 
 namespace kaldo {
@@ -37,6 +44,15 @@ constexpr std::string_view kNonSexedHelp =
     "One set of candidate parents: any two of them may be a pair";
 constexpr std::string_view kSexedHelp =
     "Males and females are known: a pair is a male and a female";
+
+constexpr int kWidestPath = 70;  ///< in characters
+
+bool AreResultsOpen() {
+  const auto windows = QApplication::topLevelWidgets();
+  return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->isVisible() && dynamic_cast<const ResultsWindow*>(window) != nullptr;
+  });
+}
 
 std::size_t Place(Flow flow) { return static_cast<std::size_t>(flow); }
 
@@ -55,10 +71,11 @@ QPushButton* NewFlowButton(Flow flow, std::string_view group, int number, Qt::Ke
 }  // namespace
 
 MainMenu::MainMenu(std::unique_ptr<FileSource> files)
-    : project_(new QLineEdit), folder_(new QLineEdit), opened_(std::move(files)) {
+    : project_(new QLineEdit), folder_(new ElidedLabel), opened_(std::move(files)) {
   Name(*this, kMainMenuScreen);
   setWindowTitle(Text(kProductTitle));
   setAcceptDrops(true);
+  new GuideKey(this);
   auto* const column = new QVBoxLayout(this);
   column->addLayout(NewProjectRows());
   column->addWidget(NewFlowGroups());
@@ -72,15 +89,14 @@ MainMenu::~MainMenu() = default;
 
 QLayout* MainMenu::NewProjectRows() {
   auto* const form = new QFormLayout;
+  form->setRowWrapPolicy(QFormLayout::WrapLongRows);
   Describe(*project_, kProject);
-  project_->setMinimumWidth(fontMetrics().averageCharWidth() * 56);
+  project_->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
   form->addRow(Text(kProject.label), project_);
   connect(project_, &QLineEdit::textChanged, this, [this] { ShowFolder(); });
 
   folder_->setObjectName(Text("ResultsFolder"));
   folder_->setAccessibleName(Text("Results go to"));
-  folder_->setReadOnly(true);
-  folder_->setFrame(false);
   auto* const choose =
       NewButton("Working &folder...", "ChooseFolder", "Choose where project folders are made");
   connect(choose, &QPushButton::clicked, this, [this] { ChooseFolder(); });
@@ -138,11 +154,54 @@ QLayout* MainMenu::NewFurtherButtons() {
   auto* const about = NewButton("A&bout KALDO...", "About", "Version, licence, how to cite");
   connect(about, &QPushButton::clicked, this, [this] { ShowAboutBox(this); });
   auto* const row = new QHBoxLayout;
+  row->addWidget(NewResultsButton());
   row->addWidget(record);
   row->addWidget(examples);
   row->addStretch();
   row->addWidget(about);
   return row;
+}
+
+QPushButton* MainMenu::NewResultsButton() {
+  auto* const results = NewButton("&Open results", "OpenResults",
+                                  "Show the results of a finished run again, without running it");
+  auto* const menu = new QMenu(results);
+  menu->setToolTipsVisible(true);
+  connect(menu, &QMenu::aboutToShow, this, [this, menu] { FillResultsMenu(*menu); });
+  results->setMenu(menu);
+  return results;
+}
+
+void MainMenu::FillResultsMenu(QMenu& menu) {
+  menu.clear();
+  int number = 0;
+  for (const QString& folder : RecentFolders()) {
+    const int width = fontMetrics().averageCharWidth() * kWidestPath;
+    QString name =
+        fontMetrics().elidedText(QDir::toNativeSeparators(folder), Qt::ElideMiddle, width);
+    name.replace(QLatin1Char('&'), Text("&&"));
+    QAction* const action =
+        menu.addAction(Text("&%1  %2").arg(QString::number(++number), name), this,
+                       [this, folder] { OpenResultsOf(PathBytes(folder)); });
+    action->setToolTip(TipText(QDir::toNativeSeparators(folder)));
+  }
+  if (number > 0) {
+    menu.addSeparator();
+  }
+  menu.addAction(Text("&Another folder..."), this, [this] { ChooseResults(); });
+  if (number > 0) {
+    menu.addAction(Text("&Forget these folders"), this, [] { ForgetFolders(); });
+  }
+}
+
+void MainMenu::OpenResultsOf(const std::string& path) { OpenResults(this, path); }
+
+void MainMenu::ChooseResults() {
+  const QString picked = QFileDialog::getExistingDirectory(
+      this, Text("Folder with the results of a run"), QDir::currentPath());
+  if (!picked.isEmpty()) {
+    OpenResultsOf(PathBytes(picked));
+  }
 }
 
 AllocationFlowWindow& MainMenu::AllocationScreens(Flow flow) {
@@ -212,7 +271,7 @@ void MainMenu::StartExampleOf(Flow flow, bool simulation) {
 }
 
 void MainMenu::OpenRecord(const std::string& path) {
-  if (const auto settings = OpenRunRecord(this, path, opened_)) {
+  if (const auto settings = OpenRunRecord(this, path)) {
     StartWith(*settings);
   }
 }
@@ -238,13 +297,18 @@ void MainMenu::ChooseFolder() {
 void MainMenu::ShowFolder() {
   const QString folder =
       QDir::toNativeSeparators(QDir::current().absoluteFilePath(project_->text()));
-  folder_->setText(folder);
-  // Of a long path the line shows the end only.
+  folder_->SetText(folder, folder);
   folder_->setToolTip(
       TipText(folder + Text("\nMade when the first screen of a flow is confirmed")));
 }
 
 void MainMenu::closeEvent(QCloseEvent* event) {
+  if (AreResultsOpen() &&
+      !AskBeforeLoss(this, Text("Results are open. Close them, too? They stay in their folders and "
+                                "can be opened again."))) {
+    event->ignore();
+    return;
+  }
   event->accept();
   QApplication::quit();  // results windows go with the menu
 }
@@ -259,7 +323,12 @@ void MainMenu::dropEvent(QDropEvent* event) {
   const QList<QUrl> urls = event->mimeData()->urls();
   if (urls.size() == 1 && urls.front().isLocalFile()) {
     event->acceptProposedAction();
-    OpenRecord(PathBytes(urls.front().toLocalFile()));
+    const QString dropped = urls.front().toLocalFile();
+    if (QFileInfo(dropped).isDir()) {
+      OpenResultsOf(PathBytes(dropped));
+    } else {
+      OpenRecord(PathBytes(dropped));
+    }
   }
 }
 

@@ -9,12 +9,14 @@
 #include "app/flows/record_opener.h"
 
 class QLineEdit;
+class QMenu;
 class QPushButton;
 class QVBoxLayout;
 
 namespace kaldo {
 
 class AllocationFlowWindow;
+class ElidedLabel;
 class SimulationFlowWindow;
 
 /// The main menu: the name of the project, the four flows, the folder that results go to. Flows run
@@ -35,6 +37,9 @@ class MainMenu : public QWidget {
   /// Opens the flow of a run record with all its settings.
   void OpenRecord(const std::string& path);
 
+  /// Shows the results of a finished run; `path` names its folder or its record.
+  void OpenResultsOf(const std::string& path);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -53,12 +58,15 @@ class MainMenu : public QWidget {
   void StartWith(const RunSettings& settings);
   void StartExampleOf(Flow flow, bool simulation);
   bool HasProject();
+  QPushButton* NewResultsButton();
+  void FillResultsMenu(QMenu& menu);
+  void ChooseResults();
   void ChooseRecord();
   void ChooseFolder();
   void ShowFolder();
 
   QLineEdit* project_;
-  QLineEdit* folder_;
+  ElidedLabel* folder_;
   OpenedFiles opened_;  ///< outlives the screens
 
   // The screens of a flow are made when it is first reached, and keep what was typed.

@@ -67,4 +67,9 @@ std::string DescribeGenotypeFile(const std::string& path, const std::string& loc
 /// The line under a names-of-loci file: "9 loci: Ssa85, Ssa197, ...", or why it cannot be one.
 std::string DescribeLociFile(const std::string& path, const FileOpener& open);
 
+// Whether these lines tell what a run would refuse, rather than what is in the file.
+bool IsGenotypeFileAtFault(const std::string& path, const std::string& loci_path,
+                           Separators separators, const FileOpener& open);
+bool IsLociFileAtFault(const std::string& path, const FileOpener& open);
+
 }  // namespace kaldo

@@ -189,4 +189,28 @@ std::string DescribeLociFile(const std::string& path, const FileOpener& open) {
                      tokens.size() > kShownLoci ? ", ..." : "");
 }
 
+bool IsGenotypeFileAtFault(const std::string& path, const std::string& loci_path,
+                           Separators separators, const FileOpener& open) {
+  if (path.empty()) {
+    return false;
+  }
+  const auto file = open(path, kMaxInputBytes);
+  if (!file || IsLociFileAtFault(loci_path, open)) {
+    return !file;
+  }
+  if (loci_path.empty()) {
+    return false;
+  }
+  const std::size_t loci = open(loci_path, kMaxLociBytes)->Tokens().size();
+  return !FaultOf(Summarize(*file, {loci, separators})).empty();
+}
+
+bool IsLociFileAtFault(const std::string& path, const FileOpener& open) {
+  if (path.empty()) {
+    return false;
+  }
+  const auto file = open(path, kMaxLociBytes);
+  return !file || CheckLoci(*file).has_value();
+}
+
 }  // namespace kaldo

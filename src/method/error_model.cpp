@@ -40,19 +40,20 @@ std::optional<Problem> ValidateUniform(const ErrorModel& model) {
     return std::nullopt;
   }
   return Problem{.kind = ProblemKind::kEpsilonOutOfRange,
-                 .found = fmt::format("epsilon is {}", FormatDouble(model.epsilon))};
+                 .found = fmt::format("epsilon is {}", model.epsilon)};
 }
 
 std::optional<Problem> ValidateNonUniform(const ErrorModel& model) {
   const double sum = model.minus2 + model.minus1 + model.focal + model.plus1 + model.plus2;
   if (sum != 1.0) {
     return Problem{.kind = ProblemKind::kProbabilitySum,
-                   .found = fmt::format("{} sum to {}", FiveValues(model, " + "), sum)};
+                   .found = fmt::format("{} + {} + {} + {} + {} sum to {}", model.minus2,
+                                        model.minus1, model.focal, model.plus1, model.plus2, sum)};
   }
   if (!(model.focal >= kSmallestFocal && model.focal <= 1.0)) {
-    return Problem{.kind = ProblemKind::kErrorSumTooLarge,
-                   .found = fmt::format("the focal probability is {}, at least 0.9 is wanted",
-                                        FormatDouble(model.focal))};
+    return Problem{
+        .kind = ProblemKind::kErrorSumTooLarge,
+        .found = fmt::format("the focal probability is {}, at least 0.9 is wanted", model.focal)};
   }
   return std::nullopt;
 }

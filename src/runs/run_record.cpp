@@ -6,6 +6,8 @@
 #include <fmt/chrono.h>
 #include <fmt/format.h>
 
+#include "base/number_text.h"
+
 namespace kaldo {
 
 namespace {
@@ -101,6 +103,19 @@ std::string FormatRunRecord(const RunRecord& record) {
 std::string DateText(std::chrono::system_clock::time_point time) {
   return fmt::format("{:%Y-%m-%dT%H:%M:%SZ}",
                      fmt::gmtime(std::chrono::system_clock::to_time_t(time)));
+}
+
+std::chrono::system_clock::time_point TimeOfDate(const std::string& date) {
+  using namespace std::chrono;
+  const auto number = [&date](std::size_t at, std::size_t digits) {
+    return ParseInteger(date.size() == 20 ? std::string_view(date).substr(at, digits) : "")
+        .value_or(0);
+  };
+  const year_month_day day{year{number(0, 4)}, month{static_cast<unsigned>(number(5, 2))},
+                           std::chrono::day{static_cast<unsigned>(number(8, 2))}};
+  return day.ok() ? sys_days{day} + hours{number(11, 2)} + minutes{number(14, 2)} +
+                        seconds{number(17, 2)}
+                  : system_clock::time_point();
 }
 
 InputChanges CompareInputs(const RunRecord& record, const InputDigest& digest_now) {

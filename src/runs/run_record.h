@@ -136,6 +136,9 @@ tl::expected<RunRecord, Problem> ParseRunRecord(std::string_view text, const std
 /// Now, as a run record writes it.
 std::string DateText(std::chrono::system_clock::time_point time);
 
+/// The time that such a text tells; the beginning of 1970 for any other one.
+std::chrono::system_clock::time_point TimeOfDate(const std::string& date);
+
 /// The inputs that are no longer what they were when a record was written, a sentence each.
 struct InputChanges {
   std::vector<std::string> missing;  ///< cannot be read

@@ -106,6 +106,19 @@ std::optional<Problem> RefuseRecordedFiles(const RunRecord& record, const std::s
   return problem;
 }
 
+std::string WorkingFolderNow(const RunRecord& record, const std::string& path) {
+  std::error_code ignored;
+  if (fs::is_directory(record.folder, ignored)) {
+    return record.folder;
+  }
+  const fs::path started = fs::path(record.folder).lexically_normal();
+  const fs::path project =
+      (started / record.Setting<std::string>("project").value_or("")).lexically_normal();
+  const fs::path beside = fs::absolute(path, ignored).parent_path();
+  const fs::path moved = (beside / started.lexically_relative(project)).lexically_normal();
+  return moved.has_filename() ? moved.string() : moved.parent_path().string();
+}
+
 tl::expected<LocatedRecord, Problem> LocateRecordedFiles(RunRecord record,
                                                          const std::string& path) {
   if (auto problem = RefuseRecordedFiles(record, path)) {

@@ -21,6 +21,10 @@ struct LocatedRecord {
 /// might never end. `path` names the record.
 std::optional<Problem> RefuseRecordedFiles(const RunRecord& record, const std::string& path);
 
+/// The working folder of the recorded run: the recorded one where it is still there, else the
+/// folder that lies to the record as that one did, since a study is moved or mailed as a whole.
+std::string WorkingFolderNow(const RunRecord& record, const std::string& path);
+
 /// Looks for the input files: at their recorded paths; when nothing is there, in the folder in
 /// which the recorded run was started, and at the same place relative to the record, so that a
 /// study that was moved or mailed as a whole is found. A file with the recorded contents is

@@ -5,7 +5,6 @@
 
 #include <fmt/format.h>
 
-#include "base/number_text.h"
 #include "genotypes/capacities.h"
 #include "simulation/allocation_model.h"
 #include "simulation/scan.h"
@@ -29,10 +28,10 @@ void FindFaultyNumbersOf(const SimulationSettings& settings, const ParentalSet& 
                      .found = fmt::format("it is {}", set.pseudo_collected)});
   }
   if (!IsNumberOfParents(set.uncollected) || !IsNumberOfParents(set.pseudo_collected)) {
-    found.push_back({.kind = ProblemKind::kImpossibleNumberOfParents,
-                     .found = fmt::format(
-                         "{} pseudo-collected and {} uncollected parents; at most {} in all",
-                         set.pseudo_collected, FormatDouble(set.uncollected), kMaxIndividuals)});
+    found.push_back(
+        {.kind = ProblemKind::kImpossibleNumberOfParents,
+         .found = fmt::format("{} pseudo-collected and {} uncollected parents; at most {} in all",
+                              set.pseudo_collected, set.uncollected, kMaxIndividuals)});
   }
   if (settings.flow != Flow::kSexed) {
     return;
@@ -43,8 +42,7 @@ void FindFaultyNumbersOf(const SimulationSettings& settings, const ParentalSet& 
     found.push_back(
         {.kind = ProblemKind::kImpossibleEstimate,
          .found = fmt::format("{} collected and {} uncollected parents of one sex are estimated",
-                              FormatDouble(set.estimated_collected),
-                              FormatDouble(set.estimated_uncollected))});
+                              set.estimated_collected, set.estimated_uncollected)});
   }
 }
 
@@ -63,7 +61,7 @@ void FindFaultsOfScan(const SimulationSettings& settings, std::vector<Problem>& 
     if (!IsNumberOfParents(uncollected)) {
       found.push_back({.kind = ProblemKind::kImpossibleNumberOfParents,
                        .found = fmt::format("{} uncollected parents; at most {} in all",
-                                            FormatDouble(uncollected), kMaxIndividuals)});
+                                            uncollected, kMaxIndividuals)});
     }
   }
   if (IsScanWanted(settings) && settings.strategy != LociStrategy::kChoice) {
@@ -88,7 +86,7 @@ std::optional<Problem> ValidateForSimulation(const ErrorModel& model) {
   }
   if (!(model.focal >= 0.9 && model.focal <= 1.0)) {
     return Problem{.kind = ProblemKind::kSimulatedFocalOutOfRange,
-                   .found = fmt::format("it is {}", FormatDouble(model.focal))};
+                   .found = fmt::format("it is {}", model.focal)};
   }
   const double sum = model.plus2 + model.plus1 + model.minus1 + model.minus2 + model.focal;
   if (sum != 1.0) {
@@ -128,8 +126,7 @@ std::vector<Problem> FindFaultyNumbers(const SimulationSettings& settings) {
   }
   if (!(settings.criterion >= 0 && settings.criterion <= 1)) {
     found.push_back({.kind = ProblemKind::kCriterionOutOfRange,
-                     .found = fmt::format("the correctness criterion is {}",
-                                          FormatDouble(settings.criterion))});
+                     .found = fmt::format("the correctness criterion is {}", settings.criterion)});
   }
   if (settings.start_with < 1) {
     found.push_back({.kind = ProblemKind::kStartWithTooSmall,
@@ -137,7 +134,7 @@ std::vector<Problem> FindFaultyNumbers(const SimulationSettings& settings) {
   }
   if (!(settings.undefined >= 0 && settings.undefined < 1)) {
     found.push_back({.kind = ProblemKind::kNotAnUndefinedRate,
-                     .found = fmt::format("it is {}", FormatDouble(settings.undefined))});
+                     .found = fmt::format("it is {}", settings.undefined)});
   }
   if (settings.undefined != 0 && !settings.undefined_like.empty()) {
     found.push_back({.kind = ProblemKind::kChoicesDoNotFit,

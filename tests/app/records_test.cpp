@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A run record, opened, leads to the same run again: all screens are filled from it.
+#include <QAction>
+#include <QClipboard>
 #include <QDir>
+#include <QGuiApplication>
 #include <QLineEdit>
+#include <QTimer>
 #include <filesystem>
 #include <gmock/gmock.h>
 
@@ -33,6 +37,11 @@ class RecordsTest : public test::MenuTest {
   void OpenRecord(const std::string& record) {
     script_.Await("MainMenu").Click("OpenRecord");
     PickInDialog(script_, PathText(folder_.Path(record)));
+  }
+
+  void OpenResults(const std::string& folder) {
+    script_.Await("MainMenu").Click("OpenResults").TypeHere(Text("a"));
+    PickInDialog(script_, PathText(folder_.Path(folder)));
   }
 
   /// Runs a command, opens its record and confirms all screens. The folder of the results is
@@ -148,13 +157,78 @@ TEST_F(RecordsTest, TheFolderOfTheRecordedRunIsOffered) {
   std::filesystem::create_directory(folder_.Path("other"));
   script_.Do([other](QWidget&) { QDir::setCurrent(other); });
   OpenRecord("p/Run record.toml");
-  script_.Answer("No").Answer().Await("NonSexedAllocationFiles").Press(Qt::Key_Escape);
+  script_.Answer("No").Await("NonSexedAllocationFiles");
+  ExpectText(script_, "LociFile", PathText(folder_.Path("data/loci.txt")));
+  script_.Press(Qt::Key_Escape);
   ExpectText(script_, "ResultsFolder", other + Text("/p"));
   OpenRecord("p/Run record.toml");
   script_.Answer("Yes").Await("NonSexedAllocationFiles").Press(Qt::Key_Escape).Await("MainMenu");
   ExpectText(script_, "ResultsFolder", PathText(folder_.Path("p")));
   Go(script_);
-  EXPECT_EQ(test::Told(script_).at(1), kMayDiffer) << "the files are not in the other folder";
+  EXPECT_EQ(script_.Messages().size(), 2) << "nothing has changed";
+}
+
+TEST_F(RecordsTest, AStudyThatWasMovedIsFound) {
+  std::filesystem::create_directories(folder_.Path("here/study"));
+  std::filesystem::rename(folder_.Path("data"), folder_.Path("here/study/data"));
+  test::RunCommandLine(folder_.Path("here/study"), Text(kAllocation));
+  std::filesystem::rename(folder_.Path("here"), folder_.Path("there"));
+  OpenRecord("there/study/p/Run record.toml");
+  script_.Answer("Yes").Await("NonSexedAllocationFiles");
+  ExpectText(script_, "LociFile", Text("data/loci.txt"));
+  script_.Press(Qt::Key_Escape).Await("MainMenu");
+  ExpectText(script_, "ResultsFolder", PathText(folder_.Path("there/study/p")));
+  OpenResults("there/study/p");
+  script_.Await("Tabs").Click("CopyCommand").Click("Close").Await("MainMenu");
+  Go(script_);
+  EXPECT_EQ(script_.Messages().size(), 1);
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(
+      Text("cd " + folder_.Path("there/study") + " && kaldo allocate")));
+}
+
+TEST_F(RecordsTest, ResultsOpenAgainWithoutARun) {
+  RunCommand(kAllocation);
+  const Contents before = ContentsOf("p");
+  const auto menu_in_front = [this] {
+    menu_.activateWindow();
+    return menu_.isActiveWindow();
+  };
+  OpenResults("p");
+  script_.Await("Note").Press(Qt::Key_O, Qt::AltModifier).Type("OffspringFind", Text("O2"));
+  ExpectText(script_, "OffspringCount", Text("1 of 2 offspring"));
+  script_.Press(Qt::Key_Escape);
+  ExpectText(script_, "OffspringCount", Text("2 of 2 offspring"));
+  script_.Press(Qt::Key_Escape).Await("Note");
+  // They go with the menu only when the user says so, and are found again by their folder.
+  script_.Do([this](QWidget&) { QTimer::singleShot(0, &menu_, [this] { menu_.close(); }); });
+  script_.Answer("No").Until(menu_in_front, "the menu").Click("OpenResults").TypeHere(Text("1"));
+  script_.Await("Note").Click("Close").Until(menu_in_front, "the menu");
+  script_.Click("OpenResults").TypeHere(Text("f")).Click("OpenResults");
+  script_.Do([](QWidget& menu) { EXPECT_EQ(menu.actions().size(), 1) << "none is remembered"; });
+  script_.Press(Qt::Key_Escape).Await("MainMenu");
+  Go(script_);
+  test::ExpectSame(ContentsOf("p"), before);
+}
+
+TEST_F(RecordsTest, ResultsThatAreNoLongerThoseOfTheRunAreNotShown) {
+  RunCommand(kAllocation);
+  const std::string results = test::ReadFile(folder_.Path("p/Allocation results.xls"));
+  script_.Do([=, this](QWidget&) { folder_.Write("p/Allocation results.xls", results + " "); });
+  OpenResults("p");
+  script_.Answer().Do([=, this](QWidget&) {
+    folder_.Write("p/Allocation results.xls", results);
+    folder_.Write("data/offspring.txt", "O1 100104 204208 150152 124128\n");
+  });
+  OpenResults("p");
+  script_.Answer().Await("MainMenu");
+  OpenResults("data");
+  script_.Answer().Await("MainMenu");
+  Go(script_);
+  ExpectTold(script_, {"This run record cannot be used!",
+                       "An input file has changed since the recorded run!",
+                       "Cannot open file \"" + folder_.Path("data/Run record.toml") + "\"!"});
+  EXPECT_THAT(Bytes(script_.Details().value(0)),
+              testing::HasSubstr("\"Allocation results.xls\" has other contents"));
 }
 
 TEST_F(RecordsTest, OtherFilesAreRefused) {

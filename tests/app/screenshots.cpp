@@ -6,15 +6,19 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QPalette>
 #include <QProgressBar>
+#include <QSettings>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextEdit>
 #include <array>
 #include <utility>
 
+#include "app/base/elided_label.h"
 #include "app/base/text.h"
 #include "app/desktop.h"
 #include "app/introduction_screen.h"
@@ -35,6 +39,34 @@ QPalette DarkPalette() {
   return palette;
 }
 
+/// The folder of a user, in place of the one in which the pictures are taken: a guide that is taken
+/// again shows the same.
+void ShowHome(const QWidget& window) {
+  const QString here = QDir::currentPath();
+  const QString home = Text("/home/ana");
+  for (ElidedLabel* label : window.findChildren<ElidedLabel*>()) {
+    label->setText(label->text().replace(here, home));
+  }
+  for (QTextEdit* text : window.findChildren<QTextEdit*>()) {
+    if (text->toPlainText().contains(here)) {
+      text->setHtml(text->toHtml().replace(here, home));
+    }
+  }
+}
+
+/// The same moment of every run.
+void ShowOneMoment(const QWidget& window) {
+  auto* const bar = window.findChild<QProgressBar*>(Text("RunBar"));
+  auto* const time = window.findChild<QLabel*>(Text("RunTime"));
+  auto* const part = window.findChild<QLabel*>(Text("RunPart"));
+  if (bar != nullptr && time != nullptr && part != nullptr) {
+    part->setText(part->text().section(QLatin1Char(':'), 0, 0));
+    time->setText(Text("63750 of 255000, 0:12 elapsed, about 0:36 left"));
+    bar->setRange(0, 4);
+    bar->setValue(1);
+  }
+}
+
 class Photographer {
  public:
   explicit Photographer(QString folder) : folder_(std::move(folder)) { QDir().mkpath(folder_); }
@@ -44,6 +76,8 @@ class Photographer {
     const QString path = folder_ + Text("/") + Text(name) + Text(".png");
     script.Do([path](QWidget& window) {
       QTest::qWait(50);
+      ShowHome(window);
+      ShowOneMoment(window);
       if (!window.grab().save(path)) {
         qWarning("cannot write %s", qPrintable(path));
       }
@@ -58,6 +92,7 @@ class Photographer {
       for (int tab = 0; tab < tabs->count(); ++tab) {
         tabs->setCurrentIndex(tab);
         QTest::qWait(100);
+        ShowHome(window);
         const QString title = tabs->tabText(tab).remove(QLatin1Char('&')).toLower();
         if (!window.grab().save(path + Text("-") + title + Text(".png"))) {
           qWarning("cannot write into %s", qPrintable(path));
@@ -195,6 +230,8 @@ void TakeImport(const Photographer& photographer, MainMenu& menu) {
 
 int TakeAll(const QString& folder) {
   const QTemporaryDir work;
+  const QTemporaryDir settings;
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
   const Photographer photographer(QDir::current().absoluteFilePath(folder));
   QDir::setCurrent(work.path());
   TakeFirstScreens(photographer);

@@ -5,8 +5,6 @@
 
 namespace kaldo {
 
-namespace {
-
 std::string IndividualLine(const AllocationInput& input, const AllocationResult& result,
                            Slot slot) {
   const std::size_t digits = input.digits_per_field / 2;
@@ -19,8 +17,6 @@ std::string IndividualLine(const AllocationInput& input, const AllocationResult&
   }
   return line + '\n';
 }
-
-}  // namespace
 
 std::string MaxLikeBlock(const AllocationInput& input, const AllocationResult& result,
                          std::size_t offspring) {

@@ -7,6 +7,9 @@
 
 namespace kaldo {
 
+/// How that report shows an individual: its name, a tab, its genotypes at the loci of the run.
+std::string IndividualLine(const AllocationInput& input, const AllocationResult& result, Slot slot);
+
 /// The block of one offspring (counted from 0 in its file) in "/Max like pairs.txt": its genotype
 /// at the loci of the run and those of its most likely pairs, or "none", or that there are more
 /// than five.

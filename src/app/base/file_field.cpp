@@ -19,6 +19,9 @@ namespace kaldo {
 namespace {
 
 constexpr int kTypingPause = 400;  // milliseconds
+constexpr int kHintLines = 2;
+constexpr int kNarrowest = 22;  // in characters, as the next
+constexpr int kWide = 84;       // room for a usual path and the button beside it
 
 /// The one local file that is being dragged, or nothing.
 QString DraggedFile(const QMimeData& data) {
@@ -33,9 +36,11 @@ FileField::FileField(const FieldText& text, QWidget* parent)
   Describe(*path_, text);
   title_ = path_->accessibleName();
   path_->setPlaceholderText(Text("type, browse or drop a file here"));
-  path_->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+  path_->setMinimumWidth(fontMetrics().averageCharWidth() * kNarrowest);
   path_->setAcceptDrops(false);  // a dropped file replaces the text, it is not inserted into it
-  hint_->setMinimumHeight(fontMetrics().height());  // the screen does not jump when a file is named
+  // The screen does not jump when a file is named, nor when much is to be said of it.
+  hint_->setFixedHeight(kHintLines * fontMetrics().lineSpacing());
+  hint_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   hint_->setObjectName(path_->objectName() + Text("Hint"));
   convert_ = new QPushButton(Text("Convert..."), this);
   convert_->setObjectName(path_->objectName() + Text("Convert"));
@@ -82,6 +87,10 @@ FileField::FileField(const FieldText& text, QWidget* parent)
 
 std::string FileField::Path() const { return PathBytes(path_->text()); }
 
+QSize FileField::sizeHint() const {
+  return {fontMetrics().averageCharWidth() * kWide, QWidget::sizeHint().height()};
+}
+
 void FileField::SetPath(const std::string& path) {
   path_->setText(PathText(path));
   typing_.stop();
@@ -104,6 +113,8 @@ void FileField::ShowHint(const std::string& path) {
   hint_->setText(foreign                       ? Text(*foreign)
                  : path.empty() || !describer_ ? QString()
                                                : Text(describer_(path)));
+  hint_->setToolTip(TipText(hint_->text()));
+  ShowAsFault(*hint_, !foreign && !path.empty() && is_fault_ && is_fault_(path));
 }
 
 void FileField::SetRecogniser(Recogniser recogniser, std::function<void()> convert) {

@@ -34,6 +34,10 @@ class FileField : public QWidget {
   /// it.
   void SetRecogniser(Recogniser recogniser, std::function<void()> convert);
 
+  /// Tells whether that line names a fault, which is then seen by its colour.
+  using Judge = std::function<bool(const std::string&)>;
+  void SetJudge(Judge is_fault) { is_fault_ = std::move(is_fault); }
+
   /// Called whenever another file was named.
   void SetOnChange(std::function<void()> on_change) { on_change_ = std::move(on_change); }
 
@@ -43,6 +47,8 @@ class FileField : public QWidget {
 
   /// Reads the file again, for instance because the names-of-loci file is another one.
   void Refresh();
+
+  QSize sizeHint() const override;
 
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -61,6 +67,7 @@ class FileField : public QWidget {
   QPushButton* convert_;
   Describer describer_;
   Recogniser recogniser_;
+  Judge is_fault_;
   std::function<void()> on_change_;
   QString title_;
 };

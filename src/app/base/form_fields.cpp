@@ -4,12 +4,14 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 #include <QPushButton>
 
 #include <fmt/format.h>
 
 #include "app/base/text.h"
 #include "base/number_text.h"
+#include "base/problem.h"
 
 namespace kaldo {
 
@@ -59,11 +61,32 @@ QLabel* NewHint(QWidget* parent) {
   return hint;
 }
 
+void ShowAsFault(QLabel& hint, bool is_fault) {
+  QPalette palette;
+  if (is_fault) {
+    const bool dark = palette.color(QPalette::Window).lightness() < 128;
+    palette.setColor(QPalette::WindowText, dark ? QColor(255, 170, 120) : QColor(165, 45, 0));
+  }
+  hint.setPalette(palette);
+}
+
 std::optional<std::int32_t> WholeNumberIn(const QLineEdit& field) {
   return ParseInteger(Typed(field));
 }
 
 std::optional<double> NumberIn(const QLineEdit& field) { return ParseDouble(Typed(field)); }
+
+void TellIfNoWholeNumber(const QLineEdit& field, Problem& problem) {
+  if (!WholeNumberIn(field)) {
+    problem.found = fmt::format("{} is no whole number", Quoted(Bytes(field.text())));
+  }
+}
+
+void TellIfNoNumber(const QLineEdit& field, Problem& problem) {
+  if (!NumberIn(field)) {
+    problem.found = fmt::format("{} is no number", Quoted(Bytes(field.text())));
+  }
+}
 
 QString NumberText(double value) { return Text(fmt::format("{}", value)); }
 

@@ -14,6 +14,8 @@ class QWidget;
 
 namespace kaldo {
 
+struct Problem;
+
 /// How a field of a screen is labelled and explained.
 struct FieldText {
   std::string_view label;  ///< with "&" before its key
@@ -33,6 +35,9 @@ QPushButton* NewButton(std::string_view caption, std::string_view name, std::str
 /// A line of plain words that explains or warns; wraps.
 QLabel* NewHint(QWidget* parent);
 
+/// Colours a hint that tells a fault, or takes the colour back.
+void ShowAsFault(QLabel& hint, bool is_fault);
+
 // Numbers are read and written with a decimal point, whatever the language of the desktop.
 
 /// The whole number in the field, blanks around it left out, or nothing.
@@ -40,6 +45,10 @@ std::optional<std::int32_t> WholeNumberIn(const QLineEdit& field);
 
 /// Any number in the field, blanks around it left out, or nothing.
 std::optional<double> NumberIn(const QLineEdit& field);
+
+/// Has the problem say what stands in the field, where that is no whole number, or no number.
+void TellIfNoWholeNumber(const QLineEdit& field, Problem& problem);
+void TellIfNoNumber(const QLineEdit& field, Problem& problem);
 
 /// The shortest text that reads back as the same number.
 QString NumberText(double value);

@@ -2,7 +2,12 @@
 #include "app/base/messages.h"
 
 #include <QAbstractButton>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
 
 #include "app/base/text.h"
 #include "base/version.h"
@@ -11,12 +16,36 @@ namespace kaldo {
 
 namespace {
 
-void ShowBox(QWidget* parent, QMessageBox::Icon icon, const QString& text, const QString& details) {
-  QMessageBox box(icon, Text(kProductTitle), text, QMessageBox::Ok, parent);
+struct Message {
+  QMessageBox::Icon icon = QMessageBox::Information;
+  QString text = {};
+  QString details = {};
+  QString file = {};       ///< offered to be opened where it is there
+  bool at_bottom = false;  ///< of its window
+};
+
+/// Opens what the desktop opens such files with; the message stays.
+void OfferToOpen(QMessageBox& box, const QString& file) {
+  const QFileInfo info(file);
+  if (file.isEmpty() || !info.isFile()) {
+    return;
+  }
+  auto* const open = new QPushButton(Text("&Open the file"));
+  open->setObjectName(Text("OpenFile"));
+  open->setToolTip(TipText(QDir::toNativeSeparators(info.absoluteFilePath())));
+  box.addButton(open, QMessageBox::HelpRole);
+  open->disconnect();  // or it would close the message
+  QObject::connect(open, &QPushButton::clicked, &box, [path = info.absoluteFilePath()] {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+  });
+}
+
+void ShowBox(QWidget* parent, const Message& message) {
+  QMessageBox box(message.icon, Text(kProductTitle), message.text, QMessageBox::Ok, parent);
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  if (!details.isEmpty()) {
-    box.setDetailedText(details);
+  if (!message.details.isEmpty()) {
+    box.setDetailedText(message.details);
     // Where the fault is, is what the user needs: the details are open from the start.
     for (QAbstractButton* button : box.buttons()) {
       if (box.buttonRole(button) == QMessageBox::ActionRole) {
@@ -24,30 +53,55 @@ void ShowBox(QWidget* parent, QMessageBox::Icon icon, const QString& text, const
       }
     }
   }
+  OfferToOpen(box, message.file);
+  if (message.at_bottom && parent != nullptr) {
+    box.adjustSize();
+    const QRect window = parent->frameGeometry();
+    box.move(window.center().x() - box.width() / 2, window.bottom() - box.height());
+  }
   box.exec();
+}
+
+bool Ask(QWidget* parent, const QString& question, QMessageBox::StandardButton at_enter) {
+  QMessageBox box(QMessageBox::Question, Text(kProductTitle), question,
+                  QMessageBox::Yes | QMessageBox::No, parent);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(at_enter);
+  box.setEscapeButton(QMessageBox::No);
+  return box.exec() == QMessageBox::Yes;
 }
 
 }  // namespace
 
 void ShowSentence(QWidget* parent, std::string_view sentence) {
-  ShowBox(parent, QMessageBox::Information, Text(sentence), {});
+  ShowBox(parent, {.text = Text(sentence)});
+}
+
+void ShowSentenceAbout(QWidget* parent, std::string_view sentence, const QString& file) {
+  ShowBox(parent, {.text = Text(sentence), .file = file, .at_bottom = true});
+}
+
+void ShowClosingSentence(QWidget* results, std::string_view sentence) {
+  ShowBox(results, {.text = Text(sentence), .at_bottom = true});
 }
 
 void ShowProblem(QWidget* parent, const Problem& problem) {
-  ShowBox(parent, QMessageBox::Warning, Text(SentenceOf(problem)), Text(DetailLine(problem)));
+  ShowBox(parent, {.icon = QMessageBox::Warning,
+                   .text = Text(SentenceOf(problem)),
+                   .details = Text(DetailLine(problem)),
+                   .file = PathText(problem.file)});
 }
 
 void ShowFailure(QWidget* parent, const QString& text) {
-  ShowBox(parent, QMessageBox::Critical, text, {});
+  ShowBox(parent, {.icon = QMessageBox::Critical, .text = text});
 }
 
 bool AskYesNo(QWidget* parent, const QString& question) {
-  QMessageBox box(QMessageBox::Question, Text(kProductTitle), question,
-                  QMessageBox::Yes | QMessageBox::No, parent);
-  box.setTextFormat(Qt::PlainText);
-  box.setDefaultButton(QMessageBox::Yes);
-  box.setEscapeButton(QMessageBox::No);
-  return box.exec() == QMessageBox::Yes;
+  return Ask(parent, question, QMessageBox::Yes);
+}
+
+bool AskBeforeLoss(QWidget* parent, const QString& question) {
+  return Ask(parent, question, QMessageBox::No);
 }
 
 }  // namespace kaldo

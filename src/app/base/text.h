@@ -13,8 +13,8 @@ QString Text(std::string_view text);
 /// What a user typed, as the core takes it.
 std::string Bytes(const QString& text);
 
-/// A text for a tip, which shows it as it is: a name of a file or a locus may look like HTML, of
-/// which a tip would load pictures and follow the format.
+/// A text for a tip, which shows it as it is, in lines that a small screen has room for: a name of
+/// a file or a locus may look like HTML, of which a tip would load pictures and follow the format.
 QString TipText(const QString& text);
 
 /// A file name of the system as windows show it, and back to its bytes.

@@ -2,8 +2,10 @@
 #include "app/flows/allocation_flow_window.h"
 
 #include "allocation/allocation_command.h"
+#include "allocation/allocation_file_names.h"
 #include "allocation/allocation_record.h"
 #include "allocation/allocation_run.h"
+#include "app/base/command_text.h"
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
@@ -48,6 +50,14 @@ void AllocationFlowWindow::Leave() {
 
 bool AllocationFlowWindow::MayStartRun(const FlowPage& page) const {
   return &page == &loci_.Choice() || &page == &loci_.Sequence();
+}
+
+std::size_t AllocationFlowWindow::ScreensBehind(const FlowPage& page) const {
+  const std::size_t sequence = loci_.Choice().SequenceWanted() ? 1 : 0;
+  return &page == files_            ? 2 + sequence
+         : &page == error_          ? 1 + sequence
+         : &page == &loci_.Choice() ? sequence
+                                    : 0;
 }
 
 void AllocationFlowWindow::Confirm(const FlowPage& page) {
@@ -187,11 +197,16 @@ void AllocationFlowWindow::Run() {
     return Refuse(run.error());
   }
   const std::string_view closing = ClosingSentence(run->result);
+  const bool out_of_step = run->result.stepping.any_out_of_step;
   auto* const results = new AllocationWindow(*settings, std::move(*run), ResultsFolder());
-  results->SetCommand(Text(CommandOf(*settings)));
+  results->SetCommand(CommandHere(CommandOf(*settings)));
   accept();
   results->show();
-  ShowSentence(results, closing);
+  if (out_of_step) {
+    ShowSentenceAbout(results, closing, ResultsFolder() + Text(kSteppingErrorFile));
+  } else {
+    ShowClosingSentence(results, closing);
+  }
   results->raise();
   results->activateWindow();
 }

@@ -27,6 +27,7 @@ class AllocationFlowWindow : public FlowWindow {
   void Leave() override;
   void Prepare(const FlowPage& /*page*/) override {}
   std::string Command() override;
+  std::size_t ScreensBehind(const FlowPage& page) const override;
   bool MayStartRun(const FlowPage& page) const override;
 
  private:

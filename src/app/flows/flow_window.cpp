@@ -16,6 +16,8 @@
 
 #include <fmt/format.h>
 
+#include "app/base/command_text.h"
+#include "app/base/elided_label.h"
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
@@ -30,21 +32,27 @@ namespace kaldo {
 
 namespace {
 
-/// Room for the whole screen where the monitor has it; bars to scroll by where it has not.
-class PageArea : public QScrollArea {
- public:
-  using QScrollArea::QScrollArea;
+constexpr int kLinesBelow = 2;  ///< of the folder of the results
 
-  QSize sizeHint() const override {
-    QSize wanted = widget()->sizeHint();
-    if (widget()->hasHeightForWidth()) {  // some lines of text are wrapped
-      wanted.setHeight(std::max(wanted.height(), widget()->heightForWidth(wanted.width())));
-    }
-    const QSize monitor = screen()->availableSize();
-    return (wanted + QSize(2, 2))
-        .boundedTo(QSize(monitor.width() * 9 / 10, monitor.height() * 3 / 4));
+// The room of a usual screen: some grow when files are known.
+constexpr int kUsualWidth = 100;  ///< in characters
+constexpr int kUsualLines = 38;
+
+/// The room that a screen asks for.
+QSize WantedBy(const QWidget& page) {
+  QSize wanted = page.sizeHint().expandedTo(page.minimumSizeHint());
+  if (page.hasHeightForWidth()) {  // some lines of text are wrapped
+    wanted.setHeight(std::max(wanted.height(), page.heightForWidth(wanted.width())));
   }
-};
+  return wanted + QSize(2, 2);
+}
+
+/// Stays where it is when it is not seen, so that nothing else moves.
+void KeepPlace(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
+}
 
 /// The keyboard starts at the first field of a screen.
 void FocusFirst(QWidget& page) {
@@ -66,8 +74,9 @@ FlowPage::FlowPage(const ScreenEntry& entry, std::string_view caption) : caption
 FlowWindow::FlowWindow(OpenedFiles& opened, QWidget* parent)
     : QDialog(parent),
       opened_(opened),
-      area_(new PageArea),
-      destination_(NewHint(nullptr)),
+      area_(new QScrollArea),
+      destination_(new ElidedLabel),
+      step_(new QLabel),
       copy_(NewButton("Cop&y as command", "CopyAsCommand",
                       "Copy the command line that does the same run, for a script or a cluster")),
       back_(NewButton("<---  Back", "Back", "To the screen before; what was typed stays")),
@@ -76,6 +85,10 @@ FlowWindow::FlowWindow(OpenedFiles& opened, QWidget* parent)
   area_->setWidgetResizable(true);
   area_->setFrameShape(QFrame::NoFrame);
   destination_->setObjectName(Text("Destination"));
+  destination_->setFixedHeight(kLinesBelow * fontMetrics().lineSpacing());
+  step_->setObjectName(Text("Step"));
+  KeepPlace(*destination_);
+  KeepPlace(*copy_);
 
   Number(*back_, kBackButton);
   back_->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Left));
@@ -86,6 +99,7 @@ FlowWindow::FlowWindow(OpenedFiles& opened, QWidget* parent)
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(copy_);
   buttons->addStretch();
+  buttons->addWidget(step_);
   buttons->addWidget(back_);
   buttons->addWidget(ok_);
   auto* const column = new QVBoxLayout(this);
@@ -127,10 +141,26 @@ void FlowWindow::Display(FlowPage& page) {
   page.show();
   setWindowTitle(page.Caption());
   ShowDestination(page);
-  area_->updateGeometry();
-  layout()->activate();
-  resize(sizeHint());
+  step_->setText(
+      Text("Step %1 of %2").arg(before_.size() + 1).arg(before_.size() + 1 + ScreensBehind(page)));
+  FitScreens();
   FocusFirst(page);
+}
+
+void FlowWindow::FitScreens() {
+  QSize room(fontMetrics().averageCharWidth() * kUsualWidth,
+             fontMetrics().lineSpacing() * kUsualLines);
+  for (const FlowPage* page : pages_) {
+    if (before_.empty() || page == current_) {
+      room = room.expandedTo(WantedBy(*page));
+    }
+  }
+  const QMargins edges = layout()->contentsMargins();
+  const int below = kLinesBelow * fontMetrics().lineSpacing() + ok_->sizeHint().height();
+  const QSize wanted = room + QSize(edges.left() + edges.right(),
+                                    edges.top() + below + edges.bottom() + 2 * layout()->spacing());
+  const QSize monitor = screen()->availableSize() * 9 / 10;
+  resize(size().expandedTo(wanted).boundedTo(monitor));
 }
 
 void FlowWindow::ShowDestination(const FlowPage& page) {
@@ -140,13 +170,13 @@ void FlowWindow::ShowDestination(const FlowPage& page) {
   if (!may_start) {
     return;
   }
-  QString text = Text("Results go to ") + ResultsFolder();
+  QString text = Text("Results go to ") + QDir::toNativeSeparators(ResultsFolder());
   const QFileInfo record(PathText(ProjectFolder(project_).Path(kRunRecordFile)));
   if (record.exists()) {
     text += Text("\nThe results of ") + record.lastModified().toString(Text("yyyy-MM-dd HH:mm")) +
             Text(" will be replaced.");
   }
-  destination_->setText(text);
+  destination_->SetText(text, QDir::toNativeSeparators(ResultsFolder()));
 }
 
 void FlowWindow::GoBack() {
@@ -164,12 +194,13 @@ void FlowWindow::ConfirmCurrent() { Confirm(*current_); }
 void FlowWindow::CopyCommand() {
   const std::string command = Command();
   if (!command.empty()) {
-    QGuiApplication::clipboard()->setText(Text(command));
+    QGuiApplication::clipboard()->setText(CommandHere(command));
   }
 }
 
 void FlowWindow::Refuse(const Problem& problem) {
   Problem told = problem;
+  current_->TellTyped(told);
   if (const auto look = told.file.empty() ? std::nullopt : opened_.ForeignLookAt(told.file)) {
     told.found += fmt::format(
         "{}{} The button \"Convert...\" below its field makes files of it that "

@@ -14,6 +14,7 @@ class QScrollArea;
 
 namespace kaldo {
 
+class ElidedLabel;
 class OpenedFiles;
 struct Problem;
 
@@ -26,13 +27,17 @@ class FlowPage : public QWidget {
   /// The title of the window while this screen is shown.
   const QString& Caption() const { return caption_; }
 
+  /// Where a number could not be read, the problem of what was taken in its place is told with what
+  /// was typed.
+  virtual void TellTyped(Problem& /*problem*/) const {}
+
  private:
   QString caption_;
 };
 
 /// A chain of parameter screens that ends in a run. It stands over the main menu until the run is
 /// done or the user leaves; what was typed stays for the next time. "OK" confirms a screen, Back
-/// returns to the one before.
+/// returns to the one before. The window keeps its size meanwhile.
 class FlowWindow : public QDialog {
  public:
   /// `opened` keeps the input files while the flow is on, and must live as long as this.
@@ -48,6 +53,7 @@ class FlowWindow : public QDialog {
   /// Takes a screen into the flow, which owns it from here on.
   template <typename Page>
   Page* Own(Page* page) {
+    pages_.push_back(page);
     Keep(page);
     return page;
   }
@@ -66,6 +72,9 @@ class FlowWindow : public QDialog {
 
   /// Called before a screen is shown, also by Back.
   virtual void Prepare(const FlowPage& page) = 0;
+
+  /// How many screens follow this one, as far as is known by then.
+  virtual std::size_t ScreensBehind(const FlowPage& page) const = 0;
 
   /// True for a screen whose OK may start the run: it tells where results go.
   virtual bool MayStartRun(const FlowPage& page) const = 0;
@@ -98,12 +107,18 @@ class FlowWindow : public QDialog {
   void CopyCommand();
   void ShowDestination(const FlowPage& page);
 
+  /// Makes room for all screens at the first one, as far as the monitor has it: the window then keeps
+  /// its size, and its buttons their place. Only a screen that has grown since makes it larger.
+  void FitScreens();
+
   OpenedFiles& opened_;
   std::string project_;
+  std::vector<FlowPage*> pages_;
   std::vector<FlowPage*> before_;  ///< the screens that Back leads to
   FlowPage* current_ = nullptr;
   QScrollArea* area_;
-  QLabel* destination_;
+  ElidedLabel* destination_;
+  QLabel* step_;
   QPushButton* copy_;
   QPushButton* back_;
   QPushButton* ok_;

@@ -6,7 +6,6 @@
 #include <fmt/format.h>
 
 #include "app/base/messages.h"
-#include "app/base/opened_files.h"
 #include "app/base/text.h"
 #include "base/version.h"
 #include "simulation/recorded_files.h"
@@ -15,27 +14,23 @@ namespace kaldo {
 
 namespace {
 
-void OfferFolder(QWidget* parent, const RunRecord& record) {
-  const QString folder = PathText(record.folder);
+void OfferFolder(QWidget* parent, const RunRecord& record, const std::string& path) {
+  const QString folder = PathText(WorkingFolderNow(record, path));
   if (folder == QDir::currentPath() || !QDir(folder).exists()) {
     return;
   }
-  if (AskYesNo(parent, Text("The recorded run was started in the folder\n") + folder +
-                           Text("\nUse it as the working folder?"))) {
+  const QString what = folder == PathText(record.folder)
+                           ? Text("The recorded run was started in the folder\n")
+                           : Text("The study of the recorded run was moved to the folder\n");
+  if (AskYesNo(parent, what + folder + Text("\nUse it as the working folder?"))) {
     QDir::setCurrent(folder);
   }
 }
 
-/// What is no text is not kept open, but may still have changed rather than gone.
-tl::expected<FileDigest, Problem> DigestNow(const std::string& path, OpenedFiles& opened) {
-  const auto file = opened.Open(path);
-  return file ? file->Digest() : DigestOfFile(path);
-}
-
-void TellChanges(QWidget* parent, const RunRecord& record, OpenedFiles& opened) {
-  auto [changes, changed] = CompareInputs(record, [&opened](const std::string& path) {
-    return DigestNow(path, opened);
-  });  // missing ones first
+void TellChanges(QWidget* parent, const LocatedRecord& located) {
+  const RunRecord& record = located.record;
+  std::vector<std::string> changes = located.changes.missing;
+  const auto& changed = located.changes.changed;
   changes.insert(changes.end(), changed.begin(), changed.end());
   if (record.version != Version()) {
     changes.push_back(fmt::format("The record was made by KALDO {}, this is KALDO {}.",
@@ -50,26 +45,24 @@ void TellChanges(QWidget* parent, const RunRecord& record, OpenedFiles& opened) 
 
 }  // namespace
 
-std::optional<RunSettings> OpenRunRecord(QWidget* parent, const std::string& path,
-                                         OpenedFiles& opened) {
+std::optional<RunSettings> OpenRunRecord(QWidget* parent, const std::string& path) {
   const auto record = ReadRunRecord(path);
   if (!record) {
     ShowProblem(parent, record.error());
     return std::nullopt;
   }
-  const auto settings = RunSettingsOf(*record, path);
-  if (!settings) {
+  if (const auto settings = RunSettingsOf(*record, path); !settings) {
     ShowProblem(parent, settings.error());
     return std::nullopt;
   }
-  OfferFolder(parent, *record);
-  // The screens read the files at once to tell what they hold.
-  if (const auto problem = RefuseRecordedFiles(*record, path)) {
-    ShowProblem(parent, *problem);
+  OfferFolder(parent, *record, path);
+  const auto located = LocateRecordedFiles(*record, path);
+  if (!located) {
+    ShowProblem(parent, located.error());
     return std::nullopt;
   }
-  TellChanges(parent, *record, opened);
-  return *settings;
+  TellChanges(parent, *located);
+  return RunSettingsOf(located->record, path).value();
 }
 
 }  // namespace kaldo

@@ -165,8 +165,8 @@ class RunDialog : public QDialog {
   /// Esc and the close button of the window.
   void reject() override {
     if (end_ == RunEnd::kRunning && !watched_.StopRequested() &&
-        AskYesNo(this, Text("A run is going on. Stop it? The results of earlier runs stay as they "
-                            "are."))) {
+        AskBeforeLoss(this, Text("A run is going on. Stop it? The results of earlier runs stay as "
+                                 "they are."))) {
       Stop();
     }
   }

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/flows/simulation_flow_window.h"
 
+#include <algorithm>
+#include <array>
+
 #include <fmt/format.h>
 
+#include "app/base/command_text.h"
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
@@ -19,6 +23,7 @@
 #include "genotypes/stepping_condition.h"
 #include "simulation/figures/class_sizes.h"
 #include "simulation/figures/class_weights.h"
+#include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_texts.h"
 #include "simulation/saved_loci.h"
 #include "simulation/simulation_checks.h"
@@ -84,6 +89,22 @@ void SimulationFlowWindow::Leave() {
 }
 
 bool SimulationFlowWindow::MayStartRun(const FlowPage& page) const { return &page == output_; }
+
+std::size_t SimulationFlowWindow::ScreensBehind(const FlowPage& page) const {
+  if (&page == output_) {
+    return 0;
+  }
+  const auto strategy = strategy_->Strategy();
+  const bool chooses = strategy == LociStrategy::kChoice || strategy == LociStrategy::kCumulative;
+  const std::size_t behind_strategy = chooses ? 2 : 1;
+  const std::array<const FlowPage*, 5> in_turn = {start_, parents_, offspring_, tolerance_,
+                                                  strategy_};
+  const auto place = std::find(in_turn.begin(), in_turn.end(), &page);
+  if (place != in_turn.end()) {
+    return static_cast<std::size_t>(in_turn.end() - place) - 1 + behind_strategy;
+  }
+  return 1;  // a choice or a sequence of loci leads to the output
+}
 
 void SimulationFlowWindow::Prepare(const FlowPage& page) {
   if (&page == tolerance_) {
@@ -349,13 +370,13 @@ void SimulationFlowWindow::Run() {
   settings.seed = run->result.seed;
   const bool out_of_step = run->result.stepping.any_out_of_step;
   auto* const results = new SimulationWindow(settings, std::move(*run), ResultsFolder());
-  results->SetCommand(Text(CommandOf(settings)));
+  results->SetCommand(CommandHere(CommandOf(settings)));
   accept();
   results->show();
   if (out_of_step) {
-    ShowSentence(results, kSteppingSentence);
+    ShowSentenceAbout(results, kSteppingSentence, ResultsFolder() + Text(kSteppingErrorFile));
   }
-  ShowSentence(results, TextsOf(flow_).closing_sentence);
+  ShowClosingSentence(results, TextsOf(flow_).closing_sentence);
   results->raise();
   results->activateWindow();
 }

@@ -58,6 +58,7 @@ AllocationFilePage::AllocationFilePage(Flow flow, OpenedFiles& opened)
              [this](const AllocationSettings& imported) { TakeImported(imported); }) {
   auto* const form = new QFormLayout(this);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  form->setRowWrapPolicy(QFormLayout::WrapLongRows);
   if (flow == Flow::kSexed) {
     males_ = AddFile(*form, {&AllocationSettings::males_file, Role::kParent, Sex::kMale}, kMales);
     females_ =
@@ -71,6 +72,8 @@ AllocationFilePage::AllocationFilePage(Flow flow, OpenedFiles& opened)
   loci_ = AddFileField(*form, kLoci);
   loci_->SetDescriber(
       [this](const std::string& file) { return DescribeLociFile(file, opened_.Opener()); });
+  loci_->SetJudge(
+      [this](const std::string& file) { return IsLociFileAtFault(file, opened_.Opener()); });
   loci_->SetOnChange([this] { RefreshFiles(); });
   offer_.Watch(*loci_);
   AddKnowledge(*form);
@@ -85,6 +88,11 @@ FileField* AllocationFilePage::AddFile(QFormLayout& form, FileOf file, const Fie
         path, loci_->Path(), holds_parents ? Separators::kAllowed : Separators::kNone,
         opened_.Opener());
     return holds_parents ? line + GroupsFault() : line;
+  });
+  field->SetJudge([this, holds_parents](const std::string& path) {
+    const Separators separators = holds_parents ? Separators::kAllowed : Separators::kNone;
+    return IsGenotypeFileAtFault(path, loci_->Path(), separators, opened_.Opener()) ||
+           (holds_parents && !GroupsFault().empty());
   });
   offer_.Watch(*field, file.role, file.sex);
   rows_.push_back({file.path, field});

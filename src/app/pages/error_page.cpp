@@ -18,7 +18,7 @@ namespace kaldo {
 
 namespace {
 
-constexpr int kShortField = 13;  // characters
+constexpr int kShortField = 11;  // characters
 
 struct KindText {
   ErrorKind kind;
@@ -53,8 +53,7 @@ constexpr std::array<ProbabilityText, 5> kProbabilities{{
      &ErrorModel::minus2},
     {{"-&1 unit", "Minus1", "Probability that an allele is read one unit distance shorter."},
      &ErrorModel::minus1},
-    {{"&Target Allele", "Focal",
-      "Probability that an allele is read as itself (focal allele): 0.9 to 1."},
+    {{"&Target Allele", "Focal", "Probability that an allele is read as itself: 0.9 to 1."},
      &ErrorModel::focal},
     {{"+1 un&it", "Plus1", "Probability that an allele is read one unit distance longer."},
      &ErrorModel::plus1},
@@ -125,7 +124,8 @@ QLayout* ErrorModelBox::NonUniformRow() {
     QLineEdit* const field = NewShortField(probability.text, probability.value);
     auto* const label = new QLabel(Text(probability.text.label));
     label->setBuddy(field);
-    grid->addWidget(label, 0, k, Qt::AlignHCenter);
+    label->setAlignment(Qt::AlignHCenter);
+    grid->addWidget(label, 0, k);
     grid->addWidget(field, 1, k);
     connect(field, &QLineEdit::textChanged, this, [this] { ShowSum(); });
     probabilities_.at(static_cast<std::size_t>(k)) = field;
@@ -143,10 +143,12 @@ void ErrorModelBox::ShowSum() {
     const auto value = NumberIn(*field);
     if (!value) {
       sum_->setText(field->accessibleName() + Text(": enter a number with a decimal point"));
+      ShowAsFault(*sum_, true);
       return;
     }
     sum += *value;
   }
+  ShowAsFault(*sum_, sum != 1.0);
   sum_->setText(Text(sum == 1.0 ? std::string("The five probabilities sum to 1.")
                                 : fmt::format("The five probabilities sum to {}, not to 1.", sum)));
 }

@@ -144,6 +144,9 @@ FileField* ParentalPage::NewFile(QFormLayout& form, const FieldText& text, std::
   field->SetDescriber([this](const std::string& file) {
     return DescribeGenotypeFile(file, loci_file_, Separators::kNone, opened_.Opener());
   });
+  field->SetJudge([this](const std::string& file) {
+    return IsGenotypeFileAtFault(file, loci_file_, Separators::kNone, opened_.Opener());
+  });
   return field;
 }
 
@@ -153,6 +156,7 @@ QWidget* ParentalPage::NewSet(std::size_t set) {
   auto* const group = new QGroupBox(Text(texts.title));
   auto* const form = new QFormLayout(group);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  form->setRowWrapPolicy(QFormLayout::WrapLongRows);
   fields.form = form;
   fields.collected_file = NewFile(*form, texts.collected_file, set, collected_);
   fields.pseudo_collected_sample =

@@ -13,6 +13,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "base/problem.h"
 
 namespace kaldo {
 
@@ -94,6 +95,12 @@ void PseudoOffspringPage::SetNumber(std::int32_t offspring_per_iteration) {
 
 std::int32_t PseudoOffspringPage::OffspringPerIteration() const {
   return WholeNumberIn(*number_).value_or(0);
+}
+
+void PseudoOffspringPage::TellTyped(Problem& problem) const {
+  if (problem.kind == ProblemKind::kNoPseudoOffspring) {
+    TellIfNoWholeNumber(*number_, problem);
+  }
 }
 
 }  // namespace kaldo

@@ -36,6 +36,8 @@ class PseudoOffspringPage : public FlowPage {
   /// The number as typed; 0, which no simulation has, where it cannot be read.
   std::int32_t OffspringPerIteration() const;
 
+  void TellTyped(Problem& problem) const override;
+
   ErrorModelBox& Box() const { return *box_; }
 
  private:

@@ -9,6 +9,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "base/problem.h"
 #include "method/cumulative_sequence.h"
 
 namespace kaldo {
@@ -74,6 +75,14 @@ std::vector<std::int32_t> SequencePage::Indices() const {
     indices.push_back(WholeNumberIn(*rows_.at(k).index).value_or(0));
   }
   return indices;
+}
+
+void SequencePage::TellTyped(Problem& problem) const {
+  if (problem.kind == ProblemKind::kSequenceHasZero) {
+    for (std::size_t k = number_of_loci_; k-- > 0;) {  // the first one is told
+      TellIfNoWholeNumber(*rows_.at(k).index, problem);
+    }
+  }
 }
 
 }  // namespace kaldo

@@ -26,6 +26,8 @@ class SequencePage : public FlowPage {
   /// may have.
   std::vector<std::int32_t> Indices() const;
 
+  void TellTyped(Problem& problem) const override;
+
  private:
   struct Row {
     QLabel* name = nullptr;

@@ -9,8 +9,10 @@
 #include <QVBoxLayout>
 
 #include "app/base/file_field.h"
+#include "app/base/form_fields.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
+#include "base/problem.h"
 #include "genotypes/file_summary.h"
 
 namespace kaldo {
@@ -41,9 +43,12 @@ SimulationStartPage::SimulationStartPage(Flow flow, OpenedFiles& opened,
       procedure_(new QButtonGroup(this)) {
   auto* const form = new QFormLayout;
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  form->setRowWrapPolicy(QFormLayout::WrapLongRows);
   loci_ = AddFileField(*form, kLoci);
   loci_->SetDescriber(
       [&opened](const std::string& file) { return DescribeLociFile(file, opened.Opener()); });
+  loci_->SetJudge(
+      [&opened](const std::string& file) { return IsLociFileAtFault(file, opened.Opener()); });
   offer_.Watch(*loci_);
   iterations_ = AddLineEdit(*form, kIterations);
   const SimulationSettings first_shown = FirstShownSimulation(flow);
@@ -77,6 +82,12 @@ void SimulationStartPage::FillIn(SimulationSettings& settings) const {
   settings.loci_file = loci_->Path();
   settings.iterations = WholeNumberIn(*iterations_).value_or(0);
   settings.procedure = static_cast<Procedure>(procedure_->checkedId());
+}
+
+void SimulationStartPage::TellTyped(Problem& problem) const {
+  if (problem.kind == ProblemKind::kNoIteration) {
+    TellIfNoWholeNumber(*iterations_, problem);
+  }
 }
 
 }  // namespace kaldo

@@ -31,6 +31,8 @@ class SimulationStartPage : public FlowPage {
   /// A number of iterations that cannot be read counts as 0, which no simulation has.
   void FillIn(SimulationSettings& settings) const;
 
+  void TellTyped(Problem& problem) const override;
+
  private:
   ImportOffer offer_;
   FileField* loci_ = nullptr;

@@ -17,6 +17,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "base/problem.h"
 
 namespace kaldo {
 
@@ -108,6 +109,14 @@ void StrategyPage::FillIn(SimulationSettings& settings) const {
   settings.strategy = Strategy().value_or(LociStrategy::kChoice);
   settings.criterion = NumberIn(*criterion_).value_or(std::numeric_limits<double>::quiet_NaN());
   settings.start_with = WholeNumberIn(*start_with_).value_or(0);
+}
+
+void StrategyPage::TellTyped(Problem& problem) const {
+  if (problem.kind == ProblemKind::kCriterionOutOfRange) {
+    TellIfNoNumber(*criterion_, problem);
+  } else if (problem.kind == ProblemKind::kStartWithTooSmall) {
+    TellIfNoWholeNumber(*start_with_, problem);
+  }
 }
 
 }  // namespace kaldo

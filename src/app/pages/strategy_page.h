@@ -26,6 +26,8 @@ class StrategyPage : public FlowPage {
   /// The numbers as typed; one that cannot be read becomes one that is refused.
   void FillIn(SimulationSettings& settings) const;
 
+  void TellTyped(Problem& problem) const override;
+
   /// Tells from which loci subsets and sequences are formed.
   void ShowLoci(std::size_t in_use, std::size_t all);
 

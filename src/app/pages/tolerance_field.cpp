@@ -16,7 +16,7 @@ namespace {
 constexpr FieldText kTolerance{
     "Maximal offset &tolerance", "Tolerance",
     "The largest difference between a parent's and an offspring's allele, in whole unit distances "
-    "(repeats), that is taken for a typing error. A parent that would need a larger one is "
+    "(repeats), that is taken for a transmission error. A parent that would need a larger one is "
     "declared uncollected (UC). 0 accepts exact alleles only."};
 
 }  // namespace

@@ -17,6 +17,7 @@ namespace kaldo {
 AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun run, QString folder,
                                    QWidget* parent)
     : ResultsWindow(settings.project, std::move(folder), parent) {
+  setObjectName(Text("AllocationResults"));
   const SharedAllocation shared = std::make_shared<const FinishedAllocation>(
       FinishedAllocation{std::move(settings), std::move(run)});
   auto* offspring = new OffspringPage(shared, Folder());
@@ -30,7 +31,7 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
   AddTab(new ParentsPage(shared, Folder(), show_offspring), Text("&Parents"),
          Text("The offspring and mates of every collected parent, and who has none."));
   if (shared->settings.sequence) {
-    auto* sequence = new ChartPanel(Text("Sequence"), Qt::Horizontal, Folder(), nullptr);
+    auto* sequence = new ChartPanel(Text("Sequence"), Qt::Vertical, Folder(), nullptr);
     sequence->Show(SequenceChart(shared->run.input, shared->run.result));
     AddTab(sequence, Text("Se&quence"), Text("How the proportions settle as loci are added."));
   }

@@ -7,7 +7,6 @@
 #include <QSvgGenerator>
 
 #include "app/base/text.h"
-#include "app/results/chart_layout.h"
 #include "app/results/chart_view.h"
 #include "base/version.h"
 
@@ -23,20 +22,20 @@ constexpr double kPointsPerInch = 72;
 
 }  // namespace
 
-QByteArray ChartSvg(const Chart& chart) {
+QByteArray ChartSvg(const Chart& chart, QSize size) {
   QBuffer buffer;
   QSvgGenerator svg;
   svg.setOutputDevice(&buffer);
   svg.setResolution(kUnitsPerInch);
-  svg.setSize(ChartSize(chart));
-  svg.setViewBox(QRect(QPoint(0, 0), ChartSize(chart)));
+  svg.setSize(size);
+  svg.setViewBox(QRect(QPoint(0, 0), size));
   svg.setTitle(TextsOf(chart).title);
   svg.setDescription(Text(kProductTitle));
-  PaintChart(chart, LightTheme(), 1, svg);
+  PaintChart(chart, LightTheme(), size, 1, svg);
   return buffer.data();
 }
 
-QByteArray ChartPdf(const Chart& chart) {
+QByteArray ChartPdf(const Chart& chart, QSize size) {
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   {
@@ -45,18 +44,19 @@ QByteArray ChartPdf(const Chart& chart) {
     pdf.setTitle(TextsOf(chart).title);
     pdf.setResolution(kPaperDotsPerInch);
     pdf.setPageMargins(QMarginsF());
-    pdf.setPageSize(QPageSize(QSizeF(ChartSize(chart)) * kPointsPerInch / kUnitsPerInch,
-                              QPageSize::Point, QString(), QPageSize::ExactMatch));
-    PaintChart(chart, LightTheme(), static_cast<double>(kPaperDotsPerInch) / kUnitsPerInch, pdf);
+    pdf.setPageSize(QPageSize(QSizeF(size) * kPointsPerInch / kUnitsPerInch, QPageSize::Point,
+                              QString(), QPageSize::ExactMatch));
+    PaintChart(chart, LightTheme(), size, static_cast<double>(kPaperDotsPerInch) / kUnitsPerInch,
+               pdf);
   }
   return buffer.data();
 }
 
-QByteArray ChartPng(const Chart& chart) {
+QByteArray ChartPng(const Chart& chart, QSize size) {
   constexpr double kScale = static_cast<double>(kPictureDotsPerInch) / kUnitsPerInch;
-  QImage picture((QSizeF(ChartSize(chart)) * kScale).toSize(), QImage::Format_RGB32);
+  QImage picture((QSizeF(size) * kScale).toSize(), QImage::Format_RGB32);
   picture.fill(Qt::white);
-  PaintChart(chart, LightTheme(), kScale, picture);
+  PaintChart(chart, LightTheme(), size, kScale, picture);
   const int dots_per_meter = qRound(kPictureDotsPerInch * kInchesPerMeter);
   picture.setDotsPerMeterX(dots_per_meter);
   picture.setDotsPerMeterY(dots_per_meter);

@@ -3,8 +3,15 @@
 
 #include <QFontMetrics>
 #include <algorithm>
+#include <numeric>
 
 namespace kaldo {
+
+namespace {
+
+constexpr double kUnitsPerMillimetre = 96 / 25.4;
+
+}  // namespace
 
 QSize ChartSize(const Chart& chart) {
   constexpr qsizetype kWidth = 720;
@@ -17,6 +24,10 @@ QSize ChartSize(const Chart& chart) {
                                                 : 0;
   return {static_cast<int>(std::max(kWidth, kPerPlace * static_cast<qsizetype>(places))), kHeight};
 }
+
+QSize ChartUnits(QSize millimetres) { return (QSizeF(millimetres) * kUnitsPerMillimetre).toSize(); }
+
+QSize Millimetres(QSize units) { return (QSizeF(units) / kUnitsPerMillimetre).toSize(); }
 
 QString Folded(const QString& text, const QFontMetrics& metrics, int width) {
   QString folded;
@@ -41,6 +52,18 @@ std::vector<double> PlacesOf(const BarChart& chart) {
   for (std::size_t k = 0; k < places.size(); ++k) {
     places[k] = static_cast<double>(k);
   }
+  return places;
+}
+
+std::vector<double> PlacesOf(const Chart& chart) {
+  if (const auto* const bars = std::get_if<BarChart>(&chart)) {
+    return PlacesOf(*bars);
+  }
+  if (const auto* const lines = std::get_if<LineChart>(&chart)) {
+    return lines->positions;
+  }
+  std::vector<double> places(std::get<SpreadChart>(chart).values.size());
+  std::iota(places.begin(), places.end(), 1.0);
   return places;
 }
 

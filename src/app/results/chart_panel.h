@@ -13,10 +13,10 @@ class ChartView;
 class DataTableModel;
 class ResultTable;
 
-/// A chart with its numbers as a table, and buttons to save the one and copy the other.
+/// A chart with its numbers as a table, and buttons to save or copy the one and copy the other.
 ///
-/// Object names, with `name` as given: "<name>Chart", "<name>Table", "<name>Save",
-/// "<name>Copy".
+/// Object names, with `name` as given: "<name>Chart", "<name>Table", "<name>Save", "<name>Size",
+/// "<name>Picture", "<name>Copy"; in the dialog for the size "ChartWidth" and "ChartHeight".
 class ChartPanel : public QWidget {
  public:
   /// The table stands beside (Qt::Horizontal) or below the chart. `folder` is where files are
@@ -30,15 +30,20 @@ class ChartPanel : public QWidget {
   void Show(const Chart& chart, const DataTable& table);
 
  private:
-  QWidget* TableSide();
   void AddButtons(QBoxLayout& layout);
+  void AddChartMenu();
   void AskAndSave();
+  void AskSize();
+
+  /// In units of 1/96 inch: the size chosen, or the natural one of the chart.
+  QSize SavedSize() const;
 
   QString name_;
   QString folder_;
   ChartView* chart_;
   DataTableModel* model_;
   ResultTable* table_;
+  std::optional<QSize> millimetres_;  ///< as chosen
 };
 
 }  // namespace kaldo

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/chart_view.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QEvent>
 #include <QFileInfo>
+#include <QMouseEvent>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -29,6 +33,7 @@ constexpr std::size_t kMostNumberedBars = 9;
 constexpr std::size_t kMostLevelLabels = 6;
 constexpr double kMarkerSize = 8;
 constexpr int kTitleMargin = 20;
+constexpr int kLevelGap = 6;
 constexpr int kLegendSign = 60;  ///< a piece of the line with its mark, and the gaps
 
 /// Puts one chart onto a plot.
@@ -295,7 +300,7 @@ void ChartPainter::PaintData(const LineChart& chart) {
   }
 }
 
-/// A level line with its text at the right end.
+/// A level line with its text behind its right end, where no point is.
 void ChartPainter::PaintLevel(double value, Qt::PenStyle style, const QString& text) {
   auto* line = new QCPItemStraightLine(&plot_);
   for (QCPItemPosition* point : {line->point1, line->point2}) {
@@ -308,17 +313,18 @@ void ChartPainter::PaintLevel(double value, Qt::PenStyle style, const QString& t
   label->position->setTypeX(QCPItemPosition::ptAxisRectRatio);
   label->position->setAxes(Places(), Values());
   label->position->setCoords(1, value);
-  label->setPositionAlignment(Qt::AlignRight | Qt::AlignBottom);
+  label->setPositionAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  label->setPadding(QMargins(kLevelGap, 0, 0, 0));
   label->setText(text);
   label->setFont(font_);
   label->setColor(theme_.text);
-  QColor veil = theme_.background;
-  veil.setAlpha(200);
-  label->setBrush(veil);
+  label->setClipToAxisRect(false);
 }
 
 void ChartPainter::PaintData(const SpreadChart& chart) {
   CountPlaces();
+  plot_.axisRect()->setMinimumMargins(
+      QMargins(0, 0, QFontMetrics(font_).horizontalAdvance(Text("mean + sd")) + 2 * kLevelGap, 0));
   const auto count = static_cast<double>(chart.values.size());
   Places()->setRange(0, count + 1);
   if (chart.values.empty()) {
@@ -356,9 +362,9 @@ QFont ChartFont() {
 
 }  // namespace
 
-void PaintChart(const Chart& chart, const ChartTheme& theme, double scale, QPaintDevice& device) {
+void PaintChart(const Chart& chart, const ChartTheme& theme, QSize size, double scale,
+                QPaintDevice& device) {
   QCustomPlot plot;
-  const QSize size = ChartSize(chart);
   ChartPainter(plot, theme, ChartFont()).Paint(chart, size.width() - kTitleMargin);
   QCPPainter painter(&device);
   // Nothing may go through a cached picture, or texts would end up as dots.
@@ -374,6 +380,40 @@ ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(t
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(plot_);
   plot_->setFocusPolicy(Qt::NoFocus);
+  connect(plot_, &QCustomPlot::mouseMove, this, [this](QMouseEvent* event) { TellValues(*event); });
+}
+
+void ChartView::TellValues(const QMouseEvent& event) {
+  const std::vector<double> places = PlacesOf(chart_);
+  const QPoint at = event.position().toPoint();
+  if (places.empty() || !plot_->axisRect()->rect().contains(at)) {
+    QToolTip::hideText();
+    return;
+  }
+  const double here = plot_->axisRect()->axis(QCPAxis::atBottom)->pixelToCoord(at.x());
+  const auto nearest = std::min_element(places.begin(), places.end(), [here](double a, double b) {
+    return std::abs(a - here) < std::abs(b - here);
+  });
+  QToolTip::showText(event.globalPosition().toPoint(),
+                     TipText(ValuesAt(static_cast<std::size_t>(nearest - places.begin()))), plot_);
+}
+
+QString ChartView::ValuesAt(std::size_t place) const {
+  const DataTable table = TableOf(chart_);
+  QStringList lines;
+  if (place < table.rows.size()) {
+    const QStringList& cells = table.rows[place];
+    for (qsizetype k = 0; k < cells.size(); ++k) {
+      bool is_number = false;
+      const double value = QLocale::c().toDouble(cells[k], &is_number);
+      lines += table.heads.value(k) + Text(": ") + (is_number ? ShortNumber(value) : cells[k]);
+    }
+  }
+  return lines.join(QLatin1Char('\n'));
+}
+
+void ChartView::CopyPicture(QSize size) const {
+  QApplication::clipboard()->setImage(QImage::fromData(ChartPng(chart_, size), "PNG"));
 }
 
 void ChartView::SetChart(const Chart& chart) {
@@ -388,16 +428,17 @@ void ChartView::Draw() {
   plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
-bool ChartView::SaveChart(const QString& path) {
+bool ChartView::SaveChart(const QString& path, std::optional<QSize> wanted) {
+  const QSize size = wanted.value_or(ChartSize(chart_));
   const QString ending = QFileInfo(path).suffix().toLower();
   if (ending == QLatin1String("svg")) {
-    return SaveFile(window(), path, ChartSvg(chart_));
+    return SaveFile(window(), path, ChartSvg(chart_, size));
   }
   if (ending == QLatin1String("pdf")) {
-    return SaveFile(window(), path, ChartPdf(chart_));
+    return SaveFile(window(), path, ChartPdf(chart_, size));
   }
   if (ending == QLatin1String("png")) {
-    return SaveFile(window(), path, ChartPng(chart_));
+    return SaveFile(window(), path, ChartPng(chart_, size));
   }
   if (ending == QLatin1String("csv")) {
     return SaveFile(window(), path, CsvText(TableOf(chart_)));

@@ -7,6 +7,7 @@
 #include "app/results/chart_theme.h"
 
 class QCustomPlot;
+class QMouseEvent;
 class QPaintDevice;
 
 namespace kaldo {
@@ -21,9 +22,16 @@ class ChartView : public QWidget {
 
   const Chart& Shown() const { return chart_; }
 
-  /// Saves the chart by the ending of `path`: .svg, .pdf, .png, or .csv for its numbers. Tells the
-  /// user and returns false when that cannot be done; an earlier file then stays as it was.
-  bool SaveChart(const QString& path);
+  /// Saves the chart by the ending of `path`: .svg, .pdf, .png, or .csv for its numbers; `size` is
+  /// in units of 1/96 inch, the natural one unless told. Tells the user and returns false when that
+  /// cannot be done; an earlier file then stays as it was.
+  bool SaveChart(const QString& path, std::optional<QSize> size = std::nullopt);
+
+  /// Puts the chart on the clipboard as the picture that would be saved.
+  void CopyPicture(QSize size) const;
+
+  /// What a tip tells at a place of the chart: the numbers of that row of its table.
+  QString ValuesAt(std::size_t place) const;
 
   QSize minimumSizeHint() const override;
   QSize sizeHint() const override;
@@ -34,12 +42,14 @@ class ChartView : public QWidget {
 
  private:
   void Draw();
+  void TellValues(const QMouseEvent& event);
 
   Chart chart_;
   QCustomPlot* plot_ = nullptr;
 };
 
-/// Paints a chart of its natural size, enlarged by `scale`, onto paper or a picture.
-void PaintChart(const Chart& chart, const ChartTheme& theme, double scale, QPaintDevice& device);
+/// Paints a chart of that size, enlarged by `scale`, onto paper or a picture.
+void PaintChart(const Chart& chart, const ChartTheme& theme, QSize size, double scale,
+                QPaintDevice& device);
 
 }  // namespace kaldo

@@ -236,13 +236,18 @@ bool OffspringModel::IsBefore(Column column, int a, int b) const {
 }
 
 bool OffspringModel::HasName(int row, const QString& text) const {
-  return Name(row).contains(text, Qt::CaseInsensitive) ||
-         SideName(Column::kParent1, row).contains(text, Qt::CaseInsensitive) ||
-         SideName(Column::kParent2, row).contains(text, Qt::CaseInsensitive);
+  if (names_.empty()) {
+    names_.reserve(static_cast<std::size_t>(rowCount()));
+    for (int k = 0; k < rowCount(); ++k) {
+      names_.push_back(Name(k) + QLatin1Char('\n') + SideName(Column::kParent1, k) +
+                       QLatin1Char('\n') + SideName(Column::kParent2, k));
+    }
+  }
+  return names_[static_cast<std::size_t>(row)].contains(text, Qt::CaseInsensitive);
 }
 
 OffspringFilter::OffspringFilter(OffspringModel& model, QObject* parent)
-    : QSortFilterProxyModel(parent), model_(model) {
+    : RowFilter(parent), model_(model) {
   setSourceModel(&model);
 }
 

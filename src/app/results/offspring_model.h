@@ -2,12 +2,12 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QSortFilterProxyModel>
 #include <optional>
 
 #include "app/results/chart_theme.h"
 #include "app/results/finished_runs.h"
 #include "app/results/offspring_columns.h"
+#include "app/results/row_filter.h"
 #include "confidence/certainty.h"
 
 namespace kaldo {
@@ -54,6 +54,9 @@ class OffspringModel : public QAbstractTableModel {
 
   SharedAllocation allocation_;
   CertaintyColours colours_;
+
+  /// The names that a row is found by, with a line end between them; made at the first search.
+  mutable std::vector<QString> names_;
 };
 
 /// Which offspring are shown.
@@ -68,7 +71,7 @@ struct OffspringChoice {
 };
 
 /// The offspring table as the user has sorted and narrowed it.
-class OffspringFilter : public QSortFilterProxyModel {
+class OffspringFilter : public RowFilter {
  public:
   OffspringFilter(OffspringModel& model, QObject* parent);
 

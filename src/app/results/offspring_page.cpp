@@ -156,7 +156,9 @@ void OffspringPage::ShowOffspringOf(Slot parent) {
 void OffspringPage::Narrow() {
   OffspringChoice choice = choices_[static_cast<std::size_t>(list_->Choices().currentIndex())];
   choice.name = list_->SoughtText();
+  const QModelIndex current = filter_->mapToSource(list_->Table().currentIndex());
   filter_->Choose(choice);
+  list_->Table().setCurrentIndex(filter_->ShownOrFirst(current));
   list_->SetCount(Text("%1 of %2 offspring").arg(filter_->rowCount()).arg(model_->rowCount()));
   ShowCurrent();
 }

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/result_table.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
-#include <QKeyEvent>
+#include <QHelpEvent>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 
 #include "app/base/text.h"
@@ -18,9 +20,9 @@ namespace kaldo {
 namespace {
 
 constexpr int kAtRight = static_cast<int>(Qt::AlignRight) | static_cast<int>(Qt::AlignVCenter);
-constexpr int kMeasuredRows = 60;
-constexpr int kFewestRows = 4;     ///< that are seen in the smallest window
-constexpr int kWidestColumn = 44;  ///< in characters
+constexpr int kMeasuredRows = 500;  ///< spread over the whole table
+constexpr int kFewestRows = 4;      ///< that are seen in the smallest window
+constexpr int kWidestColumn = 110;  ///< in characters
 
 bool IsNumber(const QString& text) {
   return ParseDouble(Bytes(text)).has_value() || text == QLatin1String("NA");
@@ -43,6 +45,16 @@ class Heads : public QHeaderView {
   }
 
  protected:
+  bool viewportEvent(QEvent* event) override {
+    if (event->type() != QEvent::ToolTip) {
+      return QHeaderView::viewportEvent(event);
+    }
+    const auto* const help = static_cast<const QHelpEvent*>(event);
+    const QVariant tip =
+        model()->headerData(logicalIndexAt(help->pos()), Qt::Horizontal, Qt::ToolTipRole);
+    QToolTip::showText(help->globalPos(), TipText(tip.toString()), this);
+    return true;
+  }
   void initStyleOptionForIndex(QStyleOptionHeader* option, int section) const override {
     QHeaderView::initStyleOptionForIndex(option, section);
     KeepOff(option->textAlignment, option->text);
@@ -52,6 +64,18 @@ class Heads : public QHeaderView {
 class Cells : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
+
+  /// A text that is wider than its column is told in full.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    const QString text = index.data().toString();
+    if (index.data(Qt::ToolTipRole).isValid() ||
+        option.fontMetrics.horizontalAdvance(text) < option.rect.width()) {
+      return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    QToolTip::showText(event->globalPos(), TipText(text), view);
+    return true;
+  }
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
@@ -118,6 +142,20 @@ ResultTable::ResultTable(const QString& name, QWidget* parent) : QTableView(pare
   verticalHeader()->setDefaultSectionSize(row_height);
   setHorizontalHeader(new Heads(this));
   setItemDelegate(new Cells(this));
+  AddActions();
+}
+
+void ResultTable::AddActions() {
+  setContextMenuPolicy(Qt::ActionsContextMenu);
+  const auto add = [this](std::string_view text, QKeySequence::StandardKey key, auto act) {
+    auto* const action = new QAction(Text(text), this);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, act);
+    addAction(action);
+  };
+  add("&Copy rows", QKeySequence::Copy, [this] { CopyRows(); });
+  add("Select &all", QKeySequence::SelectAll, [this] { selectAll(); });
 }
 
 void ResultTable::setModel(QAbstractItemModel* model) {
@@ -132,14 +170,19 @@ void ResultTable::FitColumns() {
   const int margin = 3 * fontMetrics().averageCharWidth();
   const int blank = fontMetrics().horizontalAdvance(QChar(QChar::Nbsp));
   const int widest = kWidestColumn * fontMetrics().averageCharWidth();
-  const int rows = std::min(model()->rowCount(), kMeasuredRows);
+  const int rows = model()->rowCount();
+  const int step = std::max(1, rows / kMeasuredRows);
   for (int column = 0; column < model()->columnCount(); ++column) {
     // The arrow that tells the order needs room beside the head, or else the blank behind it.
     const int arrow = isSortingEnabled() ? 2 * fontMetrics().averageCharWidth() : blank;
     int width = horizontalHeader()->sectionSizeHint(column) + arrow;
-    for (int row = 0; row < rows; ++row) {
+    qsizetype longest = 0;
+    for (int row = 0; row < rows; row += step) {
       const QString text = model()->index(row, column).data().toString();
-      width = std::max(width, fontMetrics().horizontalAdvance(text) + margin);
+      if (text.size() * 3 >= longest * 2) {  // a much shorter one is not wider
+        longest = std::max(longest, text.size());
+        width = std::max(width, fontMetrics().horizontalAdvance(text) + margin);
+      }
     }
     setColumnWidth(column, std::min(width, widest));
   }
@@ -197,15 +240,6 @@ void ResultTable::ExportRows(const QString& suggested) {
 
 bool ResultTable::SaveCsv(const QString& path) {
   return SaveFile(window(), path, CsvText(*model()));
-}
-
-void ResultTable::keyPressEvent(QKeyEvent* event) {
-  if (event->matches(QKeySequence::Copy)) {
-    CopyRows();
-    event->accept();
-    return;
-  }
-  QTableView::keyPressEvent(event);
 }
 
 }  // namespace kaldo

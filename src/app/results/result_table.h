@@ -26,7 +26,8 @@ class DataTableModel : public QAbstractTableModel {
 };
 
 /// A table of results: whole rows are selected, all rows have one height (so that a million of them
-/// cost nothing), and Ctrl+C copies the selected rows under their heads for a spreadsheet.
+/// cost nothing), and Ctrl+C or the context menu copies the selected rows under their heads for a
+/// spreadsheet.
 class ResultTable : public QTableView {
  public:
   /// `name` is read out to who cannot see the table.
@@ -46,7 +47,7 @@ class ResultTable : public QTableView {
   /// The same to a known file; false, and the reason shown, when it cannot be written.
   bool SaveCsv(const QString& path);
 
-  /// Makes every column as wide as its head and its first rows ask for.
+  /// Makes every column as wide as its head and rows from all over the table ask for.
   void FitColumns();
 
   /// The width at which all columns are seen at once.
@@ -54,10 +55,8 @@ class ResultTable : public QTableView {
 
   QSize minimumSizeHint() const override;
 
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
-
  private:
+  void AddActions();
   void AppendRows(int first, int last, QString& text) const;
 };
 

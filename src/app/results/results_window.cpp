@@ -5,6 +5,8 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
@@ -13,6 +15,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
+#include "app/base/recent_folders.h"
 #include "app/base/text.h"
 #include "base/version.h"
 
@@ -21,6 +24,7 @@ namespace kaldo {
 ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget* parent)
     : QWidget(parent, Qt::Window),
       folder_(std::move(folder)),
+      note_(NewHint(nullptr)),
       tabs_(new QTabWidget),
       copy_command_(new QPushButton(Text("&Copy as command"))) {
   setAttribute(Qt::WA_DeleteOnClose);
@@ -28,9 +32,14 @@ ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget
   tabs_->setObjectName(Text("Tabs"));
   tabs_->setDocumentMode(true);
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(tabs_);
+  note_->setObjectName(Text("Note"));
+  note_->hide();
+  layout->addWidget(note_);
+  layout->addWidget(tabs_, 1);
   layout->addWidget(ButtonRow());
-  new QShortcut(QKeySequence(Qt::Key_Escape), this, [this] { close(); });
+  new QShortcut(QKeySequence(Qt::Key_Escape), this, [this] { ClearSearch(); });
+  new QShortcut(QKeySequence::Close, this, [this] { close(); });
+  RememberFolder(folder_);
   const QSize wanted(fontMetrics().averageCharWidth() * 170, fontMetrics().lineSpacing() * 44);
   resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
 }
@@ -67,6 +76,19 @@ QWidget* ResultsWindow::ButtonRow() {
 void ResultsWindow::SetCommand(const QString& command) {
   command_ = command;
   copy_command_->setEnabled(!command.isEmpty());
+}
+
+void ResultsWindow::SetNote(const QString& note) {
+  note_->setText(note);
+  note_->show();
+}
+
+void ResultsWindow::ClearSearch() {
+  for (QLineEdit* field : findChildren<QLineEdit*>()) {
+    if (field->isVisible() && field->isClearButtonEnabled()) {
+      field->clear();
+    }
+  }
 }
 
 void ResultsWindow::AddTab(QWidget* page, const QString& title, const QString& tip) {

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <string>
 
+class QLabel;
 class QPushButton;
 class QTabWidget;
 
@@ -11,9 +12,10 @@ namespace kaldo {
 
 /// What the result windows of all runs share: a title with the name of the project, tabs, and
 /// buttons to open the folder with the reports and to copy the command that repeats the run. Esc
-/// closes it.
+/// clears what is being looked for; Ctrl+W closes it. Its folder is remembered, see
+/// RecentFolders().
 ///
-/// Object names: "Tabs", "OpenFolder", "CopyCommand", "Close".
+/// Object names: "Tabs", "Note", "OpenFolder", "CopyCommand", "Close".
 class ResultsWindow : public QWidget {
  public:
   /// `folder` is the full path of the project folder.
@@ -21,6 +23,9 @@ class ResultsWindow : public QWidget {
 
   /// The command line that repeats this run; without it there is nothing to copy.
   void SetCommand(const QString& command);
+
+  /// A sentence above the tabs that says where the results come from.
+  void SetNote(const QString& note);
 
  protected:
   const QString& Folder() const { return folder_; }
@@ -33,9 +38,11 @@ class ResultsWindow : public QWidget {
 
  private:
   QWidget* ButtonRow();
+  void ClearSearch();
 
   QString folder_;
   QString command_;
+  QLabel* note_;
   QTabWidget* tabs_;
   QPushButton* copy_command_;
 };

@@ -67,7 +67,7 @@ void AddFigures(const SimulationSettings& settings, const SimulationRun& run, Su
   if (settings.flow == Flow::kNonSexed && settings.error_model.kind != ErrorKind::kNoError) {
     add("allocated with", ShortDescription(AllocationModelOf(settings)));
   }
-  add("maximum offset tolerance", std::to_string(settings.tolerance.Value()));
+  add("maximal offset tolerance", std::to_string(settings.tolerance.Value()));
   add("seed", std::to_string(result.seed));
   add("last loci run", NamesOf(input.loci, result.LastSubset().loci));
   if (settings.random == RandomSource::kModern) {

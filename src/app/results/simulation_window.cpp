@@ -14,6 +14,7 @@ namespace kaldo {
 SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun run, QString folder,
                                    QWidget* parent)
     : ResultsWindow(settings.project, std::move(folder), parent) {
+  setObjectName(Text("SimulationResults"));
   const SharedSimulation shared = std::make_shared<const FinishedSimulation>(
       FinishedSimulation{std::move(settings), std::move(run)});
   const LociStrategy strategy = shared->settings.strategy;

@@ -14,6 +14,7 @@
 #include <fmt/format.h>
 
 #include "app/base/text.h"
+#include "base/shell_text.h"
 
 namespace kaldo::test {
 
@@ -132,7 +133,10 @@ void WorkplaceTest::ExpectAsCommandLine(const std::string& project, const QStrin
   const std::filesystem::path place = other.Path("");
   std::filesystem::copy(folder_.Path(""), place, std::filesystem::copy_options::recursive);
   ASSERT_NE(std::filesystem::remove_all(place / project), 0U);
-  ASSERT_NO_FATAL_FAILURE(RunCommandLine(place.string(), command));
+  const QString there =
+      Text("cd " + ShellQuoted(std::filesystem::current_path().string()) + " && ");
+  ASSERT_TRUE(command.startsWith(there)) << Bytes(command);
+  ASSERT_NO_FATAL_FAILURE(RunCommandLine(place.string(), command.mid(there.size())));
 
   Contents expected;
   const std::string prefix = project + '/';

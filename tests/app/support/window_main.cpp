@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -7,6 +9,8 @@
 
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
+  const QTemporaryDir settings;  // what a user has kept is neither read nor changed
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
   kaldo::PrepareApplication();
   QApplication::setQuitOnLastWindowClosed(false);
   testing::InitGoogleTest(&argc, argv);

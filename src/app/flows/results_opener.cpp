@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/flows/results_opener.h"
+
+#include <QFileInfo>
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "allocation/allocation_command.h"
+#include "allocation/reopened_allocation.h"
+#include "app/base/command_text.h"
+#include "app/base/messages.h"
+#include "app/base/text.h"
+#include "app/flows/run_dialog.h"
+#include "app/results/allocation_window.h"
+#include "app/results/simulation_window.h"
+#include "base/counted_text.h"
+#include "runs/earlier_run.h"
+#include "runs/project_lock.h"
+#include "simulation/recorded_files.h"
+#include "simulation/reopened_simulation.h"
+#include "simulation/run_settings.h"
+#include "simulation/simulation_command.h"
+
+namespace kaldo {
+
+namespace {
+
+/// A record whose input files are where they were looked for, with the recorded contents.
+struct CheckedRecord {
+  std::string path;
+  RunRecord record;
+  RunSettings then;  ///< with the paths of the record
+  RunSettings now;   ///< with those at which the files are
+};
+
+tl::expected<CheckedRecord, Problem> Check(const std::string& path) {
+  auto record = ReadRunRecord(path);
+  if (!record) {
+    return tl::unexpected(std::move(record.error()));
+  }
+  auto then = RunSettingsOf(*record, path);
+  if (!then) {
+    return tl::unexpected(std::move(then.error()));
+  }
+  const auto located = LocateRecordedFiles(*record, path);
+  if (!located) {
+    return tl::unexpected(located.error());
+  }
+  const auto& [missing, changed] = located->changes;
+  if (!missing.empty() || !changed.empty()) {
+    return tl::unexpected(Problem{
+        .kind = missing.empty() ? ProblemKind::kInputsChanged : ProblemKind::kUnusableRunRecord,
+        .file = path,
+        .found = fmt::format("{}{}{}", fmt::join(missing, " "), missing.empty() ? "" : " ",
+                             fmt::join(changed, " "))});
+  }
+  auto now = RunSettingsOf(located->record, path);
+  if (!now) {
+    return tl::unexpected(std::move(now.error()));
+  }
+  return CheckedRecord{path, std::move(*record), std::move(*then), std::move(*now)};
+}
+
+/// What the reports cannot tell of these results.
+QString Untold(const AllocationRun& run) {
+  const auto& outcomes = run.result.outcomes;
+  const auto untold = std::count_if(outcomes.begin(), outcomes.end(), IsOnlyFirstPairTold);
+  return untold == 0 ? QString()
+                     : Text(fmt::format(
+                           " Of {} with more than five pairs the reports name the "
+                           "first one alone.",
+                           Counted(static_cast<std::size_t>(untold), "offspring", "offspring")));
+}
+
+QString Untold(const SimulationRun& /*run*/) {
+  return Text(" Figures have the digits of the reports; NA stands where these tell none.");
+}
+
+void Show(ResultsWindow* window, const QString& note, const QString& command) {
+  window->SetCommand(command);
+  window->SetNote(note);
+  window->show();
+  window->raise();
+  window->activateWindow();
+}
+
+/// Reads a run with `read`, which gets an observer, and shows it in a `Window`.
+template <typename Window, typename Run, typename Settings, typename Read>
+void ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord& checked,
+                 const Settings& settings, Read read) {
+  tl::expected<Run, Problem> run;
+  const bool done = RunWithProgress(parent, Text("Open results"),
+                                    [&](RunObserver& observer) { run = read(observer); });
+  if (done && !run) {
+    ShowProblem(parent, run.error());
+  } else if (done) {
+    const QString note = Text(fmt::format("Opened from the reports of {}; nothing was run again.",
+                                          checked.record.date)) +
+                         Untold(*run);
+    Show(new Window(settings, std::move(*run), folder), note,
+         CommandInFolder(WorkingFolderNow(checked.record, checked.path),
+                         CommandOf(std::get<Settings>(checked.then))));
+  }
+}
+
+void ShowRun(QWidget* parent, const CheckedRecord& checked) {
+  const RecordedReports reports(checked.record, checked.path);
+  const QString folder = QFileInfo(PathText(checked.path)).absolutePath();
+  if (const auto* now = std::get_if<AllocationSettings>(&checked.now)) {
+    ReadAndShow<AllocationWindow, AllocationRun>(
+        parent, folder, checked, *now, [&](RunObserver& observer) {
+          return ReopenAllocation(std::get<AllocationSettings>(checked.then), *now, checked.record,
+                                  reports, observer);
+        });
+  } else if (const auto* simulation = std::get_if<SimulationSettings>(&checked.now)) {
+    ReadAndShow<SimulationWindow, SimulationRun>(
+        parent, folder, checked, *simulation, [&](RunObserver& /*observer*/) {
+          return ReopenSimulation(*simulation, checked.record, reports);
+        });
+  }
+}
+
+}  // namespace
+
+void OpenResults(QWidget* parent, const std::string& path) {
+  const std::string record = RecordNamedBy(path);
+  try {
+    // What a run that died left half done is settled first, as before any other use of the folder.
+    const QString folder = QFileInfo(PathText(record)).absolutePath();
+    if (const auto recovered = RecoverProject(ProjectFolder(PathBytes(folder)))) {
+      ShowSentence(parent, *recovered);
+    }
+  } catch (const RunFailure& failure) {
+    return ShowFailure(parent, Text(failure.what()));
+  }
+  const auto checked = Check(record);
+  if (!checked) {
+    return ShowProblem(parent, checked.error());
+  }
+  ShowRun(parent, *checked);
+}
+
+}  // namespace kaldo

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+class QWidget;
+
+namespace kaldo {
+
+/// Shows the results of a finished run again, from its record, its input files and its reports;
+/// nothing is computed anew but what follows from the pairs of an offspring. `path` names the
+/// record or its folder. Input files are looked for as everywhere, see LocateRecordedFiles. A file
+/// that is missing or no longer what it was is told, and nothing is shown.
+void OpenResults(QWidget* parent, const std::string& path);
+
+}  // namespace kaldo
