@@ -92,9 +92,10 @@ void Measure(std::size_t offspring) {
     }
   }
   std::sort(times.begin(), times.end());
-  fmt::print("{} offspring: a letter takes {:.1f} ms (median), {:.1f} ms (95 of 100), {:.1f} ms "
-             "(longest)\n",
-             offspring, times[times.size() / 2], times[times.size() * 95 / 100], times.back());
+  fmt::print(
+      "{} offspring: a letter takes {:.1f} ms (median), {:.1f} ms (95 of 100), {:.1f} ms "
+      "(longest)\n",
+      offspring, times[times.size() / 2], times[times.size() * 95 / 100], times.back());
 }
 
 }  // namespace

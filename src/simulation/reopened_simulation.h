@@ -13,8 +13,9 @@ namespace kaldo {
 /// their estimated probabilities. The figures have the digits of the reports, six or eight.
 ///
 /// What no report tells is not a number, or empty: without subsets the standard errors, the
-/// estimates of single origins and those of allocations that may never have been made, and always the allocations behind the figures (`average`, `rows`,
-/// `table`, `states`, `scan`, `reliability`).
+/// estimates of single origins and those of allocations that may never have been made, and always
+/// the allocations behind the figures (`average`, `rows`, `table`, `states`, `scan`,
+/// `reliability`).
 ///
 /// `settings` has the files where they are now, with the recorded contents. A report that is
 /// missing, was changed or cannot be understood is a Problem.

@@ -107,8 +107,9 @@ class FlowWindow : public QDialog {
   void CopyCommand();
   void ShowDestination(const FlowPage& page);
 
-  /// Makes room for all screens at the first one, as far as the monitor has it: the window then keeps
-  /// its size, and its buttons their place. Only a screen that has grown since makes it larger.
+  /// Makes room for all screens at the first one, as far as the monitor has it: the window then
+  /// keeps its size, and its buttons their place. Only a screen that has grown since makes it
+  /// larger.
   void FitScreens();
 
   OpenedFiles& opened_;
