@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
@@ -147,15 +148,13 @@ ResultTable::ResultTable(const QString& name, QWidget* parent) : QTableView(pare
 
 void ResultTable::AddActions() {
   setContextMenuPolicy(Qt::ActionsContextMenu);
-  const auto add = [this](std::string_view text, QKeySequence::StandardKey key, auto act) {
+  const auto add = [this](std::string_view text, auto act) {
     auto* const action = new QAction(Text(text), this);
-    action->setShortcut(key);
-    action->setShortcutContext(Qt::WidgetShortcut);
     connect(action, &QAction::triggered, this, act);
     addAction(action);
   };
-  add("&Copy rows", QKeySequence::Copy, [this] { CopyRows(); });
-  add("Select &all", QKeySequence::SelectAll, [this] { selectAll(); });
+  add("&Copy rows", [this] { CopyRows(); });
+  add("Select &all", [this] { selectAll(); });
 }
 
 void ResultTable::setModel(QAbstractItemModel* model) {
@@ -240,6 +239,15 @@ void ResultTable::ExportRows(const QString& suggested) {
 
 bool ResultTable::SaveCsv(const QString& path) {
   return SaveFile(window(), path, CsvText(*model()));
+}
+
+void ResultTable::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Copy)) {
+    CopyRows();
+    event->accept();
+    return;
+  }
+  QTableView::keyPressEvent(event);
 }
 
 }  // namespace kaldo

@@ -55,6 +55,9 @@ class ResultTable : public QTableView {
 
   QSize minimumSizeHint() const override;
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void AddActions();
   void AppendRows(int first, int last, QString& text) const;
