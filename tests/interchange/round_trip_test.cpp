@@ -67,8 +67,8 @@ class StudyMaker {
       return;
     }
     std::string name = std::vector<std::string>{"*", "UC", "Adult of the pond ", "0"}[Draw(0, 3)];
-    for (std::uint32_t k = Draw(0, 6); k > 0; --k) {
-      name += signs_[Draw(0, static_cast<std::uint32_t>(signs_.size()) - 1)];
+    for (std::uint32_t k = Draw(0, 3); k > 0; --k) {
+      name.append(Draw(1, 9), signs_[Draw(0, static_cast<std::uint32_t>(signs_.size()) - 1)]);
     }
     names.Add({kind, code, name + code + (Draw(0, 3) == 0 ? "_" : "")});
   }
