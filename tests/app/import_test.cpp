@@ -6,6 +6,7 @@
 #include <QTableWidget>
 #include <filesystem>
 
+#include "app/base/command_text.h"
 #include "app/base/text.h"
 #include "app/support/desktop_test.h"
 
@@ -90,8 +91,8 @@ TEST_F(ImportTest, AGenepopFileIsRecognisedConvertedAndAllocated) {
   EXPECT_EQ(test::ReadFile("data/foreign/pond-imported/note.txt"), "mine\n");
   fs::remove("data/foreign/pond-imported/note.txt");
   ExpectAsCommandLine("data/foreign/pond-imported",
-                      Text("kaldo import data/foreign/pond.gen --offspring-populations pop3 --to "
-                           "data/foreign/pond-imported"));
+                      CommandHere("kaldo import data/foreign/pond.gen --offspring-populations pop3 "
+                                  "--to data/foreign/pond-imported"));
 }
 
 TEST_F(ImportTest, TablesBySexWithFaultsAreConvertedOnceTheyAreSettled) {
@@ -124,9 +125,9 @@ TEST_F(ImportTest, TablesBySexWithFaultsAreConvertedOnceTheyAreSettled) {
   Go(script_);
   ExpectAsCommandLine("p", command_);
   ExpectAsCommandLine("data/foreign/adults-imported",
-                      Text("kaldo import --parents data/foreign/adults.csv --offspring "
-                           "data/foreign/young.csv --missing-parents drop-individuals --to "
-                           "data/foreign/adults-imported"));
+                      CommandHere("kaldo import --parents data/foreign/adults.csv --offspring "
+                                  "data/foreign/young.csv --missing-parents drop-individuals --to "
+                                  "data/foreign/adults-imported"));
 }
 
 }  // namespace
