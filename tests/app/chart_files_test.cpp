@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Charts on the screen and as files, read back without the program that wrote them.
 #include <QApplication>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QImage>
+#include <QPushButton>
+#include <QSpinBox>
 #include <QTableView>
 #include <QXmlStreamReader>
 #include <clocale>
@@ -107,6 +111,25 @@ TEST_F(ChartFilesTest, WritesPicturesForPaperWhateverTheScreen) {
   EXPECT_TRUE(pdf.starts_with("%PDF"));
   // 720 x 450 units of 1/96 inch are 540 x 337.5 points.
   EXPECT_NE(pdf.find("/MediaBox [0 0 540"), std::string::npos);
+}
+
+TEST_F(ChartFilesTest, HasTheSizeThatIsChosenInMillimetres) {
+  ChartPanel panel(Text("Figures"), Qt::Horizontal, Text("."), nullptr);
+  panel.Show(SomeBars());
+  panel.show();
+  Script script;
+  script.Await("ChartWidth").Do([](QWidget& dialog) {
+    test::Find<QSpinBox>(dialog, "ChartWidth").setValue(254);
+    test::Find<QSpinBox>(dialog, "ChartHeight").setValue(127);
+  });
+  script.Press(Qt::Key_Return);
+  EXPECT_TRUE(script.Run([&] { test::Find<QPushButton>(panel, "FiguresSize").click(); }));
+  test::Find<QPushButton>(panel, "FiguresPicture").click();
+  // 10 x 5 inches of 300 dots each.
+  EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(3000, 1500));
+  // A tip tells the numbers of the bar that the mouse is over.
+  EXPECT_EQ(Bytes(test::Find<ChartView>(panel, "FiguresChart").ValuesAt(0)),
+            "class: 2 C\nshare: 0.333333\nshare sd: 0.0123457");
 }
 
 TEST_F(ChartFilesTest, FollowsThePaletteOfTheScreen) {

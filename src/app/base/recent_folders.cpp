@@ -12,8 +12,7 @@ namespace {
 constexpr qsizetype kMostFolders = 8;
 
 QSettings Kept() {
-  return QSettings(QSettings::IniFormat, QSettings::UserScope, Text("kaldo"),
-                   Text("kaldo-desktop"));
+  return {QSettings::IniFormat, QSettings::UserScope, Text("kaldo"), Text("kaldo-desktop")};
 }
 
 QString Key() { return Text("recent_results"); }

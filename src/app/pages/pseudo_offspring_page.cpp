@@ -63,6 +63,7 @@ PseudoOffspringPage::PseudoOffspringPage(Flow flow)
   auto* const column = new QVBoxLayout(this);
   column->addWidget(group);
   column->addWidget(box_);
+  column->addStretch(1);
   connect(number_, &QLineEdit::textChanged, this, [this] { ShowShares(); });
 }
 

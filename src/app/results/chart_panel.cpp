@@ -70,7 +70,7 @@ void ChartPanel::AddButtons(QBoxLayout& layout) {
   save->setToolTip(Text("Save the chart for an article (SVG, PDF, PNG) or its numbers (CSV)."));
   auto* size = NewButton("Si&ze...", (name_ + Text("Size")).toStdString(),
                          "Choose the width and the height of a saved chart in millimetres.");
-  auto* picture = NewButton("Copy &picture", (name_ + Text("Picture")).toStdString(),
+  auto* picture = NewButton("Copy p&icture", (name_ + Text("Picture")).toStdString(),
                             "Copy the chart as a picture, for a text or a slide.");
   auto* copy = new QPushButton(Text("Copy &table"));
   copy->setObjectName(name_ + Text("Copy"));

@@ -450,7 +450,7 @@ bool ChartView::SaveChart(const QString& path, std::optional<QSize> wanted) {
 }
 
 QSize ChartView::minimumSizeHint() const {
-  return {fontMetrics().averageCharWidth() * 40, fontMetrics().lineSpacing() * 14};
+  return {fontMetrics().averageCharWidth() * 40, fontMetrics().lineSpacing() * 9};
 }
 
 QSize ChartView::sizeHint() const {

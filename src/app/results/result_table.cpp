@@ -191,6 +191,11 @@ int ResultTable::FullWidth() const {
   return horizontalHeader()->length() + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
 }
 
+QSize ResultTable::sizeHint() const {
+  const int widest = kWidestColumn * fontMetrics().averageCharWidth();
+  return {std::min(FullWidth(), widest), QTableView::sizeHint().height()};
+}
+
 QSize ResultTable::minimumSizeHint() const {
   const int height = horizontalHeader()->sizeHint().height() + 2 * frameWidth() +
                      horizontalScrollBar()->sizeHint().height() +

@@ -54,6 +54,7 @@ class ResultTable : public QTableView {
   int FullWidth() const;
 
   QSize minimumSizeHint() const override;
+  QSize sizeHint() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
