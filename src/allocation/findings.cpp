@@ -18,14 +18,17 @@ bool BothNamed(const OffspringConfidence& offspring) {
 
 }  // namespace
 
+bool KnowsCertainty(const AllocationResult& result) {
+  return result.confidence && result.confidence->is_meaningful;
+}
+
 const OffspringConfidence* ConfidenceIn(const AllocationResult& result, std::size_t offspring) {
-  return result.confidence && result.confidence->is_meaningful
-             ? &result.confidence->offspring[offspring]
-             : nullptr;
+  return KnowsCertainty(result) ? &result.confidence->offspring[offspring] : nullptr;
 }
 
 AllocationFindings FindingsOf(const AllocationResult& result) {
   AllocationFindings findings;
+  findings.knows_certainty = KnowsCertainty(result);
   findings.offspring = result.outcomes.size();
   for (std::size_t place = 0; place < findings.offspring; ++place) {
     const OffspringConfidence* const confidence = ConfidenceIn(result, place);
@@ -35,7 +38,6 @@ AllocationFindings FindingsOf(const AllocationResult& result) {
       findings.both_collected += both ? 1U : 0U;
       continue;
     }
-    findings.knows_certainty = true;
     findings.both_collected += BothNamed(*confidence) ? 1U : 0U;
     if (const auto doubt = DoubtAbout(*confidence)) {
       findings.to_check.push_back({place, *doubt});

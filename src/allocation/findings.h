@@ -12,6 +12,9 @@
 
 namespace kaldo {
 
+/// True where posteriors were computed.
+bool KnowsCertainty(const AllocationResult& result);
+
 /// What is known of the certainty of one offspring, counted from 0 in its file; nothing where no
 /// posteriors were computed.
 const OffspringConfidence* ConfidenceIn(const AllocationResult& result, std::size_t offspring);

@@ -66,7 +66,7 @@ std::vector<ParentSummary> SummariesOfParents(Flow flow, const AllocationInput& 
   for (std::size_t place = 0; place < reported.size(); ++place) {
     counter.Count(reported[place], ConfidenceIn(result, place));
   }
-  const bool has_confidence = result.confidence && result.confidence->is_meaningful;
+  const bool has_confidence = KnowsCertainty(result);
   if (has_confidence) {
     for (const NamedParents& parents : NamedParentsOf(result.confidence->offspring)) {
       counter.CountNamed(parents);

@@ -208,6 +208,7 @@ AllocationFlowWindow& MainMenu::AllocationScreens(Flow flow) {
   auto& screens = allocations_.at(Place(flow));
   if (!screens) {
     screens = std::make_unique<AllocationFlowWindow>(flow, opened_, this);
+    screens->SetOnTrial([this](const SimulationSettings& trial) { return RunTrial(trial); });
   }
   return *screens;
 }
@@ -251,6 +252,13 @@ void MainMenu::StartWith(const RunSettings& settings) {
     SimulationScreens(simulation->flow).Set(*simulation);
     StartSimulation(simulation->flow);
   }
+}
+
+std::optional<std::string> MainMenu::RunTrial(const SimulationSettings& trial) {
+  const QString project = project_->text();
+  StartWith(trial);
+  project_->setText(project);
+  return SimulationScreens(trial.flow).Found();
 }
 
 void MainMenu::StartExample() { StartExampleOf(Flow::kNonSexed, false); }

@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <array>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "app/base/opened_files.h"
 #include "app/flows/record_opener.h"
@@ -56,6 +58,9 @@ class MainMenu : public QWidget {
   void StartAllocation(Flow flow);
   void StartSimulation(Flow flow);
   void StartWith(const RunSettings& settings);
+  /// Opens a simulation that tries the results of an allocation, and gives back what it found.
+  std::optional<std::string> RunTrial(const SimulationSettings& trial);
+
   void StartExampleOf(Flow flow, bool simulation);
   bool HasProject();
   QPushButton* NewResultsButton();

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whole flows, clicked through from the introduction to the results. What the windows write must be
 // what the command line writes, to the byte; the command is the one that they offer to copy.
+#include <QApplication>
+#include <QClipboard>
 #include <QDir>
+#include <QTextBrowser>
 
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
@@ -59,6 +62,46 @@ TEST_F(FlowsTest, TheIntroductionLeadsToAnExampleInFourClicks) {
       "TryExample");
   EXPECT_EQ(Told(script_), Sentences{kCompleted});
   ExpectAsCommandLine("kaldo-example/lake", command_);
+}
+
+/// The text of a summary in any open window of results; empty where there is none.
+QTextBrowser* SummaryWith(const QString& text) {
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    auto* const summary = window->findChild<QTextBrowser*>(Text("SummaryText"));
+    if (summary != nullptr && summary->toPlainText().contains(text)) {
+      return summary;
+    }
+  }
+  return nullptr;
+}
+
+TEST_F(FlowsTest, ResultsLeadToASimulationLikeTheirRunAndTakeItsFigures) {
+  const QString figures = Text("A simulation like this run (5 x 50 pseudo-offspring)");
+  RunProgram(
+      [&](Script& script) {
+        script.Await("NonSexedAllocationFiles").Click("Ok").Await("ErrorModel");
+        script.Click("Uniform").Type("Epsilon", Text("0.02")).Click("Ok");
+        script.Await("ChoiceOfLoci").Click("Ok").Answer().Click("SummaryTrial");
+        script.Await("NonSexedSimulationStart").Type("Iterations", Text("5"));
+        for (const char* screen :
+             {"Parents", "PseudoOffspring", "Tolerance", "Strategy", "ChoiceOfLoci", "Output"}) {
+          script.Click("Ok").Await(screen);
+        }
+        script.Click("Ok").Answer().Click("CopyCommand");
+        script.Do([this](QWidget&) { command_ = QGuiApplication::clipboard()->text(); });
+        script.Click("Close").Until([&] { return SummaryWith(figures) != nullptr; },
+                                    "see the figures");
+        script.Do([&](QWidget&) { SummaryWith(figures)->window()->close(); });
+        script.Await("MainMenu").Do([](QWidget&) {
+          EXPECT_EQ(test::TextIn("Project"), Text("kaldo-example/lake"));
+        });
+      },
+      "TryExample");
+  EXPECT_EQ(Told(script_), (Sentences{kCompleted, kSimulated}));
+  for (const char* part : {"--allocate-with run", "--error uniform=0.02", "--undefined-like"}) {
+    EXPECT_TRUE(command_.contains(Text(part))) << part;
+  }
+  ExpectAsCommandLine("kaldo-example/lake-simulation", command_);
 }
 
 TEST_F(FlowsTest, AllocatesTypedFiles) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/flows/allocation_flow_window.h"
 
+#include <QPointer>
+
 #include "allocation/allocation_command.h"
 #include "allocation/allocation_file_names.h"
 #include "allocation/allocation_record.h"
@@ -200,6 +202,15 @@ void AllocationFlowWindow::Run() {
   const bool out_of_step = run->result.stepping.any_out_of_step;
   auto* const results = new AllocationWindow(*settings, std::move(*run), ResultsFolder());
   results->SetCommand(CommandHere(CommandOf(*settings)));
+  if (start_trial_) {
+    const QPointer<AllocationWindow> asking(results);  // it may be closed meanwhile
+    results->OfferTrial([asking, start = start_trial_](const SimulationSettings& trial) {
+      const auto found = start(trial);
+      if (asking && found) {
+        asking->ShowTrial(Text(*found));
+      }
+    });
+  }
   accept();
   results->show();
   if (out_of_step) {

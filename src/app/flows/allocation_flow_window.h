@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <string>
+#include <utility>
 
 #include "allocation/allocation_input.h"
 #include "app/flows/flow_window.h"
@@ -11,6 +14,7 @@ namespace kaldo {
 
 class AllocationFilePage;
 class ErrorPage;
+struct SimulationSettings;
 
 /// The screens of an allocation, sexed or not: files, transmission error, choice of loci, where
 /// wanted the cumulative sequence, run.
@@ -20,6 +24,11 @@ class AllocationFlowWindow : public FlowWindow {
 
   /// Fills all screens.
   void Set(const AllocationSettings& settings);
+
+  /// Called when results are to be tried by a simulation, whose figures it gives back; nothing
+  /// where it was not run.
+  using StartTrial = std::function<std::optional<std::string>(const SimulationSettings&)>;
+  void SetOnTrial(StartTrial start) { start_trial_ = std::move(start); }
 
  protected:
   FlowPage& FirstPage() override;
@@ -49,6 +58,7 @@ class AllocationFlowWindow : public FlowWindow {
   void Run();
 
   Flow flow_;
+  StartTrial start_trial_;
   AllocationFilePage* files_;
   ErrorPage* error_;
   LociScreens loci_;

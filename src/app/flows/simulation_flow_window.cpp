@@ -30,6 +30,7 @@
 #include "simulation/simulation_command.h"
 #include "simulation/simulation_record.h"
 #include "simulation/simulation_run.h"
+#include "simulation/trial_of_allocation.h"
 
 namespace kaldo {
 
@@ -50,6 +51,7 @@ SimulationFlowWindow::SimulationFlowWindow(Flow flow, OpenedFiles& opened, QWidg
 
 void SimulationFlowWindow::Set(const SimulationSettings& settings) {
   of_record_ = settings;
+  found_.reset();
   start_->Set(settings);
   parents_->Set(settings);
   offspring_->SetNumber(settings.offspring_per_iteration);
@@ -368,6 +370,7 @@ void SimulationFlowWindow::Run() {
     return Refuse(run.error());
   }
   settings.seed = run->result.seed;
+  found_ = TrialSentence(settings, run->result);
   const bool out_of_step = run->result.stepping.any_out_of_step;
   auto* const results = new SimulationWindow(settings, std::move(*run), ResultsFolder());
   results->SetCommand(CommandHere(CommandOf(settings)));

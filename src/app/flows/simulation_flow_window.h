@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "allocation/allocation_settings.h"
 #include "app/flows/flow_window.h"
@@ -27,6 +28,9 @@ class SimulationFlowWindow : public FlowWindow {
 
   /// Fills all screens.
   void Set(const SimulationSettings& settings);
+
+  /// What the run of these screens found, in a sentence; nothing before one is done.
+  const std::optional<std::string>& Found() const { return found_; }
 
  protected:
   FlowPage& FirstPage() override;
@@ -86,6 +90,7 @@ class SimulationFlowWindow : public FlowWindow {
   OutputPage* output_;
   SimulationSettings more_;  ///< of a record: what no screen shows is run as it was
   std::optional<Loaded> passed_;
+  std::optional<std::string> found_;
   SimulationSettings of_record_;  ///< opened last, for the settings that have no field
 };
 

@@ -108,7 +108,8 @@ void AddFindings(const AllocationSettings& settings, const AllocationRun& run, S
   const ConfidenceSummary sides =
       SummaryOf(run.result.confidence->offspring, ReportedBy(settings.flow, run.result));
   summary.notes +=
-      Text(fmt::format("Of {} parents {} are sure, {} likely, {} open and {} not collected; of the "
+      Text(fmt::format("Of the {} parents of the offspring {} are sure, {} likely, {} open and {} "
+                       "not collected; of the "
                        "{} that are named "
                        "{:.1f} are expected to be wrong.",
                        sides.Sides(), sides.surely_named, sides.named, sides.open,

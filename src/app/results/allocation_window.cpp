@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "allocation/findings.h"
+#include "app/base/messages.h"
 #include "app/base/text.h"
 #include "app/results/alleles_page.h"
 #include "app/results/allocation_summary.h"
@@ -11,6 +12,7 @@
 #include "app/results/loci_use_page.h"
 #include "app/results/offspring_page.h"
 #include "app/results/parents_page.h"
+#include "simulation/trial_of_allocation.h"
 
 namespace kaldo {
 
@@ -20,6 +22,7 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
   setObjectName(Text("AllocationResults"));
   const SharedAllocation shared = std::make_shared<const FinishedAllocation>(
       FinishedAllocation{std::move(settings), std::move(run)});
+  allocation_ = shared;
   auto* offspring = new OffspringPage(shared, Folder());
   AddSummary(shared, *offspring);
   AddTab(offspring, Text("&Offspring"),
@@ -45,10 +48,10 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
 
 void AllocationWindow::AddSummary(const SharedAllocation& shared, OffspringPage& offspring) {
   const AllocationResult& result = shared->run.result;
-  auto* summary = new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
-                                  ProportionsChart(shared->settings.flow, result),
-                                  ProportionsTable(result.LastShares()), Folder());
-  summary->SetOnCheck([this, &offspring, checks = FindingsOf(result).to_check](std::size_t line) {
+  summary_ = new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
+                             ProportionsChart(shared->settings.flow, result),
+                             ProportionsTable(result.LastShares()), Folder());
+  summary_->SetOnCheck([this, &offspring, checks = FindingsOf(result).to_check](std::size_t line) {
     if (line < std::min(checks.size(), kMostToCheck)) {
       offspring.ShowOffspring(checks[line].place);
     } else {
@@ -56,7 +59,21 @@ void AllocationWindow::AddSummary(const SharedAllocation& shared, OffspringPage&
     }
     ShowTab(offspring);
   });
-  AddTab(summary, Text("&Summary"), Text("What was found, what to check, and what was run."));
+  AddTab(summary_, Text("&Summary"), Text("What was found, what to check, and what was run."));
 }
+
+void AllocationWindow::OfferTrial(std::function<void(const SimulationSettings&)> start) {
+  summary_->OfferTrial([this, start = std::move(start)] {
+    const auto trial =
+        TrialOf(allocation_->settings, allocation_->run.input, allocation_->run.result);
+    if (trial) {
+      start(*trial);
+    } else {
+      ShowFailure(this, Text(trial.error()));
+    }
+  });
+}
+
+void AllocationWindow::ShowTrial(const QString& figures) { summary_->AddNote(figures); }
 
 }  // namespace kaldo

@@ -147,9 +147,7 @@ void ComparisonModel::FindOthers(std::size_t offspring) {
   }
 }
 
-bool ComparisonModel::HasOthers() const {
-  return ConfidenceIn(allocation_->run.result, 0) != nullptr;
-}
+bool ComparisonModel::HasOthers() const { return KnowsCertainty(allocation_->run.result); }
 
 void ComparisonModel::Clear() {
   beginResetModel();

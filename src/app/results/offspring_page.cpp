@@ -46,7 +46,7 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, const QString& 
   table.FitColumns();
   for (int column = 0; column < model_->columnCount(); ++column) {
     table.setColumnHidden(column, NeedsConfidence(static_cast<OffspringColumn>(column)) &&
-                                      ConfidenceIn(allocation->run.result, 0) == nullptr);
+                                      !KnowsCertainty(allocation->run.result));
   }
   auto* splitter = new QSplitter(Qt::Vertical);
   splitter->addWidget(NewUpperHalf());
@@ -66,7 +66,7 @@ OffspringPage::OffspringPage(const SharedAllocation& allocation, const QString& 
 
 /// The table with what its marks mean.
 QWidget* OffspringPage::NewUpperHalf() {
-  if (ConfidenceIn(allocation_->run.result, 0) == nullptr) {
+  if (!KnowsCertainty(allocation_->run.result)) {
     return list_;
   }
   QStringList meanings;
@@ -106,7 +106,7 @@ void OffspringPage::FillChoices() {
   OffspringChoice none;
   none.only_without_pair = true;
   AddChoice(Text("no pair"), none);
-  if (ConfidenceIn(allocation_->run.result, 0) == nullptr) {
+  if (!KnowsCertainty(allocation_->run.result)) {
     return;
   }
   OffspringChoice check;

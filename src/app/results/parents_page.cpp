@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "allocation/findings.h"
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
 #include "app/results/parents_model.h"
@@ -27,7 +28,7 @@ constexpr SearchableTexts kTexts{"Parents",
 QString FamiliesText(const AllocationResult& result, std::size_t without, int parents) {
   QString text =
       Text("%1 of %2 collected parents have no offspring here.").arg(without).arg(parents);
-  if (result.confidence && result.confidence->is_meaningful) {
+  if (KnowsCertainty(result)) {
     const auto named = NamedParentsOf(result.confidence->offspring);
     text += Text(" ") + Text(SibshipsSentence(SibshipsOf(named))) + Text("\n") +
             Text(BreedersSentence(EffectiveBreedersOf(named)));

@@ -74,7 +74,11 @@ SummaryPage::SummaryPage(Summary summary, const Chart& chart, const DataTable& t
       text_(new QTextBrowser),
       to_check_(new QListWidget),
       more_(NewButton("Files an&d settings", "SummaryMore",
-                      "Show which files and settings this run had, and what it wrote.")) {
+                      "Show which files and settings this run had, and what it wrote.")),
+      trial_(NewButton("How far can this be tr&usted?", "SummaryTrial",
+                       "Simulate offspring of these parents, whose origin is known, and see how "
+                       "often such allocations are right. The screens are filled in for you; the "
+                       "figures come back here.")) {
   auto* figures = new ChartPanel(Text("Summary"), Qt::Vertical, folder, nullptr);
   figures->Show(chart, table);
   auto* splitter = new QSplitter;
@@ -110,7 +114,12 @@ QWidget* SummaryPage::NewTextSide() {
   layout->addWidget(text_, 1);
   layout->addWidget(label);
   layout->addWidget(to_check_);
-  layout->addWidget(more_, 0, Qt::AlignLeft);
+  auto* row = new QHBoxLayout;
+  row->addWidget(more_);
+  row->addWidget(trial_);
+  row->addStretch();
+  layout->addLayout(row);
+  trial_->hide();
   const bool checks = !summary_.to_check.isEmpty();
   label->setVisible(checks);
   to_check_->setVisible(checks);
@@ -120,6 +129,16 @@ QWidget* SummaryPage::NewTextSide() {
 }
 
 void SummaryPage::ShowText() { text_->setHtml(HtmlOf(summary_, more_->isChecked())); }
+
+void SummaryPage::AddNote(const QString& note) {
+  summary_.notes += note;
+  ShowText();
+}
+
+void SummaryPage::OfferTrial(std::function<void()> on_trial) {
+  trial_->show();
+  connect(trial_, &QPushButton::clicked, this, std::move(on_trial));
+}
 
 void SummaryPage::SetOnCheck(std::function<void(std::size_t)> on_check) {
   const auto choose = [this, on_check = std::move(on_check)](const QListWidgetItem* item) {

@@ -40,12 +40,18 @@ QStringList FilesPresent(const QString& folder, const std::vector<std::string_vi
 /// The first tab of a results window: what was found and what to check, as text to be read and
 /// copied, beside the main figures as a chart and a table.
 ///
-/// Object names: "SummaryText", with a headline also "SummaryToCheck" and "SummaryMore", and those
-/// of a ChartPanel "Summary".
+/// Object names: "SummaryText", with a headline also "SummaryToCheck" and "SummaryMore", where a
+/// trial is offered "SummaryTrial", and those of a ChartPanel "Summary".
 class SummaryPage : public QWidget {
  public:
   SummaryPage(Summary summary, const Chart& chart, const DataTable& table, const QString& folder,
               QWidget* parent = nullptr);
+
+  /// Tells one thing more.
+  void AddNote(const QString& note);
+
+  /// Offers to try how far these results can be trusted, and calls `on_trial` when that is wanted.
+  void OfferTrial(std::function<void()> on_trial);
 
   /// Called with the place of a line of what to check when the user wants to see it.
   void SetOnCheck(std::function<void(std::size_t)> on_check);
@@ -58,6 +64,7 @@ class SummaryPage : public QWidget {
   QTextBrowser* text_;
   QListWidget* to_check_;
   QPushButton* more_;
+  QPushButton* trial_;
 };
 
 }  // namespace kaldo
