@@ -194,7 +194,9 @@ void MainMenu::FillResultsMenu(QMenu& menu) {
   }
 }
 
-void MainMenu::OpenResultsOf(const std::string& path) { OpenResults(this, path); }
+void MainMenu::OpenResultsOf(const std::string& path) {
+  OpenResults(this, path, [this](const SimulationSettings& trial) { return RunTrial(trial); });
+}
 
 void MainMenu::ChooseResults() {
   const QString picked = QFileDialog::getExistingDirectory(

@@ -45,7 +45,7 @@ class KeyboardTest : public test::WorkplaceTest {
     script_.Do([this](QWidget&) { command_ = QApplication::clipboard()->text(); });
     Confirm("qt_msgbox_label");
     Confirm("Tabs");
-    script_.Press(Qt::Key_Escape).Await("MainMenu").CloseWindow();
+    Alt(Qt::Key_L).Await("MainMenu").CloseWindow();
     ASSERT_TRUE(script_.Run([] { EXPECT_EQ(RunDesktop({}), 0); }));
   }
 };

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/flows/allocation_flow_window.h"
 
-#include <QPointer>
-
 #include "allocation/allocation_command.h"
 #include "allocation/allocation_file_names.h"
 #include "allocation/allocation_record.h"
@@ -203,13 +201,7 @@ void AllocationFlowWindow::Run() {
   auto* const results = new AllocationWindow(*settings, std::move(*run), ResultsFolder());
   results->SetCommand(CommandHere(CommandOf(*settings)));
   if (start_trial_) {
-    const QPointer<AllocationWindow> asking(results);  // it may be closed meanwhile
-    results->OfferTrial([asking, start = start_trial_](const SimulationSettings& trial) {
-      const auto found = start(trial);
-      if (asking && found) {
-        asking->ShowTrial(Text(*found));
-      }
-    });
+    results->OfferTrial(start_trial_);
   }
   accept();
   results->show();

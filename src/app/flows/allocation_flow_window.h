@@ -9,12 +9,12 @@
 #include "allocation/allocation_input.h"
 #include "app/flows/flow_window.h"
 #include "app/flows/loci_screens.h"
+#include "app/results/start_trial.h"
 
 namespace kaldo {
 
 class AllocationFilePage;
 class ErrorPage;
-struct SimulationSettings;
 
 /// The screens of an allocation, sexed or not: files, transmission error, choice of loci, where
 /// wanted the cumulative sequence, run.
@@ -25,9 +25,7 @@ class AllocationFlowWindow : public FlowWindow {
   /// Fills all screens.
   void Set(const AllocationSettings& settings);
 
-  /// Called when results are to be tried by a simulation, whose figures it gives back; nothing
-  /// where it was not run.
-  using StartTrial = std::function<std::optional<std::string>(const SimulationSettings&)>;
+  /// Called when results are to be tried by a simulation.
   void SetOnTrial(StartTrial start) { start_trial_ = std::move(start); }
 
  protected:

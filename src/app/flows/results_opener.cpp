@@ -87,32 +87,39 @@ void Show(ResultsWindow* window, const QString& note, const QString& command) {
 
 /// Reads a run with `read`, which gets an observer, and shows it in a `Window`.
 template <typename Window, typename Run, typename Settings, typename Read>
-void ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord& checked,
-                 const Settings& settings, Read read) {
+Window* ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord& checked,
+                    const Settings& settings, Read read) {
   tl::expected<Run, Problem> run;
   const bool done = RunWithProgress(parent, Text("Open results"),
                                     [&](RunObserver& observer) { run = read(observer); });
   if (done && !run) {
     ShowProblem(parent, run.error());
-  } else if (done) {
-    const QString note = Text(fmt::format("Opened from the reports of {}; nothing was run again.",
-                                          checked.record.date)) +
-                         Untold(*run);
-    Show(new Window(settings, std::move(*run), folder), note,
-         CommandInFolder(WorkingFolderNow(checked.record, checked.path),
-                         CommandOf(std::get<Settings>(checked.then))));
   }
+  if (!done || !run) {
+    return nullptr;
+  }
+  const QString note = Text(fmt::format("Opened from the reports of {}; nothing was run again.",
+                                        checked.record.date)) +
+                       Untold(*run);
+  auto* const window = new Window(settings, std::move(*run), folder);
+  Show(window, note,
+       CommandInFolder(WorkingFolderNow(checked.record, checked.path),
+                       CommandOf(std::get<Settings>(checked.then))));
+  return window;
 }
 
-void ShowRun(QWidget* parent, const CheckedRecord& checked) {
+void ShowRun(QWidget* parent, const CheckedRecord& checked, const StartTrial& start_trial) {
   const RecordedReports reports(checked.record, checked.path);
   const QString folder = QFileInfo(PathText(checked.path)).absolutePath();
   if (const auto* now = std::get_if<AllocationSettings>(&checked.now)) {
-    ReadAndShow<AllocationWindow, AllocationRun>(
+    auto* const window = ReadAndShow<AllocationWindow, AllocationRun>(
         parent, folder, checked, *now, [&](RunObserver& observer) {
           return ReopenAllocation(std::get<AllocationSettings>(checked.then), *now, checked.record,
                                   reports, observer);
         });
+    if (window != nullptr) {
+      window->OfferTrial(start_trial);
+    }
   } else if (const auto* simulation = std::get_if<SimulationSettings>(&checked.now)) {
     ReadAndShow<SimulationWindow, SimulationRun>(
         parent, folder, checked, *simulation, [&](RunObserver& /*observer*/) {
@@ -123,7 +130,7 @@ void ShowRun(QWidget* parent, const CheckedRecord& checked) {
 
 }  // namespace
 
-void OpenResults(QWidget* parent, const std::string& path) {
+void OpenResults(QWidget* parent, const std::string& path, const StartTrial& start_trial) {
   const std::string record = RecordNamedBy(path);
   try {
     // What a run that died left half done is settled first, as before any other use of the folder.
@@ -138,7 +145,7 @@ void OpenResults(QWidget* parent, const std::string& path) {
   if (!checked) {
     return ShowProblem(parent, checked.error());
   }
-  ShowRun(parent, *checked);
+  ShowRun(parent, *checked, start_trial);
 }
 
 }  // namespace kaldo

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "app/results/start_trial.h"
+
 class QWidget;
 
 namespace kaldo {
@@ -11,6 +13,7 @@ namespace kaldo {
 /// nothing is computed anew but what follows from the pairs of an offspring. `path` names the
 /// record or its folder. Input files are looked for as everywhere, see LocateRecordedFiles. A file
 /// that is missing or no longer what it was is told, and nothing is shown.
-void OpenResults(QWidget* parent, const std::string& path);
+/// `start_trial` runs a simulation like an allocation, see AllocationWindow::OfferTrial.
+void OpenResults(QWidget* parent, const std::string& path, const StartTrial& start_trial);
 
 }  // namespace kaldo

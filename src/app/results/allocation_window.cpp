@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/allocation_window.h"
 
+#include <QPointer>
 #include <algorithm>
 
 #include "allocation/findings.h"
@@ -62,18 +63,19 @@ void AllocationWindow::AddSummary(const SharedAllocation& shared, OffspringPage&
   AddTab(summary_, Text("&Summary"), Text("What was found, what to check, and what was run."));
 }
 
-void AllocationWindow::OfferTrial(std::function<void(const SimulationSettings&)> start) {
+void AllocationWindow::OfferTrial(StartTrial start) {
   summary_->OfferTrial([this, start = std::move(start)] {
     const auto trial =
         TrialOf(allocation_->settings, allocation_->run.input, allocation_->run.result);
-    if (trial) {
-      start(*trial);
-    } else {
-      ShowFailure(this, Text(trial.error()));
+    if (!trial) {
+      return ShowFailure(this, Text(trial.error()));
+    }
+    const QPointer<AllocationWindow> asking(this);  // it may be closed meanwhile
+    const auto figures = start(*trial);
+    if (asking && figures) {
+      summary_->AddNote(Text(*figures));
     }
   });
 }
-
-void AllocationWindow::ShowTrial(const QString& figures) { summary_->AddNote(figures); }
 
 }  // namespace kaldo

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <functional>
-
 #include "allocation/allocation_run.h"
 #include "app/results/finished_runs.h"
 #include "app/results/results_window.h"
+#include "app/results/start_trial.h"
 
 namespace kaldo {
 
@@ -19,12 +18,9 @@ class AllocationWindow : public ResultsWindow {
   AllocationWindow(AllocationSettings settings, AllocationRun run, QString folder,
                    QWidget* parent = nullptr);
 
-  /// Offers a simulation like this run, see TrialOf. `start` opens its screens; it is not called
-  /// where there is none, which is told.
-  void OfferTrial(std::function<void(const SimulationSettings&)> start);
-
-  /// Shows the figures of such a simulation in the summary.
-  void ShowTrial(const QString& figures);
+  /// Offers a simulation like this run, see TrialOf, and shows its figures in the summary. `start`
+  /// is not called where there is none, which is told.
+  void OfferTrial(StartTrial start);
 
  private:
   void AddSummary(const SharedAllocation& shared, OffspringPage& offspring);

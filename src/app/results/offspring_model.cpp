@@ -253,10 +253,10 @@ OffspringFilter::OffspringFilter(OffspringModel& model, QObject* parent)
 
 void OffspringFilter::Choose(const OffspringChoice& choice) {
   choice_ = choice;
-  invalidateFilter();
+  NarrowAgain();
 }
 
-bool OffspringFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {
+bool OffspringFilter::Accepts(int row) const {
   const AllocationOutcome& outcome = model_.Outcome(row);
   if (choice_.only_several_pairs && !HasSeveralPairs(outcome)) {
     return false;
@@ -281,7 +281,7 @@ bool OffspringFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) c
   return choice_.name.isEmpty() || model_.HasName(row, choice_.name);
 }
 
-bool OffspringFilter::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+bool OffspringFilter::IsBefore(const QModelIndex& left, const QModelIndex& right) const {
   return model_.IsBefore(static_cast<Column>(left.column()), left.row(), right.row());
 }
 

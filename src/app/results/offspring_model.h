@@ -79,8 +79,8 @@ class OffspringFilter : public RowFilter {
   void Choose(const OffspringChoice& choice);
 
  protected:
-  bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
-  bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+  bool Accepts(int row) const override;
+  bool IsBefore(const QModelIndex& left, const QModelIndex& right) const override;
 
  private:
   OffspringModel& model_;

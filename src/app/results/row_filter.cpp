@@ -25,14 +25,14 @@ void RowFilter::Arrange() {
   shown_.clear();
   std::fill(places_.begin(), places_.end(), -1);
   for (const int row : order_) {
-    if (filterAcceptsRow(row, {})) {
+    if (Accepts(row)) {
       places_[static_cast<std::size_t>(row)] = static_cast<int>(shown_.size());
       shown_.push_back(row);
     }
   }
 }
 
-void RowFilter::invalidateFilter() {
+void RowFilter::NarrowAgain() {
   beginResetModel();
   Arrange();
   endResetModel();
@@ -50,7 +50,7 @@ void RowFilter::sort(int column, Qt::SortOrder order) {
     std::stable_sort(order_.begin(), order_.end(), [&](int a, int b) {
       const QModelIndex left = sourceModel()->index(a, column);
       const QModelIndex right = sourceModel()->index(b, column);
-      return order == Qt::AscendingOrder ? lessThan(left, right) : lessThan(right, left);
+      return order == Qt::AscendingOrder ? IsBefore(left, right) : IsBefore(right, left);
     });
   }
   Arrange();

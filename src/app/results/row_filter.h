@@ -33,12 +33,12 @@ class RowFilter : public QAbstractProxyModel {
 
  protected:
   /// To be called when other rows are accepted than before.
-  void invalidateFilter();
+  void NarrowAgain();
 
-  virtual bool filterAcceptsRow(int row, const QModelIndex& parent) const = 0;
+  virtual bool Accepts(int row) const = 0;
 
   /// Equals stay in the order of the source.
-  virtual bool lessThan(const QModelIndex& left, const QModelIndex& right) const = 0;
+  virtual bool IsBefore(const QModelIndex& left, const QModelIndex& right) const = 0;
 
  private:
   void Arrange();
