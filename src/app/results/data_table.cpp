@@ -21,10 +21,7 @@ QString AsShown(const QString& cell) {
   if (IsSignOfNoParent(text) || !SpreadsheetReading(text)) {
     return cell;
   }
-  bool is_number = false;
-  const double value = cell.toDouble(&is_number);
-  const bool is_figure = is_number && (cell == ShortNumber(value) || cell == FullNumber(value));
-  return is_figure ? cell : QLatin1Char('\'') + cell;
+  return IsFigure(cell) ? cell : QLatin1Char('\'') + cell;
 }
 
 void AppendCsvRow(const QStringList& cells, QByteArray& csv) {
@@ -49,6 +46,12 @@ QString FullNumber(std::optional<double> value) {
     return Text("NA");
   }
   return std::isnan(*value) ? Text("nan") : Text(fmt::format("{}", *value));
+}
+
+bool IsFigure(const QString& cell) {
+  bool is_number = false;
+  const double value = cell.toDouble(&is_number);
+  return is_number && (cell == ShortNumber(value) || cell == FullNumber(value));
 }
 
 QByteArray CsvText(const DataTable& table) {

@@ -22,6 +22,9 @@ QString ShortNumber(std::optional<double> value);
 /// A value with as many digits as it takes to read back the same number; "NA" for nothing.
 QString FullNumber(std::optional<double> value);
 
+/// Whether a cell is a number as ShortNumber() or FullNumber() write it; 00012 and 1e5 are names.
+bool IsFigure(const QString& cell);
+
 /// Comma-separated values as every statistics program reads them (RFC 4180), in UTF-8. Before a
 /// name that a spreadsheet would take for a formula, a date or a number stands an apostrophe.
 QByteArray CsvText(const DataTable& table);

@@ -7,12 +7,15 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLocale>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
 
 #include "app/base/text.h"
+#include "app/results/copied_rows.h"
 #include "app/results/save_file.h"
 #include "base/number_text.h"
 
@@ -203,36 +206,23 @@ QSize ResultTable::minimumSizeHint() const {
   return {QTableView::minimumSizeHint().width(), height};
 }
 
-void ResultTable::AppendRows(int first, int last, QString& text) const {
-  for (int row = first; row <= last; ++row) {
-    for (int column = 0; column < model()->columnCount(); ++column) {
-      text += column == 0 ? QString() : QString(QLatin1Char('\t'));
-      text += model()->index(row, column).data().toString();
-    }
-    text += QLatin1Char('\n');
-  }
-}
-
-QString ResultTable::RowsText() const {
-  QStringList heads;
-  for (int column = 0; column < model()->columnCount(); ++column) {
-    heads += model()->headerData(column, Qt::Horizontal).toString();
-  }
-  QString text = heads.join(QLatin1Char('\t')) + QLatin1Char('\n');
+void ResultTable::CopyRows() const {
+  CopiedRows rows(*model(), QLocale::system().decimalPoint().front());
   // By ranges: a list of all selected cells of a large table would take minutes.
   QItemSelection ranges = selectionModel()->selection();
   std::sort(ranges.begin(), ranges.end(),
             [](const auto& a, const auto& b) { return a.top() < b.top(); });
   if (ranges.isEmpty()) {
-    AppendRows(0, model()->rowCount() - 1, text);
+    rows.Add(0, model()->rowCount() - 1);
   }
   for (const QItemSelectionRange& range : std::as_const(ranges)) {
-    AppendRows(range.top(), range.bottom(), text);
+    rows.Add(range.top(), range.bottom());
   }
-  return text;
+  auto* const copied = new QMimeData;
+  copied->setText(rows.Plain());
+  copied->setHtml(rows.Html());
+  QApplication::clipboard()->setMimeData(copied);
 }
-
-void ResultTable::CopyRows() const { QApplication::clipboard()->setText(RowsText()); }
 
 void ResultTable::ExportRows(const QString& suggested) {
   const QString path = AskWhereToSave(window(), Text("Export table"), suggested,

@@ -35,10 +35,7 @@ class ResultTable : public QTableView {
 
   void setModel(QAbstractItemModel* model) override;
 
-  /// The selected rows, or all where none is selected, as tab-separated text with their heads.
-  QString RowsText() const;
-
-  /// Puts the selected rows with their heads on the clipboard.
+  /// Puts the selected rows, or all where none is selected, with their heads on the clipboard.
   void CopyRows() const;
 
   /// Asks for a file and writes all rows as they are shown to it.
@@ -61,7 +58,6 @@ class ResultTable : public QTableView {
 
  private:
   void AddActions();
-  void AppendRows(int first, int last, QString& text) const;
 };
 
 }  // namespace kaldo
