@@ -13,8 +13,10 @@
 #include <map>
 #include <set>
 
+#include "allocation/allocation_command.h"
 #include "app/results/allocation_window.h"
 #include "app/results/comparison_model.h"
+#include "app/results/copied_rows.h"
 #include "app/results/offspring_model.h"
 #include "app/results/result_table.h"
 #include "app/support/results_test.h"
@@ -271,6 +273,50 @@ TEST_F(ResultsAllocationTest, CopiesSelectedRowsWithHeads) {
   Find<QTabWidget>(*shown.window, "Tabs").setCurrentIndex(1);
   QTest::mouseClick(&Find<QPushButton>(*shown.window, "OffspringCopy"), Qt::LeftButton);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), expected);
+}
+
+TEST_F(ResultsAllocationTest, CopiedNamesStayTextAndFiguresNumbers) {
+  DataTableModel model;
+  model.SetTable(
+      {{Text("Name"), Text("Value")},
+       {{Text("Mar1"), Text("0.25")}, {Text("00012"), Text("NA")}, {Text("a<b"), Text("-3")}}});
+  CopiedRows rows(model, QLatin1Char(','));
+  rows.Add(0, 2);
+  EXPECT_EQ(rows.Plain(), Text("Name\tValue\nMar1\t0,25\n00012\tNA\na<b\t-3\n"));
+  QStringList cells;
+  for (const QString& cell : rows.Html().split(Text("<td "), Qt::SkipEmptyParts).mid(1)) {
+    const QString kind = cell.startsWith(Text("x:num=")) ? cell.section(QLatin1Char('"'), 1, 1)
+                         : cell.contains(Text(R"(mso-number-format:"\@")")) ? Text("text")
+                                                                            : Text("neither");
+    cells += kind + Text(" ") + cell.section(QLatin1Char('>'), 1, 1).section(Text("</td"), 0, 0);
+  }
+  EXPECT_EQ(Bytes(cells.join(Text("; "))),
+            "text Name; text Value; text Mar1; 0.25 0,25; text 00012; text NA; text a&lt;b; -3 -3");
+}
+
+TEST_F(ResultsAllocationTest, ExportsTheRunAsTheCommandLineDoes) {
+  Shown shown(Flow::kNonSexed);
+  shown.Run();
+  folder_.Write("sexes.txt", "Nobody m\n");
+  UrlTaker taker;
+  QDesktopServices::setUrlHandler(Text("file"), &taker, "Take");
+  script_.Await("Tabs").Click("ExportRun").Await("Exports").Click("ExportForm_tsv");
+  script_.Click("ExportForm_pedigree").Type("ExportSexes", Text("sexes.txt"));
+  script_.Click("ExportWrite").Answer().Await("Exports");
+  script_.Do([](QWidget&) { EXPECT_FALSE(QFile::exists(Text("p/Pedigree.tsv"))); });
+  script_.Type("ExportSexes", Text("")).Click("ExportWrite").Answer().Await("Tabs");
+  EXPECT_TRUE(script_.Run([&] { shown.window->activateWindow(); }));
+  EXPECT_EQ(script_.Messages().value(0), Text("There is no individual of that name!"));
+  ExpectAsCommandLine("p",
+                      Text(CommandOf(shown.settings) + " && kaldo export p --as tsv,pedigree"));
+
+  script_.Click("HtmlReport").Do([](QWidget&) {});
+  EXPECT_TRUE(script_.Run([&] { shown.window->activateWindow(); }));
+  QDesktopServices::unsetUrlHandler(Text("file"));
+  EXPECT_EQ(taker.url, QUrl::fromLocalFile(Text("p/Report.html")));
+  test::RunCommandLine(folder_.Path(""), Text("kaldo verify p"));
+  EXPECT_TRUE(test::ReadFile("p/Run record.toml").find(R"(["tsv", "html", "pedigree"])") !=
+              std::string::npos);
 }
 
 TEST_F(ResultsAllocationTest, ExportsWhatIsShown) {

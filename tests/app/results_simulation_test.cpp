@@ -168,6 +168,19 @@ TEST_F(ResultsSimulationTest, MarksTheBestSubsetOfEachSize) {
   }
 }
 
+TEST_F(ResultsSimulationTest, ExportsIntoAnotherFolderWhatTheCommandLineDoes) {
+  Shown shown(Flow::kSexed);
+  shown.Run();
+  folder_.Write("out/Iterations.tsv", "mine\n");
+  script_.Await("Tabs").Click("ExportRun").Await("Exports").Type("ExportFolder", Text("out"));
+  script_.Click("ExportWrite").Answer("No").Await("Exports");
+  script_.Do([](QWidget&) { EXPECT_EQ(test::ReadFile("out/Iterations.tsv"), "mine\n"); });
+  script_.Click("ExportWrite").Answer("Yes").Answer().Await("Tabs");
+  EXPECT_TRUE(script_.Run([&] { shown.window->activateWindow(); }));
+  test::RunCommandLine(folder_.Path(""), Text("kaldo export p --as tsv --to expected"));
+  test::ExpectSame(ContentsOf("out"), ContentsOf("expected"));
+}
+
 TEST_F(ResultsSimulationTest, SortsAndNarrowsSubsets) {
   Shown shown(Flow::kNonSexed);
   shown.settings.strategy = LociStrategy::kMinimal;

@@ -2,7 +2,6 @@
 #include "app/flows/import_screen.h"
 
 #include <QFileDialog>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +17,7 @@
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
+#include "app/base/wait_cursor.h"
 #include "app/flows/import_fields.h"
 #include "app/flows/import_files.h"
 #include "app/flows/import_preview.h"
@@ -47,17 +47,6 @@ QLabel* NewLabelOf(QWidget& field, std::string_view text) {
   label->setBuddy(&field);
   return label;
 }
-
-/// Waits of the program show at the pointer.
-class WaitCursor {
- public:
-  WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-  WaitCursor(const WaitCursor&) = delete;
-  WaitCursor& operator=(const WaitCursor&) = delete;
-  WaitCursor(WaitCursor&&) = delete;
-  WaitCursor& operator=(WaitCursor&&) = delete;
-  ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-};
 
 }  // namespace
 

@@ -67,7 +67,7 @@ void SimulationFlowWindow::Set(const SimulationSettings& settings) {
 
 void SimulationFlowWindow::TakeStudy(const AllocationSettings& imported) {
   start_->SetLociFile(imported.loci_file);
-  parents_->TakeImported(imported);
+  parents_->TakeImported(SettingsUpTo(Known::kStart).procedure, imported);
 }
 
 void SimulationFlowWindow::TakeLoci(const AllocationSettings& imported) {

@@ -131,9 +131,10 @@ void ParentalPage::FillFields(FileField* SetFields::*field, const AllocationSett
   }
 }
 
-void ParentalPage::TakeImported(const AllocationSettings& imported) {
-  FillFields(&SetFields::collected_file, imported);
-  FillFields(&SetFields::pseudo_collected_sample, imported);
+void ParentalPage::TakeImported(Procedure procedure, const AllocationSettings& imported) {
+  FillFields(procedure == Procedure::kParental ? &SetFields::collected_file
+                                               : &SetFields::pseudo_collected_sample,
+             imported);
 }
 
 FileField* ParentalPage::NewFile(QFormLayout& form, const FieldText& text, std::size_t set,

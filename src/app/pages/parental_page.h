@@ -33,8 +33,8 @@ class ParentalPage : public FlowPage {
   /// Fills the fields.
   void Set(const SimulationSettings& settings);
 
-  /// Fills in the parents that came along with the names of the loci.
-  void TakeImported(const AllocationSettings& imported);
+  /// Fills in the parents that came along with the names of the loci, for the procedure chosen.
+  void TakeImported(Procedure procedure, const AllocationSettings& imported);
 
   /// Files as typed, and the numbers that can be read.
   void FillIn(SimulationSettings& settings) const;

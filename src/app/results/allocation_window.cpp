@@ -23,6 +23,12 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
   setObjectName(Text("AllocationResults"));
   const SharedAllocation shared = std::make_shared<const FinishedAllocation>(
       FinishedAllocation{std::move(settings), std::move(run)});
+  SetExports({.forms = kAllExportForms,
+              .needs_sexes = shared->settings.flow == Flow::kNonSexed,
+              .has_probabilities = shared->run.result.confidence.has_value(),
+              .make = [shared](const WantedExports& wanted, const ExportPlace& place) {
+                return ExportRun(shared->settings, shared->run, wanted, place);
+              }});
   allocation_ = shared;
   auto* offspring = new OffspringPage(shared, Folder());
   AddSummary(shared, *offspring);

@@ -26,7 +26,11 @@ ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget
       folder_(std::move(folder)),
       note_(NewHint(nullptr)),
       tabs_(new QTabWidget),
-      copy_command_(new QPushButton(Text("&Copy as command"))) {
+      copy_command_(new QPushButton(Text("&Copy as command"))),
+      export_(NewButton("E&xport...", "ExportRun",
+                        "Write the results for other programs: tables, a workbook, pedigrees")),
+      html_report_(NewButton("H&TML report", "HtmlReport",
+                             "Write the results as a page to read and print, and open it")) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(Text("%1 - %2 - results").arg(Text(kProductTitle), PathText(project)));
   tabs_->setObjectName(Text("Tabs"));
@@ -60,6 +64,7 @@ QWidget* ResultsWindow::ButtonRow() {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(open);
   layout->addWidget(copy_command_);
+  AddExports(*layout);
   layout->addStretch();
   layout->addWidget(close_button);
   connect(open, &QPushButton::clicked, this, [this] {
@@ -71,6 +76,23 @@ QWidget* ResultsWindow::ButtonRow() {
           [this] { QApplication::clipboard()->setText(command_); });
   connect(close_button, &QPushButton::clicked, this, [this] { close(); });
   return row;
+}
+
+void ResultsWindow::AddExports(QLayout& row) {
+  row.addWidget(export_);
+  row.addWidget(html_report_);
+  export_->hide();
+  html_report_->hide();
+  connect(export_, &QPushButton::clicked, this,
+          [this] { ExportDialog(this, exports_, folder_).exec(); });
+  connect(html_report_, &QPushButton::clicked, this,
+          [this] { OpenHtmlReport(this, exports_, folder_); });
+}
+
+void ResultsWindow::SetExports(ExportOffer offer) {
+  exports_ = std::move(offer);
+  export_->show();
+  html_report_->setVisible(exports_.Has(&ExportForms::page));
 }
 
 void ResultsWindow::SetCommand(const QString& command) {

@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <string>
 
+#include "app/results/export_dialog.h"
+
 class QLabel;
 class QPushButton;
 class QTabWidget;
@@ -15,7 +17,7 @@ namespace kaldo {
 /// clears what is being looked for; Ctrl+W closes it. Its folder is remembered, see
 /// RecentFolders().
 ///
-/// Object names: "Tabs", "Note", "OpenFolder", "CopyCommand", "Close".
+/// Object names: "Tabs", "Note", "OpenFolder", "CopyCommand", "ExportRun", "HtmlReport", "Close".
 class ResultsWindow : public QWidget {
  public:
   /// `folder` is the full path of the project folder.
@@ -30,6 +32,9 @@ class ResultsWindow : public QWidget {
  protected:
   const QString& Folder() const { return folder_; }
 
+  /// What the run can be exported as.
+  void SetExports(ExportOffer offer);
+
   /// `title` carries its mnemonic; `tip` says in a sentence what the tab shows.
   void AddTab(QWidget* page, const QString& title, const QString& tip);
 
@@ -39,12 +44,16 @@ class ResultsWindow : public QWidget {
  private:
   QWidget* ButtonRow();
   void ClearSearch();
+  void AddExports(QLayout& row);
 
   QString folder_;
   QString command_;
   QLabel* note_;
   QTabWidget* tabs_;
   QPushButton* copy_command_;
+  ExportOffer exports_;
+  QPushButton* export_;
+  QPushButton* html_report_;
 };
 
 }  // namespace kaldo

@@ -17,6 +17,10 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
   setObjectName(Text("SimulationResults"));
   const SharedSimulation shared = std::make_shared<const FinishedSimulation>(
       FinishedSimulation{std::move(settings), std::move(run)});
+  SetExports({.forms = kSimulationExportForms,
+              .make = [shared](const WantedExports& wanted, const ExportPlace& place) {
+                return ExportRun(shared->settings, shared->run, wanted, place);
+              }});
   const LociStrategy strategy = shared->settings.strategy;
   const std::vector<Correctness> classes = CorrectnessOf(shared->settings.flow, shared->run.result);
   AddTab(new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
