@@ -118,12 +118,12 @@ constexpr std::array<ImportField, 16> kFields{{
 
 /// What else the rules name, in the words of this screen.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 6> kOtherWords{
-    {{"--parents FILE --offspring", "\"parents\" and \"offspring\""},
+    {{"--parents FILE --offspring", R"("parents" and "offspring")"},
      {"--no-sexes", "take the NON-SEXED flow"},
-     {"--parents", "\"parents\""},
-     {"--males", "\"males\""},
-     {"--females", "\"females\""},
-     {"--offspring", "\"offspring\""}}};
+     {"--parents", R"("parents")"},
+     {"--males", R"("males")"},
+     {"--females", R"("females")"},
+     {"--offspring", R"("offspring")"}}};
 
 struct Way {
   std::string_view text;
@@ -139,7 +139,7 @@ constexpr std::array<Way, 4> kWays{
 /// The option with the word for its value, and no longer one that begins alike.
 QRegularExpression Named(std::string_view option) {
   return QRegularExpression(Text(option) +
-                            Text("(?![a-z-])(?: (?:FILE|COLUMN|NAME,\\.\\.\\.)(?![a-z]))?"));
+                            Text(R"((?![a-z-])(?: (?:FILE|COLUMN|NAME,\.\.\.)(?![a-z]))?)"));
 }
 
 QString Caption(const FieldText& text) { return Text(text.label).remove(QLatin1Char('&')); }
