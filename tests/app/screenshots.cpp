@@ -262,6 +262,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   kaldo::PrepareApplication();
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setCursorFlashTime(0);  // seen in every picture, or in none
   QApplication::setStyle(QStyleFactory::create(kaldo::Text("Fusion")));
   if (argc < 2) {
     qWarning("usage: kaldo_screenshots FOLDER [dark]");

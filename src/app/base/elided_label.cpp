@@ -13,7 +13,8 @@ namespace kaldo {
 
 namespace {
 
-constexpr int kNarrowest = 24;  ///< in characters
+constexpr int kNarrowest = 24;  ///< in characters, as the next
+constexpr int kUsual = 48;      ///< whatever the path: the window has one size for all of them
 
 }  // namespace
 
@@ -42,7 +43,8 @@ QSize ElidedLabel::minimumSizeHint() const {
 
 QSize ElidedLabel::sizeHint() const {
   const auto lines = static_cast<int>(text().count(QLatin1Char('\n'))) + 1;
-  return {QLabel::sizeHint().width(), fontMetrics().lineSpacing() * lines + 2 * margin()};
+  return {fontMetrics().averageCharWidth() * kUsual,
+          fontMetrics().lineSpacing() * lines + 2 * margin()};
 }
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {

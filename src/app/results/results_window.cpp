@@ -91,7 +91,7 @@ void ResultsWindow::AddExports(QLayout& row) {
 
 void ResultsWindow::SetExports(ExportOffer offer) {
   exports_ = std::move(offer);
-  export_->show();
+  export_->setVisible(!exports_.forms.empty());
   html_report_->setVisible(exports_.Has(&ExportForms::page));
 }
 
