@@ -22,9 +22,9 @@ class ChartView : public QWidget {
 
   const Chart& Shown() const { return chart_; }
 
-  /// Saves the chart by the ending of `path`: .svg, .pdf, .png, or .csv for its numbers; `wanted` is
-  /// in units of 1/96 inch, the natural one unless told. Tells the user and returns false when that
-  /// cannot be done; an earlier file then stays as it was.
+  /// Saves the chart by the ending of `path`: .svg, .pdf, .png, or .csv for its numbers; `wanted`
+  /// is in units of 1/96 inch, the natural one unless told. Tells the user and returns false when
+  /// that cannot be done; an earlier file then stays as it was.
   bool SaveChart(const QString& path, std::optional<QSize> wanted = std::nullopt);
 
   /// Puts the chart on the clipboard as the picture that would be saved.
