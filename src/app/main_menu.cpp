@@ -54,7 +54,7 @@ bool AreResultsOpen() {
   });
 }
 
-std::size_t Place(Flow flow) { return static_cast<std::size_t>(flow); }
+std::size_t FlowPlace(Flow flow) { return static_cast<std::size_t>(flow); }
 
 QPushButton* NewFlowButton(Flow flow, std::string_view group, int number, Qt::Key key) {
   auto* const button = new QPushButton(Text(flow == Flow::kSexed ? "SEXED" : "NON-SEXED"));
@@ -207,7 +207,7 @@ void MainMenu::ChooseResults() {
 }
 
 AllocationFlowWindow& MainMenu::AllocationScreens(Flow flow) {
-  auto& screens = allocations_.at(Place(flow));
+  auto& screens = allocations_.at(FlowPlace(flow));
   if (!screens) {
     screens = std::make_unique<AllocationFlowWindow>(flow, opened_, this);
     screens->SetOnTrial([this](const SimulationSettings& trial) { return RunTrial(trial); });
@@ -216,7 +216,7 @@ AllocationFlowWindow& MainMenu::AllocationScreens(Flow flow) {
 }
 
 SimulationFlowWindow& MainMenu::SimulationScreens(Flow flow) {
-  auto& screens = simulations_.at(Place(flow));
+  auto& screens = simulations_.at(FlowPlace(flow));
   if (!screens) {
     screens = std::make_unique<SimulationFlowWindow>(flow, opened_, this);
   }

@@ -80,7 +80,7 @@ QString Untold(const SimulationRun& /*run*/) {
 void Show(ResultsWindow* window, const QString& note, const QString& command) {
   window->SetCommand(command);
   window->SetNote(note);
-  window->SetExports({});  // they would have the digits of the reports alone
+  window->WithholdExports();
   window->show();
   window->raise();
   window->activateWindow();

@@ -91,8 +91,13 @@ void ResultsWindow::AddExports(QLayout& row) {
 
 void ResultsWindow::SetExports(ExportOffer offer) {
   exports_ = std::move(offer);
-  export_->setVisible(!exports_.forms.empty());
+  export_->show();
   html_report_->setVisible(exports_.Has(&ExportForms::page));
+}
+
+void ResultsWindow::WithholdExports() {
+  export_->hide();
+  html_report_->hide();
 }
 
 void ResultsWindow::SetCommand(const QString& command) {

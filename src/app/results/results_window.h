@@ -29,6 +29,9 @@ class ResultsWindow : public QWidget {
   /// A sentence above the tabs that says where the results come from.
   void SetNote(const QString& note);
 
+  /// Offers no exports: results that were read from reports have no more digits than these.
+  void WithholdExports();
+
  protected:
   const QString& Folder() const { return folder_; }
 
