@@ -87,7 +87,7 @@ TEST_F(FlowsTest, ResultsLeadToASimulationLikeTheirRunAndTakeItsFigures) {
              {"Parents", "PseudoOffspring", "Tolerance", "Strategy", "ChoiceOfLoci", "Output"}) {
           script.Click("Ok").Await(screen);
         }
-        script.Click("Ok").Answer().Click("CopyCommand");
+        script.Click("Ok").Answer().Await("SimulationResults").Click("CopyCommand");
         script.Do([this](QWidget&) { command_ = QGuiApplication::clipboard()->text(); });
         script.Click("Close").Until([&] { return SummaryWith(figures) != nullptr; },
                                     "see the figures");
@@ -99,7 +99,7 @@ TEST_F(FlowsTest, ResultsLeadToASimulationLikeTheirRunAndTakeItsFigures) {
       "TryExample");
   EXPECT_EQ(Told(script_), (Sentences{kCompleted, kSimulated}));
   for (const char* part : {"--allocate-with run", "--error uniform=0.02", "--undefined-like"}) {
-    EXPECT_TRUE(command_.contains(Text(part))) << part;
+    EXPECT_TRUE(command_.contains(Text(part))) << part << " in " << Bytes(command_);
   }
   ExpectAsCommandLine("kaldo-example/lake-simulation", command_);
 }

@@ -14,6 +14,7 @@
 #include <set>
 
 #include "allocation/allocation_command.h"
+#include "app/base/command_text.h"
 #include "app/results/allocation_window.h"
 #include "app/results/comparison_model.h"
 #include "app/results/copied_rows.h"
@@ -307,8 +308,8 @@ TEST_F(ResultsAllocationTest, ExportsTheRunAsTheCommandLineDoes) {
   script_.Type("ExportSexes", Text("")).Click("ExportWrite").Answer().Await("Tabs");
   EXPECT_TRUE(script_.Run([&] { shown.window->activateWindow(); }));
   EXPECT_EQ(script_.Messages().value(0), Text("There is no individual of that name!"));
-  ExpectAsCommandLine("p",
-                      Text(CommandOf(shown.settings) + " && kaldo export p --as tsv,pedigree"));
+  ExpectAsCommandLine(
+      "p", CommandHere(CommandOf(shown.settings) + " && kaldo export p --as tsv,pedigree"));
 
   script_.Click("HtmlReport").Do([](QWidget&) {});
   EXPECT_TRUE(script_.Run([&] { shown.window->activateWindow(); }));

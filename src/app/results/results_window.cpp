@@ -29,7 +29,7 @@ ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget
       copy_command_(new QPushButton(Text("&Copy as command"))),
       export_(NewButton("E&xport...", "ExportRun",
                         "Write the results for other programs: tables, a workbook, pedigrees")),
-      html_report_(NewButton("H&TML report", "HtmlReport",
+      html_report_(NewButton("HT&ML report", "HtmlReport",
                              "Write the results as a page to read and print, and open it")) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle(Text("%1 - %2 - results").arg(Text(kProductTitle), PathText(project)));
