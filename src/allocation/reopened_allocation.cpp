@@ -284,6 +284,7 @@ std::optional<Problem> ReadSequence(const AllocationSettings& then, const Alloca
   ReportLines lines(*text);
   lines.SkipBehind("Combin #");
   std::vector<AllocationCounters> counters;
+  counters.reserve(input.combinations.size());
   for (std::size_t k = 0; k + 1 < input.combinations.size(); ++k) {
     counters.push_back(CountersOf(then.flow, CellsOf(lines.Next()), input.NumberOfOffspring()));
     result.shares.insert(result.shares.end() - 1, SharesOf(then.flow, counters.back()));

@@ -51,9 +51,10 @@ constexpr std::array kPlaces = {
 /// The heading for what a window shows: that of a screen in it before that of the window.
 QString HeadingFor(const QWidget& window) {
   const auto heading_of = [](const QWidget& widget) -> std::optional<QString> {
-    const auto place = std::find_if(kPlaces.begin(), kPlaces.end(), [&](const GuidePlace& known) {
-      return widget.isVisible() && widget.objectName() == Text(known.screen);
-    });
+    const auto* const place =
+        std::find_if(kPlaces.begin(), kPlaces.end(), [&](const GuidePlace& known) {
+          return widget.isVisible() && widget.objectName() == Text(known.screen);
+        });
     return place == kPlaces.end() ? std::nullopt : std::optional(Text(place->heading));
   };
   for (const QWidget* widget : window.findChildren<QWidget*>()) {

@@ -64,6 +64,7 @@ bool ReadProbabilities(Flow flow, ReportLines& lines, SubsetFigures& subset) {
 /// A row of the table of correct frequencies: an empty cell stands before the origins.
 std::vector<double> FrequenciesIn(const std::vector<std::string_view>& cells) {
   std::vector<double> values;
+  values.reserve(cells.size());
   for (std::size_t k = 2; k < cells.size(); ++k) {
     values.push_back(NumberIn(cells[k]));
   }

@@ -16,7 +16,6 @@
 namespace kaldo {
 namespace {
 
-using test::ExpectText;
 using test::OpenFlow;
 
 class SteadinessTest : public test::MenuTest {
@@ -29,7 +28,7 @@ class SteadinessTest : public test::MenuTest {
     script_.Await(screen).Do([=, this](QWidget& window) {
       EXPECT_EQ(Bytes(test::TextIn("Step")), step) << screen;
       const QWidget* const ok = VisibleWidget("Ok");
-      places_.push_back({window.size(), ok->geometry()});
+      places_.emplace_back(window.size(), ok->geometry());
       EXPECT_EQ(places_.back(), places_.front()) << screen;
       const QSize size = window.size();
       window.resize(683 * 9 / 10, 384 * 9 / 10);

@@ -101,7 +101,7 @@ std::size_t SimulationFlowWindow::ScreensBehind(const FlowPage& page) const {
   const std::size_t behind_strategy = chooses ? 2 : 1;
   const std::array<const FlowPage*, 5> in_turn = {start_, parents_, offspring_, tolerance_,
                                                   strategy_};
-  const auto place = std::find(in_turn.begin(), in_turn.end(), &page);
+  const auto* const place = std::find(in_turn.begin(), in_turn.end(), &page);
   if (place != in_turn.end()) {
     return static_cast<std::size_t>(in_turn.end() - place) - 1 + behind_strategy;
   }

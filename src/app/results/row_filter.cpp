@@ -23,6 +23,7 @@ void RowFilter::setSourceModel(QAbstractItemModel* source) {
 
 void RowFilter::Arrange() {
   shown_.clear();
+  shown_.reserve(order_.size());
   std::fill(places_.begin(), places_.end(), -1);
   for (const int row : order_) {
     if (Accepts(row)) {
