@@ -91,7 +91,7 @@ ExportDialog::ExportDialog(QWidget* parent, const ExportOffer& offer, QString fo
   column->addLayout(NewFolderRow());
   column->addStretch();
   column->addLayout(NewButtons());
-  setMinimumWidth(fontMetrics().averageCharWidth() * 80);
+  setMinimumWidth(fontMetrics().averageCharWidth() * 100);
 }
 
 void ExportDialog::AddForms(QLayout& column) {
