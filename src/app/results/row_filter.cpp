@@ -49,9 +49,9 @@ void RowFilter::sort(int column, Qt::SortOrder order) {
   std::iota(order_.begin(), order_.end(), 0);
   if (column >= 0) {
     std::stable_sort(order_.begin(), order_.end(), [&](int a, int b) {
-      const QModelIndex left = sourceModel()->index(a, column);
-      const QModelIndex right = sourceModel()->index(b, column);
-      return order == Qt::AscendingOrder ? IsBefore(left, right) : IsBefore(right, left);
+      const QModelIndex one = sourceModel()->index(a, column);
+      const QModelIndex other = sourceModel()->index(b, column);
+      return order == Qt::AscendingOrder ? IsBefore(one, other) : IsBefore(other, one);
     });
   }
   Arrange();
