@@ -34,10 +34,10 @@ std::string_view ImportOption(std::string_view role) {
   return {};
 }
 
-/// The command for all foreign files of the run: each by its role, or once and by populations where
-/// it has several.
-std::string ConvertingCommand(const std::string& file, const std::vector<RecordedInput>& inputs,
-                              FileSource& source) {
+/// The command for all foreign files of the run: each by its role, or once and by its populations,
+/// or by a list where it has none, where it has several.
+std::string ConvertingCommand(const std::string& file, const ForeignLook& look,
+                              const std::vector<RecordedInput>& inputs, FileSource& source) {
   std::map<std::string, std::string_view> options;
   bool has_several_roles = false;
   for (const RecordedInput& input : inputs) {
@@ -49,7 +49,11 @@ std::string ConvertingCommand(const std::string& file, const std::vector<Recorde
   ShellCommand command("kaldo import");
   if (has_several_roles || !options.contains(file)) {
     command = ShellCommand("kaldo import " + ShellQuoted(file));
-    command.Add("--offspring-populations", "NAME");
+    if (look.has_populations) {
+      command.Add("--offspring-populations", "NAME");
+    } else {
+      command.Add("--offspring-list", "FILE");
+    }
   } else {
     for (const auto& [path, option] : options) {
       command.Add(option, path);
@@ -81,7 +85,7 @@ bool TellForeignFile(const std::string& file, const std::vector<RecordedInput>& 
     return false;
   }
   streams.err << Escaped(fmt::format("{} Convert it:", look->sentence)) << "\n  "
-              << Escaped(ConvertingCommand(file, inputs, source)) << '\n';
+              << Escaped(ConvertingCommand(file, *look, inputs, source)) << '\n';
   return true;
 }
 

@@ -281,7 +281,8 @@ std::optional<ForeignLook> LookAtForeignBytes(const std::string& path, std::stri
   const std::string workbook = file->is_workbook ? " in a workbook (.xlsx)" : "";
   return ForeignLook{std::string(format->reader->key),
                      fmt::format("This looks like {}{}, {}{}.", format->reader->name, workbook,
-                                 populations, Counted(study.loci.size(), "locus", "loci"))};
+                                 populations, Counted(study.loci.size(), "locus", "loci")),
+                     !study.populations.empty()};
 }
 
 }  // namespace kaldo

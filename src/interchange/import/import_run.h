@@ -58,6 +58,7 @@ void WriteStudy(const ImportChoices& choices, const ImportedStudy& study);
 struct ForeignLook {
   std::string key;       ///< of the format
   std::string sentence;  ///< "This looks like GENEPOP, 2 populations, 9 loci."
+  bool has_populations = false;
 };
 
 /// Nothing where the file is of no known format, such as a genotype file of this program.

@@ -38,9 +38,11 @@ void SettleByPopulation(ForeignStudy& study, const ImportChoices& choices, Impor
   for (const std::string& name : choices.offspring_populations) {
     const auto population = FindPopulation(study, name);
     if (!population) {
-      log.faults.Add({.found = fmt::format("--offspring-populations: there is no population {}, "
-                                           "but {}",
-                                           Quoted(name), NamesOfPopulations(study))});
+      log.faults.Add(
+          {.found = study.populations.empty()
+                        ? "--offspring-populations: the files know no populations"
+                        : fmt::format("--offspring-populations: there is no population {}, but {}",
+                                      Quoted(name), NamesOfPopulations(study))});
       return;
     }
     is_of_offspring[*population] = true;
