@@ -9,6 +9,17 @@
 
 namespace kaldo {
 
+namespace {
+
+/// "its report "Summary.xls" is missing"
+Problem ProblemOf(const std::string& record_path, std::string_view file, std::string_view what) {
+  return {.kind = ProblemKind::kUnusableRunRecord,
+          .file = record_path,
+          .found = fmt::format("its report {} {}", Quoted(file.substr(1)), what)};
+}
+
+}  // namespace
+
 RecordedReports::RecordedReports(const RunRecord& record, std::string record_path)
     : record_(record), record_path_(std::move(record_path)) {}
 
@@ -20,18 +31,12 @@ const RecordedOutput* RecordedReports::Find(std::string_view file) const {
 }
 
 Problem RecordedReports::Unreadable(std::string_view file) const {
-  return {.kind = ProblemKind::kUnusableRunRecord,
-          .file = record_path_,
-          .found = fmt::format("its report {} does not say what such a report says",
-                               Quoted(file.substr(1)))};
+  return ProblemOf(record_path_, file, "does not say what such a report says");
 }
 
 tl::expected<std::string, Problem> RecordedReports::Read(std::string_view file) const {
   const auto problem = [&](std::string_view what) {
-    return tl::unexpected(
-        Problem{.kind = ProblemKind::kUnusableRunRecord,
-                .file = record_path_,
-                .found = fmt::format("its report {} {}", Quoted(file.substr(1)), what)});
+    return tl::unexpected(ProblemOf(record_path_, file, what));
   };
   const RecordedOutput* const output = Find(file);
   if (output == nullptr) {
