@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "allocation/findings.h"
 #include "base/version.h"
 #include "method/cumulative_sequence.h"
 
@@ -17,9 +18,8 @@ std::vector<std::string> WarningsOf(const AllocationInput& input, const Allocati
   if (result.stepping.any_out_of_step) {
     warnings.emplace_back(ClosingSentence(result));
   }
-  const auto ambiguous = std::count_if(
-      result.outcomes.begin(), result.outcomes.end(),
-      [](const auto& outcome) { return outcome.pair_entries > 2 || outcome.more_than_five; });
+  const auto ambiguous =
+      std::count_if(result.outcomes.begin(), result.outcomes.end(), HasSeveralPairs);
   if (ambiguous > 0) {
     warnings.push_back(
         fmt::format("{} of {} offspring have several equally likely pairs; the first "

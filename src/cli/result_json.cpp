@@ -7,6 +7,7 @@
 
 #include "allocation/allocation_confidence.h"
 #include "allocation/allocation_record.h"
+#include "allocation/findings.h"
 #include "base/version.h"
 #include "confidence/confidence_summary.h"
 #include "simulation/reports/simulation_texts.h"
@@ -52,7 +53,7 @@ Json SequenceJson(const AllocationRun& run) {
 
 /// Null where it was not computed.
 Json ConfidenceJson(const AllocationSettings& settings, const AllocationResult& result) {
-  if (!result.confidence || !result.confidence->is_meaningful) {
+  if (!KnowsCertainty(result)) {
     return {};
   }
   const auto& confidence = *result.confidence;
@@ -91,8 +92,7 @@ std::string ResultJson(const AllocationSettings& settings, const AllocationRun& 
   json["loci_in_use"] = input.loci.LociInUse().size();
   json["allocations"] = ShareJson(result.LastShares());
   json["sequence"] = settings.sequence ? SequenceJson(run) : Json::array();
-  json["offspring_with_ties"] =
-      count([](const auto& outcome) { return outcome.pair_entries > 2 || outcome.more_than_five; });
+  json["offspring_with_ties"] = count(HasSeveralPairs);
   json["offspring_without_pair"] = count([](const auto& outcome) { return !outcome.HasPair(); });
   json["confidence"] = ConfidenceJson(settings, result);
   json["warnings"] = RecordOf(settings, input, result).warnings;

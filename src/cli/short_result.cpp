@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "allocation/allocation_file_names.h"
+#include "allocation/findings.h"
 #include "base/counted_text.h"
 #include "base/version.h"
 #include "cli/confidence_text.h"
@@ -76,8 +77,7 @@ std::string Doubts(const ErrorModel& model, const AllocationResult& result) {
   const auto count = [&result](auto is_one) {
     return std::count_if(result.outcomes.begin(), result.outcomes.end(), is_one);
   };
-  const auto ties =
-      count([](const auto& outcome) { return outcome.pair_entries > 2 || outcome.more_than_five; });
+  const auto ties = count(HasSeveralPairs);
   const auto marked = count([](const auto& outcome) { return outcome.more_than_five; });
   const auto without = count([](const auto& outcome) { return !outcome.HasPair(); });
   std::string text;
@@ -102,7 +102,7 @@ std::string FilesWritten(const AllocationSettings& settings, const AllocationRes
   if (settings.sequence) {
     files.insert(files.end(), {kSequenceResultsFile, kServiceFile});
   }
-  if (result.confidence && result.confidence->is_meaningful) {
+  if (KnowsCertainty(result)) {
     files.push_back(kConfidenceFile);
   }
   if (result.confidence) {

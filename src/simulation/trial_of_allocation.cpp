@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "allocation/findings.h"
 #include "simulation/reports/estimate_texts.h"
 
 namespace kaldo {
@@ -37,7 +38,7 @@ ParentalSet SetOf(const std::string& file, std::size_t number, double share) {
 tl::expected<SimulationSettings, std::string> TrialOf(const AllocationSettings& settings,
                                                       const AllocationInput& input,
                                                       const AllocationResult& result) {
-  if (!result.confidence || !result.confidence->is_meaningful) {
+  if (!KnowsCertainty(result)) {
     return tl::unexpected<std::string>(
         "How many parents were not collected is not known: this run computed no probabilities.");
   }

@@ -3,6 +3,7 @@
 
 #include "allocation/allocation_file_names.h"
 #include "allocation/allocation_record.h"
+#include "allocation/findings.h"
 #include "allocation/reports/confidence_report.h"
 #include "allocation/reports/loci_report.h"
 #include "allocation/reports/matrices_report.h"
@@ -53,7 +54,7 @@ void AllocationReports::WriteOffspring(const AllocationSettings& settings,
                                        RunObserver& observer) {
   const MatricesReport matrices{settings.flow, settings.tolerance, input.digits_per_field,
                                 input.table, result.loci};
-  const bool has_confidence = result.confidence && result.confidence->is_meaningful;
+  const bool has_confidence = KnowsCertainty(result);
   if (has_confidence) {
     confidence_->Append(ConfidenceHead(settings.flow));
   }

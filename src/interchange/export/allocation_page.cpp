@@ -93,7 +93,7 @@ class Page {
  public:
   Page(const ExportedStudy& study, const RunRecord& record)
       : study_(study), input_(study.Input()), result_(study.Result()), record_(record) {
-    if (result_.confidence && result_.confidence->is_meaningful) {
+    if (KnowsCertainty(result_)) {
       summary_ =
           SummaryOf(result_.confidence->offspring, ReportedBy(study.Settings().flow, result_));
     }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "allocation/findings.h"
 #include "genotypes/separator.h"
 
 namespace kaldo {
@@ -50,7 +51,7 @@ ExportedSide ExportedStudy::SideOf(Slot offspring, const AllocationOutcome& outc
 }
 
 void ExportedStudy::AddConfidence(std::size_t place, std::array<ExportedSide, 2>& sides) const {
-  if (!result_.confidence || !result_.confidence->is_meaningful) {
+  if (!KnowsCertainty(result_)) {
     return;
   }
   const OffspringConfidence& confidence = result_.confidence->offspring[place];

@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 
+#include "allocation/findings.h"
 #include "runs/tsv_row.h"
 
 namespace kaldo {
@@ -235,8 +236,7 @@ std::vector<std::string> PlinkNames(const Pedigree& pedigree) {
 }  // namespace
 
 tl::expected<Pedigree, Problem> PedigreeOf(const ExportedStudy& study, bool by_sex) {
-  const auto& confidence = study.Result().confidence;
-  if (study.Settings().exports.least_probability && !(confidence && confidence->is_meaningful)) {
+  if (study.Settings().exports.least_probability && !KnowsCertainty(study.Result())) {
     return tl::unexpected(
         Problem{.kind = ProblemKind::kCannotExport,
                 .found = "--min-probability asks for probabilities, which were not computed"});
