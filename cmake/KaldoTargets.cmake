@@ -8,6 +8,12 @@ target_compile_options(kaldo_options INTERFACE
   # no longer tie on every machine.
   -ffp-contract=off
   $<$<BOOL:${KALDO_WARNINGS_AS_ERRORS}>:-Werror>)
+if(EMSCRIPTEN)
+  # Sizes have 32 bits there, as most numbers of the method: what is converted between them is
+  # checked by the builds for 64 bits.
+  target_compile_options(kaldo_options INTERFACE
+    -Wno-shorten-64-to-32 -Wno-sign-conversion -Wno-c++11-narrowing)
+endif()
 if(KALDO_DEBUG_STDLIB)
   target_compile_definitions(kaldo_options INTERFACE _GLIBCXX_ASSERTIONS)
 endif()

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/append_file.h"
 
-#include <fcntl.h>
-#include <unistd.h>
 #include <utility>
 
 #include "base/file_handle.h"
@@ -18,31 +16,25 @@ std::error_code AppendFile::Create(const std::string& path) {
 
 std::error_code AppendFile::Open(const std::string& path, std::uint64_t bytes) {
   Close();
-  file_ = ::open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC);
+  file_ = OpenOldFile(path);
   if (file_ < 0) {
     return LastError();
   }
   bytes_ = bytes;
-  const std::error_code error = CutTo(bytes);
+  const std::error_code error = CutFile(file_, bytes);
   if (error) {
     Close();
   }
   return error;
 }
 
-std::error_code AppendFile::CutTo(std::uint64_t bytes) const {
-  const auto end = static_cast<off_t>(bytes);
-  return ::ftruncate(file_, end) == 0 && ::lseek(file_, end, SEEK_SET) == end ? std::error_code()
-                                                                              : LastError();
-}
-
 std::error_code AppendFile::Append(std::string_view text) {
   std::error_code error = WriteAll(file_, text);
-  if (!error && ::fsync(file_) != 0) {
-    error = LastError();
+  if (!error) {
+    error = SyncFile(file_);
   }
   if (error) {
-    (void)CutTo(bytes_);
+    (void)CutFile(file_, bytes_);
   } else {
     bytes_ += text.size();
   }
@@ -51,7 +43,7 @@ std::error_code AppendFile::Append(std::string_view text) {
 
 void AppendFile::Close() {
   if (file_ >= 0) {
-    ::close(std::exchange(file_, -1));
+    (void)CloseFile(std::exchange(file_, -1));
   }
 }
 

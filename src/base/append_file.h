@@ -36,8 +36,6 @@ class AppendFile {
   std::uint64_t Bytes() const { return bytes_; }
 
  private:
-  std::error_code CutTo(std::uint64_t bytes) const;
-
   int file_ = -1;
   std::uint64_t bytes_ = 0;
 };

@@ -2,10 +2,8 @@
 #include "base/disk_file.h"
 
 #include <algorithm>
-#include <fcntl.h>
 #include <filesystem>
 #include <random>
-#include <unistd.h>
 
 #include <fmt/format.h>
 
@@ -21,7 +19,7 @@ constexpr std::size_t kNameDigits = 16;
 
 NewFile::~NewFile() {
   if (file_ >= 0) {
-    ::close(file_);
+    (void)CloseFile(file_);
   }
 }
 
@@ -33,9 +31,9 @@ std::error_code NewFile::Create(const std::string& path) {
 std::error_code NewFile::Write(std::string_view text) const { return WriteAll(file_, text); }
 
 std::error_code NewFile::Finish() {
-  const std::error_code not_synced = ::fsync(file_) == 0 ? std::error_code() : LastError();
+  const std::error_code not_synced = SyncFile(file_);
   // Network disks may tell only here that they are full.
-  const std::error_code not_closed = ::close(file_) == 0 ? std::error_code() : LastError();
+  const std::error_code not_closed = CloseFile(file_);
   file_ = -1;
   return not_synced ? not_synced : not_closed;
 }
@@ -47,19 +45,6 @@ std::error_code WriteNewFile(const std::string& path, std::string_view text) {
     error = file.Write(text);
   }
   return error ? error : file.Finish();
-}
-
-std::error_code SyncFolder(const std::string& path) {
-  const int folder = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (folder < 0) {
-    return {};  // a folder that may be written but not read
-  }
-  std::error_code error = ::fsync(folder) == 0 ? std::error_code() : LastError();
-  ::close(folder);
-  if (error == std::errc::invalid_argument || error == std::errc::not_supported) {
-    error.clear();
-  }
-  return error;
 }
 
 bool IsThere(const std::string& path) {

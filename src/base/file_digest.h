@@ -2,10 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/sha256.h"
 
 namespace kaldo {
 
@@ -20,22 +21,13 @@ struct FileDigest {
 /// Takes the digest of a file while it is being written.
 class RunningDigest {
  public:
-  /// Throws RunFailure where this machine has no SHA-256.
-  RunningDigest();
-  RunningDigest(const RunningDigest&) = delete;
-  RunningDigest& operator=(const RunningDigest&) = delete;
-  RunningDigest(RunningDigest&&) noexcept;
-  RunningDigest& operator=(RunningDigest&&) noexcept;
-  ~RunningDigest();
-
   void Add(std::string_view bytes);
 
   /// That of all bytes so far; more may follow.
   FileDigest SoFar() const;
 
  private:
-  struct Hash;
-  std::unique_ptr<Hash> hash_;
+  Sha256 hash_;
   std::uint64_t bytes_ = 0;
 };
 

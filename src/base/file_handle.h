@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -16,7 +17,18 @@ std::error_code LastError();
 /// when that fails, see LastError().
 int OpenNewFile(const std::string& path);
 
+/// Opens a file that is there for writing: no link is followed. Negative when that fails.
+int OpenOldFile(const std::string& path);
+
+/// Cuts off what is behind so many bytes, and goes on writing there.
+std::error_code CutFile(int file, std::uint64_t bytes);
+
 /// Writes all of the text, whatever interrupts it.
 std::error_code WriteAll(int file, std::string_view text);
+
+/// Waits until the disk holds every byte.
+std::error_code SyncFile(int file);
+
+std::error_code CloseFile(int file);
 
 }  // namespace kaldo

@@ -41,7 +41,7 @@ Problem CannotOpenFile(const std::string& path, std::string reason) {
 
 tl::expected<std::vector<char>, Problem> DiskFiles::Read(const std::string& path) {
   errno = 0;
-  std::ifstream stream(path, std::ios::binary);
+  std::ifstream stream(std::filesystem::path(path), std::ios::binary);
   std::vector<char> bytes;
   if (stream.is_open()) {
     std::vector<char> block(kBlockBytes);
@@ -98,7 +98,7 @@ std::optional<Problem> RefuseSpecialFile(const std::string& path, std::size_t mo
 
 tl::expected<FileDigest, Problem> DigestOfFile(const std::string& path) {
   errno = 0;
-  std::ifstream stream(path, std::ios::binary);
+  std::ifstream stream(std::filesystem::path(path), std::ios::binary);
   RunningDigest digest;
   std::vector<char> block(stream.is_open() ? kBlockBytes : 0);
   while (stream) {

@@ -37,11 +37,6 @@ class FolderLock {
   std::error_code Error() const { return error_; }
 
  private:
-  bool Open();
-  bool IsStillInPlace() const;
-  void ReadOwner();
-  void WriteOwner(const std::string& owner) const;
-
   std::string path_;
   int file_ = -1;
   LockState state_ = LockState::kFailed;

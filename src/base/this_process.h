@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace kaldo {
 
@@ -11,7 +12,29 @@ std::string ThisProcess();
 /// True when messages go to a terminal, not to a file.
 bool MessagesGoToTerminal();
 
+/// The words of the command behind the program's name, in UTF-8 on every system.
+std::vector<std::string> ProgramArguments(int argc, char** argv);
+
+/// While it lives, what the program prints arrives as it is: UTF-8, and lines that end as they do
+/// in files.
+class TextConsole {
+ public:
+  TextConsole();
+  TextConsole(const TextConsole&) = delete;
+  TextConsole& operator=(const TextConsole&) = delete;
+  TextConsole(TextConsole&&) = delete;
+  TextConsole& operator=(TextConsole&&) = delete;
+  ~TextConsole();
+
+ private:
+  [[maybe_unused]] unsigned earlier_code_page_ =
+      0;  ///< of the console, where there is such a thing
+};
+
 /// The working folder, or nothing when it has gone.
 std::string CurrentFolder();
+
+/// The processors that this process may run on.
+unsigned UsableProcessors();
 
 }  // namespace kaldo

@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "base/path_text.h"
 #include "base/version.h"
 #include "cli/tell.h"
 #include "runs/earlier_run.h"
@@ -39,7 +40,7 @@ void TellPlaces(const RunRecord& then, const LocatedRecord& now,
 }  // namespace
 
 std::string FolderOfRecord(const std::string& record) {
-  const auto folder = std::filesystem::path(record).parent_path().string();
+  const auto folder = PathText(std::filesystem::path(record).parent_path());
   return folder.empty() ? "." : folder;
 }
 

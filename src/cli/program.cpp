@@ -13,7 +13,8 @@ namespace kaldo {
 int RunProgram(int argc, char** argv, KeepingPace pace) {
   try {
     CatchStopSignals();
-    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    const TextConsole console;
+    const std::vector<std::string> arguments = ProgramArguments(argc, argv);
     const CommandLineStreams streams{std::cout, std::cerr, MessagesGoToTerminal()};
     LocalThreads threads(pace);
     ExitCode code = RunCommandLine(arguments, streams, threads);

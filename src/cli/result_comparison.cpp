@@ -26,7 +26,7 @@ constexpr int kLinesWithPaths = 12;
 
 /// The digest of a report as the recorded run would have written it.
 FileDigest DigestWithPathsThen(const std::string& path, const PathsThen& then) {
-  std::ifstream file(path, std::ios::binary);
+  std::ifstream file(std::filesystem::path(path), std::ios::binary);
   RunningDigest digest;
   std::string line;
   for (int i = 0; i < kLinesWithPaths && std::getline(file, line); ++i) {

@@ -47,7 +47,7 @@ std::string ProgressLine(std::string_view part, std::uint64_t done, std::uint64_
 TerminalProgress::TerminalProgress(std::ostream& stream, bool is_terminal) : stream_(stream) {
   if (is_terminal) {
     try {
-      painter_ = std::jthread([this] { DrawUntilEnd(); });
+      painter_ = JoiningThread([this] { DrawUntilEnd(); });
     } catch (const std::system_error&) {
       // No further thread can be started: a run without a bar.
     }

@@ -7,8 +7,8 @@
 #include <iosfwd>
 #include <mutex>
 #include <string>
-#include <thread>
 
+#include "base/joining_thread.h"
 #include "base/run_observer.h"
 
 namespace kaldo {
@@ -49,7 +49,7 @@ class TerminalProgress : public RunObserver {
   bool is_drawn_ = false;
   std::condition_variable end_;
 
-  std::jthread painter_;
+  JoiningThread painter_;
 };
 
 /// The line of a progress bar, without line end: "Allocating [#####...............]  25 %  250 of

@@ -67,7 +67,7 @@ void ClusterWorkforce::Do(const PortionJob& job, unsigned wanted, RunObserver& o
             std::vector<std::size_t>(static_cast<std::size_t>(session_.Size()))};
   Announce(job, threads, observer);
   {
-    std::vector<std::jthread> own;
+    std::vector<JoiningThread> own;
     try {
       StartThreads(threads, own, [&] { WorkAtDesk(job.task, desk, observer); });
       if (own.empty() && session_.Size() == 1) {

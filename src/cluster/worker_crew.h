@@ -6,9 +6,9 @@
 #include <deque>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <vector>
 
+#include "base/joining_thread.h"
 #include "cluster/sent_part.h"
 #include "runs/portion_desk.h"
 
@@ -56,7 +56,7 @@ class WorkerCrew {
   std::deque<HandedPortion> portions_;
   std::deque<FinishedPortion> finished_;
 
-  std::vector<std::jthread> threads_;  // last: they use all of the above
+  std::vector<JoiningThread> threads_;  // last: they use all of the above
 };
 
 }  // namespace kaldo

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "base/folder_access.h"
+#include "base/path_text.h"
 #include "runs/earlier_run.h"
 #include "runs/input_clash.h"
 #include "runs/project_lock.h"
@@ -33,12 +34,12 @@ std::optional<std::string> WhyNotMade(const std::string& name) {
       continue;  // the names of folders to come are tried in the one that is there
     }
     if (!fs::is_directory(status)) {
-      return NotMadeSentence(name, fmt::format("\"{}\" is a file", next.string()));
+      return NotMadeSentence(name, fmt::format("\"{}\" is a file", PathText(next)));
     }
     there = next;
   }
   const std::error_code reason =
-      is_missing ? WhyNotWritable(there.empty() ? "." : there.string()) : std::error_code();
+      is_missing ? WhyNotWritable(there.empty() ? "." : PathText(there)) : std::error_code();
   return reason ? std::optional(NotMadeSentence(name, reason.message())) : std::nullopt;
 }
 

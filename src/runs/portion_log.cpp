@@ -68,7 +68,7 @@ PortionLogReader::PortionLogReader(const std::string& path) {
     return;
   }
   bytes_ = std::filesystem::file_size(path, error);
-  file_.open(path, std::ios::binary);
+  file_.open(std::filesystem::path(path), std::ios::binary);
   if (error || !file_) {
     return;
   }

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include "base/path_text.h"
 #include "base/problem.h"
 
 namespace kaldo {
@@ -16,7 +17,7 @@ std::vector<std::string> ProjectFolder::Create() const {
   for (const auto& part : std::filesystem::path(name_)) {
     path /= part;
     if (std::filesystem::create_directory(path, error)) {
-      made.push_back(path.string());
+      made.push_back(PathText(path));
     }
     if (error) {
       break;
@@ -26,7 +27,7 @@ std::vector<std::string> ProjectFolder::Create() const {
   if (!std::filesystem::is_directory(name_, ignored)) {
     RemoveFolders(made);
     throw RunFailure(NotMadeSentence(name_, error == std::errc::file_exists
-                                                ? fmt::format("\"{}\" is a file", path.string())
+                                                ? fmt::format("\"{}\" is a file", PathText(path))
                                                 : error.message()));
   }
   return made;

@@ -94,7 +94,7 @@ void ResultsSwap::WriteJournal(const std::vector<SwappedFile>& files) const {
 
 std::vector<SwappedFile> ResultsSwap::ReadJournal() const {
   std::vector<SwappedFile> files;
-  std::ifstream journal(JournalPath(), std::ios::binary);
+  std::ifstream journal(std::filesystem::path(JournalPath()), std::ios::binary);
   std::string line;
   bool is_whole = std::getline(journal, line) && line == kJournalHead;
   while (is_whole && std::getline(journal, line) && line != kJournalEnd) {

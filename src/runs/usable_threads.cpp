@@ -2,24 +2,18 @@
 #include "runs/usable_threads.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <limits>
-#include <sched.h>
 #include <string_view>
-#include <thread>
+
+#include "base/number_text.h"
+#include "base/this_process.h"
 
 namespace kaldo {
 
 namespace {
-
-std::optional<double> NumberIn(std::string_view text) {
-  double number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  return error == std::errc() ? std::optional(number) : std::nullopt;
-}
 
 /// The first words of a file of the kernel; empty where there is no such file.
 std::pair<std::string, std::string> WordsOf(const std::string& path) {
@@ -30,8 +24,8 @@ std::pair<std::string, std::string> WordsOf(const std::string& path) {
 }
 
 std::optional<double> Share(std::string_view quota, std::string_view period) {
-  const auto granted = NumberIn(quota);  // "max" and -1 are no quota
-  const auto of = NumberIn(period);
+  const auto granted = ParseDouble(quota);  // "max" and -1 are no quota
+  const auto of = ParseDouble(period);
   return granted && of && *granted > 0 && *of > 0 ? std::optional(*granted / *of) : std::nullopt;
 }
 
@@ -47,14 +41,6 @@ std::optional<double> QuotaOf(const std::string& folder, bool is_second_version)
 
 bool HasWord(std::string_view list, std::string_view word) {
   return (',' + std::string(list) + ',').find(',' + std::string(word) + ',') != std::string::npos;
-}
-
-unsigned ProcessorsOfAffinity() {
-  cpu_set_t set;
-  CPU_ZERO(&set);
-  // Fails on machines of more than 1024 processors.
-  return ::sched_getaffinity(0, sizeof(set), &set) == 0 ? static_cast<unsigned>(CPU_COUNT(&set))
-                                                        : std::thread::hardware_concurrency();
 }
 
 }  // namespace
@@ -86,13 +72,13 @@ std::optional<double> ProcessorsOfControlGroup(const std::string& root) {
 }
 
 unsigned UsableThreads() {
-  double threads = std::min(std::thread::hardware_concurrency(), ProcessorsOfAffinity());
+  double threads = UsableProcessors();
   if (const auto granted = ProcessorsOfControlGroup()) {
     threads = std::min(threads, std::ceil(*granted));
   }
   // NOLINTNEXTLINE(concurrency-mt-unsafe): nothing in the program changes the environment.
   if (const char* const promised = std::getenv("SLURM_CPUS_PER_TASK")) {
-    const auto number = NumberIn(promised);
+    const auto number = ParseDouble(promised);
     threads = number && *number >= 1 ? std::min(threads, *number) : threads;
   }
   return std::max(static_cast<unsigned>(threads), 1U);

@@ -40,7 +40,7 @@ void WorkAtDesk(const PortionTask& task, PortionDesk& desk, RunObserver& observe
   }
 }
 
-void StartThreads(std::size_t number, std::vector<std::jthread>& threads,
+void StartThreads(std::size_t number, std::vector<JoiningThread>& threads,
                   const std::function<void()>& work) {
   try {
     for (std::size_t thread = 0; thread < number; ++thread) {
@@ -61,7 +61,7 @@ void LocalThreads::Do(const PortionJob& job, unsigned wanted, RunObserver& obser
       std::max<std::size_t>(std::min<std::size_t>(Threads(wanted), items), 1);
   PortionDesk desk(job.plan, threads);
   {
-    std::vector<std::jthread> others;
+    std::vector<JoiningThread> others;
     StartThreads(threads - 1, others, [&] { WorkAtDesk(job.task, desk, observer); });
     WorkAtDesk(job.task, desk, observer);
   }

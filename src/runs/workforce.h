@@ -3,10 +3,10 @@
 
 #include <functional>
 #include <string_view>
-#include <thread>
 #include <vector>
 
 #include "base/file_source.h"
+#include "base/joining_thread.h"
 #include "runs/keeping_pace.h"
 #include "runs/portion_desk.h"
 #include "runs/run_record.h"
@@ -67,7 +67,7 @@ class LocalThreads final : public Workforce {
 
 /// Starts up to `number` threads that do `work`; fewer where the system allows no more, which is
 /// not a reason to lose a run.
-void StartThreads(std::size_t number, std::vector<std::jthread>& threads,
+void StartThreads(std::size_t number, std::vector<JoiningThread>& threads,
                   const std::function<void()>& work);
 
 /// What one thread does: portions from the desk until there are no more. A failure ends the part.

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "base/input_limit.h"
+#include "base/path_text.h"
 #include "simulation/run_settings.h"
 
 namespace kaldo {
@@ -62,7 +63,7 @@ bool Holds(const fs::path& place, const FileDigest& digest) {
   if (!fs::is_regular_file(place, error) || fs::file_size(place, error) != digest.bytes || error) {
     return false;
   }
-  const auto now = DigestOfFile(place.string());
+  const auto now = DigestOfFile(PathText(place));
   return now && *now == digest;
 }
 
@@ -73,11 +74,11 @@ std::string PlaceNow(const RunRecord& record, const std::string& path, const Rec
   std::string first;
   for (const fs::path& place : Places(record, path, input.path)) {
     if (Holds(place, input.digest)) {
-      return place.string();
+      return PathText(place);
     }
     std::error_code ignored;
     if (first.empty() && fs::is_regular_file(place, ignored)) {
-      first = place.string();
+      first = PathText(place);
     }
   }
   return first.empty() ? input.path : first;
@@ -116,7 +117,7 @@ std::string WorkingFolderNow(const RunRecord& record, const std::string& path) {
       (started / record.Setting<std::string>("project").value_or("")).lexically_normal();
   const fs::path beside = fs::absolute(path, ignored).parent_path();
   const fs::path moved = (beside / started.lexically_relative(project)).lexically_normal();
-  return moved.has_filename() ? moved.string() : moved.parent_path().string();
+  return PathText(moved.has_filename() ? moved : moved.parent_path());
 }
 
 tl::expected<LocatedRecord, Problem> LocateRecordedFiles(RunRecord record,

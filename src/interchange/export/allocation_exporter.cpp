@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "base/file_digest.h"
+#include "base/path_text.h"
 #include "interchange/export/allocation_page.h"
 #include "interchange/export/allocation_tables.h"
 #include "interchange/export/pedigree.h"
@@ -68,7 +69,7 @@ std::string GuessedNamesWarning(std::size_t names) {
 std::string NamesBeside(const std::string& offspring_file) {
   const auto place = std::filesystem::path(offspring_file).parent_path() / kNamesFileName;
   std::error_code ignored;
-  return std::filesystem::is_regular_file(place, ignored) ? place.string() : std::string();
+  return std::filesystem::is_regular_file(place, ignored) ? PathText(place) : std::string();
 }
 
 std::optional<Problem> AllocationExporter::ReadNames(const std::string& path,

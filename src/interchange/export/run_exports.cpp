@@ -9,6 +9,7 @@
 
 #include "allocation/allocation_record.h"
 #include "base/disk_file.h"
+#include "base/path_text.h"
 #include "base/this_process.h"
 #include "interchange/export/allocation_exporter.h"
 #include "interchange/export/simulation_exporter.h"
@@ -34,7 +35,7 @@ bool IsExportRole(std::string_view role) {
 /// The path as it is found from the folder of the recorded run.
 std::string PathFrom(const std::string& folder, const std::string& path) {
   std::error_code ignored;
-  return folder == CurrentFolder() ? path : std::filesystem::absolute(path, ignored).string();
+  return folder == CurrentFolder() ? path : PathText(std::filesystem::absolute(path, ignored));
 }
 
 /// The record as the run would have left it with these exports. Files that the record names already
@@ -92,9 +93,8 @@ bool AreOfOneRun(const Settings& settings, const RunRecord& then, const RunRecor
 
 /// A path of a recorded run as it is found from here.
 std::string FoundFromHere(const std::string& folder, const std::string& path) {
-  return path.empty() || folder == CurrentFolder()
-             ? path
-             : (std::filesystem::path(folder) / path).string();
+  return path.empty() || folder == CurrentFolder() ? path
+                                                   : PathText(std::filesystem::path(folder) / path);
 }
 
 /// What is wanted now, and what the recorded run has already.

@@ -9,6 +9,7 @@
 #ifdef KALDO_HAS_XLSXWRITER
 
 #include <ctime>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <xlsxwriter.h>
@@ -107,7 +108,7 @@ std::string WorkbookBytes(const ExportedStudy& study, const RunRecord& record) {
   if (const lxw_error error = workbook_close(book); error != LXW_NO_ERROR) {
     Fail(lxw_strerror(error));
   }
-  std::ifstream stream(path, std::ios::binary);
+  std::ifstream stream(std::filesystem::path(path), std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/this_process.h"
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
 #include <unistd.h>
 
 #include <fmt/format.h>
+
+#include "base/path_text.h"
 
 namespace kaldo {
 
@@ -17,9 +20,17 @@ std::string ThisProcess() {
 
 bool MessagesGoToTerminal() { return ::isatty(STDERR_FILENO) == 1; }
 
+std::vector<std::string> ProgramArguments(int argc, char** argv) {
+  return {argv + std::min(argc, 1), argv + argc};
+}
+
+// Terminals take text as it is.
+TextConsole::TextConsole() = default;
+TextConsole::~TextConsole() = default;
+
 std::string CurrentFolder() {
   std::error_code gone;
-  return std::filesystem::current_path(gone).string();
+  return PathText(std::filesystem::current_path(gone));
 }
 
 }  // namespace kaldo

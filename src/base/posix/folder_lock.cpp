@@ -31,16 +31,46 @@ std::string TextIn(int file) {
   return {text.data(), size > 0 ? static_cast<std::size_t>(size) : 0};
 }
 
+/// Opens the lock file, or makes it; negative when that fails, see LastError().
+int OpenLock(const std::string& path) {
+  int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kReadableByAll);
+  if (file < 0 && errno == EACCES) {
+    // Left by another user: it can be locked, if not written.
+    file = ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    errno = file < 0 && errno == ENOENT ? EACCES : errno;
+  }
+  return file;
+}
+
+bool IsStillInPlace(int file, const std::string& path) {
+  struct stat opened {};
+  struct stat in_place {};
+  return ::fstat(file, &opened) == 0 && ::lstat(path.c_str(), &in_place) == 0 &&
+         opened.st_dev == in_place.st_dev && opened.st_ino == in_place.st_ino;
+}
+
+void WriteOwner(int file, const std::string& owner) {
+  // Only for the eyes of others: a full disk does not matter.
+  if (::ftruncate(file, 0) == 0) {
+    [[maybe_unused]] const ssize_t written = ::pwrite(file, owner.data(), owner.size(), 0);
+  }
+}
+
 }  // namespace
 
 FolderLock::FolderLock(std::string path, const std::string& owner) : path_(std::move(path)) {
   // Its owner may remove the file between the opening and the locking here: the lock would then be
   // on a file that nobody else can find, so the next file of that name is tried.
-  for (int attempt = 0; attempt < kAttempts && Open(); ++attempt) {
+  for (int attempt = 0; attempt < kAttempts; ++attempt) {
+    file_ = OpenLock(path_);
+    if (file_ < 0) {
+      error_ = LastError();
+      return;
+    }
     if (::flock(file_, LOCK_EX | LOCK_NB) == 0) {
-      if (IsStillInPlace()) {
+      if (IsStillInPlace(file_, path_)) {
         state_ = LockState::kHeld;
-        WriteOwner(owner);
+        WriteOwner(file_, owner);
         return;
       }
       Close(file_);
@@ -52,7 +82,7 @@ FolderLock::FolderLock(std::string path, const std::string& owner) : path_(std::
       Close(file_);
       continue;
     }
-    ReadOwner();
+    owner_ = TextIn(file_);
     if (error_ == std::errc::operation_would_block) {
       state_ = LockState::kTaken;
     } else {
@@ -61,7 +91,7 @@ FolderLock::FolderLock(std::string path, const std::string& owner) : path_(std::
     if (state_ == LockState::kTaken || !owner_.empty()) {
       Close(file_);  // the file is somebody else's
     } else {
-      WriteOwner(owner);
+      WriteOwner(file_, owner);
     }
     return;
   }
@@ -77,35 +107,6 @@ FolderLock::~FolderLock() {
     (void)::unlink(path_.c_str());
   }
   Close(file_);
-}
-
-bool FolderLock::Open() {
-  file_ = ::open(path_.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, kReadableByAll);
-  if (file_ < 0 && errno == EACCES) {
-    // Left by another user: it can be locked, if not written.
-    file_ = ::open(path_.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
-    errno = file_ < 0 && errno == ENOENT ? EACCES : errno;
-  }
-  if (file_ < 0) {
-    error_ = LastError();
-  }
-  return file_ >= 0;
-}
-
-bool FolderLock::IsStillInPlace() const {
-  struct stat opened {};
-  struct stat in_place {};
-  return ::fstat(file_, &opened) == 0 && ::lstat(path_.c_str(), &in_place) == 0 &&
-         opened.st_dev == in_place.st_dev && opened.st_ino == in_place.st_ino;
-}
-
-void FolderLock::ReadOwner() { owner_ = TextIn(file_); }
-
-void FolderLock::WriteOwner(const std::string& owner) const {
-  // Only for the eyes of others: a full disk does not matter.
-  if (::ftruncate(file_, 0) == 0) {
-    [[maybe_unused]] const ssize_t written = ::pwrite(file_, owner.data(), owner.size(), 0);
-  }
 }
 
 std::optional<std::string> HolderOfLock(const std::string& path) {
