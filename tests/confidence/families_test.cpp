@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Sibships and the effective number of breeders against a count over all pairs.
+// Sibships, families and the effective number of breeders against counts over all pairs.
+#include "confidence/families.h"
+
+#include <algorithm>
 #include <random>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -84,6 +88,71 @@ TEST(Families, AreThoseOfACountOverAllPairs) {
     }
   }
   EXPECT_GT(with_number, 200);
+}
+
+/// The offspring at a place of the table, one after the other.
+Family SlowFamily(const std::vector<std::optional<SettledParents>>& offspring,
+                  const Families& table, std::size_t row, std::size_t column) {
+  const ReportedParents here = {table.rows[row].parent, table.columns[column].parent};
+  const ReportedParents turned = {here[1], here[0]};
+  Family family;
+  for (std::size_t place = 0; place < offspring.size(); ++place) {
+    if (offspring[place] && (offspring[place]->parents == here ||
+                             (table.is_symmetric && offspring[place]->parents == turned))) {
+      family.offspring.push_back(place);
+      family.likely += offspring[place]->certainty == Certainty::kLikely ? 1U : 0U;
+    }
+  }
+  return family;
+}
+
+TEST(Families, TheTableHasEveryOffspringInItsPlace) {
+  std::mt19937 random(20'261'123);
+  for (int round = 0; round < 300; ++round) {
+    std::vector<std::optional<SettledParents>> offspring;
+    std::size_t open = 0;
+    for (const NamedParents& parents :
+         RandomFamilies(random, 2 + static_cast<std::uint32_t>(round) % 9, 0.8)) {
+      const bool is_open = random() % 6 == 0;
+      open += is_open ? 1 : 0;
+      const auto certainty = random() % 3 == 0 ? Certainty::kLikely : Certainty::kSure;
+      offspring.push_back(is_open ? std::nullopt
+                                  : std::optional(SettledParents{parents, certainty}));
+    }
+    const Families table = FamiliesOf(offspring, round % 2 == 0 ? Flow::kSexed : Flow::kNonSexed);
+    EXPECT_EQ(table.left_out, open);
+    std::size_t families = 0;
+    std::size_t held = 0;
+    for (std::size_t row = 0; row < table.rows.size(); ++row) {
+      std::size_t of_row = 0;
+      for (std::size_t column = 0; column < table.columns.size(); ++column) {
+        const Family expected = SlowFamily(offspring, table, row, column);
+        const Family* const found = table.At(row, column);
+        ASSERT_EQ(found != nullptr, !expected.offspring.empty());
+        of_row += expected.offspring.size();
+        if (found != nullptr) {
+          EXPECT_EQ(found->offspring, expected.offspring);
+          EXPECT_EQ(found->likely, expected.likely);
+          const bool is_twin = table.is_symmetric && column < row;
+          families += is_twin ? 0 : 1;
+          held += is_twin ? 0 : found->offspring.size();
+        }
+      }
+      EXPECT_EQ(table.rows[row].offspring, of_row);
+    }
+    EXPECT_EQ(table.families.size(), families);
+    EXPECT_EQ(held + open, offspring.size());
+    for (const auto& lines : {table.rows, table.columns}) {
+      EXPECT_TRUE(std::is_sorted(lines.begin(), lines.end(), [](const auto& a, const auto& b) {
+        const auto key = [](const FamilyLine& line) {
+          return std::tuple(!line.parent, ~line.offspring, line.parent.value_or(Slot{0}).Value());
+        };
+        return key(a) < key(b);
+      }));
+      EXPECT_TRUE(std::all_of(lines.begin(), lines.end(),
+                              [](const FamilyLine& line) { return line.offspring > 0; }));
+    }
+  }
 }
 
 TEST(Families, SentencesSayOnWhatTheyRest) {
