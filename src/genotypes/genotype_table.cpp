@@ -27,4 +27,10 @@ Slot GenotypeTable::AddIndividual(std::string_view name) {
   return slot;
 }
 
+std::size_t GenotypeTable::NumberOfTyped(std::span<const LocusIndex> loci, Slot slot) const {
+  return static_cast<std::size_t>(std::count_if(loci.begin(), loci.end(), [&](LocusIndex locus) {
+    return !Genotype(locus, slot).IsMissing();
+  }));
+}
+
 }  // namespace kaldo

@@ -70,6 +70,9 @@ class GenotypeTable {
   std::span<LocusGenotype> Locus(LocusIndex locus) { return loci_[locus.Value()]; }
   std::span<const LocusGenotype> Locus(LocusIndex locus) const { return loci_[locus.Value()]; }
 
+  /// At how many of these loci an individual is typed.
+  std::size_t NumberOfTyped(std::span<const LocusIndex> loci, Slot slot) const;
+
  private:
   std::vector<IndividualName> names_;
   std::vector<std::vector<LocusGenotype>> loci_;

@@ -39,6 +39,9 @@ struct SlotRange {
 
   /// Individuals in it, separators included.
   constexpr std::size_t Size() const { return end - begin; }
+
+  constexpr bool Holds(Slot slot) const { return begin <= slot.Value() && slot.Value() < end; }
+
   friend constexpr bool operator==(SlotRange, SlotRange) = default;
 };
 

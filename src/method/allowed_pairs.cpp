@@ -7,10 +7,6 @@ namespace kaldo {
 
 namespace {
 
-bool Holds(SlotRange range, Slot slot) {
-  return range.begin <= slot.Value() && slot.Value() < range.end;
-}
-
 /// The pairs of a group with a known parent, in the order in which the scan meets them: the known
 /// one comes second behind those before it, then first.
 std::array<CandidateGroup, 2> AroundKnown(Flow flow, const CandidateGroup& group, Slot known) {
@@ -29,7 +25,7 @@ std::span<const CandidateGroup> GroupsFor(std::span<const CandidateGroup> groups
 /// The group of a known parent; one without anybody where it stands in none of these.
 CandidateGroup GroupOf(std::span<const CandidateGroup> groups, Slot known) {
   const auto group = std::find_if(groups.begin(), groups.end(),
-                                  [known](const auto& each) { return Holds(each.second, known); });
+                                  [known](const auto& each) { return each.second.Holds(known); });
   return group == groups.end() ? CandidateGroup{} : *group;
 }
 

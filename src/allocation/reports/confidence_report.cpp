@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "allocation/reports/confidence_report.h"
 
-#include <algorithm>
 #include <array>
 
 #include <fmt/format.h>
@@ -62,9 +61,7 @@ class LineWriter {
 
  private:
   std::size_t TypedLoci(Slot individual) const {
-    return static_cast<std::size_t>(std::count_if(
-        loci_.begin(), loci_.end(),
-        [&](LocusIndex locus) { return !input_.table.Genotype(locus, individual).IsMissing(); }));
+    return input_.table.NumberOfTyped(loci_, individual);
   }
 
   void AddName(std::optional<Slot> parent) {

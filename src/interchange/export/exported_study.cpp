@@ -98,12 +98,10 @@ std::vector<Slot> ExportedStudy::Parents() const {
 }
 
 std::string ExportedStudy::GroupName(Slot parent) const {
-  const auto is_in = [parent](SlotRange range) {
-    return parent.Value() >= range.begin && parent.Value() < range.end;
-  };
-  const auto group = std::find_if(
-      input_.groups.begin(), input_.groups.end(),
-      [&](const CandidateGroup& each) { return is_in(each.first) || is_in(each.second); });
+  const auto group =
+      std::find_if(input_.groups.begin(), input_.groups.end(), [&](const CandidateGroup& each) {
+        return each.first.Holds(parent) || each.second.Holds(parent);
+      });
   return names_.Original(NameKind::kGroup, std::to_string(group - input_.groups.begin() + 1));
 }
 
@@ -128,10 +126,7 @@ std::string ExportedStudy::LocusName(LocusIndex locus) const {
 }
 
 std::size_t ExportedStudy::TypedLoci(Slot individual) const {
-  const auto& loci = result_.loci.loci;
-  return static_cast<std::size_t>(std::count_if(loci.begin(), loci.end(), [&](LocusIndex locus) {
-    return !input_.table.Genotype(locus, individual).IsMissing();
-  }));
+  return input_.table.NumberOfTyped(result_.loci.loci, individual);
 }
 
 }  // namespace kaldo
