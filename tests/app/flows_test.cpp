@@ -5,11 +5,15 @@
 #include <QClipboard>
 #include <QDir>
 #include <QTextBrowser>
+#include <algorithm>
+
+#include <fmt/format.h>
 
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
 #include "app/desktop.h"
 #include "app/support/desktop_test.h"
+#include "base/report_lines.h"
 
 namespace kaldo {
 namespace {
@@ -122,6 +126,25 @@ TEST_F(FlowsTest, AllocatesTypedFiles) {
   ExpectAsCommandLine("Etang d'été", command_);
 }
 
+/// The positions of the loci by the column exclusion_pair of the table.
+std::string SequenceByLociTable(const std::string& path) {
+  const std::string text = test::ReadFile(path);
+  ReportLines lines(text);
+  const auto heads = CellsOf(lines.Next());
+  const auto column = std::find(heads.begin(), heads.end(), "exclusion_pair") - heads.begin();
+  std::vector<double> shares;
+  for (auto cells = CellsOf(lines.Next()); cells[0] != "ALL"; cells = CellsOf(lines.Next())) {
+    shares.push_back(std::stod(std::string(cells[static_cast<std::size_t>(column)])));
+  }
+  std::vector<std::ptrdiff_t> positions;
+  for (const double share : shares) {
+    positions.push_back(1 + std::count_if(shares.begin(), shares.end(),
+                                          [share](double other) { return other > share; }));
+  }
+  EXPECT_NE(positions, (std::vector<std::ptrdiff_t>{1, 2, 3, 4, 5, 6, 7, 8}));
+  return fmt::format("{}", fmt::join(positions, ","));
+}
+
 TEST_F(FlowsTest, AllocatesASexedSequence) {
   RunProgram([this](Script& script) {
     OpenFlow(script, "ALLOCATIONSEXED");
@@ -131,10 +154,11 @@ TEST_F(FlowsTest, AllocatesASexedSequence) {
     for (int locus = 1; locus <= 8; ++locus) {
       script.Type("Index" + std::to_string(locus), Text(std::to_string(9 - locus)));
     }
+    script.Click("OrderByInformation");
     RunToTheEnd(script, command_);
   });
   EXPECT_EQ(Told(script_), Sentences{kCompleted});
-  EXPECT_TRUE(command_.contains(Text("--sequence 8,7,6,5,4,3,2,1")));
+  EXPECT_TRUE(command_.contains(Text("--sequence " + SequenceByLociTable("p/Loci.tsv"))));
   EXPECT_EQ(ContentsOf("p").count("Sequence results.xls"), 1U);
   ExpectAsCommandLine("p", command_);
 }

@@ -15,6 +15,7 @@
 #include "app/pages/loci_page.h"
 #include "app/pages/sequence_page.h"
 #include "app/results/allocation_window.h"
+#include "confidence/parent_frequencies.h"
 
 namespace kaldo {
 
@@ -32,6 +33,12 @@ AllocationFlowWindow::AllocationFlowWindow(Flow flow, OpenedFiles& opened, QWidg
       files_(Own(new AllocationFilePage(flow, opened))),
       error_(Own(new ErrorPage(AllocationCaption(flow)))),
       loci_(Own(new LociPage(LociScreenOf(flow), AllocationCaption(flow))), Own(new SequencePage)) {
+  loci_.Sequence().SetOnOrder([this] {
+    if (confirmed_) {
+      loci_.OrderByInformation(confirmed_->loci, confirmed_->table,
+                               RangesOfParents(flow_, confirmed_->groups));
+    }
+  });
 }
 
 void AllocationFlowWindow::Set(const AllocationSettings& settings) {

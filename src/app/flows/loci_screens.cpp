@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/flows/loci_screens.h"
 
+#include "app/base/text.h"
 #include "app/pages/loci_page.h"
 #include "app/pages/sequence_page.h"
+#include "confidence/locus_order.h"
 #include "genotypes/loci_list.h"
 #include "method/cumulative_sequence.h"
 
@@ -28,6 +30,13 @@ void LociScreens::Refill(const std::vector<std::string>& names) {
   }
   sequence_stays_ = true;
   choice_->SetNames(names);
+}
+
+void LociScreens::OrderByInformation(const LociList& names, const GenotypeTable& table,
+                                     std::span<const SlotRange> parents) {
+  const auto loci = InformationOfLoci(table, parents);
+  sequence_->SetIndices(SequenceByInformation(loci));
+  sequence_->Tell(Text(SequenceSentence(names, loci)));
 }
 
 std::optional<Problem> LociScreens::ChoiceFault() const {

@@ -3,9 +3,12 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "genotypes/genotype_table.h"
+#include "genotypes/loci_list.h"
 #include "genotypes/token_file.h"
 
 namespace kaldo {
@@ -30,6 +33,10 @@ class LociScreens {
   /// Called when the names of the loci have been read. The sequence starts as the file order, in
   /// every new walk through the flow and for every other set of loci.
   void Refill(const std::vector<std::string>& names);
+
+  /// Fills the sequence by what the loci tell among these parents, and says so.
+  void OrderByInformation(const LociList& names, const GenotypeTable& table,
+                          std::span<const SlotRange> parents);
 
   /// Called when the flow is left.
   void Leave() { sequence_stays_ = false; }

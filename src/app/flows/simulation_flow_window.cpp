@@ -47,6 +47,12 @@ SimulationFlowWindow::SimulationFlowWindow(Flow flow, OpenedFiles& opened, QWidg
       loci_(Own(new LociPage(kLociScreen, SimulationCaption(flow))), Own(new SequencePage)),
       output_(Own(new OutputPage(flow))) {
   strategy_->SetOnChooseLoci([this] { ChooseLoci(); });
+  loci_.Sequence().SetOnOrder([this] {
+    if (passed_) {
+      const SimulationInput& input = passed_->input;
+      loci_.OrderByInformation(input.loci, input.collected, std::array{input.candidates});
+    }
+  });
 }
 
 void SimulationFlowWindow::Set(const SimulationSettings& settings) {

@@ -3,8 +3,10 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "app/base/form_fields.h"
@@ -23,7 +25,8 @@ QString LabelText(QString name) { return name.replace(QLatin1Char('&'), Text("&&
 
 }  // namespace
 
-SequencePage::SequencePage() : FlowPage(kSequenceScreen, kSequenceCaption) {
+SequencePage::SequencePage()
+    : FlowPage(kSequenceScreen, kSequenceCaption), note_(NewHint(nullptr)) {
   auto* const group = new QGroupBox(Text("  Position of each locus in the sequence  "));
   auto* const grid = new QGridLayout;
   for (std::size_t k = 0; k < rows_.size(); ++k) {
@@ -35,6 +38,7 @@ SequencePage::SequencePage() : FlowPage(kSequenceScreen, kSequenceCaption) {
     row.index->setMinimumWidth(fontMetrics().averageCharWidth() * 5);
     row.index->setMaximumWidth(fontMetrics().averageCharWidth() * 10);
     row.name->setBuddy(row.index);
+    connect(row.index, &QLineEdit::textEdited, this, [this] { Tell({}); });
     const int line = static_cast<int>(k % kRowsPerColumn);
     const int column = static_cast<int>(k / kRowsPerColumn) * 2;
     grid->addWidget(row.name, line, column);
@@ -45,8 +49,27 @@ SequencePage::SequencePage() : FlowPage(kSequenceScreen, kSequenceCaption) {
   inside->addStretch();
   auto* const column = new QVBoxLayout(this);
   column->addWidget(group);
+  column->addLayout(NewOrderRow());
   SetNames({});
 }
+
+QLayout* SequencePage::NewOrderRow() {
+  auto* const order = NewButton("Order by &information", "OrderByInformation",
+                                "The locus that excludes most random pairs of parents enters "
+                                "first, as by exclusion_pair in \"Loci.tsv\"");
+  note_->setObjectName(Text("OrderNote"));
+  connect(order, &QPushButton::clicked, this, [this] {
+    if (on_order_) {
+      on_order_();
+    }
+  });
+  auto* const row = new QHBoxLayout;
+  row->addWidget(order, 0, Qt::AlignTop);
+  row->addWidget(note_, 1);
+  return row;
+}
+
+void SequencePage::Tell(const QString& note) { note_->setText(note); }
 
 void SequencePage::SetNames(const std::vector<std::string>& names) {
   number_of_loci_ = names.size();
@@ -61,6 +84,7 @@ void SequencePage::SetNames(const std::vector<std::string>& names) {
     rows_.at(k).index->setVisible(has_locus);
   }
   SetIndices(FileOrderSequence(number_of_loci_));
+  Tell({});
 }
 
 void SequencePage::SetIndices(const std::vector<std::int32_t>& indices) {

@@ -3,17 +3,21 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "app/flows/flow_window.h"
 #include "genotypes/capacities.h"
 
+class QLayout;
 class QLineEdit;
 
 namespace kaldo {
 
 /// The "Cumulative Sequence" screen: for each locus the position at which it enters the sequence.
+///
+/// Object names: "Index1" and on, "OrderByInformation", "OrderNote".
 class SequencePage : public FlowPage {
  public:
   SequencePage();
@@ -21,6 +25,12 @@ class SequencePage : public FlowPage {
   /// Labels the fields and fills them with the file order 1, 2, ...
   void SetNames(const std::vector<std::string>& names);
   void SetIndices(const std::vector<std::int32_t>& indices);
+
+  /// Called when the loci are to be ordered by what they tell.
+  void SetOnOrder(std::function<void()> on_order) { on_order_ = std::move(on_order); }
+
+  /// Says in a line how the positions came about, until they are others.
+  void Tell(const QString& note);
 
   /// The positions as typed, one per locus. What is no whole number reads as 0, which no sequence
   /// may have.
@@ -34,8 +44,12 @@ class SequencePage : public FlowPage {
     QLineEdit* index = nullptr;
   };
 
+  QLayout* NewOrderRow();
+
   std::size_t number_of_loci_ = 0;
   std::array<Row, kMaxLoci> rows_{};
+  std::function<void()> on_order_;
+  QLabel* note_;
 };
 
 }  // namespace kaldo

@@ -7,6 +7,7 @@
 
 #include "allocation/reports/loci_report.h"
 #include "app/base/text.h"
+#include "confidence/locus_order.h"
 
 namespace kaldo {
 
@@ -40,9 +41,6 @@ QStringList InOrder(const QStringList& cells, const std::vector<qsizetype>& orde
   return sorted;
 }
 
-/// The probability that the locus excludes a random pair; without it the locus stands last.
-double UseOf(const LocusQuality& locus) { return locus.exclusions ? locus.exclusions->pair : -1; }
-
 QStringList Cells(const QString& line) {
   QStringList cells = line.split(QLatin1Char('\t'));
   for (QString& cell : cells) {
@@ -57,8 +55,9 @@ QStringList Cells(const QString& line) {
 
 DataTable LocusTable(const FinishedAllocation& allocation) {
   std::vector<LocusQuality> loci = allocation.run.result.loci_quality;
-  std::stable_sort(loci.begin(), loci.end(),
-                   [](const auto& a, const auto& b) { return UseOf(a) > UseOf(b); });
+  std::stable_sort(loci.begin(), loci.end(), [](const auto& a, const auto& b) {
+    return TellsMore(a.exclusions, b.exclusions);
+  });
   const QStringList lines = Text(LociReport(allocation.run.input.loci, loci))
                                 .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
   const QStringList heads = lines.front().split(QLatin1Char('\t'));
