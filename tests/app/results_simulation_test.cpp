@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTextBrowser>
@@ -48,6 +49,22 @@ Rows CorrectRows(const QString& word) {
   return found;
 }
 
+/// Every estimate lies 1.96 standard errors from the ends of its interval, but for what is beyond 0
+/// and 1; those of the population stand in the summary.
+void ExpectIntervals(const QAbstractItemModel& estimates, const QString& summary) {
+  for (const QStringList& row : ModelRows(estimates)) {
+    if (row[2] == Text("NA")) {
+      continue;
+    }
+    const double value = row[2].toDouble();
+    const double half = 1.96 * row[4].toDouble();
+    EXPECT_NEAR(row[5].toDouble(), std::max(0.0, value - half), 1e-4);
+    EXPECT_NEAR(row[6].toDouble(), std::min(1.0, value + half), 1e-4);
+    const QString told = QString::number(value, 'f', 3) + Text(" (");
+    EXPECT_TRUE(row[0] != Text("in the population") || summary.contains(told)) << Bytes(told);
+  }
+}
+
 class ResultsSimulationTest : public test::WorkplaceTest {
  protected:
   ResultsSimulationTest() { WriteExamples(); }
@@ -70,7 +87,10 @@ TEST_F(ResultsSimulationTest, ShowsTheFiguresOfTheSummary) {
               sexed ? QStringList({Text("MC x FC"), Text("MC x FU"), Text("MU x FC"),
                                    Text("MU x FU"), Text("GLOBAL")})
                     : QStringList({Text("C X C"), Text("C X U"), Text("U X U"), Text("GLOBAL")}));
+    QTest::mouseClick(&Find<QPushButton>(*shown.window, "SummaryMore"), Qt::LeftButton);
     const QString text = Find<QTextBrowser>(*shown.window, "SummaryText").toPlainText();
+    EXPECT_TRUE(text.contains(sexed ? Text("as real offspring are") : Text("strict exclusion")));
+    ExpectIntervals(ModelIn(*shown.window, "EstimatesTable"), text);
     EXPECT_TRUE(text.contains(Text("Summary.xls")) && text.contains(Text("Run record.toml")));
     EXPECT_EQ(text.contains(Text("pseudo-offspring.txt")), !sexed);
     EXPECT_TRUE(!text.contains(Text("last combination")));

@@ -7,6 +7,7 @@
 
 #include "app/base/text.h"
 #include "base/number_text.h"
+#include "confidence/intervals.h"
 #include "runs/project_folder.h"
 #include "runs/run_record.h"
 #include "simulation/allocation_model.h"
@@ -14,6 +15,7 @@
 #include "simulation/reports/simulation_file_names.h"
 #include "simulation/reports/simulation_texts.h"
 #include "simulation/reports/subset_title.h"
+#include "simulation/simulation_banner.h"
 
 namespace kaldo {
 
@@ -84,6 +86,29 @@ void AddFigures(const SimulationSettings& settings, const SimulationRun& run, Su
                   FormatDouble(result.LastSubset().probabilities.any), error));
 }
 
+/// "0.912 (0.88 to 0.95)"
+QString WithInterval(const Estimate& estimate) {
+  if (std::isnan(estimate.value)) {
+    return Text("NA");
+  }
+  if (std::isnan(estimate.error)) {
+    return Text(fmt::format("{:.3f} (NA after one iteration)", estimate.value));
+  }
+  const Interval interval = NormalInterval(estimate.value, estimate.error);
+  return Text(fmt::format("{:.3f} ({:.3f} to {:.3f})", estimate.value, interval.from, interval.to));
+}
+
+void AddEstimates(const SimulationSettings& settings, const SimulationRun& run, Summary& summary) {
+  summary.headline = Text(SimulationBanner(settings, run.input));
+  summary.figures_title =
+      Text("Estimated probability to be correct, in the population, with its 95 % interval:");
+  for (const EstimateKind& kind : EstimateKinds(settings.flow)) {
+    summary.figures.emplace_back(
+        Text(kind.words),
+        WithInterval(EstimateOfKind(run.result.LastSubset().estimates.population, kind.kind)));
+  }
+}
+
 void AddSubsets(const SimulationSettings& settings, const SimulationResult& result,
                 Summary& summary) {
   if (settings.strategy == LociStrategy::kChoice) {
@@ -139,6 +164,7 @@ Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
       Text(fmt::format("{} simulation, {}{}", settings.flow == Flow::kSexed ? "Sexed" : "Non-sexed",
                        settings.procedure == Procedure::kParental ? "PARENTAL" : "PRE-PARENTAL",
                        LastCombinationNote(settings.strategy)));
+  AddEstimates(settings, run, summary);
   AddParents(settings, summary);
   AddFigures(settings, run, summary);
   if (const auto note = AllocatedWithoutErrorsNote(
@@ -229,16 +255,21 @@ BarChart EstimatesChart(const SimulationSettings& settings, const SimulationResu
 }
 
 DataTable EstimatesTable(Flow flow, const SimulationResult& result) {
-  DataTable table{
-      {Text("pseudo-offspring"), Text("allocation"), Text("correct"), Text("sd"), Text("se")}, {}};
+  DataTable table{{Text("pseudo-offspring"), Text("allocation"), Text("correct"), Text("sd"),
+                   Text("se"), Text("from"), Text("to")},
+                  {}};
   const auto scopes = EstimateScopes(flow);
   for (std::size_t scope = 0; scope < scopes.size(); ++scope) {
     const KindEstimates& estimates = EstimatesIn(result.LastSubset().estimates, scope);
     for (const EstimateKind& kind : EstimateKinds(flow)) {
       const Estimate& estimate = EstimateOfKind(estimates, kind.kind);
+      const bool exact = !std::isnan(estimate.value) && !std::isnan(estimate.error);
+      const Interval interval = exact ? NormalInterval(estimate.value, estimate.error)
+                                      : Interval{Estimate::kNone, Estimate::kNone};
       table.rows.push_back({Text(scopes[scope].brief), Text(kind.words),
                             NumberOrNone(estimate.value), NumberOrNone(estimate.deviation),
-                            NumberOrNone(estimate.error)});
+                            NumberOrNone(estimate.error), NumberOrNone(interval.from),
+                            NumberOrNone(interval.to)});
     }
   }
   return table;

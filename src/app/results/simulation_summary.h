@@ -32,7 +32,7 @@ DataTable CorrectnessTable(const std::vector<Correctness>& classes);
 LineChart SequenceChart(Flow flow, const SimulationRun& run);
 
 /// The estimated probabilities of the last subset of loci: in the population as a chart; of all
-/// scopes, with their deviations and errors, as a table.
+/// scopes, with their deviations, errors and 95 % intervals, as a table.
 BarChart EstimatesChart(const SimulationSettings& settings, const SimulationResult& result);
 DataTable EstimatesTable(Flow flow, const SimulationResult& result);
 

@@ -27,9 +27,9 @@ QString Paragraphs(const QString& mark, const QStringList& sentences) {
   return html;
 }
 
-QString SettingsHtml(const Summary& summary) {
+QString TableHtml(const std::vector<std::pair<QString, QString>>& lines) {
   QString html = Text("<table>");
-  for (const auto& [label, text] : summary.lines) {
+  for (const auto& [label, text] : lines) {
     html += Text("<tr><td>%1&nbsp;&nbsp;</td><td>%2</td></tr>")
                 .arg(label.toHtmlEscaped(), text.toHtmlEscaped());
   }
@@ -49,10 +49,14 @@ QString HtmlOf(const Summary& summary, bool with_settings) {
   const QString found = Paragraphs(Text("<b>&#9888; Warning:</b> "), summary.warnings) +
                         Paragraphs(QString(), summary.notes);
   if (summary.headline.isEmpty()) {
-    return html + SettingsHtml(summary) + found + FilesHtml(summary);
+    return html + TableHtml(summary.lines) + found + FilesHtml(summary);
   }
-  html += Text("<p><b>%1</b></p>").arg(summary.headline.toHtmlEscaped()) + found;
-  return with_settings ? html + SettingsHtml(summary) + FilesHtml(summary) : html;
+  html += Text("<p><b>%1</b></p>").arg(summary.headline.toHtmlEscaped());
+  if (!summary.figures.empty()) {
+    html += Paragraphs(QString(), {summary.figures_title}) + TableHtml(summary.figures);
+  }
+  html += found;
+  return with_settings ? html + TableHtml(summary.lines) + FilesHtml(summary) : html;
 }
 
 }  // namespace

@@ -23,6 +23,10 @@ struct Summary {
   /// folded away.
   QString headline;
 
+  /// The figures that matter most, below it: what they are, and each with its interval.
+  QString figures_title;
+  std::vector<std::pair<QString, QString>> figures;
+
   /// What to look at, a line each; see SummaryPage::SetOnCheck.
   QStringList to_check;
 

@@ -17,6 +17,7 @@
 #include "confidence/confidence_summary.h"
 #include "confidence/effective_breeders.h"
 #include "interchange/export/allocation_tables.h"
+#include "confidence/intervals.h"
 #include "interchange/export/html_text.h"
 #include "interchange/export/told_settings.h"
 #include "method/error_model.h"
@@ -61,28 +62,6 @@ std::string Section(std::string_view title, const std::string& contents) {
 std::string Paragraph(std::string_view text) { return fmt::format("<p>{}</p>\n", HtmlText(text)); }
 
 std::string Percent(double share) { return fmt::format("{:.1f} %", 100 * share); }
-
-/// The quantile of the normal distribution that leaves 2.5 % above.
-constexpr double kZ = 1.959964;
-
-/// From where to where a share lies with a probability of 95 %.
-struct Interval {
-  double from = 0;
-  double to = 1;
-};
-
-/// Of a share of n independent ones: Wilson, Journal of the American Statistical Association 22
-/// (1927) 209-212, doi:10.1080/01621459.1927.10502953.
-Interval WilsonInterval(double share, double n) {
-  const double center = (share + kZ * kZ / (2 * n)) / (1 + kZ * kZ / n);
-  const double half =
-      kZ / (1 + kZ * kZ / n) * std::sqrt(share * (1 - share) / n + kZ * kZ / (4 * n * n));
-  return {std::max(center - half, 0.0), std::min(center + half, 1.0)};
-}
-
-Interval NormalInterval(double share, double standard_error) {
-  return {std::max(share - kZ * standard_error, 0.0), std::min(share + kZ * standard_error, 1.0)};
-}
 
 std::string Within(Interval interval) {
   return fmt::format("95 % interval {} to {}", Percent(interval.from), Percent(interval.to));
