@@ -44,6 +44,7 @@ constexpr std::array kPlaces = {
     GuidePlace{kToleranceScreen.object_name, "Tolerance"},
     GuidePlace{kStrategyScreen.object_name, "Strategy"},
     GuidePlace{kOutputScreen.object_name, "Output"},
+    GuidePlace{"MatingsTable", "Who had offspring with whom"},
     GuidePlace{"AllocationResults", "Reading the results of an allocation"},
     GuidePlace{"SimulationResults", "Reading the results of a simulation"},
 };

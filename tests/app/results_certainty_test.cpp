@@ -24,6 +24,8 @@ using test::Column;
 using test::Find;
 using test::ModelIn;
 using test::Rows;
+using test::TsvRow;
+using test::TsvRows;
 
 namespace {
 
@@ -34,21 +36,6 @@ struct Shown : test::Shown<AllocationSettings, AllocationRun, AllocationWindow> 
       : test::Shown<AllocationSettings, AllocationRun, AllocationWindow>(
             test::ExampleAllocation(flow)) {}
 };
-
-/// A row of a table for statistics programs, by the names of its columns.
-using TsvRow = std::map<QString, QString>;
-
-std::vector<TsvRow> TsvRows(const std::string& path) {
-  const Rows lines = test::ReportRows(path);
-  std::vector<TsvRow> rows;
-  for (std::size_t k = 1; k + 1 < lines.size(); ++k) {
-    for (int column = 0; column < lines[k].size(); ++column) {
-      rows.resize(k);
-      rows.back()[lines[0][column]] = lines[k][column];
-    }
-  }
-  return rows;
-}
 
 /// The row in words, from its own table: what is less sure decides.
 QString WordFor(const TsvRow& row, const std::array<QString, 2>& sides) {

@@ -113,6 +113,8 @@ TEST_F(SteadinessTest, TheGuideOpensAtTheScreenInQuestion) {
   ExpectGuideAt("Model of error");
   script_.Click("Ok").Await("ChoiceOfLoci").Click("Ok").Answer().Click("CopyCommand");
   ExpectGuideAt("Reading the results of an allocation");
+  script_.Press(Qt::Key_G, Qt::AltModifier).Await("MatingsTable");
+  ExpectGuideAt("Who had offspring with whom");
   Go(script_);
 }
 

@@ -11,6 +11,7 @@
 #include "app/results/allocation_summary.h"
 #include "app/results/chart_panel.h"
 #include "app/results/loci_use_page.h"
+#include "app/results/mating_page.h"
 #include "app/results/offspring_page.h"
 #include "app/results/parents_page.h"
 #include "simulation/trial_of_allocation.h"
@@ -40,6 +41,12 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
   };
   AddTab(new ParentsPage(shared, Folder(), show_offspring), Text("&Parents"),
          Text("The offspring and mates of every collected parent, and who has none."));
+  AddTab(new MatingPage(shared, Folder(),
+                        [this, offspring](std::vector<std::size_t> places, const QString& what) {
+                          offspring->ShowSome(std::move(places), what);
+                          ShowTab(*offspring);
+                        }),
+         Text("Matin&gs"), Text("Who had offspring with whom, as a table that is a picture."));
   if (shared->settings.sequence) {
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Vertical, Folder(), nullptr);
     sequence->Show(SequenceChart(shared->run.input, shared->run.result));

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "app/results/chart_data.h"
+#include "app/results/figure_saver.h"
 
 class QBoxLayout;
 
@@ -15,8 +16,8 @@ class ResultTable;
 
 /// A chart with its numbers as a table, and buttons to save or copy the one and copy the other.
 ///
-/// Object names, with `name` as given: "<name>Chart", "<name>Table", "<name>Save", "<name>Size",
-/// "<name>Picture", "<name>Copy"; in the dialog for the size "ChartWidth" and "ChartHeight".
+/// Object names, with `name` as given: "<name>Chart", "<name>Table", "<name>Copy", and those of a
+/// FigureSaver.
 class ChartPanel : public QWidget {
  public:
   /// The table stands beside (Qt::Horizontal) or below the chart. `folder` is where files are
@@ -30,20 +31,12 @@ class ChartPanel : public QWidget {
   void Show(const Chart& chart, const DataTable& table);
 
  private:
-  void AddButtons(QBoxLayout& layout);
-  void AddChartMenu();
-  void AskAndSave();
-  void AskSize();
+  void AddButtons(QBoxLayout& layout, const QString& name);
 
-  /// In units of 1/96 inch: the size chosen, or the natural one of the chart.
-  QSize SavedSize() const;
-
-  QString name_;
-  QString folder_;
   ChartView* chart_;
   DataTableModel* model_;
   ResultTable* table_;
-  std::optional<QSize> millimetres_;  ///< as chosen
+  FigureSaver saver_;
 };
 
 }  // namespace kaldo

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/chart_view.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QEvent>
-#include <QFileInfo>
 #include <QMouseEvent>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -15,11 +12,8 @@
 #include <span>
 #include <utility>
 
-#include "app/base/messages.h"
 #include "app/base/text.h"
-#include "app/results/chart_files.h"
 #include "app/results/chart_layout.h"
-#include "app/results/save_file.h"
 
 namespace kaldo {
 
@@ -360,8 +354,7 @@ QFont ChartFont() {
   return font;
 }
 
-}  // namespace
-
+/// Onto paper or a picture.
 void PaintChart(const Chart& chart, const ChartTheme& theme, QSize size, double scale,
                 QPaintDevice& device) {
   QCustomPlot plot;
@@ -374,6 +367,8 @@ void PaintChart(const Chart& chart, const ChartTheme& theme, QSize size, double 
   painter.fillRect(QRect(QPoint(0, 0), size), theme.background);
   plot.toPainter(&painter, size.width(), size.height());
 }
+
+}  // namespace
 
 ChartView::ChartView(QWidget* parent) : QWidget(parent), plot_(new QCustomPlot(this)) {
   auto* layout = new QVBoxLayout(this);
@@ -412,8 +407,16 @@ QString ChartView::ValuesAt(std::size_t place) const {
   return lines.join(QLatin1Char('\n'));
 }
 
-void ChartView::CopyPicture(QSize size) const {
-  QApplication::clipboard()->setImage(QImage::fromData(ChartPng(chart_, size), "PNG"));
+Figure ChartView::ShownFigure() const {
+  return {TextsOf(chart_).title,
+          [chart = chart_](QSize size, double scale, QPaintDevice& device) {
+            PaintChart(chart, LightTheme(), size, scale, device);
+          },
+          [chart = chart_] { return TableOf(chart); }};
+}
+
+bool ChartView::SaveChart(const QString& path) {
+  return SaveFigure(window(), ShownFigure(), path, ChartSize(chart_));
 }
 
 void ChartView::SetChart(const Chart& chart) {
@@ -426,27 +429,6 @@ void ChartView::SetChart(const Chart& chart) {
 void ChartView::Draw() {
   ChartPainter(*plot_, ThemeOf(palette()), font()).Paint(chart_, width() - kTitleMargin);
   plot_->replot(QCustomPlot::rpQueuedReplot);
-}
-
-bool ChartView::SaveChart(const QString& path, std::optional<QSize> wanted) {
-  const QSize size = wanted.value_or(ChartSize(chart_));
-  const QString ending = QFileInfo(path).suffix().toLower();
-  if (ending == QLatin1String("svg")) {
-    return SaveFile(window(), path, ChartSvg(chart_, size));
-  }
-  if (ending == QLatin1String("pdf")) {
-    return SaveFile(window(), path, ChartPdf(chart_, size));
-  }
-  if (ending == QLatin1String("png")) {
-    return SaveFile(window(), path, ChartPng(chart_, size));
-  }
-  if (ending == QLatin1String("csv")) {
-    return SaveFile(window(), path, CsvText(TableOf(chart_)));
-  }
-  ShowFailure(window(), Text("A chart is saved as .svg, .pdf or .png, its numbers as .csv. \"%1\" "
-                             "has none of these endings.")
-                            .arg(path));
-  return false;
 }
 
 QSize ChartView::minimumSizeHint() const {

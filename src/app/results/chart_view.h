@@ -4,11 +4,11 @@
 #include <QWidget>
 
 #include "app/results/chart_data.h"
+#include "app/results/chart_files.h"
 #include "app/results/chart_theme.h"
 
 class QCustomPlot;
 class QMouseEvent;
-class QPaintDevice;
 
 namespace kaldo {
 
@@ -22,13 +22,11 @@ class ChartView : public QWidget {
 
   const Chart& Shown() const { return chart_; }
 
-  /// Saves the chart by the ending of `path`: .svg, .pdf, .png, or .csv for its numbers; `wanted`
-  /// is in units of 1/96 inch, the natural one unless told. Tells the user and returns false when
-  /// that cannot be done; an earlier file then stays as it was.
-  bool SaveChart(const QString& path, std::optional<QSize> wanted = std::nullopt);
+  /// The chart for a file. It outlives this view.
+  Figure ShownFigure() const;
 
-  /// Puts the chart on the clipboard as the picture that would be saved.
-  void CopyPicture(QSize size) const;
+  /// Saves it in its natural size, see SaveFigure().
+  bool SaveChart(const QString& path);
 
   /// What a tip tells at a place of the chart: the numbers of that row of its table.
   QString ValuesAt(std::size_t place) const;
@@ -47,9 +45,5 @@ class ChartView : public QWidget {
   Chart chart_;
   QCustomPlot* plot_ = nullptr;
 };
-
-/// Paints a chart of that size, enlarged by `scale`, onto paper or a picture.
-void PaintChart(const Chart& chart, const ChartTheme& theme, QSize size, double scale,
-                QPaintDevice& device);
 
 }  // namespace kaldo

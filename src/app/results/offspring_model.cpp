@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/offspring_model.h"
 
+#include <algorithm>
+
 #include "allocation/findings.h"
 #include "allocation/reports/result_line.h"
 #include "app/base/text.h"
@@ -270,6 +272,10 @@ bool OffspringFilter::Accepts(int row) const {
   }
   if (choice_.certainty &&
       (confidence == nullptr || CertaintyOf(*confidence) != *choice_.certainty)) {
+    return false;
+  }
+  if (choice_.only && !std::binary_search(choice_.only->begin(), choice_.only->end(),
+                                          static_cast<std::size_t>(row))) {
     return false;
   }
   if (choice_.parent && !model_.HasParent(row, *choice_.parent)) {

@@ -64,8 +64,9 @@ struct OffspringChoice {
   QString name;                          ///< part of a name; empty for all
   std::optional<std::size_t> the_class;  ///< by its place in ClassNames()
   std::optional<Certainty> certainty;
-  std::optional<Slot> parent;  ///< of the offspring, as the results name it
-  bool only_to_check = false;  ///< those with a Doubt
+  std::optional<Slot> parent;                    ///< of the offspring, as the results name it
+  std::optional<std::vector<std::size_t>> only;  ///< these, by their places in the file, ascending
+  bool only_to_check = false;                    ///< those with a Doubt
   bool only_several_pairs = false;
   bool only_without_pair = false;
 };

@@ -141,16 +141,25 @@ void OffspringPage::ShowToCheck() {
 void OffspringPage::ShowOffspringOf(Slot parent) {
   OffspringChoice choice;
   choice.parent = parent;
-  const QString text =
-      Text("offspring of %1").arg(Text(allocation_->run.input.table.Name(parent).Text()));
+  ShowAsked(choice,
+            Text("offspring of %1").arg(Text(allocation_->run.input.table.Name(parent).Text())));
+}
+
+void OffspringPage::ShowSome(std::vector<std::size_t> places, const QString& what) {
+  OffspringChoice choice;
+  choice.only = std::move(places);
+  ShowAsked(choice, what);
+}
+
+void OffspringPage::ShowAsked(const OffspringChoice& choice, const QString& what) {
   ShowAll();
-  if (of_parent_ < 0) {
-    of_parent_ = static_cast<int>(choices_.size());
-    AddChoice(text, choice);
+  if (asked_ < 0) {
+    asked_ = static_cast<int>(choices_.size());
+    AddChoice(what, choice);
   }
-  choices_[static_cast<std::size_t>(of_parent_)] = choice;
-  list_->Choices().setItemText(of_parent_, text);
-  list_->Choices().setCurrentIndex(of_parent_);
+  choices_[static_cast<std::size_t>(asked_)] = choice;
+  list_->Choices().setItemText(asked_, what);
+  list_->Choices().setCurrentIndex(asked_);
 }
 
 void OffspringPage::Narrow() {

@@ -31,6 +31,9 @@ class OffspringPage : public QWidget {
   /// Shows those of whom the results name this parent.
   void ShowOffspringOf(Slot parent);
 
+  /// Shows those at these places in the file, ascending, which `what` names.
+  void ShowSome(std::vector<std::size_t> places, const QString& what);
+
  protected:
   void changeEvent(QEvent* event) override;
 
@@ -39,6 +42,7 @@ class OffspringPage : public QWidget {
   void AddChoice(const QString& text, const OffspringChoice& choice, const QString& tip = {});
   void FillChoices();
   void ShowAll();
+  void ShowAsked(const OffspringChoice& choice, const QString& what);
   void Narrow();
   void ShowCurrent();
 
@@ -49,7 +53,7 @@ class OffspringPage : public QWidget {
   ComparisonPanel* comparison_;
   std::vector<OffspringChoice> choices_;  ///< beside the list of what to show
   int to_check_ = 0;                      ///< place in `choices_`
-  int of_parent_ = -1;                    ///< the same, once a parent was asked for
+  int asked_ = -1;  ///< the same, once the offspring of a parent or a family were asked for
 };
 
 }  // namespace kaldo

@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QPointer>
 #include <QtTest>
+#include <map>
 
 #include "allocation/allocation_run.h"
 #include "app/base/text.h"
@@ -22,6 +23,21 @@ inline Rows ReportRows(const std::string& path) {
   Rows rows;
   for (const QString& line : Text(ReadFile(path)).split(QLatin1Char('\n'))) {
     rows.push_back(line.split(QLatin1Char('\t')));
+  }
+  return rows;
+}
+
+/// A row of a table for statistics programs, by the names of its columns.
+using TsvRow = std::map<QString, QString>;
+
+inline std::vector<TsvRow> TsvRows(const std::string& path) {
+  const Rows lines = ReportRows(path);
+  std::vector<TsvRow> rows;
+  for (std::size_t k = 1; k + 1 < lines.size(); ++k) {
+    for (int column = 0; column < lines[k].size(); ++column) {
+      rows.resize(k);
+      rows.back()[lines[0][column]] = lines[k][column];
+    }
   }
   return rows;
 }
