@@ -7,6 +7,7 @@
 #include "allocation/findings.h"
 #include "confidence/sibships.h"
 #include "genotypes/separator.h"
+#include "runs/tsv_row.h"
 
 namespace kaldo {
 
@@ -26,7 +27,7 @@ class Counter {
       ++summary.offspring;
       if (confidence != nullptr && confidence->is_possible && confidence->sides.at(k).p_reported) {
         summary.expected_offspring =
-            summary.expected_offspring.value_or(0) + *confidence->sides.at(k).p_reported;
+            summary.expected_offspring.value_or(0) + AsTold(*confidence->sides.at(k).p_reported);
       }
       if (const auto mate = parents.at(1 - k)) {
         mates_[parents.at(k)->Value()].insert(mate->Value());

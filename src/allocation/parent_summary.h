@@ -15,8 +15,8 @@ struct ParentSummary {
   std::size_t mates = 0;             ///< collected parents with whom it has some of them
   std::size_t with_uncollected = 0;  ///< offspring whose other parent is UC
 
-  /// The sum of the probabilities of these allocations: so many of the offspring are expected to be
-  /// its own. None without probabilities.
+  /// The sum of the probabilities of these allocations, as "/Confidence.tsv" tells them: so many of
+  /// the offspring are expected to be its own. None without probabilities.
   std::optional<double> expected_offspring;
 
   std::size_t named = 0;  ///< offspring of which it is named a parent, see NamedParents

@@ -7,6 +7,7 @@
 
 #include "allocation/allocation_file_names.h"
 #include "allocation/allocation_portions.h"
+#include "allocation/reopened_confidence.h"
 #include "allocation/reports/genotype_text.h"
 #include "allocation/reports/max_like_report.h"
 #include "allocation/reports/result_line.h"
@@ -22,10 +23,6 @@ namespace {
 using Slots = std::vector<Slot>;
 
 constexpr std::string_view kEndOfBlock = "*************************************\n\n";
-
-bool Holds(SlotRange range, Slot slot) {
-  return slot.Value() >= range.begin && slot.Value() < range.end;
-}
 
 /// Finds parents again by what the reports show of them.
 class ShownParents {
@@ -155,12 +152,12 @@ class OutcomeReader {
     const OffspringGroups groups(settings_.flow, input_.groups, allowed);
     for (const CandidateGroup& group : groups.Groups()) {
       for (const Slot first : maybe.first) {
-        if (!Holds(group.first, first) || !allowed.IsCandidate(first)) {
+        if (!group.first.Holds(first) || !allowed.IsCandidate(first)) {
           continue;
         }
         const SlotRange partners = PartnersOf(groups.Pairing(), group, first.Value());
         for (const Slot second : maybe.second) {
-          if (Holds(partners, second) && allowed.IsCandidate(second) &&
+          if (partners.Holds(second) && allowed.IsCandidate(second) &&
               Fits(offspring, {first, second}, line, outcome)) {
             return true;
           }
@@ -297,11 +294,11 @@ std::optional<Problem> ReadSequence(const AllocationSettings& then, const Alloca
 
 }  // namespace
 
-tl::expected<AllocationRun, Problem> ReopenAllocation(const AllocationSettings& then,
-                                                      const AllocationSettings& now,
-                                                      const RunRecord& record,
-                                                      const RecordedReports& reports,
-                                                      RunObserver& observer) {
+tl::expected<ReopenedAllocation, Problem> ReopenAllocation(const AllocationSettings& then,
+                                                           const AllocationSettings& now,
+                                                           const RunRecord& record,
+                                                           const RecordedReports& reports,
+                                                           RunObserver& observer) {
   auto input = LoadAllocationInput(now);
   if (!input) {
     return tl::unexpected(std::move(input.error()));
@@ -323,7 +320,8 @@ tl::expected<AllocationRun, Problem> ReopenAllocation(const AllocationSettings& 
       return tl::unexpected(std::move(*problem));
     }
   }
-  return AllocationRun{std::move(*input), std::move(result)};
+  auto without_certainty = AddRecordedConfidence(now, *input, reports, result);
+  return ReopenedAllocation{{std::move(*input), std::move(result)}, std::move(without_certainty)};
 }
 
 bool IsOnlyFirstPairTold(const AllocationOutcome& outcome) {

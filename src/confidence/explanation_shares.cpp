@@ -78,6 +78,11 @@ SquareMatrix Information(Evidence offspring, const ByExplanation<double>& theta,
 
 }  // namespace
 
+std::array<double, 2> CollectedBySide(const ByExplanation<double>& theta) {
+  const double both = theta[Explanation::kBoth];
+  return {both + theta[Explanation::kFirst], both + theta[Explanation::kSecond]};
+}
+
 ExplanationShares EstimateShares(std::span<const ByExplanation<double>> evidence,
                                  const WaysOfExplanations& ways) {
   const ByExplanation<double> theta0 = EqualShares(ways);
@@ -101,6 +106,7 @@ ExplanationShares EstimateShares(std::span<const ByExplanation<double>> evidence
     shares.collected += CollectedShare(k) * shares.theta[k];
     weights.push_back(CollectedShare(k));
   }
+  shares.collected_by_side = CollectedBySide(shares.theta);
   shares.standard_error =
       std::sqrt(VarianceOfSum(Information(evidence, shares.theta, theta0, free), weights));
   return shares;

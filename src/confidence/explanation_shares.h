@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <span>
 
 #include "confidence/explanations.h"
@@ -17,9 +18,15 @@ struct ExplanationShares {
   /// The share of the parents, two per offspring, that was collected:
   /// theta_both + (theta_first + theta_second) / 2.
   double collected = 0;
-  /// Its standard error; 0 where nobody was collected, and nothing is to be estimated.
+  /// Where sexes are known the same of the fathers, theta_both + theta_first, and of the mothers.
+  std::array<double, 2> collected_by_side{};
+  /// The standard error of `collected`; 0 where nobody was collected, and nothing is to be
+  /// estimated.
   double standard_error = 0;
 };
+
+/// What follows from theta for either side.
+std::array<double, 2> CollectedBySide(const ByExplanation<double>& theta);
 
 /// Estimates the shares from the evidence E_k of each offspring for each explanation, up to a
 /// factor of its own: likelihoods, means over the ways of the explanation. Offspring that say

@@ -199,6 +199,7 @@ RelativesShares EstimateRelatives(Evidence evidence, Flow flow, const WaysOfExpl
   for (const Origins o : AllOrigins(flow)) {
     result.explanations.theta[o.Case()] += weights[o];
   }
+  result.explanations.collected_by_side = CollectedBySide(result.explanations.theta);
   for (const auto& one : evidence) {
     result.explanations.log_likelihood += std::log(setting.Mixture(weights, one));
   }

@@ -3,7 +3,13 @@
 
 #include <fmt/format.h>
 
+#include "base/number_text.h"
+
 namespace kaldo {
+
+double AsTold(double number) {
+  return ParseDouble(fmt::format("{:.8g}", number)).value_or(number);
+}
 
 TsvRow& TsvRow::Plain(std::string_view word) {
   if (!text_.empty()) {

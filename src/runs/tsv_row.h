@@ -8,6 +8,9 @@
 
 namespace kaldo {
 
+/// A number as a table tells it: what is read back.
+double AsTold(double number);
+
 /// A line of a table that statistics programs read without being told anything: cells between tabs,
 /// "NA" where there is nothing. A name with a quotation mark, a tab or a line end stands between
 /// quotation marks, its own doubled (RFC 4180), as both R and pandas expect.

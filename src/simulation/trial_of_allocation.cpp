@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "allocation/findings.h"
+#include "genotypes/capacities.h"
 #include "simulation/reports/estimate_texts.h"
 
 namespace kaldo {
@@ -22,6 +23,29 @@ double Uncollected(double collected, double share) {
   return std::round(std::min(others, kMostUncollected * collected));
 }
 
+/// Draws no more uncollected parents than an iteration has room for beside the collected ones, and
+/// says so.
+std::string DrawWhatFits(SimulationSettings& settings) {
+  double wanted = 0;
+  double room = static_cast<double>(kMaxIndividuals);
+  for (const ParentalSet& set : settings.Sets()) {
+    wanted += set.uncollected;
+    room -= set.estimated_collected;
+  }
+  if (wanted <= room) {
+    return {};
+  }
+  double drawn = 0;
+  for (ParentalSet& set : settings.sets) {
+    set.uncollected = std::floor(set.uncollected * room / wanted);
+    drawn += set.uncollected;
+  }
+  return fmt::format(
+      "By the estimate {:.0f} parents were not collected. A simulation has room for {} parents in "
+      "all, so that {:.0f} are drawn.",
+      wanted, kMaxIndividuals, drawn);
+}
+
 ParentalSet SetOf(const std::string& file, std::size_t number, double share) {
   const auto collected = static_cast<double>(number);
   ParentalSet set;
@@ -35,12 +59,17 @@ ParentalSet SetOf(const std::string& file, std::size_t number, double share) {
 
 }  // namespace
 
-tl::expected<SimulationSettings, std::string> TrialOf(const AllocationSettings& settings,
-                                                      const AllocationInput& input,
-                                                      const AllocationResult& result) {
+tl::expected<Trial, std::string> TrialOf(const AllocationSettings& settings,
+                                         const AllocationInput& input,
+                                         const AllocationResult& result) {
   if (!KnowsCertainty(result)) {
     return tl::unexpected<std::string>(
         "How many parents were not collected is not known: this run computed no probabilities.");
+  }
+  if (std::isnan(result.confidence->shares.collected)) {
+    return tl::unexpected<std::string>(
+        "How many parents were not collected is not in the reports of a run that counts relatives. "
+        "Run it again to try its results.");
   }
   if (input.groups.size() > 1) {
     return tl::unexpected<std::string>(
@@ -63,19 +92,18 @@ tl::expected<SimulationSettings, std::string> TrialOf(const AllocationSettings& 
   trial.iterations = kIterations;
   trial.offspring_per_iteration =
       static_cast<std::int32_t>(std::min(input.NumberOfOffspring(), kMostOffspring));
-  const ByExplanation<double>& theta = result.confidence->shares.theta;
+  const ExplanationShares& shares = result.confidence->shares;
   if (settings.flow == Flow::kNonSexed) {
     trial.allocate_with.reset();  // with the model of the run
-    trial.sets[0] =
-        SetOf(settings.parents_file, input.NumberOfParents(), result.confidence->shares.collected);
+    trial.sets[0] = SetOf(settings.parents_file, input.NumberOfParents(), shares.collected);
   } else {
-    const double both = theta[Explanation::kBoth];
     trial.sets[0] =
-        SetOf(settings.males_file, input.first_parents.Size(), both + theta[Explanation::kFirst]);
-    trial.sets[1] = SetOf(settings.females_file, input.second_parents.Size(),
-                          both + theta[Explanation::kSecond]);
+        SetOf(settings.males_file, input.first_parents.Size(), shares.collected_by_side[0]);
+    trial.sets[1] =
+        SetOf(settings.females_file, input.second_parents.Size(), shares.collected_by_side[1]);
   }
-  return trial;
+  std::string note = DrawWhatFits(trial);
+  return Trial{std::move(trial), std::move(note)};
 }
 
 std::string TrialSentence(const SimulationSettings& settings, const SimulationResult& result) {
@@ -91,7 +119,7 @@ std::string TrialSentence(const SimulationSettings& settings, const SimulationRe
     }
     sentence += fmt::format("{}{} {:.3f}", before, kind.words, estimate.value);
     if (!std::isnan(estimate.error)) {
-      sentence += fmt::format(" (standard error {:.2g})", estimate.error);
+      sentence += fmt::format(" (standard error {:.3f})", estimate.error);
     }
     before = ", ";
   }

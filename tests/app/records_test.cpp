@@ -4,11 +4,13 @@
 #include <QClipboard>
 #include <QDir>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTimer>
 #include <filesystem>
 #include <gmock/gmock.h>
 
+#include "app/base/command_text.h"
 #include "app/base/text.h"
 #include "app/support/desktop_test.h"
 
@@ -208,6 +210,32 @@ TEST_F(RecordsTest, ResultsOpenAgainWithoutARun) {
   script_.Press(Qt::Key_Escape).Await("MainMenu");
   Go(script_);
   test::ExpectSame(ContentsOf("p"), before);
+}
+
+TEST_F(RecordsTest, ResultsOpenedAgainAreAsSureAndExportedAsThoseOfTheRun) {
+  RunCommand(kAllocation);
+  const std::string confidence = test::ReadFile(folder_.Path("p/Confidence.tsv"));
+  const auto menu_in_front = [this] {
+    menu_.activateWindow();
+    return menu_.isActiveWindow();
+  };
+  std::string note;
+  OpenResults("p");
+  script_.Await("Note").Press(Qt::Key_O, Qt::AltModifier).Await("OffspringLegend");
+  script_.Click("ExportRun").Await("Exports").Click("ExportForm_tsv").Click("ExportWrite");
+  script_.Answer().Await("Note").Click("Close").Until(menu_in_front, "the menu");
+  // A report of certainty that was edited is told; all else is there.
+  script_.Do([&](QWidget&) { folder_.Write("p/Confidence.tsv", confidence + " "); });
+  OpenResults("p");
+  script_.Await("Note").Do([&](QWidget& window) {
+    note = Bytes(window.window()->findChild<QLabel*>(Text("Note"))->text());
+    EXPECT_EQ(window.window()->findChild<QWidget*>(Text("OffspringLegend")), nullptr);
+    folder_.Write("p/Confidence.tsv", confidence);
+  });
+  script_.Click("Close").Until(menu_in_front, "the menu");
+  Go(script_);
+  EXPECT_THAT(note, testing::HasSubstr("\"Confidence.tsv\" has other contents"));
+  ExpectAsCommandLine("p", CommandHere(std::string(kAllocation) + "&& kaldo export p --as tsv"));
 }
 
 TEST_F(RecordsTest, ResultsThatAreNoLongerThoseOfTheRunAreNotShown) {

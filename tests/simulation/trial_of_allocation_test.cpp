@@ -27,17 +27,32 @@ struct Finished {
 TEST(TrialOf, TakesAsManyUncollectedParentsAsTheSharesSay) {
   // 16 males, of whom 0.5 + 0.3 were collected: 4 others. 12 females, 0.5 + 0.1: 8 others.
   Finished sexed(Flow::kSexed, 16, 12);
-  auto& theta = sexed.result.confidence->shares.theta;
+  ByExplanation<double> theta;
   theta[Explanation::kBoth] = 0.5;
   theta[Explanation::kFirst] = 0.3;
   theta[Explanation::kSecond] = 0.1;
   theta[Explanation::kNone] = 0.1;
-  const auto trial = TrialOf(sexed.settings, sexed.input, sexed.result).value();
+  sexed.result.confidence->shares.collected_by_side = CollectedBySide(theta);
+  const auto found = TrialOf(sexed.settings, sexed.input, sexed.result).value();
+  const SimulationSettings& trial = found.settings;
+  EXPECT_EQ(found.note, "");
   EXPECT_EQ(trial.sets[0].uncollected, 4);
   EXPECT_EQ(trial.sets[1].uncollected, 8);
   EXPECT_EQ(trial.sets[1].estimated_collected, 12);
   EXPECT_EQ(trial.sets[1].estimated_uncollected, 8);
   EXPECT_EQ(trial.offspring_per_iteration, 30);
+}
+
+TEST(TrialOf, DrawsNoMoreThanASimulationTakes) {
+  // 20,000 males of 0.25 and 10,000 females of 0.5: 60,000 and 10,000 others; 20,000 have room.
+  Finished large(Flow::kSexed, 20'000, 10'000);
+  large.result.confidence->shares.collected_by_side = {0.25, 0.5};
+  const auto trial = TrialOf(large.settings, large.input, large.result).value();
+  EXPECT_EQ(trial.settings.sets[0].uncollected, 17'142);
+  EXPECT_EQ(trial.settings.sets[1].uncollected, 2'857);
+  EXPECT_EQ(trial.settings.sets[0].estimated_uncollected, 60'000);
+  EXPECT_NE(trial.note.find("70000 parents were not collected"), std::string::npos) << trial.note;
+  EXPECT_NE(trial.note.find("19999 are drawn"), std::string::npos) << trial.note;
 }
 
 TEST(TrialOf, SaysWhyThereIsNone) {

@@ -62,35 +62,66 @@ tl::expected<CheckedRecord, Problem> Check(const std::string& path) {
   return CheckedRecord{path, std::move(*record), std::move(*then), std::move(*now)};
 }
 
-/// What the reports cannot tell of these results.
-QString Untold(const AllocationRun& run) {
-  const auto& outcomes = run.result.outcomes;
-  const auto untold = std::count_if(outcomes.begin(), outcomes.end(), IsOnlyFirstPairTold);
-  return untold == 0 ? QString()
-                     : Text(fmt::format(
-                           " Of {} with more than five pairs the reports name the "
-                           "first one alone.",
-                           Counted(static_cast<std::size_t>(untold), "offspring", "offspring")));
+/// What an allocation opened again shows, and what its reports cannot tell.
+struct Opened {
+  QString untold;
+  std::vector<NamedExportForm> exports;
+};
+
+QString WithoutCertainty(const Problem& problem) {
+  return Text(
+      fmt::format(" How sure the allocations are is not shown in full: {}.", problem.found));
 }
 
-QString Untold(const SimulationRun& /*run*/) {
-  return Text(" Figures have the digits of the reports; NA stands where these tell none.");
+Opened OpenedOf(const ReopenedAllocation& reopened) {
+  const auto& outcomes = reopened.run.result.outcomes;
+  const auto first_alone = std::count_if(outcomes.begin(), outcomes.end(), IsOnlyFirstPairTold);
+  Opened opened;
+  for (const NamedExportForm& form : kAllExportForms) {
+    const bool is_told = form.choice == &ExportForms::pedigree ||
+                         (form.choice == &ExportForms::tables && first_alone == 0);
+    if (is_told) {
+      opened.exports.push_back(form);
+    }
+  }
+  if (reopened.without_certainty) {
+    opened.untold += WithoutCertainty(*reopened.without_certainty);
+  }
+  if (first_alone > 0) {
+    opened.untold += Text(fmt::format(
+        " Of {} with more than five pairs the reports name the first one alone, so that tables, "
+        "which count them, cannot be exported.",
+        Counted(static_cast<std::size_t>(first_alone), "offspring", "offspring")));
+  }
+  opened.untold += Text(
+      " An HTML report and a workbook need more digits than the reports have: "
+      "run again for them.");
+  return opened;
 }
 
-void Show(ResultsWindow* window, const QString& note, const QString& command) {
+Opened OpenedOf(const SimulationRun& /*run*/) {
+  return {Text(" Figures have the digits of the reports; NA stands where these tell none. Exports "
+               "need all digits: run again for them."),
+          {}};
+}
+
+void Show(ResultsWindow* window, const QString& note, Opened opened, const QString& command) {
   window->SetCommand(command);
-  window->SetNote(note);
-  window->WithholdExports();
+  window->SetNote(note + opened.untold);
+  window->NarrowExports(std::move(opened.exports));
   window->show();
   window->raise();
   window->activateWindow();
 }
 
+SimulationRun RunIn(SimulationRun run) { return run; }
+AllocationRun RunIn(ReopenedAllocation reopened) { return std::move(reopened.run); }
+
 /// Reads a run with `read`, which gets an observer, and shows it in a `Window`.
-template <typename Window, typename Run, typename Settings, typename Read>
+template <typename Window, typename Reopened, typename Settings, typename Read>
 Window* ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord& checked,
                     const Settings& settings, Read read) {
-  tl::expected<Run, Problem> run;
+  tl::expected<Reopened, Problem> run;
   const bool done = RunWithProgress(parent, Text("Open results"),
                                     [&](RunObserver& observer) { run = read(observer); });
   if (done && !run) {
@@ -99,11 +130,11 @@ Window* ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord&
   if (!done || !run) {
     return nullptr;
   }
-  const QString note = Text(fmt::format("Opened from the reports of {}; nothing was run again.",
-                                        checked.record.date)) +
-                       Untold(*run);
-  auto* const window = new Window(settings, std::move(*run), folder);
-  Show(window, note,
+  const QString note = Text(
+      fmt::format("Opened from the reports of {}; nothing was run again.", checked.record.date));
+  Opened opened = OpenedOf(*run);
+  auto* const window = new Window(settings, RunIn(std::move(*run)), folder);
+  Show(window, note, std::move(opened),
        CommandInFolder(WorkingFolderNow(checked.record, checked.path),
                        CommandOf(std::get<Settings>(checked.then))));
   return window;
@@ -113,7 +144,7 @@ void ShowRun(QWidget* parent, const CheckedRecord& checked, const StartTrial& st
   const RecordedReports reports(checked.record, checked.path);
   const QString folder = QFileInfo(PathText(checked.path)).absolutePath();
   if (const auto* now = std::get_if<AllocationSettings>(&checked.now)) {
-    auto* const window = ReadAndShow<AllocationWindow, AllocationRun>(
+    auto* const window = ReadAndShow<AllocationWindow, ReopenedAllocation>(
         parent, folder, checked, *now, [&](RunObserver& observer) {
           return ReopenAllocation(std::get<AllocationSettings>(checked.then), *now, checked.record,
                                   reports, observer);

@@ -18,15 +18,28 @@
 
 namespace kaldo {
 
+namespace {
+
+/// Why there are no probabilities to go by; empty where there are.
+std::string WithoutProbabilities(const AllocationResult& result) {
+  if (KnowsCertainty(result)) {
+    return {};
+  }
+  return result.confidence ? "none: the error model has a negative probability"
+                           : "none: probabilities are not known";
+}
+
+}  // namespace
+
 AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun run, QString folder,
                                    QWidget* parent)
     : ResultsWindow(settings.project, std::move(folder), parent) {
   setObjectName(Text("AllocationResults"));
   const SharedAllocation shared = std::make_shared<const FinishedAllocation>(
       FinishedAllocation{std::move(settings), std::move(run)});
-  SetExports({.forms = kAllExportForms,
+  SetExports({.forms = {kAllExportForms.begin(), kAllExportForms.end()},
               .needs_sexes = shared->settings.flow == Flow::kNonSexed,
-              .has_probabilities = shared->run.result.confidence.has_value(),
+              .without_probabilities = WithoutProbabilities(shared->run.result),
               .make = [shared](const WantedExports& wanted, const ExportPlace& place) {
                 return ExportRun(shared->settings, shared->run, wanted, place);
               }});
@@ -84,7 +97,10 @@ void AllocationWindow::OfferTrial(StartTrial start) {
       return ShowFailure(this, Text(trial.error()));
     }
     const QPointer<AllocationWindow> asking(this);  // it may be closed meanwhile
-    const auto figures = start(*trial);
+    if (!trial->note.empty()) {
+      ShowSentence(this, trial->note);
+    }
+    const auto figures = start(trial->settings);
     if (asking && figures) {
       summary_->AddNote(Text(*figures));
     }

@@ -112,8 +112,11 @@ QWidget* ExportDialog::NewPedigreeFields() {
   if (offer_.needs_sexes) {
     sexes_ = AddFileField(*form, kSexes);
   }
-  if (offer_.has_probabilities) {
-    least_ = AddLineEdit(*form, kLeast);
+  least_ = AddLineEdit(*form, kLeast);
+  if (!offer_.without_probabilities.empty()) {
+    least_->setEnabled(false);
+    least_->setPlaceholderText(Text(offer_.without_probabilities));
+    least_->setToolTip(Text(offer_.without_probabilities));
   }
   fields->setVisible(false);
   for (const Form& each : forms_) {

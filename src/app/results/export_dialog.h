@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <QString>
 #include <functional>
-#include <span>
+#include <string>
 #include <vector>
 
 #include "interchange/export/run_exports.h"
@@ -18,9 +18,12 @@ class FileField;
 
 /// What a finished run can be exported as, and how.
 struct ExportOffer {
-  std::span<const NamedExportForm> forms = {};
-  bool needs_sexes = false;        ///< for most pedigrees, since the run knows none
-  bool has_probabilities = false;  ///< by which parents may be left out of pedigrees
+  std::vector<NamedExportForm> forms = {};
+  bool needs_sexes = false;  ///< for most pedigrees, since the run knows none
+
+  /// Why no parents can be left out of pedigrees by their probabilities; empty where they can.
+  std::string without_probabilities = {};
+
   std::function<tl::expected<Exported, Problem>(const WantedExports&, const ExportPlace&)> make =
       {};
 

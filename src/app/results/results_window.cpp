@@ -91,13 +91,13 @@ void ResultsWindow::AddExports(QLayout& row) {
 
 void ResultsWindow::SetExports(ExportOffer offer) {
   exports_ = std::move(offer);
-  export_->show();
+  export_->setVisible(!exports_.forms.empty());
   html_report_->setVisible(exports_.Has(&ExportForms::page));
 }
 
-void ResultsWindow::WithholdExports() {
-  export_->hide();
-  html_report_->hide();
+void ResultsWindow::NarrowExports(std::vector<NamedExportForm> forms) {
+  exports_.forms = std::move(forms);
+  SetExports(std::move(exports_));
 }
 
 void ResultsWindow::SetCommand(const QString& command) {

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 #include <string>
+#include <vector>
 
 #include "app/results/export_dialog.h"
 
@@ -29,8 +30,8 @@ class ResultsWindow : public QWidget {
   /// A sentence above the tabs that says where the results come from.
   void SetNote(const QString& note);
 
-  /// Offers no exports: results that were read from reports have no more digits than these.
-  void WithholdExports();
+  /// Offers these exports alone, or none: reports do not tell all that the run knew.
+  void NarrowExports(std::vector<NamedExportForm> forms);
 
  protected:
   const QString& Folder() const { return folder_; }

@@ -17,7 +17,7 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
   setObjectName(Text("SimulationResults"));
   const SharedSimulation shared = std::make_shared<const FinishedSimulation>(
       FinishedSimulation{std::move(settings), std::move(run)});
-  SetExports({.forms = kSimulationExportForms,
+  SetExports({.forms = {kSimulationExportForms.begin(), kSimulationExportForms.end()},
               .make = [shared](const WantedExports& wanted, const ExportPlace& place) {
                 return ExportRun(shared->settings, shared->run, wanted, place);
               }});
