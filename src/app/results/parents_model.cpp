@@ -24,6 +24,8 @@ ColumnTexts TextsOf(Column column) {
       return {"Rank", "Place in the file of the parents, separators counted."};
     case Column::kParent:
       return {"Parent", "Name of the collected parent."};
+    case Column::kSex:
+      return {"Sex", "From which file the parent is: of the males or of the females."};
     case Column::kOffspring:
       return {"Offspring", "Offspring that the results allocate to it."};
     case Column::kNamed:
@@ -41,6 +43,8 @@ ColumnTexts TextsOf(Column column) {
   }
   return {};
 }
+
+bool IsText(Column column) { return column == Column::kParent || column == Column::kSex; }
 
 constexpr int kAtRight = static_cast<int>(Qt::AlignRight) | static_cast<int>(Qt::AlignVCenter);
 
@@ -70,27 +74,44 @@ std::size_t ParentsModel::WithoutOffspring() const {
                     [](const ParentSummary& parent) { return parent.offspring == 0; }));
 }
 
-/// A number, or the text of a name or of what is not known.
-QVariant ParentsModel::Value(Column column, int row) const {
+QString ParentsModel::SexName(int row) const {
+  const SlotRange females = allocation_->run.input.second_parents;
+  return females.Holds(Parent(row).slot) ? Text("female") : Text("male");
+}
+
+/// The number of a cell; below all others where it is not known.
+double ParentsModel::Number(Column column, int row) const {
   const ParentSummary& parent = Parent(row);
   switch (column) {
     case Column::kRank:
       return RankInFile(allocation_->run.input, parent.slot);
-    case Column::kParent:
-      return Name(row);
     case Column::kOffspring:
-      return static_cast<qulonglong>(parent.offspring);
+      return static_cast<double>(parent.offspring);
     case Column::kNamed:
-      return parent.expected_offspring ? QVariant(static_cast<qulonglong>(parent.named))
-                                       : QVariant(Text("NA"));
+      return parent.expected_offspring ? static_cast<double>(parent.named) : -1;
     case Column::kExpected:
-      return parent.expected_offspring ? QVariant(*parent.expected_offspring)
-                                       : QVariant(Text("NA"));
+      return parent.expected_offspring.value_or(-1);
     case Column::kMates:
-      return static_cast<qulonglong>(parent.mates);
+      return static_cast<double>(parent.mates);
     default:
-      return static_cast<qulonglong>(parent.with_uncollected);
+      return static_cast<double>(parent.with_uncollected);
   }
+}
+
+QString ParentsModel::CellText(Column column, int row) const {
+  if (column == Column::kParent) {
+    return Name(row);
+  }
+  if (column == Column::kSex) {
+    return SexName(row);
+  }
+  const double number = Number(column, row);
+  return number < 0 ? Text("NA") : ShortNumber(number);
+}
+
+bool ParentsModel::IsBefore(Column column, int a, int b) const {
+  return IsText(column) ? CellText(column, a) < CellText(column, b)
+                        : Number(column, a) < Number(column, b);
 }
 
 QVariant ParentsModel::data(const QModelIndex& index, int role) const {
@@ -98,14 +119,10 @@ QVariant ParentsModel::data(const QModelIndex& index, int role) const {
     return {};
   }
   const auto column = static_cast<Column>(index.column());
-  if (role == Qt::UserRole) {
-    return Value(column, index.row());
-  }
   if (role == Qt::DisplayRole) {
-    const QVariant value = Value(column, index.row());
-    return value.typeId() == QMetaType::Double ? ShortNumber(value.toDouble()) : value.toString();
+    return CellText(column, index.row());
   }
-  if (role == Qt::TextAlignmentRole && column != Column::kParent) {
+  if (role == Qt::TextAlignmentRole && !IsText(column)) {
     return kAtRight;
   }
   return {};
@@ -122,30 +139,33 @@ QVariant ParentsModel::headerData(int section, Qt::Orientation orientation, int 
   if (role == Qt::ToolTipRole) {
     return Text(TextsOf(column).tip);
   }
-  if (role == Qt::TextAlignmentRole && column != Column::kParent) {
+  if (role == Qt::TextAlignmentRole && !IsText(column)) {
     return kAtRight;
   }
   return {};
 }
 
 ParentsFilter::ParentsFilter(ParentsModel& model, QObject* parent)
-    : QSortFilterProxyModel(parent), model_(model) {
+    : RowFilter(parent), model_(model) {
   setSourceModel(&model);
-  setSortRole(Qt::UserRole);  // numbers as numbers
 }
 
 void ParentsFilter::Choose(const QString& name, ShownParents shown) {
   name_ = name;
   shown_ = shown;
-  invalidateFilter();
+  NarrowAgain();
 }
 
-bool ParentsFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {
+bool ParentsFilter::Accepts(int row) const {
   const bool has_offspring = model_.Parent(row).offspring > 0;
   if (shown_ != ShownParents::kAll && has_offspring != (shown_ == ShownParents::kWithOffspring)) {
     return false;
   }
   return name_.isEmpty() || model_.Name(row).contains(name_, Qt::CaseInsensitive);
+}
+
+bool ParentsFilter::IsBefore(const QModelIndex& left, const QModelIndex& right) const {
+  return model_.IsBefore(static_cast<Column>(left.column()), left.row(), right.row());
 }
 
 }  // namespace kaldo

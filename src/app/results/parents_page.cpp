@@ -61,6 +61,8 @@ void ParentsPage::LayOut(const FinishedAllocation& allocation) {
   table.setSortingEnabled(true);
   table.sortByColumn(static_cast<int>(ParentColumn::kOffspring), Qt::DescendingOrder);
   table.FitColumns();
+  table.setColumnHidden(static_cast<int>(ParentColumn::kSex),
+                        allocation.settings.flow == Flow::kNonSexed);
   families_->setObjectName(Text("ParentsFamilies"));
   families_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   families_->setText(
@@ -78,7 +80,10 @@ void ParentsPage::LayOut(const FinishedAllocation& allocation) {
 }
 
 void ParentsPage::Narrow() {
+  QTableView& table = list_->Table();
+  const QModelIndex current = filter_->mapToSource(table.currentIndex());
   filter_->Choose(list_->SoughtText(), static_cast<ShownParents>(list_->Choices().currentIndex()));
+  table.setCurrentIndex(filter_->ShownOrFirst(current));
   list_->SetCount(Text("%1 of %2 parents").arg(filter_->rowCount()).arg(model_->rowCount()));
   offspring_->setEnabled(filter_->rowCount() > 0);
 }
