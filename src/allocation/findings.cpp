@@ -57,7 +57,7 @@ std::string DoubtText(const AllocationInput& input, const AllocationResult& resu
   const bool first_is_less = sides[0].p_reported.value_or(1) <= sides[1].p_reported.value_or(1);
   const AllocatedSides reported = SidesOf(flow, result.outcomes[check.place]);
   const auto parent = (first_is_less ? reported.first : reported.second).parent;
-  return fmt::format("{} has a probability of {:.2g} only",
+  return fmt::format("{} has a probability of {:.3f} only",
                      parent ? input.table.Name(*parent).Text() : "UC",
                      sides.at(first_is_less ? 0 : 1).p_reported.value_or(0));
 }

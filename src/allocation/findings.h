@@ -40,7 +40,7 @@ struct AllocationFindings {
 
 AllocationFindings FindingsOf(const AllocationResult& result);
 
-/// Why an offspring is to be looked at, in words: "Adult36 has a probability of 0.20 only".
+/// Why an offspring is to be looked at, in words: "Adult36 has a probability of 0.203 only".
 std::string DoubtText(const AllocationInput& input, const AllocationResult& result, Flow flow,
                       const OffspringToCheck& check);
 

@@ -116,7 +116,7 @@ void CompareRows(const Shown& shown, int offspring, ParentPair pair,
     if (locus.offspring.IsMissing()) {
       signs.insert(cell(C::kOffset1));
       EXPECT_EQ(cell(C::kOffset1), Text("*"));
-      EXPECT_EQ(cell(C::kOffspring), Text("not typed"));
+      EXPECT_EQ(cell(C::kOffspring), Text("undefined"));
       continue;
     }
     EXPECT_EQ(
@@ -352,7 +352,7 @@ TEST_F(ResultsAllocationTest, ComparesWithEveryPair) {
     }
   }
   EXPECT_TRUE(second_pairs > 0);
-  EXPECT_EQ(signs.size(), std::size_t{5});  // exact, tolerated, excluded, unmeasured, not typed
+  EXPECT_EQ(signs.size(), std::size_t{5});  // exact, tolerated, excluded, unmeasured, undefined
 }
 
 TEST_F(ResultsAllocationTest, CountsTheAllelesOfTheFiles) {

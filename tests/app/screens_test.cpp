@@ -133,7 +133,7 @@ TEST_F(ScreensTest, BackKeepsWhatWasTypedInASimulation) {
   script_.Do([](QWidget&) {
     // 9 of 16 pairs are of two collected parents: 4.5 of 6 on either side.
     const auto* table = qobject_cast<QTableWidget*>(VisibleWidget("Origins"));
-    EXPECT_EQ(Bytes(table->item(0, 1)->text()), "0.5625");
+    EXPECT_EQ(Bytes(table->item(0, 1)->text()), "0.562");
     EXPECT_EQ(Bytes(table->item(0, 2)->text()), "6");
   });
   script_.Click("NonUniform").Click("Ok").Await("Tolerance").Type("Tolerance", Text("2"));

@@ -36,7 +36,7 @@ struct SetTexts {
 };
 
 constexpr std::string_view kCollectedHelp =
-    "Genotypes of the parents collected: a name and one field per locus, no missing alleles.";
+    "Genotypes of the parents collected: a name and one field per locus, no undefined alleles.";
 constexpr std::string_view kPseudoCollectedHelp =
     "A representative sample: pseudo-collected parents are drawn from its allele frequencies.";
 constexpr std::string_view kUncollectedHelp =

@@ -80,7 +80,7 @@ void PseudoOffspringPage::ShowShares() {
   table_->setRowCount(static_cast<int>(shares.size()));
   for (int row = 0; const OriginShare& share : shares) {
     table_->setItem(row, 0, NewItem(Text(share.label), Qt::AlignLeft));
-    table_->setItem(row, 1, NewItem(Text(fmt::format("{:.4f}", share.weight)), Qt::AlignRight));
+    table_->setItem(row, 1, NewItem(Text(fmt::format("{:.3f}", share.weight)), Qt::AlignRight));
     table_->setItem(row, 2, NewItem(NumberText(share.offspring), Qt::AlignRight));
     ++row;
   }

@@ -127,10 +127,10 @@ Summary SummaryOf(const AllocationSettings& settings, const AllocationRun& run,
   AddFindings(settings, run, summary);
   AddFiles(settings, summary);
   summary.lines.emplace_back(Text("collected"), ParentsText(settings.flow, input));
-  summary.lines.emplace_back(
-      Text("offspring"), Text(fmt::format("{} ({})", input.NumberOfOffspring(),
-                                          Counted(input.NumberOfMissingGenotypes(), "missing locus",
-                                                  "missing loci"))));
+  summary.lines.emplace_back(Text("offspring"),
+                             Text(fmt::format("{} ({})", input.NumberOfOffspring(),
+                                              Counted(input.NumberOfMissingGenotypes(),
+                                                      "undefined locus", "undefined loci"))));
   summary.lines.emplace_back(Text("loci in use"), LociText(input));
   summary.lines.emplace_back(Text("error model"), Text(ShortDescription(settings.error_model)));
   summary.lines.emplace_back(Text("maximal offset tolerance"),

@@ -16,7 +16,7 @@ QString GenotypeText(const LocusGenotype& genotype) {
   const auto allele = [](AlleleSize size) {
     return size == kUndefinedAllele ? std::string("?") : std::to_string(size.Value());
   };
-  return genotype.IsMissing() ? Text("not typed")
+  return genotype.IsMissing() ? Text("undefined")
                               : Text(allele(genotype.allele1) + '/' + allele(genotype.allele2));
 }
 
@@ -24,7 +24,7 @@ QString GenotypeText(const LocusGenotype& genotype) {
 std::string_view ConditionTip(LocusCondition condition) {
   switch (condition) {
     case LocusCondition::kNone:
-      return "Neither parent carries an allele of the offspring, or its locus is missing.";
+      return "Neither parent carries an allele of the offspring, or its locus is undefined.";
     case LocusCondition::kComplete:
       return "One parent carries one allele of the offspring and the other parent the other.";
     case LocusCondition::kOneToEach:
@@ -315,7 +315,7 @@ QString ComparisonModel::OtherHead(Column column) const {
   }
   return Text("or %1 (p %2)")
       .arg(Text(Input().table.Name(other->parent.slot).Text()),
-           QString::number(other->parent.probability, 'g', 3));
+           QString::number(other->parent.probability, 'f', 3));
 }
 
 QString ComparisonModel::Head(Column column) const {

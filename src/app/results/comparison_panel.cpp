@@ -53,7 +53,7 @@ void ComparisonPanel::LayOut() {
   head->addWidget(verdict_, 1);
   auto* legend = new QLabel(
       Text(fmt::format("{} exact   {} within the tolerance (an error)   {} above it (UC)   {} one "
-                       "allele in neither parent   {} not typed",
+                       "allele in neither parent   {} undefined",
                        Bytes(SignOf(LocusFit::kExact)), Bytes(SignOf(LocusFit::kTolerated)),
                        Bytes(SignOf(LocusFit::kExcluded)), Bytes(SignOf(LocusFit::kUnmeasured)),
                        Bytes(SignOf(LocusFit::kUnsaid)))));

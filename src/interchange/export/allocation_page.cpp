@@ -14,10 +14,11 @@
 #include "allocation/parent_summary.h"
 #include "base/counted_text.h"
 #include "base/version.h"
+#include "confidence/certainty.h"
 #include "confidence/confidence_summary.h"
 #include "confidence/effective_breeders.h"
-#include "interchange/export/allocation_tables.h"
 #include "confidence/intervals.h"
+#include "interchange/export/allocation_tables.h"
 #include "interchange/export/html_text.h"
 #include "interchange/export/told_settings.h"
 #include "method/error_model.h"
@@ -65,6 +66,10 @@ std::string Percent(double share) { return fmt::format("{:.1f} %", 100 * share);
 
 std::string Within(Interval interval) {
   return fmt::format("95 % interval {} to {}", Percent(interval.from), Percent(interval.to));
+}
+
+Bar Verdicts(Certainty certainty, std::size_t sides) {
+  return {std::string(Word(certainty)), static_cast<double>(sides)};
 }
 
 /// The page of one allocation, section by section.
@@ -140,9 +145,9 @@ class Page {
       add("males", std::to_string(males));
       add("females", std::to_string(parents.size() - static_cast<std::size_t>(males)));
     }
-    add("offspring",
-        fmt::format("{} ({})", study_.NumberOfOffspring(),
-                    Counted(input_.NumberOfMissingGenotypes(), "missing locus", "missing loci")));
+    add("offspring", fmt::format("{} ({})", study_.NumberOfOffspring(),
+                                 Counted(input_.NumberOfMissingGenotypes(), "undefined locus",
+                                         "undefined loci")));
     add("loci in use", fmt::format("{} of {}", result_.loci.loci.size(), input_.loci.Count()));
     add("error model", ShortDescription(study_.Settings().error_model));
     add("maximal offset tolerance", std::to_string(study_.Settings().tolerance.Value()));
@@ -165,16 +170,16 @@ class Page {
       return Paragraph("Probabilities were not computed.");
     }
     const double level = study_.Settings().confidence.level;
-    const std::array<Bar, 4> verdicts{
-        {{fmt::format("named, {:g} or more", std::max(level, kSureLevel)),
-          static_cast<double>(summary_->surely_named)},
-         {"named, less sure", static_cast<double>(summary_->named)},
-         {"open", static_cast<double>(summary_->open)},
-         {"not collected", static_cast<double>(summary_->uncollected)}}};
+    const std::array<Bar, 4> verdicts{{Verdicts(Certainty::kSure, summary_->surely_named),
+                                       Verdicts(Certainty::kLikely, summary_->named),
+                                       Verdicts(Certainty::kOpen, summary_->open),
+                                       Verdicts(Certainty::kUncollected, summary_->uncollected)}};
     std::string text = BarChart("Sides by verdict", verdicts);
     text += Paragraph(fmt::format(
-        "Sides, two per offspring, by what can be said of their parent at a level of {:g}.",
-        level));
+        "Sides, two per offspring, by what can be said of their parent at a level of {:g}: {} "
+        "where "
+        "it is named at {:g} or more, {} where it is named with less.",
+        level, Word(Certainty::kSure), std::max(level, kSureLevel), Word(Certainty::kLikely)));
     text += BarChart("Allocations by probability", ByProbability());
     return text +
            Paragraph(fmt::format(
