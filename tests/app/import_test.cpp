@@ -116,17 +116,18 @@ TEST_F(ImportTest, TablesBySexWithFaultsAreConvertedOnceTheyAreSettled) {
   script_.Click("ImportConvert").Answer().Await("Import");
   ExpectFound("Choose with \"Parents with undefined loci\" what becomes of them");
   script_.Do([](QWidget&) { VisibleWidget("ImportMissingParents")->setFocus(); });
-  script_.Press(Qt::Key_Down);
+  script_.Press(Qt::Key_End);
   AwaitText("ImportStatus", kReady);
-  ExpectFound("2 males, 2 females in 2 groups, 3 offspring, 2 loci");
+  ExpectFound("3 males, 2 females in 2 groups, 3 offspring, 2 loci");
   script_.Click("ImportConvert").Await("SexedAllocationFiles");
   ExpectText(script_, "FemalesFile", Text("data/foreign/adults-imported/females.txt"));
   Allocate();
   Go(script_);
+  EXPECT_TRUE(command_.contains(Text("--allow-undefined-parents")));
   ExpectAsCommandLine("p", command_);
   ExpectAsCommandLine("data/foreign/adults-imported",
                       CommandHere("kaldo import --parents data/foreign/adults.csv --offspring "
-                                  "data/foreign/young.csv --missing-parents drop-individuals --to "
+                                  "data/foreign/young.csv --missing-parents keep --to "
                                   "data/foreign/adults-imported"));
 }
 

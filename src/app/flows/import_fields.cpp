@@ -52,7 +52,8 @@ constexpr std::array<ImportField, 16> kFields{{
     {"--missing-parents",
      FieldKind::kWay,
      {"Parents with undefined loci", "ImportMissingParents",
-      "Parents have to be typed at every locus; the list below tells what each way costs."},
+      "Parents have to be typed at every locus unless a run allows otherwise; the list below tells "
+      "what each way costs."},
      ""},
     {"--repeat-length",
      FieldKind::kText,
@@ -130,11 +131,12 @@ struct Way {
   MissingParents way;
 };
 
-constexpr std::array<Way, 4> kWays{
+constexpr std::array<Way, 5> kWays{
     {{"not chosen yet", MissingParents::kRefused},
      {"drop-individuals: leave such parents out", MissingParents::kDropIndividuals},
      {"drop-loci: leave such loci out", MissingParents::kDropLoci},
-     {"least: leave out so that most genotypes stay", MissingParents::kLeast}}};
+     {"least: leave out so that most genotypes stay", MissingParents::kLeast},
+     {"keep: leave nothing out; the run allows undefined parents", MissingParents::kKeep}}};
 
 /// The option with the word for its value, and no longer one that begins alike.
 QRegularExpression Named(std::string_view option) {

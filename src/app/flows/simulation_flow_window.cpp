@@ -71,12 +71,21 @@ void SimulationFlowWindow::Set(const SimulationSettings& settings) {
   output_->Set(settings);
 }
 
+void SimulationFlowWindow::AllowUndefinedParents(const AllocationSettings& imported) {
+  more_.allow_undefined_parents = imported.allow_undefined_parents;
+  if (imported.allow_undefined_parents) {
+    more_.undefined_in_sample = UndefinedInSample::kIgnore;
+  }
+}
+
 void SimulationFlowWindow::TakeStudy(const AllocationSettings& imported) {
+  AllowUndefinedParents(imported);
   start_->SetLociFile(imported.loci_file);
   parents_->TakeImported(SettingsUpTo(Known::kStart).procedure, imported);
 }
 
 void SimulationFlowWindow::TakeLoci(const AllocationSettings& imported) {
+  AllowUndefinedParents(imported);
   const auto then = Opened().Open(SettingsUpTo(Known::kStart).loci_file);
   const auto now = Opened().Open(imported.loci_file);
   if (then && now && LociList(*then).Names() == LociList(*now).Names()) {
@@ -150,6 +159,7 @@ SimulationSettings SimulationFlowWindow::SettingsUpTo(Known known) const {
   settings.flow = flow_;
   settings.project = Project();
   start_->FillIn(settings);
+  settings.allow_undefined_parents = more_.allow_undefined_parents;
   if (known >= Known::kParents) {
     parents_->FillIn(settings);
   }

@@ -62,6 +62,9 @@ class SimulationFlowWindow : public FlowWindow {
   tl::expected<SimulationInput, Problem> Input(const SimulationSettings& settings,
                                                const SimulationFiles& files) const;
 
+  /// Parents of a converted study may be undefined at some loci where the user kept them.
+  void AllowUndefinedParents(const AllocationSettings& imported);
+
   /// The loci of a converted study, with its parents.
   void TakeStudy(const AllocationSettings& imported);
 

@@ -33,6 +33,11 @@ constexpr FieldText kLoci{
     "Names of &loci file", "LociFile",
     "The names of the loci, in the order in which their fields follow each individual's name."};
 
+constexpr FieldText kUndefinedParents{
+    "Parents may be undefined at some loci", "AllowUndefinedParents",
+    "A parent that could not be typed at a locus is tried there with what its population would "
+    "have. Else every parent has to be typed at every locus."};
+
 constexpr FieldText kSomethingKnown{"Something is &known of single offspring", "SomethingKnown",
                                     "For a known mother, candidates or a group of each offspring: "
                                     "only pairs that agree are tried."};
@@ -76,6 +81,9 @@ AllocationFilePage::AllocationFilePage(Flow flow, OpenedFiles& opened)
       [this](const std::string& file) { return IsLociFileAtFault(file, opened_.Opener()); });
   loci_->SetOnChange([this] { RefreshFiles(); });
   offer_.Watch(*loci_);
+  undefined_parents_ = new QCheckBox(Text(kUndefinedParents.label), this);
+  Describe(*undefined_parents_, kUndefinedParents);
+  form->addRow(undefined_parents_);
   AddKnowledge(*form);
   tolerance_.emplace(*form);
 }
@@ -149,6 +157,7 @@ void AllocationFilePage::RefreshFiles() {
 }
 
 void AllocationFilePage::TakeImported(const AllocationSettings& imported) {
+  undefined_parents_->setChecked(imported.allow_undefined_parents);
   loci_->SetPath(imported.loci_file);
   for (const auto* const rows : {&rows_, &knowledge_}) {
     for (const Row& row : *rows) {
@@ -171,6 +180,7 @@ void AllocationFilePage::Set(const AllocationSettings& settings) {
   something_known_->setChecked(
       std::any_of(knowledge_.begin(), knowledge_.end(),
                   [&](const Row& row) { return !(settings.*row.path).empty(); }));
+  undefined_parents_->setChecked(settings.allow_undefined_parents);
   tolerance_->Set(settings.tolerance);
 }
 
@@ -182,6 +192,7 @@ void AllocationFilePage::FillIn(AllocationSettings& settings) const {
   for (const Row& row : knowledge_) {
     settings.*row.path = something_known_->isChecked() ? row.field->Path() : "";
   }
+  settings.allow_undefined_parents = undefined_parents_->isChecked();
   settings.tolerance = tolerance_->Value();
 }
 

@@ -64,6 +64,7 @@ class AllocationFilePage : public FlowPage {
   OpenedFiles& opened_;
   ImportOffer offer_;
   std::vector<Row> rows_;
+  QCheckBox* undefined_parents_;
   QCheckBox* something_known_ = nullptr;
   std::vector<Row> knowledge_;  ///< count while the box is ticked
   FileField* males_ = nullptr;  ///< sexed flow, as the next
