@@ -6,6 +6,7 @@
 
 #include "allocation/allocation_command.h"
 #include "allocation/allocation_run.h"
+#include "interchange/export/allocation_exporter.h"
 #include "simulation/simulation_command.h"
 #include "simulation/simulation_run.h"
 #include "tests/cli/command_support.h"
@@ -61,11 +62,14 @@ TEST_F(ResumeCommand, AllocateGoesOnOrTellsWhichOptionIsAnotherOne) {
                                {"loci", "loci.txt"},
                                {"parents", "parents.txt"},
                                {"offspring", "offspring.txt"},
-                               {"sequence", "9,8,7,6,5,4,3,2,1"}};
+                               {"sequence", "9,8,7,6,5,4,3,2,1"},
+                               {"also", "tsv,html,pedigree"}};
   TypedSettings alone = typed;
   alone["threads"] = "1";  // two threads may both be stopped within their first portion
   test::StoppingObserver observer("Allocating", 100);
-  EXPECT_THROW((void)RunAllocation(*AllocationFrom(alone), observer, workforce_), RunStopped);
+  AllocationExporter exports;
+  EXPECT_THROW((void)RunAllocation(*AllocationFrom(alone), observer, workforce_, &exports),
+               RunStopped);
 
   const std::map<std::string, std::pair<std::string, std::string>> others = {
       {"tolerance", {"2", "with --tolerance 1, now with --tolerance 2"}},
@@ -86,6 +90,7 @@ TEST_F(ResumeCommand, AllocateGoesOnOrTellsWhichOptionIsAnotherOne) {
                 std::string(kRefused) + "offspring (\"parents.txt\") has changed");
   changed["offspring"] = "moved.txt";
   ExpectSameResults("allocate", changed);
+  EXPECT_THAT(test::ReadFile("p/Run record.toml"), HasSubstr("\"Sequence.tsv\""));
 }
 
 TEST_F(ResumeCommand, SimulateTakesTheSeedOver) {
