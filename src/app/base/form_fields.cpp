@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/base/form_fields.h"
 
+#include <QDialog>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
@@ -51,6 +53,17 @@ QPushButton* NewButton(std::string_view caption, std::string_view name, std::str
   button->setObjectName(Text(name));
   button->setToolTip(Text(help));
   return button;
+}
+
+QLayout* NewDialogButtons(QDialog& dialog, QPushButton* cancel, QPushButton* act) {
+  act->setDefault(true);
+  cancel->setAutoDefault(false);
+  QObject::connect(cancel, &QPushButton::clicked, &dialog, &QDialog::reject);
+  auto* const row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(cancel);
+  row->addWidget(act);
+  return row;
 }
 
 QLabel* NewHint(QWidget* parent) {

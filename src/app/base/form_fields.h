@@ -5,8 +5,10 @@
 #include <optional>
 #include <string_view>
 
+class QDialog;
 class QFormLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QPushButton;
 class QString;
@@ -31,6 +33,9 @@ QLineEdit* AddLineEdit(QFormLayout& form, const FieldText& text);
 
 /// A button with its name and its tooltip.
 QPushButton* NewButton(std::string_view caption, std::string_view name, std::string_view help);
+
+/// The last row of a dialog: the button that leaves it, and the one that acts, which Enter presses.
+QLayout* NewDialogButtons(QDialog& dialog, QPushButton* cancel, QPushButton* act);
 
 /// A line of plain words that explains or warns; wraps.
 QLabel* NewHint(QWidget* parent);

@@ -124,15 +124,8 @@ QLayout* ImportScreen::NewButtons() {
       NewButton("&Convert", "ImportConvert", "Write the files and fill in the fields of the flow");
   auto* const cancel =
       NewButton("Cancel", "ImportCancel", "Back to the flow; nothing is written (Esc)");
-  convert->setDefault(true);
-  cancel->setAutoDefault(false);
   connect(convert, &QPushButton::clicked, this, [this] { Convert(); });
-  connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
-  auto* const row = new QHBoxLayout;
-  row->addStretch();
-  row->addWidget(cancel);
-  row->addWidget(convert);
-  return row;
+  return NewDialogButtons(*this, cancel, convert);
 }
 
 void ImportScreen::TryLater() {

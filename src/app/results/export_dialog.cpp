@@ -144,15 +144,8 @@ QLayout* ExportDialog::NewFolderRow() {
 QLayout* ExportDialog::NewButtons() {
   auto* const write = NewButton("&Export", "ExportWrite", "Write the files");
   auto* const cancel = NewButton("Cancel", "ExportCancel", "Nothing is written (Esc)");
-  write->setDefault(true);
-  cancel->setAutoDefault(false);
   connect(write, &QPushButton::clicked, this, [this] { Write(); });
-  connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
-  auto* const row = new QHBoxLayout;
-  row->addStretch();
-  row->addWidget(cancel);
-  row->addWidget(write);
-  return row;
+  return NewDialogButtons(*this, cancel, write);
 }
 
 void ExportDialog::BrowseFolder() {
