@@ -387,6 +387,7 @@ TEST_F(ResultsAllocationTest, ShowsTheSequenceOfTheReport) {
     Shown shown(flow);
     shown.settings.sequence.emplace();
     shown.Run();
+    test::ExpectFitsSmallMonitor(*shown.window);
     Rows expected;
     for (const QStringList& row : test::ReportRows("p/Sequence results.xls")) {
       bool is_number = false;

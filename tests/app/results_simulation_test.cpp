@@ -152,6 +152,7 @@ TEST_F(ResultsSimulationTest, MarksTheBestSubsetOfEachSize) {
   shown.Run();
   const auto& subsets = shown.run.result.subsets;
   EXPECT_EQ(subsets.size(), std::size_t{31});
+  test::ExpectFitsSmallMonitor(*shown.window);
   const QAbstractItemModel& model = ModelIn(*shown.window, "SubsetsTable");
   const QStringList first_seen = Column(model, Place(SubsetColumn::kNames));
   Find<QTableView>(*shown.window, "SubsetsTable")

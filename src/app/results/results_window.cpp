@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QUrl>
@@ -20,6 +22,27 @@
 #include "base/version.h"
 
 namespace kaldo {
+
+namespace {
+
+/// Scrolls a page up and down where it does not fit, and never sideways.
+class PageArea : public QScrollArea {
+ public:
+  PageArea() {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    viewport()->setAutoFillBackground(false);
+  }
+
+  QSize minimumSizeHint() const override {
+    const int bar = verticalScrollBar()->sizeHint().width();
+    return {widget()->minimumSizeHint().width() + bar, fontMetrics().lineSpacing() * 6};
+  }
+};
+
+}  // namespace
 
 ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget* parent)
     : QWidget(parent, Qt::Window),
@@ -122,7 +145,11 @@ void ResultsWindow::AddTab(QWidget* page, const QString& title, const QString& t
   auto* framed = new QWidget;
   auto* layout = new QVBoxLayout(framed);
   layout->addWidget(page);
-  tabs_->setTabToolTip(tabs_->addTab(framed, title), tip);
+  // A small monitor shows less than a page at once; what is below is scrolled to.
+  auto* area = new PageArea;
+  area->setWidget(framed);
+  framed->setAutoFillBackground(false);
+  tabs_->setTabToolTip(tabs_->addTab(area, title), tip);
 }
 
 void ResultsWindow::ShowTab(const QWidget& page) {

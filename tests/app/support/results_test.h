@@ -3,6 +3,9 @@
 
 #include <QAbstractItemView>
 #include <QPointer>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
 #include <QtTest>
 #include <map>
 
@@ -100,6 +103,24 @@ Widget& Find(const QWidget& window, const char* name) {
 
 inline QAbstractItemModel& ModelIn(const QWidget& window, const char* name) {
   return *Find<QAbstractItemView>(window, name).model();
+}
+
+/// A window of results can be made as small as a monitor of 1366 x 768 that is shown twice as
+/// large, whatever tab is in front, and nothing has to be scrolled sideways.
+inline void ExpectFitsSmallMonitor(QWidget& window) {
+  const QSize size = window.size();
+  auto& tabs = Find<QTabWidget>(window, "Tabs");
+  for (int tab = 0; tab < tabs.count(); ++tab) {
+    tabs.setCurrentIndex(tab);
+    window.resize(0, 0);
+    QCoreApplication::processEvents();
+    EXPECT_LE(window.width(), 683) << tab;
+    EXPECT_LE(window.height(), 384) << tab;
+    const auto* const area = qobject_cast<QScrollArea*>(tabs.widget(tab));
+    EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << tab;
+  }
+  tabs.setCurrentIndex(0);
+  window.resize(size);
 }
 
 /// The example data, which WriteExamples() has put into the working folder.
