@@ -67,10 +67,6 @@ void FocusFirst(QWidget& page) {
 
 }  // namespace
 
-FlowPage::FlowPage(const ScreenEntry& entry, std::string_view caption) : caption_(Text(caption)) {
-  Name(*this, entry);
-}
-
 FlowWindow::FlowWindow(OpenedFiles& opened, QWidget* parent)
     : QDialog(parent),
       opened_(opened),

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/base/screen_table.h"
+#include "app/base/flow_page.h"
 #include "runs/keeping_pace.h"
 
 class QLabel;
@@ -17,23 +17,6 @@ namespace kaldo {
 class ElidedLabel;
 class OpenedFiles;
 struct Problem;
-
-/// One parameter screen of a flow. It shows values and gives them back; what they mean together is
-/// tested by the flow, with the sentences of the core.
-class FlowPage : public QWidget {
- public:
-  FlowPage(const ScreenEntry& entry, std::string_view caption);
-
-  /// The title of the window while this screen is shown.
-  const QString& Caption() const { return caption_; }
-
-  /// Where a number could not be read, the problem of what was taken in its place is told with what
-  /// was typed.
-  virtual void TellTyped(Problem& /*problem*/) const {}
-
- private:
-  QString caption_;
-};
 
 /// A chain of parameter screens that ends in a run. It stands over the main menu until the run is
 /// done or the user leaves; what was typed stays for the next time. "OK" confirms a screen, Back

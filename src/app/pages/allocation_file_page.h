@@ -2,11 +2,13 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "allocation/allocation_settings.h"
+#include "app/base/flow_page.h"
 #include "app/base/form_fields.h"
-#include "app/flows/flow_window.h"
-#include "app/flows/import_offer.h"
+#include "app/import/import_offer.h"
 #include "app/pages/tolerance_field.h"
 
 class QCheckBox;

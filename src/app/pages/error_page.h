@@ -6,10 +6,11 @@
 
 #include <tl/expected.hpp>
 
-#include "app/flows/flow_window.h"
+#include "app/base/flow_page.h"
 #include "method/error_model.h"
 
 class QButtonGroup;
+class QLabel;
 class QLineEdit;
 
 namespace kaldo {

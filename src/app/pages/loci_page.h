@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/flows/flow_window.h"
+#include "app/base/flow_page.h"
 #include "genotypes/capacities.h"
 
 class QCheckBox;

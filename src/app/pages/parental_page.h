@@ -4,10 +4,11 @@
 #include <array>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
-#include "app/flows/flow_window.h"
-#include "app/flows/import_offer.h"
+#include "app/base/flow_page.h"
+#include "app/import/import_offer.h"
 #include "simulation/simulation_settings.h"
 
 class QFormLayout;

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/flows/flow_window.h"
+#include "app/base/flow_page.h"
 #include "app/pages/error_page.h"
 #include "simulation/simulation_settings.h"
 

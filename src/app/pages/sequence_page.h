@@ -7,9 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "app/flows/flow_window.h"
+#include "app/base/flow_page.h"
 #include "genotypes/capacities.h"
 
+class QLabel;
 class QLayout;
 class QLineEdit;
 

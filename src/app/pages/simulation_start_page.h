@@ -2,9 +2,10 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
-#include "app/flows/flow_window.h"
-#include "app/flows/import_offer.h"
+#include "app/base/flow_page.h"
+#include "app/import/import_offer.h"
 #include "simulation/simulation_settings.h"
 
 class QButtonGroup;

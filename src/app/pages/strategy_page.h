@@ -4,10 +4,11 @@
 #include <functional>
 #include <optional>
 
-#include "app/flows/flow_window.h"
+#include "app/base/flow_page.h"
 #include "simulation/simulation_settings.h"
 
 class QButtonGroup;
+class QLabel;
 class QLineEdit;
 
 namespace kaldo {

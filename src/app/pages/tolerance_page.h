@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "app/flows/flow_window.h"
+#include "app/base/flow_page.h"
 #include "app/pages/tolerance_field.h"
 #include "simulation/simulation_settings.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/flows/import_fields.h"
+#include "app/import/import_fields.h"
 
 #include <QCheckBox>
 #include <QComboBox>

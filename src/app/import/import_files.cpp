@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/flows/import_files.h"
+#include "app/import/import_files.h"
 
 #include <QComboBox>
 #include <QFileDialog>

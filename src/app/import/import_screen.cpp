@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/flows/import_screen.h"
+#include "app/import/import_screen.h"
 
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -18,9 +18,9 @@
 #include "app/base/messages.h"
 #include "app/base/text.h"
 #include "app/base/wait_cursor.h"
-#include "app/flows/import_fields.h"
-#include "app/flows/import_files.h"
-#include "app/flows/import_preview.h"
+#include "app/import/import_fields.h"
+#include "app/import/import_files.h"
+#include "app/import/import_preview.h"
 #include "runs/run_refused.h"
 
 namespace kaldo {

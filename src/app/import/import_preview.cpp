@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/flows/import_preview.h"
+#include "app/import/import_preview.h"
 
 #include <QHeaderView>
 #include <algorithm>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/flows/import_offer.h"
+#include "app/import/import_offer.h"
 
 #include <algorithm>
 
 #include "app/base/file_field.h"
 #include "app/base/opened_files.h"
-#include "app/flows/import_screen.h"
+#include "app/import/import_screen.h"
 
 namespace kaldo {
 

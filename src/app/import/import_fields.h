@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/flows/import_offer.h"
+#include "app/import/import_offer.h"
 #include "interchange/import/import_run.h"
 
 class QCheckBox;

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/flows/import_offer.h"
+#include "app/import/import_offer.h"
 #include "interchange/import/import_run.h"
 
 class QLabel;
