@@ -45,6 +45,7 @@ constexpr std::array kPlaces = {
     GuidePlace{kStrategyScreen.object_name, "Strategy"},
     GuidePlace{kOutputScreen.object_name, "Output"},
     GuidePlace{"MatingsTable", "Who had offspring with whom"},
+    GuidePlace{"RunComparison", "Two runs compared"},
     GuidePlace{"AllocationResults", "Reading the results of an allocation"},
     GuidePlace{"SimulationResults", "Reading the results of a simulation"},
 };

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPalette>
 #include <QProgressBar>
 #include <QSettings>
@@ -18,9 +19,10 @@
 #include <array>
 #include <utility>
 
-#include "app/base/elided_label.h"
+#include "allocation/allocation_run.h"
 #include "app/base/text.h"
 #include "app/desktop.h"
+#include "app/example_data.h"
 #include "app/introduction_screen.h"
 #include "app/main_menu.h"
 #include "app/support/script.h"
@@ -44,8 +46,10 @@ QPalette DarkPalette() {
 void ShowHome(const QWidget& window) {
   const QString here = QDir::currentPath();
   const QString home = Text("/home/ana");
-  for (ElidedLabel* label : window.findChildren<ElidedLabel*>()) {
-    label->setText(label->text().replace(here, home));
+  for (QLabel* label : window.findChildren<QLabel*>()) {
+    if (label->text().contains(here)) {
+      label->setText(label->text().replace(here, home));
+    }
   }
   for (QTextEdit* text : window.findChildren<QTextEdit*>()) {
     if (text->toPlainText().contains(here)) {
@@ -115,6 +119,26 @@ void TakeFirstScreens(const Photographer& photographer) {
   script.Run([&] { introduction.exec(); });
 }
 
+/// The run in front beside one with fewer loci and their errors.
+void TakeComparison(const Photographer& photographer, Script& script, std::string_view name) {
+  script.Await("Tabs").Do([](QWidget&) {
+    auto settings = AllocationExample(Flow::kSexed).value();
+    settings.project = std::string("fewer-loci");
+    settings.loci_in_use = {"Mir03Di", "Mir14Di", "Mir21Di", "Mir05Tet"};
+    RunObserver observer;
+    if (!RunAllocation(settings, observer)) {
+      qWarning("cannot run with fewer loci");
+    }
+  });
+  script.Press(Qt::Key_D, Qt::ControlModifier).Await("fileNameEdit").Do([](QWidget&) {
+    VisibleField("fileNameEdit")
+        ->setText(QDir().absoluteFilePath(Text("fewer-loci/Run record.toml")));
+  });
+  script.Press(Qt::Key_Return).Await("RunComparisonSentence");
+  photographer.Take(script, name);
+  script.Click("Close");
+}
+
 /// The screens of an allocation that the example has filled in.
 void TakeAllocation(const Photographer& photographer, MainMenu& menu, bool sexed) {
   const std::string name = sexed ? "allocation-sexed" : "allocation-non-sexed";
@@ -135,6 +159,9 @@ void TakeAllocation(const Photographer& photographer, MainMenu& menu, bool sexed
     photographer.Take(script, name + "-sequence");
   }
   script.Click("Ok").Answer();
+  if (sexed) {
+    TakeComparison(photographer, script, name + "-results-compared");
+  }
   photographer.TakeResults(script, name + "-results");
   script.Run([&menu] { menu.activateWindow(); });
 }

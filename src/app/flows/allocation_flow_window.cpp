@@ -9,6 +9,7 @@
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
+#include "app/flows/results_opener.h"
 #include "app/flows/run_dialog.h"
 #include "app/pages/allocation_file_page.h"
 #include "app/pages/error_page.h"
@@ -210,6 +211,7 @@ void AllocationFlowWindow::Run() {
   if (start_trial_) {
     results->OfferTrial(start_trial_);
   }
+  results->OfferComparison(AskForOtherRun);
   accept();
   results->show();
   if (out_of_step) {

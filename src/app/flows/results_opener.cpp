@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/flows/results_opener.h"
 
+#include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <algorithm>
 
@@ -117,17 +119,24 @@ void Show(ResultsWindow* window, const QString& note, Opened opened, const QStri
 SimulationRun RunIn(SimulationRun run) { return run; }
 AllocationRun RunIn(ReopenedAllocation reopened) { return std::move(reopened.run); }
 
-/// Reads a run with `read`, which gets an observer, and shows it in a `Window`.
-template <typename Window, typename Reopened, typename Settings, typename Read>
-Window* ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord& checked,
-                    const Settings& settings, Read read) {
+/// Reads a run with `read`, which gets an observer. What goes wrong is told.
+template <typename Reopened, typename Read>
+std::optional<Reopened> ReadRun(QWidget* parent, Read read) {
   tl::expected<Reopened, Problem> run;
   const bool done = RunWithProgress(parent, Text("Open results"),
                                     [&](RunObserver& observer) { run = read(observer); });
   if (done && !run) {
     ShowProblem(parent, run.error());
   }
-  if (!done || !run) {
+  return done && run ? std::optional<Reopened>(std::move(*run)) : std::nullopt;
+}
+
+/// The same, and shows it in a `Window`.
+template <typename Window, typename Reopened, typename Settings, typename Read>
+Window* ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord& checked,
+                    const Settings& settings, Read read) {
+  auto run = ReadRun<Reopened>(parent, read);
+  if (!run) {
     return nullptr;
   }
   const QString note = Text(
@@ -138,6 +147,44 @@ Window* ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord&
        CommandInFolder(WorkingFolderNow(checked.record, checked.path),
                        CommandOf(std::get<Settings>(checked.then))));
   return window;
+}
+
+/// What an allocation says, from its reports. What goes wrong is told.
+std::optional<OtherRun> ReadOtherRun(QWidget* parent, const CheckedRecord& checked) {
+  const auto* now = std::get_if<AllocationSettings>(&checked.now);
+  if (now == nullptr) {
+    ShowFailure(parent,
+                Text("This is the record of simulations. Only allocations can be compared."));
+    return std::nullopt;
+  }
+  const RecordedReports reports(checked.record, checked.path);
+  const auto reopened = ReadRun<ReopenedAllocation>(parent, [&](RunObserver& observer) {
+    return ReopenAllocation(std::get<AllocationSettings>(checked.then), *now, checked.record,
+                            reports, observer);
+  });
+  if (!reopened) {
+    return std::nullopt;
+  }
+  if (reopened->without_certainty) {
+    ShowProblem(parent, *reopened->without_certainty);
+  }
+  return OtherRun{StatementsOf(now->flow, reopened->run.input, reopened->run.result),
+                  QFileInfo(PathText(checked.path)).absolutePath()};
+}
+
+/// What a run that died left half done is settled first, as before any other use of the folder.
+/// False where that fails, which is told.
+bool Recover(QWidget* parent, const std::string& record) {
+  try {
+    const QString folder = QFileInfo(PathText(record)).absolutePath();
+    if (const auto recovered = RecoverProject(ProjectFolder(PathBytes(folder)))) {
+      ShowSentence(parent, *recovered);
+    }
+    return true;
+  } catch (const RunFailure& failure) {
+    ShowFailure(parent, Text(failure.what()));
+    return false;
+  }
 }
 
 void ShowRun(QWidget* parent, const CheckedRecord& checked, const StartTrial& start_trial) {
@@ -151,6 +198,7 @@ void ShowRun(QWidget* parent, const CheckedRecord& checked, const StartTrial& st
         });
     if (window != nullptr) {
       window->OfferTrial(start_trial);
+      window->OfferComparison(AskForOtherRun);
     }
   } else if (const auto* simulation = std::get_if<SimulationSettings>(&checked.now)) {
     ReadAndShow<SimulationWindow, SimulationRun>(
@@ -162,16 +210,29 @@ void ShowRun(QWidget* parent, const CheckedRecord& checked, const StartTrial& st
 
 }  // namespace
 
+std::optional<OtherRun> AskForOtherRun(QWidget* parent) {
+  const QString picked =
+      QFileDialog::getOpenFileName(parent, Text("Run record of the other run"), QDir::currentPath(),
+                                   Text("Run records (*.toml);;All files (*)"));
+  if (picked.isEmpty()) {
+    return std::nullopt;
+  }
+  const auto checked =
+      Recover(parent, PathBytes(picked)) ? std::optional(Check(PathBytes(picked))) : std::nullopt;
+  if (!checked) {
+    return std::nullopt;
+  }
+  if (!*checked) {
+    ShowProblem(parent, checked->error());
+    return std::nullopt;
+  }
+  return ReadOtherRun(parent, **checked);
+}
+
 void OpenResults(QWidget* parent, const std::string& path, const StartTrial& start_trial) {
   const std::string record = RecordNamedBy(path);
-  try {
-    // What a run that died left half done is settled first, as before any other use of the folder.
-    const QString folder = QFileInfo(PathText(record)).absolutePath();
-    if (const auto recovered = RecoverProject(ProjectFolder(PathBytes(folder)))) {
-      ShowSentence(parent, *recovered);
-    }
-  } catch (const RunFailure& failure) {
-    return ShowFailure(parent, Text(failure.what()));
+  if (!Recover(parent, record)) {
+    return;
   }
   const auto checked = Check(record);
   if (!checked) {

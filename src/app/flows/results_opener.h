@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "app/results/other_run.h"
 #include "app/results/start_trial.h"
 
 class QWidget;
@@ -15,5 +17,9 @@ namespace kaldo {
 /// that is missing or no longer what it was is told, and nothing is shown.
 /// `start_trial` runs a simulation like an allocation, see AllocationWindow::OfferTrial.
 void OpenResults(QWidget* parent, const std::string& path, const StartTrial& start_trial);
+
+/// Asks for the record of an allocation to compare another one with, and reads what it says. A
+/// ChooseOtherRun.
+std::optional<OtherRun> AskForOtherRun(QWidget* parent);
 
 }  // namespace kaldo

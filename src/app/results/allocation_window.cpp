@@ -2,9 +2,11 @@
 #include "app/results/allocation_window.h"
 
 #include <QPointer>
+#include <QPushButton>
 #include <algorithm>
 
 #include "allocation/findings.h"
+#include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
 #include "app/results/alleles_page.h"
@@ -14,6 +16,7 @@
 #include "app/results/mating_page.h"
 #include "app/results/offspring_page.h"
 #include "app/results/parents_page.h"
+#include "app/results/run_comparison_window.h"
 #include "simulation/trial_of_allocation.h"
 
 namespace kaldo {
@@ -105,6 +108,28 @@ void AllocationWindow::OfferTrial(StartTrial start) {
       summary_->AddNote(Text(*figures));
     }
   });
+}
+
+void AllocationWindow::OfferComparison(ChooseOtherRun choose) {
+  auto* const compare =
+      NewButton("Compare with another run...", "CompareRuns",
+                "Show which offspring have another pair in another run (Ctrl+D).");
+  compare->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
+  connect(compare, &QPushButton::clicked, this, [this, choose = std::move(choose)] {
+    const QPointer<AllocationWindow> asking(this);  // it may be closed meanwhile
+    const auto other = choose(this);
+    if (!asking || !other) {
+      return;
+    }
+    const OtherRun here{
+        StatementsOf(allocation_->settings.flow, allocation_->run.input, allocation_->run.result),
+        Folder()};
+    auto* const window = new RunComparisonWindow(here, *other, this);
+    window->show();
+    window->raise();
+    window->activateWindow();
+  });
+  AddButton(compare);
 }
 
 }  // namespace kaldo

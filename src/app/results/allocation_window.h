@@ -3,6 +3,7 @@
 
 #include "allocation/allocation_run.h"
 #include "app/results/finished_runs.h"
+#include "app/results/other_run.h"
 #include "app/results/results_window.h"
 #include "app/results/start_trial.h"
 
@@ -21,6 +22,9 @@ class AllocationWindow : public ResultsWindow {
   /// Offers a simulation like this run, see TrialOf, and shows its figures in the summary. `start`
   /// is not called where there is none, which is told.
   void OfferTrial(StartTrial start);
+
+  /// Offers to compare this run with another one, which `choose` asks for.
+  void OfferComparison(ChooseOtherRun choose);
 
  private:
   void AddSummary(const SharedAllocation& shared, OffspringPage& offspring);

@@ -79,9 +79,8 @@ class Cells : public QStyledItemDelegate {
     const bool is_chosen = index == view_.currentIndex();
     if (is_chosen || view_.IsMarked(index)) {
       const int width = is_chosen ? kFrame + 1 : kFrame;
-      painter->setPen(QPen(is_chosen ? option.palette.color(QPalette::Highlight)
-                                     : option.palette.color(QPalette::Text),
-                           width, is_chosen ? Qt::SolidLine : Qt::DotLine));
+      painter->setPen(QPen(option.palette.color(QPalette::Text), width,
+                           is_chosen ? Qt::SolidLine : Qt::DotLine));
       painter->drawRect(option.rect.adjusted(width / 2, width / 2, -width / 2 - 1, -width / 2 - 1));
     }
     painter->restore();

@@ -85,9 +85,11 @@ QWidget* ResultsWindow::ButtonRow() {
   auto* row = new QWidget;
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(open);
-  layout->addWidget(copy_command_);
-  AddExports(*layout);
+  buttons_ = new QHBoxLayout;
+  buttons_->addWidget(open);
+  buttons_->addWidget(copy_command_);
+  AddExports(*buttons_);
+  layout->addLayout(buttons_);
   layout->addStretch();
   layout->addWidget(close_button);
   connect(open, &QPushButton::clicked, this, [this] {
@@ -151,6 +153,8 @@ void ResultsWindow::AddTab(QWidget* page, const QString& title, const QString& t
   framed->setAutoFillBackground(false);
   tabs_->setTabToolTip(tabs_->addTab(area, title), tip);
 }
+
+void ResultsWindow::AddButton(QPushButton* button) { buttons_->addWidget(button); }
 
 void ResultsWindow::ShowTab(const QWidget& page) {
   for (int tab = 0; tab < tabs_->count(); ++tab) {

@@ -7,6 +7,7 @@
 
 #include "app/results/export_dialog.h"
 
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QTabWidget;
@@ -42,6 +43,9 @@ class ResultsWindow : public QWidget {
   /// `title` carries its mnemonic; `tip` says in a sentence what the tab shows.
   void AddTab(QWidget* page, const QString& title, const QString& tip);
 
+  /// Puts one more button beside those that all runs have.
+  void AddButton(QPushButton* button);
+
   /// Brings the tab of a page that was added to the front.
   void ShowTab(const QWidget& page);
 
@@ -54,6 +58,7 @@ class ResultsWindow : public QWidget {
   QString command_;
   QLabel* note_;
   QTabWidget* tabs_;
+  QHBoxLayout* buttons_ = nullptr;
   QPushButton* copy_command_;
   ExportOffer exports_;
   QPushButton* export_;

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "allocation/run_comparison.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "allocation/findings.h"
+#include "allocation/reports/result_line.h"
+#include "base/counted_text.h"
+
+namespace kaldo {
+
+namespace {
+
+std::string_view ClassOf(Flow flow, const AllocationOutcome& outcome) {
+  AllocationCounters counters;
+  counters.Count(outcome);
+  const std::vector<double> numbers = PairClassNumbers(flow, counters);
+  const auto largest = std::max_element(numbers.begin(), numbers.end());
+  return PairClassNames(flow)[static_cast<std::size_t>(largest - numbers.begin())];
+}
+
+bool HaveSamePair(const RunStatement& first, const RunStatement& second, bool sides_count) {
+  const auto& [a, b] = first.parents;
+  const auto& [c, d] = second.parents;
+  return (a == c && b == d) || (!sides_count && a == d && b == c);
+}
+
+/// The places of all offspring by their names, in file order.
+std::map<std::string_view, std::vector<std::size_t>> PlacesByName(const RunStatements& run) {
+  std::map<std::string_view, std::vector<std::size_t>> places;
+  for (std::size_t place = 0; place < run.offspring.size(); ++place) {
+    places[run.offspring[place].offspring].push_back(place);
+  }
+  return places;
+}
+
+std::vector<std::string> OtherFiles(const RunStatements& first, const RunStatements& second) {
+  std::vector<std::string> sentences;
+  const auto with_role = [](const RunStatements& run, const std::string& role) {
+    const auto found = std::find_if(run.files.begin(), run.files.end(),
+                                    [&](const RecordedInput& file) { return file.role == role; });
+    return found == run.files.end() ? nullptr : &*found;
+  };
+  for (const RecordedInput& file : first.files) {
+    const RecordedInput* const other = with_role(second, file.role);
+    if (other == nullptr) {
+      sentences.push_back(fmt::format("{}: {} in this run only", file.role, file.path));
+    } else if (other->digest != file.digest) {
+      sentences.push_back(fmt::format("{}: {} in this run, {} with other contents in the other one",
+                                      file.role, file.path, other->path));
+    }
+  }
+  for (const RecordedInput& file : second.files) {
+    if (with_role(first, file.role) == nullptr) {
+      sentences.push_back(fmt::format("{}: {} in the other run only", file.role, file.path));
+    }
+  }
+  return sentences;
+}
+
+}  // namespace
+
+RunStatements StatementsOf(Flow flow, const AllocationInput& input,
+                           const AllocationResult& result) {
+  RunStatements run;
+  run.flow = flow;
+  run.files = input.files;
+  run.offspring.resize(result.outcomes.size());
+  const auto name = [&](const AllocatedSide& side) {
+    return side.parent ? std::string(input.table.Name(*side.parent).Text()) : "UC";
+  };
+  for (std::size_t place = 0; place < run.offspring.size(); ++place) {
+    RunStatement& statement = run.offspring[place];
+    const Slot slot{input.offspring.begin + static_cast<std::uint32_t>(place)};
+    const AllocatedSides sides = SidesOf(flow, result.outcomes[place]);
+    statement.offspring = input.table.Name(slot).Text();
+    statement.parents = {name(sides.first), name(sides.second)};
+    statement.the_class = ClassOf(flow, result.outcomes[place]);
+    if (const OffspringConfidence* const confidence = ConfidenceIn(result, place)) {
+      statement.certainty = CertaintyOf(*confidence);
+      for (std::size_t k = 0; confidence->is_possible && k < 2; ++k) {
+        statement.p_right.at(k) = confidence->sides.at(k).p_reported;
+      }
+    }
+  }
+  return run;
+}
+
+RunComparison Compare(const RunStatements& first, const RunStatements& second) {
+  RunComparison comparison;
+  comparison.other_files = OtherFiles(first, second);
+  const bool sides_count = first.flow == Flow::kSexed && second.flow == Flow::kSexed;
+  const auto places = PlacesByName(second);
+  std::map<std::string_view, std::size_t> met;
+  std::vector<bool> is_matched(second.offspring.size());
+  comparison.offspring.reserve(first.offspring.size());
+  for (std::size_t place = 0; place < first.offspring.size(); ++place) {
+    const RunStatement& statement = first.offspring[place];
+    ComparedOffspring compared{place, std::nullopt, false};
+    const std::size_t earlier = met[statement.offspring]++;
+    if (const auto alike = places.find(statement.offspring);
+        alike != places.end() && earlier < alike->second.size()) {
+      compared.second = alike->second[earlier];
+      is_matched[*compared.second] = true;
+      compared.is_changed =
+          !HaveSamePair(statement, second.offspring[*compared.second], sides_count);
+    }
+    ++(compared.second ? comparison.in_both : comparison.only_first);
+    comparison.changed += compared.is_changed ? 1U : 0U;
+    comparison.offspring.push_back(compared);
+  }
+  for (std::size_t place = 0; place < is_matched.size(); ++place) {
+    if (!is_matched[place]) {
+      comparison.offspring.push_back({std::nullopt, place, false});
+      ++comparison.only_second;
+    }
+  }
+  return comparison;
+}
+
+std::string ComparisonSentence(const RunComparison& comparison) {
+  std::string sentence = fmt::format("{} of {} of both runs {} another pair", comparison.changed,
+                                     Counted(comparison.in_both, "offspring", "offspring"),
+                                     comparison.changed == 1 ? "has" : "have");
+  if (comparison.only_first > 0 || comparison.only_second > 0) {
+    sentence += fmt::format("; {} in this run only, {} in the other one only",
+                            comparison.only_first, comparison.only_second);
+  }
+  return sentence + ".";
+}
+
+}  // namespace kaldo
