@@ -3,6 +3,7 @@
 // that is about what is on the screen.
 #include <QCoreApplication>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -40,15 +41,19 @@ class SteadinessTest : public test::MenuTest {
     });
   }
 
+  /// Without a desktop nobody gives the keys back to the window that was in front of the guide.
   void ExpectGuideAt(std::string_view heading) {
-    script_.Press(Qt::Key_F1).Await("GuideText").Do([heading](QWidget& window) {
+    script_.Do([this](QWidget& window) { asking_ = &window; });
+    script_.Press(Qt::Key_F1).Await("GuideText").Do([this, heading](QWidget& window) {
       auto* const text = window.findChild<QTextBrowser*>(Text("GuideText"));
       EXPECT_EQ(Bytes(text->textCursor().block().text()), heading);
       text->window()->close();
+      asking_->activateWindow();
     });
   }
 
  private:
+  QPointer<QWidget> asking_;
   std::vector<std::pair<QSize, QRect>> places_;
 };
 
