@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
 
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
@@ -40,6 +41,23 @@ bool HasKeyboard() {
   }
   window->activateWindow();
   return false;
+}
+
+bool Shows(const QWidget& window, const std::string& wanted) {
+  const auto found = window.findChildren<QWidget*>(Text(wanted));
+  return window.objectName() == Text(wanted) ||
+         std::any_of(found.begin(), found.end(), [](QWidget* child) { return child->isVisible(); });
+}
+
+/// What a user does who sees the window behind another one: without a desktop the window that was
+/// opened last is not always in front.
+void BringToFront(const std::string& wanted) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && Shows(*window, wanted)) {
+      window->activateWindow();
+      return;
+    }
+  }
 }
 
 /// A text as typed, letters with accents too.
@@ -195,8 +213,11 @@ Script& Script::Await(std::string_view screen) {
       "await " + wanted,
       [wanted] {
         const QWidget* const window = WindowInFront();
-        return window != nullptr &&
-               (window->objectName() == Text(wanted) || VisibleWidget(wanted) != nullptr);
+        const bool is_in_front = window != nullptr && Shows(*window, wanted);
+        if (!is_in_front && QApplication::activeModalWidget() == nullptr) {
+          BringToFront(wanted);
+        }
+        return is_in_front;
       },
       [] {});
 }
