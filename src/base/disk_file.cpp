@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "base/file_handle.h"
+#include "base/path_text.h"
 
 namespace kaldo {
 
@@ -49,7 +50,7 @@ std::error_code WriteNewFile(const std::string& path, std::string_view text) {
 
 bool IsThere(const std::string& path) {
   std::error_code ignored;
-  return std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
+  return std::filesystem::exists(std::filesystem::symlink_status(FilePath(path), ignored));
 }
 
 std::string RandomName() {

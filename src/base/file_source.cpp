@@ -11,6 +11,7 @@
 #include <fmt/format.h>
 
 #include "base/input_limit.h"
+#include "base/path_text.h"
 #include "base/stop_signal.h"
 
 namespace kaldo {
@@ -30,6 +31,13 @@ bool LooksLikeUtf16(std::string_view text) {
   return more > text.size() / 3 && fewer * 10 <= more;
 }
 
+/// Systems tell in different words that a folder is no file.
+int WhyNotRead(const std::string& path, int error) {
+  std::error_code ignored;
+  const bool is_folder = std::filesystem::is_directory(FilePath(path), ignored);
+  return is_folder ? EISDIR : error != 0 ? error : EIO;
+}
+
 }  // namespace
 
 Problem CannotOpenFile(const std::string& path, std::string reason) {
@@ -41,7 +49,7 @@ Problem CannotOpenFile(const std::string& path, std::string reason) {
 
 tl::expected<std::vector<char>, Problem> DiskFiles::Read(const std::string& path) {
   errno = 0;
-  std::ifstream stream(std::filesystem::path(path), std::ios::binary);
+  std::ifstream stream(FilePath(path), std::ios::binary);
   std::vector<char> bytes;
   if (stream.is_open()) {
     std::vector<char> block(kBlockBytes);
@@ -54,7 +62,7 @@ tl::expected<std::vector<char>, Problem> DiskFiles::Read(const std::string& path
     }
   }
   if (!stream.eof() && bytes.size() <= kMaxInputBytes) {
-    const int error = errno != 0 ? errno : EIO;
+    const int error = WhyNotRead(path, errno);
     if (error == EINTR) {
       throw RunStopped();  // Ctrl-C, while a pipe was waited for
     }
@@ -83,14 +91,14 @@ tl::expected<std::vector<char>, Problem> ReadText(const std::string& path, FileS
 
 std::optional<Problem> RefuseSpecialFile(const std::string& path, std::size_t most_bytes) {
   std::error_code error;
-  const auto status = std::filesystem::status(path, error);
+  const auto status = std::filesystem::status(FilePath(path), error);
   if (!std::filesystem::exists(status)) {
     return std::nullopt;
   }
   if (!std::filesystem::is_regular_file(status)) {
     return CannotOpenFile(path, "it is no regular file");
   }
-  if (std::filesystem::file_size(path, error) > most_bytes && !error) {
+  if (std::filesystem::file_size(FilePath(path), error) > most_bytes && !error) {
     return CannotOpenFile(path, fmt::format("it holds more than {} kB", most_bytes / 1024));
   }
   return std::nullopt;
@@ -98,7 +106,7 @@ std::optional<Problem> RefuseSpecialFile(const std::string& path, std::size_t mo
 
 tl::expected<FileDigest, Problem> DigestOfFile(const std::string& path) {
   errno = 0;
-  std::ifstream stream(std::filesystem::path(path), std::ios::binary);
+  std::ifstream stream(FilePath(path), std::ios::binary);
   RunningDigest digest;
   std::vector<char> block(stream.is_open() ? kBlockBytes : 0);
   while (stream) {
@@ -109,7 +117,7 @@ tl::expected<FileDigest, Problem> DigestOfFile(const std::string& path) {
     digest.Add({block.data(), static_cast<std::size_t>(stream.gcount())});
   }
   if (!stream.eof()) {
-    const int error = errno != 0 ? errno : EIO;
+    const int error = WhyNotRead(path, errno);
     return tl::unexpected(CannotOpenFile(path, std::generic_category().message(error)));
   }
   return digest.SoFar();

@@ -40,7 +40,7 @@ void TellPlaces(const RunRecord& then, const LocatedRecord& now,
 }  // namespace
 
 std::string FolderOfRecord(const std::string& record) {
-  const auto folder = PathText(std::filesystem::path(record).parent_path());
+  const auto folder = PathText(FilePath(record).parent_path());
   return folder.empty() ? "." : folder;
 }
 

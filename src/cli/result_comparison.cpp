@@ -11,6 +11,7 @@
 #include <fmt/format.h>
 
 #include "allocation/allocation_record.h"
+#include "base/path_text.h"
 #include "runs/result_files.h"
 #include "simulation/simulation_record.h"
 
@@ -26,7 +27,7 @@ constexpr int kLinesWithPaths = 12;
 
 /// The digest of a report as the recorded run would have written it.
 FileDigest DigestWithPathsThen(const std::string& path, const PathsThen& then) {
-  std::ifstream file(std::filesystem::path(path), std::ios::binary);
+  std::ifstream file(FilePath(path), std::ios::binary);
   RunningDigest digest;
   std::string line;
   for (int i = 0; i < kLinesWithPaths && std::getline(file, line); ++i) {
@@ -49,7 +50,7 @@ FileDigest DigestWithPathsThen(const std::string& path, const PathsThen& then) {
 std::string Difference(const RecordedOutput& output, const std::string& path,
                        const PathsThen& then) {
   std::error_code ignored;
-  if (!std::filesystem::exists(path, ignored)) {
+  if (!std::filesystem::exists(FilePath(path), ignored)) {
     return "is missing";
   }
   if (RefuseSpecialFile(path, std::numeric_limits<std::size_t>::max())) {
@@ -83,7 +84,7 @@ ResultComparison CompareResults(const RunRecord& record, const std::string& fold
     for (const std::string_view file : ResultFiles(flow)) {
       std::error_code ignored;
       const bool is_new = listed.emplace(file).second;
-      if (is_new && std::filesystem::exists(folder + std::string(file), ignored)) {
+      if (is_new && std::filesystem::exists(FilePath(folder + std::string(file)), ignored)) {
         comparison.differences.push_back(fmt::format(
             "{} is of another run: the record does not list it", Quoted(file.substr(1))));
       }

@@ -6,14 +6,16 @@
 
 #include <fmt/format.h>
 
+#include "base/path_text.h"
 #include "runs/result_files.h"
 
 namespace kaldo {
 
 std::string RecordNamedBy(const std::string& path) {
   std::error_code ignored;
-  return std::filesystem::is_directory(path, ignored) ? ProjectFolder(path).Path(kRunRecordFile)
-                                                      : path;
+  return std::filesystem::is_directory(FilePath(path), ignored)
+             ? ProjectFolder(path).Path(kRunRecordFile)
+             : path;
 }
 
 std::optional<RunRecord> EarlierRun(const ProjectFolder& project) {

@@ -20,9 +20,10 @@ namespace fs = std::filesystem;
 
 /// Why the folder could not be made, below the last of its parents that is there.
 std::optional<std::string> WhyNotMade(const std::string& name) {
-  fs::path there;
+  const fs::path whole = FilePath(name);
+  fs::path there = whole.root_path();
   bool is_missing = false;
-  for (const auto& part : fs::path(name)) {
+  for (const auto& part : whole.relative_path()) {
     const fs::path next = there / part;
     std::error_code error;
     const fs::file_status status = fs::status(next, error);
@@ -48,7 +49,7 @@ void CheckPlaces(const ProjectFolder& project, std::string_view flow,
   const auto look_at = [&](std::string_view file) {
     const std::string path = project.Path(file);
     std::error_code ignored;
-    if (fs::is_directory(path, ignored)) {
+    if (fs::is_directory(FilePath(path), ignored)) {
       check.obstacles.push_back(InTheWaySentence(path));
     } else if (auto problem = ClashWithInput(path, inputs)) {
       check.refusals.push_back(std::move(*problem));
@@ -74,7 +75,7 @@ FolderCheck CheckFolder(const ProjectFolder& project, std::string_view flow,
   FolderCheck check;
   check.folder = project.Name();
   std::error_code ignored;
-  check.exists = fs::is_directory(project.Name(), ignored);
+  check.exists = fs::is_directory(FilePath(project.Name()), ignored);
   if (!check.exists) {
     if (auto sentence = WhyNotMade(project.Name())) {
       check.obstacles.push_back(std::move(*sentence));

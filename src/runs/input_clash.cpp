@@ -5,6 +5,8 @@
 
 #include <fmt/format.h>
 
+#include "base/path_text.h"
+
 namespace kaldo {
 
 namespace {
@@ -12,9 +14,9 @@ namespace {
 /// Links count: what a name leads to is the same file.
 bool IsSameFile(const std::string& one, const std::string& other) {
   std::error_code ignored;
-  return std::filesystem::equivalent(one, other, ignored) ||
-         std::filesystem::absolute(one, ignored).lexically_normal() ==
-             std::filesystem::absolute(other, ignored).lexically_normal();
+  return std::filesystem::equivalent(FilePath(one), FilePath(other), ignored) ||
+         std::filesystem::absolute(FilePath(one), ignored).lexically_normal() ==
+             std::filesystem::absolute(FilePath(other), ignored).lexically_normal();
 }
 
 }  // namespace

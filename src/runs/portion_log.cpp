@@ -8,6 +8,7 @@
 
 #include "base/byte_packing.h"
 #include "base/file_digest.h"
+#include "base/path_text.h"
 #include "runs/record_shape.h"
 
 namespace kaldo {
@@ -64,11 +65,11 @@ std::string PortionLogText::Entry(const LoggedPortion& portion) {
 
 PortionLogReader::PortionLogReader(const std::string& path) {
   std::error_code error;
-  if (!std::filesystem::is_regular_file(std::filesystem::symlink_status(path, error))) {
+  if (!std::filesystem::is_regular_file(std::filesystem::symlink_status(FilePath(path), error))) {
     return;
   }
-  bytes_ = std::filesystem::file_size(path, error);
-  file_.open(std::filesystem::path(path), std::ios::binary);
+  bytes_ = std::filesystem::file_size(FilePath(path), error);
+  file_.open(FilePath(path), std::ios::binary);
   if (error || !file_) {
     return;
   }

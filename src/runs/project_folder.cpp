@@ -13,8 +13,9 @@ namespace kaldo {
 std::vector<std::string> ProjectFolder::Create() const {
   std::vector<std::string> made;
   std::error_code error;
-  std::filesystem::path path;
-  for (const auto& part : std::filesystem::path(name_)) {
+  const std::filesystem::path whole = FilePath(name_);
+  std::filesystem::path path = whole.root_path();
+  for (const auto& part : whole.relative_path()) {
     path /= part;
     if (std::filesystem::create_directory(path, error)) {
       made.push_back(PathText(path));
@@ -24,7 +25,7 @@ std::vector<std::string> ProjectFolder::Create() const {
     }
   }
   std::error_code ignored;
-  if (!std::filesystem::is_directory(name_, ignored)) {
+  if (!std::filesystem::is_directory(FilePath(name_), ignored)) {
     RemoveFolders(made);
     throw RunFailure(NotMadeSentence(name_, error == std::errc::file_exists
                                                 ? fmt::format("\"{}\" is a file", PathText(path))
@@ -48,7 +49,7 @@ std::string InTheWaySentence(const std::string& path) {
 void RemoveFolders(const std::vector<std::string>& made) {
   std::error_code ignored;
   for (auto folder = made.rbegin(); folder != made.rend(); ++folder) {
-    std::filesystem::remove(*folder, ignored);
+    std::filesystem::remove(FilePath(*folder), ignored);
   }
 }
 

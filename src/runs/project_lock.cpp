@@ -3,12 +3,12 @@
 
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
 #include <vector>
 
 #include <fmt/format.h>
 
 #include "base/disk_file.h"
+#include "base/folder_content.h"
 #include "base/problem.h"
 #include "base/this_process.h"
 #include "runs/results_swap.h"
@@ -24,10 +24,7 @@ constexpr std::string_view kWorkingFolder = ".kaldo-";
 /// The working folders in a project folder, whoever made them.
 std::vector<std::string> WorkingFolders(const ProjectFolder& project) {
   std::vector<std::string> folders;
-  std::error_code error;
-  for (auto entry = std::filesystem::directory_iterator(project.Name(), error);
-       !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-    const std::string name = entry->path().filename().string();
+  for (const std::string& name : NamesIn(project.Name())) {
     if (name.starts_with(kWorkingFolder) && IsRandomName(name.substr(kWorkingFolder.size()))) {
       folders.push_back(project.Path('/' + name));
     }

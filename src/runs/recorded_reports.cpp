@@ -7,6 +7,8 @@
 
 #include <fmt/format.h>
 
+#include "base/path_text.h"
+
 namespace kaldo {
 
 namespace {
@@ -42,7 +44,7 @@ tl::expected<std::string, Problem> RecordedReports::Read(std::string_view file) 
   if (output == nullptr) {
     return problem("is not listed");
   }
-  const auto path = std::filesystem::path(record_path_).parent_path() / output->file;
+  const auto path = FilePath(record_path_).parent_path() / FilePath(output->file);
   std::error_code error;
   if (!std::filesystem::is_regular_file(path, error)) {
     return problem("is missing");

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "base/disk_file.h"
+#include "base/path_text.h"
 #include "runs/earlier_run.h"
 #include "runs/input_clash.h"
 #include "runs/project_lock.h"
@@ -81,7 +82,7 @@ void ReportSet::CheckPlace(std::string_view file) const {
   const std::string path = order_.project.Path(file);
   RefuseInput(path);
   std::error_code ignored;
-  if (std::filesystem::is_directory(path, ignored)) {
+  if (std::filesystem::is_directory(FilePath(path), ignored)) {
     throw RunFailure(InTheWaySentence(path));
   }
 }
@@ -135,7 +136,7 @@ std::vector<SwappedFile> ReportSet::FinishReports() {
       obsolete_.push_back(report.name);
       std::error_code ignored;
       report.file.reset();
-      std::filesystem::remove(swap_->NewPath(report.name), ignored);
+      std::filesystem::remove(FilePath(swap_->NewPath(report.name)), ignored);
     } else {
       report.file->Finish();
       files.push_back({report.name, true, IsThere(order_.project.Path(report.name))});

@@ -4,11 +4,14 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 #include <fmt/format.h>
 
 #include "base/disk_file.h"
+#include "base/folder_content.h"
+#include "base/path_text.h"
 #include "base/problem.h"
 
 namespace kaldo {
@@ -29,7 +32,7 @@ void ThrowFailure(std::string_view what, const std::string& path, std::error_cod
 
 bool IsFolder(const std::string& path) {
   std::error_code ignored;
-  return std::filesystem::is_directory(std::filesystem::symlink_status(path, ignored));
+  return std::filesystem::is_directory(std::filesystem::symlink_status(FilePath(path), ignored));
 }
 
 std::string Sentence(const RunFailure& failure) {
@@ -48,7 +51,7 @@ bool IsFileName(std::string_view name) {
 void ResultsSwap::MakeFolders() const {
   for (const char* const folder : {"", "/new", "/old"}) {
     std::error_code error;
-    if (!std::filesystem::create_directory(folder_ + folder, error)) {
+    if (!std::filesystem::create_directory(FilePath(folder_ + folder), error)) {
       ThrowFailure("write into the folder", project_.Name(),
                    error ? error : make_error_code(std::errc::file_exists));
     }
@@ -66,7 +69,7 @@ void ResultsSwap::Move(const std::string& from, const std::string& to, const std
   if (IsFolder(from)) {
     error = make_error_code(std::errc::is_a_directory);
   } else {
-    std::filesystem::rename(from, to, error);
+    std::filesystem::rename(FilePath(from), FilePath(to), error);
   }
   if (error) {
     throw RunFailure(
@@ -87,14 +90,14 @@ void ResultsSwap::WriteJournal(const std::vector<SwappedFile>& files) const {
   ThrowFailure("write into the folder", project_.Name(), WriteNewFile(unfinished, text));
   SyncFolders();  // what the journal speaks of is on the disk before the journal is
   std::error_code error;
-  std::filesystem::rename(unfinished, JournalPath(), error);
+  std::filesystem::rename(FilePath(unfinished), FilePath(JournalPath()), error);
   ThrowFailure("write into the folder", project_.Name(), error);
   ThrowFailure("write into the folder", project_.Name(), SyncFolder(folder_));
 }
 
 std::vector<SwappedFile> ResultsSwap::ReadJournal() const {
   std::vector<SwappedFile> files;
-  std::ifstream journal(std::filesystem::path(JournalPath()), std::ios::binary);
+  std::ifstream journal(FilePath(JournalPath()), std::ios::binary);
   std::string line;
   bool is_whole = std::getline(journal, line) && line == kJournalHead;
   while (is_whole && std::getline(journal, line) && line != kJournalEnd) {
@@ -123,7 +126,7 @@ std::vector<SwappedFile> ResultsSwap::ReadJournal() const {
 bool ResultsSwap::RemoveJournal() const {
   std::error_code error;
   for (int attempt = 0; attempt < kAttempts; ++attempt) {
-    std::filesystem::remove(JournalPath(), error);
+    std::filesystem::remove(FilePath(JournalPath()), error);
     if (!error) {
       return !SyncFolder(folder_) || !SyncFolder(folder_);
     }
@@ -162,16 +165,28 @@ void ResultsSwap::Finish(const std::vector<SwappedFile>& files) const {
 }
 
 void ResultsSwap::Undo(const std::vector<SwappedFile>& files) const {
+  std::optional<RunFailure> first;
   for (auto file = files.rbegin(); file != files.rend(); ++file) {
-    const std::string place = project_.Path(file->name);
-    if (file->placed && !IsThere(NewPath(file->name)) && IsThere(place)) {
-      Move(place, NewPath(file->name), place);
-    }
-    if (file->existed && IsThere(OldPath(file->name))) {
-      Move(OldPath(file->name), place, place);
+    try {
+      PutBack(*file);
+    } catch (const RunFailure& failure) {
+      first = first.value_or(failure);  // one that is held open keeps none of the others away
     }
   }
+  if (first) {
+    throw RunFailure(*first);
+  }
   SyncFolders();
+}
+
+void ResultsSwap::PutBack(const SwappedFile& file) const {
+  const std::string place = project_.Path(file.name);
+  if (file.placed && !IsThere(NewPath(file.name)) && IsThere(place)) {
+    Move(place, NewPath(file.name), place);
+  }
+  if (file.existed && IsThere(OldPath(file.name))) {
+    Move(OldPath(file.name), place, place);
+  }
 }
 
 void ResultsSwap::Do(const std::vector<SwappedFile>& files) const {
@@ -224,9 +239,7 @@ bool ResultsSwap::Recover() const {
 
 void ResultsSwap::Clean() const {
   for (int attempt = 0; attempt < kAttempts && !IsUnfinished(); ++attempt) {
-    std::error_code error;
-    std::filesystem::remove_all(folder_, error);
-    if (!error) {
+    if (!RemoveFolder(folder_)) {
       return;
     }
   }

@@ -61,6 +61,7 @@ class ResultsSwap {
   void Finish(const std::vector<SwappedFile>& files) const;
   bool CanFinish(const std::vector<SwappedFile>& files) const;
   void Undo(const std::vector<SwappedFile>& files) const;
+  void PutBack(const SwappedFile& file) const;
   static void Move(const std::string& from, const std::string& to, const std::string& shown);
   void SyncFolders() const;
 

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "base/disk_file.h"
+#include "base/path_text.h"
 #include "runs/run_refused.h"
 
 namespace kaldo {
@@ -170,7 +171,8 @@ std::error_code UnfinishedRun::WriteFirst() {
     error = file_.Append(pending_);
   }
   if (!error) {
-    std::filesystem::rename(new_file_, project_.Path(kUnfinishedRunFile), error);
+    std::filesystem::rename(FilePath(new_file_), FilePath(project_.Path(kUnfinishedRunFile)),
+                            error);
   }
   if (!error) {
     error = SyncFolder(project_.Name());
@@ -180,7 +182,7 @@ std::error_code UnfinishedRun::WriteFirst() {
 
 bool UnfinishedRun::WouldFillTheDisk() const {
   std::error_code unknown;
-  const auto space = std::filesystem::space(project_.Name(), unknown);
+  const auto space = std::filesystem::space(FilePath(project_.Name()), unknown);
   return !unknown && space.available < file_.Bytes() + pending_.size();
 }
 

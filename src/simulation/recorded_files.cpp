@@ -48,11 +48,11 @@ bool IsThere(const fs::path& path) {
 std::vector<fs::path> Places(const RunRecord& record, const std::string& path,
                              const std::string& file) {
   std::error_code ignored;
-  const fs::path beside = fs::absolute(path, ignored).parent_path();
-  const fs::path started = record.folder;
-  const fs::path recorded = (started / file).lexically_normal();
+  const fs::path beside = fs::absolute(FilePath(path), ignored).parent_path();
+  const fs::path started = FilePath(record.folder);
+  const fs::path recorded = (started / FilePath(file)).lexically_normal();
   const fs::path project =
-      (started / record.Setting<std::string>("project").value_or("")).lexically_normal();
+      (started / FilePath(record.Setting<std::string>("project").value_or(""))).lexically_normal();
   // From the folder of the results to the file it is the same way as it was.
   return {recorded, (beside / recorded.lexically_relative(project)).lexically_normal(),
           beside / recorded.filename(), beside.parent_path() / recorded.filename()};
@@ -68,7 +68,7 @@ bool Holds(const fs::path& place, const FileDigest& digest) {
 }
 
 std::string PlaceNow(const RunRecord& record, const std::string& path, const RecordedInput& input) {
-  if (IsThere(input.path)) {
+  if (IsThere(FilePath(input.path))) {
     return input.path;
   }
   std::string first;
@@ -109,13 +109,13 @@ std::optional<Problem> RefuseRecordedFiles(const RunRecord& record, const std::s
 
 std::string WorkingFolderNow(const RunRecord& record, const std::string& path) {
   std::error_code ignored;
-  if (fs::is_directory(record.folder, ignored)) {
+  if (fs::is_directory(FilePath(record.folder), ignored)) {
     return record.folder;
   }
-  const fs::path started = fs::path(record.folder).lexically_normal();
+  const fs::path started = FilePath(record.folder).lexically_normal();
   const fs::path project =
-      (started / record.Setting<std::string>("project").value_or("")).lexically_normal();
-  const fs::path beside = fs::absolute(path, ignored).parent_path();
+      (started / FilePath(record.Setting<std::string>("project").value_or(""))).lexically_normal();
+  const fs::path beside = fs::absolute(FilePath(path), ignored).parent_path();
   const fs::path moved = (beside / started.lexically_relative(project)).lexically_normal();
   return PathText(moved.has_filename() ? moved : moved.parent_path());
 }

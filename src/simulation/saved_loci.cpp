@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "base/disk_file.h"
+#include "base/folder_content.h"
 #include "genotypes/capacities.h"
 #include "simulation/reports/simulation_file_names.h"
 
@@ -19,11 +20,8 @@ constexpr std::string_view kUnfinished = ".part";
 
 /// Removes what programs that died while they wrote the file left behind.
 void RemoveUnfinished() {
-  std::error_code error;
   const std::string begin = fmt::format("{}.", kSavedLociFile);
-  for (auto entry = std::filesystem::directory_iterator(".", error);
-       !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-    const std::string name = entry->path().filename().string();
+  for (const std::string& name : NamesIn(".")) {
     if (name.starts_with(begin) && name.ends_with(kUnfinished) &&
         name.size() > begin.size() + kUnfinished.size() &&
         IsRandomName(std::string_view(name).substr(

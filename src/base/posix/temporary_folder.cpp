@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 
+#include "base/folder_content.h"
 #include "base/problem.h"
 
 namespace kaldo {
@@ -20,9 +21,6 @@ TemporaryFolder::TemporaryFolder()
   }
 }
 
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
+TemporaryFolder::~TemporaryFolder() { (void)RemoveFolder(path_); }
 
 }  // namespace kaldo

@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 
 #include "base/disk_file.h"
+#include "base/path_text.h"
 
 namespace kaldo {
 
@@ -24,12 +25,12 @@ std::error_code Told(bool succeeded) { return succeeded ? std::error_code() : La
 std::error_code LastError() { return {errno, std::generic_category()}; }
 
 int OpenNewFile(const std::string& path) {
-  return ::_wopen(std::filesystem::path(path).c_str(), kBytesAsTheyAre | _O_CREAT | _O_EXCL,
+  return ::_wopen(FilePath(path).c_str(), kBytesAsTheyAre | _O_CREAT | _O_EXCL,
                   _S_IREAD | _S_IWRITE);
 }
 
 int OpenOldFile(const std::string& path) {
-  const std::filesystem::path place(path);
+  const std::filesystem::path place = FilePath(path);
   std::error_code ignored;
   if (std::filesystem::is_symlink(place, ignored)) {
     errno = ELOOP;

@@ -3,12 +3,13 @@
 
 #include <filesystem>
 
+#include "base/path_text.h"
 #include "base/windows/system_error.h"
 
 namespace kaldo {
 
 std::error_code WhyNotWritable(const std::string& folder) {
-  const std::filesystem::path path(folder);
+  const std::filesystem::path path = FilePath(folder);
   const HANDLE opened = ::CreateFileW(path.c_str(), FILE_ADD_FILE,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);

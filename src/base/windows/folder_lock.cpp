@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/file_handle.h"
+#include "base/path_text.h"
 #include "base/windows/system_error.h"
 
 namespace kaldo {
@@ -17,7 +18,7 @@ namespace {
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 HANDLE Open(const std::string& path, DWORD access, DWORD share, DWORD how, DWORD flags) {
-  return ::CreateFileW(std::filesystem::path(path).c_str(), access, share, nullptr, how,
+  return ::CreateFileW(FilePath(path).c_str(), access, share, nullptr, how,
                        FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT | flags, nullptr);
 }
 

@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "base/disk_file.h"
+#include "base/folder_content.h"
 #include "base/path_text.h"
 #include "base/problem.h"
 
@@ -16,14 +17,11 @@ namespace kaldo {
 TemporaryFolder::TemporaryFolder()
     : path_(PathText(std::filesystem::temp_directory_path() / ("kaldo-" + RandomName()))) {
   std::error_code error;
-  if (!std::filesystem::create_directory(path_, error)) {
+  if (!std::filesystem::create_directory(FilePath(path_), error)) {
     throw RunFailure(fmt::format("Cannot make the folder \"{}\": {}", path_, error.message()));
   }
 }
 
-TemporaryFolder::~TemporaryFolder() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
+TemporaryFolder::~TemporaryFolder() { (void)RemoveFolder(path_); }
 
 }  // namespace kaldo

@@ -67,7 +67,7 @@ std::string GuessedNamesWarning(std::size_t names) {
 }  // namespace
 
 std::string NamesBeside(const std::string& offspring_file) {
-  const auto place = std::filesystem::path(offspring_file).parent_path() / kNamesFileName;
+  const auto place = FilePath(offspring_file).parent_path() / kNamesFileName;
   std::error_code ignored;
   return std::filesystem::is_regular_file(place, ignored) ? PathText(place) : std::string();
 }

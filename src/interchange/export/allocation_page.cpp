@@ -13,6 +13,7 @@
 #include "allocation/findings.h"
 #include "allocation/parent_summary.h"
 #include "base/counted_text.h"
+#include "base/path_text.h"
 #include "base/version.h"
 #include "confidence/certainty.h"
 #include "confidence/confidence_summary.h"
@@ -250,7 +251,7 @@ class Page {
   /// A study that is sent as a whole tells the same: files by their names alone.
   std::string WithoutFolders(std::string text) const {
     for (const RecordedInput& input : record_.inputs) {
-      const std::string name = std::filesystem::path(input.path).filename().string();
+      const std::string name = PathText(FilePath(input.path).filename());
       for (std::size_t at = text.find(input.path); name != input.path && at != std::string::npos;
            at = text.find(input.path, at + name.size())) {
         text.replace(at, input.path.size(), name);

@@ -35,7 +35,8 @@ bool IsExportRole(std::string_view role) {
 /// The path as it is found from the folder of the recorded run.
 std::string PathFrom(const std::string& folder, const std::string& path) {
   std::error_code ignored;
-  return folder == CurrentFolder() ? path : PathText(std::filesystem::absolute(path, ignored));
+  return folder == CurrentFolder() ? path
+                                   : PathText(std::filesystem::absolute(FilePath(path), ignored));
 }
 
 /// The record as the run would have left it with these exports. Files that the record names already
@@ -94,7 +95,7 @@ bool AreOfOneRun(const Settings& settings, const RunRecord& then, const RunRecor
 /// A path of a recorded run as it is found from here.
 std::string FoundFromHere(const std::string& folder, const std::string& path) {
   return path.empty() || folder == CurrentFolder() ? path
-                                                   : PathText(std::filesystem::path(folder) / path);
+                                                   : PathText(FilePath(folder) / FilePath(path));
 }
 
 /// What is wanted now, and what the recorded run has already.
@@ -140,7 +141,7 @@ std::vector<std::string> AlreadyThere(const ProjectFolder& folder, const Exporte
   std::vector<std::string> names;
   for (const ExportedFile& file : exported.files) {
     std::error_code ignored;
-    if (std::filesystem::exists(folder.Path(file.name), ignored)) {
+    if (std::filesystem::exists(FilePath(folder.Path(file.name)), ignored)) {
       names.emplace_back(file.name.substr(1));
     }
   }
@@ -244,11 +245,11 @@ void WriteExports(const ProjectFolder& folder, const MadeExports& made) {
     const std::string begun = path + ".part";
     std::error_code error = WriteNewFile(begun, file.text);
     if (!error) {
-      std::filesystem::rename(begun, path, error);
+      std::filesystem::rename(FilePath(begun), FilePath(path), error);
     }
     if (error) {
       std::error_code ignored;
-      std::filesystem::remove(begun, ignored);
+      std::filesystem::remove(FilePath(begun), ignored);
       Fail(path, error);
     }
   }

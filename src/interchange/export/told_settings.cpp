@@ -6,6 +6,8 @@
 
 #include <fmt/format.h>
 
+#include "base/path_text.h"
+
 namespace kaldo {
 
 namespace {
@@ -24,9 +26,7 @@ std::string TextOf(const std::vector<Value>& values) {
   return text;
 }
 
-std::string NameOfFile(const std::string& path) {
-  return std::filesystem::path(path).filename().string();
-}
+std::string NameOfFile(const std::string& path) { return PathText(FilePath(path).filename()); }
 
 bool IsInput(const RunRecord& record, const std::string& value) {
   return std::any_of(record.inputs.begin(), record.inputs.end(),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "interchange/export/workbook.h"
 
+#include "base/path_text.h"
 #include "base/problem.h"
 #include "base/temporary_folder.h"
 #include "interchange/export/allocation_tables.h"
@@ -108,7 +109,7 @@ std::string WorkbookBytes(const ExportedStudy& study, const RunRecord& record) {
   if (const lxw_error error = workbook_close(book); error != LXW_NO_ERROR) {
     Fail(lxw_strerror(error));
   }
-  std::ifstream stream(std::filesystem::path(path), std::ios::binary);
+  std::ifstream stream(FilePath(path), std::ios::binary);
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "base/disk_file.h"
+#include "base/path_text.h"
 #include "interchange/import/import_run.h"
 #include "runs/input_clash.h"
 #include "runs/project_lock.h"
@@ -44,7 +45,7 @@ void CheckPlaces(const ProjectFolder& folder, const ImportChoices& choices) {
       throw RunRefused(std::move(*problem));
     }
     std::error_code ignored;
-    if (std::filesystem::is_directory(path, ignored)) {
+    if (std::filesystem::is_directory(FilePath(path), ignored)) {
       throw RunFailure(InTheWaySentence(path));
     }
     if (!has_earlier && !choices.may_replace) {

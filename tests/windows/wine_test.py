@@ -1,0 +1,174 @@
+#!/usr/bin/env python3
+"""Runs kaldo.exe under Wine and compares every file and word with the program of this machine.
+
+    wine_test.py KALDO KALDO_EXE [unittest options]
+
+The prefix of Wine is made anew in a temporary folder.
+"""
+
+import os
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+WINE = next((found for found in map(shutil.which, ("wine64", "/usr/lib/wine/wine64", "wine"))
+             if found), "wine64")
+ROOT = Path(__file__).resolve().parents[2]
+KALDO = EXE = BASE = None
+GENEROUS = 90           # seconds: against a hang only
+RECORD = "Run record.toml"
+
+NON_SEXED = [f"--{option}={ROOT}/examples/non-sexed/{option}.txt"
+             for option in ("loci", "parents", "offspring")]
+SEXED = [f"--{option}={ROOT}/examples/sexed/{option}.txt"
+         for option in ("loci", "males", "females", "offspring")]
+NUMBERS = ["--iterations", "4", "--offspring-per-iteration", "25", "--seed", "1", "--keep", "all"]
+LONG = ["--iterations", "900", "--offspring-per-iteration", "20000", "--seed", "1"]
+SIMULATION = [NON_SEXED[0], f"--collected-parents={ROOT}/examples/non-sexed/parents.txt",
+              f"--uncollected-sample={ROOT}/examples/non-sexed/parents.txt",
+              "--uncollected", "10"]
+SEXED_SIMULATION = ["--sexed", SEXED[0]]
+for sex in ("male", "female"):
+    SEXED_SIMULATION += [f"--collected-{sex}s={ROOT}/examples/sexed/sample-{sex}s.txt",
+                         f"--uncollected-{sex}-sample={ROOT}/examples/sexed/sample-{sex}s.txt",
+                         f"--uncollected-{sex}s", "4", f"--estimated-collected-{sex}s", "9",
+                         f"--estimated-uncollected-{sex}s", "4"]
+# What a record tells of the moment and the machine of a run.
+OF_THE_RUN = re.compile(r'^(date|duration_seconds|folder|threads)\b.*$', re.M)
+
+
+def environment():
+    return {**os.environ, "WINEPREFIX": str(BASE / "prefix"), "WINEDEBUG": "-all",
+            "LC_ALL": "C.UTF-8"}
+
+
+def wine(*command, **more):
+    return subprocess.run([WINE, *command], env=environment(), timeout=GENEROUS,
+                          stdin=subprocess.DEVNULL, **more)
+
+
+class WindowsTest(unittest.TestCase):
+    maxDiff = None
+
+    def setUp(self):
+        self.folder = Path(tempfile.mkdtemp(dir=BASE))
+        for system in ("here", "there"):
+            (self.folder / system).mkdir()
+
+    def both(self, *arguments):
+        """Runs both programs, each in a folder of its own; what they did differently is a fault."""
+        ended = []
+        for system, program in (("here", [KALDO]), ("there", [WINE, EXE])):
+            done = subprocess.run([*program, *arguments], cwd=self.folder / system,
+                                  env=environment(), timeout=GENEROUS, capture_output=True,
+                                  stdin=subprocess.DEVNULL)
+            ended.append((done.returncode, done.stdout.decode(), done.stderr.decode()))
+        self.assertEqual(ended[0], ended[1])
+        return ended[0]
+
+    def files(self, system):
+        top = self.folder / system
+        return {str(path.relative_to(top)): path.read_bytes()
+                for path in top.rglob("*") if path.is_file()}
+
+    def compare_files(self, at_least):
+        here, there = self.files("here"), self.files("there")
+        self.assertEqual(sorted(here), sorted(there))
+        self.assertGreaterEqual(len(here), at_least)
+        for name, content in here.items():
+            if name.endswith(RECORD):
+                masked = [OF_THE_RUN.sub(r"\1", text.decode()) for text in (content, there[name])]
+                self.assertEqual(*masked)
+            else:
+                self.assertEqual(content, there[name], name)
+
+    def test_all_flows_leave_the_same_files(self):
+        runs = {"allocated": ["allocate", *NON_SEXED, "--sequence"],
+                "allocated/by sex": ["allocate", *SEXED, "--tolerance", "2"],
+                "simulated": ["simulate", *SIMULATION, *NUMBERS],
+                "simulated/by sex": ["simulate", *SEXED_SIMULATION, *NUMBERS]}
+        for project, arguments in runs.items():
+            with self.subTest(project):
+                code, _, said = self.both(*arguments, "--project", project)
+                self.assertEqual(code, 0, said)
+        self.compare_files(24)
+
+    def test_names_of_any_language_and_long_paths(self):
+        project = "/".join(["Zürich lac d'été – 湖"] + ["a folder of a long name"] * 14)
+        code, _, said = self.both("allocate", *NON_SEXED, "--project", project)
+        self.assertEqual(code, 0, said)
+        code, _, said = self.both("rerun", f"{project}/{RECORD}")
+        self.assertEqual(code, 0, said)
+        self.compare_files(6)
+
+    def test_wrong_inputs_are_refused_in_the_same_words(self):
+        for wrong in (["allocate"], ["simulate", "--iterations", "many"], ["alocate"],
+                      ["allocate", "--project", "p", *NON_SEXED[:2], "--offspring", "fehlt-ä.txt"],
+                      ["allocate", "--project", "p", *NON_SEXED[:2], f"--offspring={ROOT}"],
+                      ["allocate", "--project", "p", *NON_SEXED[1:], f"--loci={KALDO}"]):
+            with self.subTest(wrong):
+                self.assertNotEqual(self.both(*wrong)[0], 0)
+        self.assertEqual(self.files("there"), {})
+
+    def test_what_another_program_holds_open_is_named_and_nothing_changes(self):
+        there = self.folder / "there"
+        run = ["allocate", *NON_SEXED, "--project", "p"]
+        self.assertEqual(wine(EXE, *run, cwd=there, capture_output=True).returncode, 0)
+        before = self.files("there")
+        for held in sorted(name for name in before if not name.endswith(".toml"))[1::2]:
+            # As a spreadsheet does: others may read, nobody may write, move or remove it.
+            with self.subTest(held), open(there / held, "rb"):
+                holder = subprocess.Popen([WINE, BASE / "hold.exe", there / held], env=environment(),
+                                          stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+                try:
+                    self.assertEqual(holder.stdout.readline().strip(), b"held")
+                    done = wine(EXE, *run, "--tolerance", "2", cwd=there, capture_output=True)
+                finally:
+                    holder.communicate(b"\n", timeout=GENEROUS)
+                said = done.stderr.decode()
+                self.assertNotEqual(done.returncode, 0)
+                self.assertIn(f'Cannot replace "{held}"', said)
+                self.assertIn("open in another program", said)
+                self.assertIn("The results of earlier runs are as they were.", said)
+                self.assertEqual(self.files("there"), before)
+        self.assertEqual(
+            wine(EXE, *run, "--tolerance", "2", cwd=there, capture_output=True).returncode, 0)
+
+    def test_a_second_run_in_the_folder_is_refused(self):
+        there = self.folder / "there"
+        long = ["simulate", *SIMULATION, *LONG, "--project", "p"]
+        with subprocess.Popen([WINE, EXE, *long], cwd=there, env=environment(),
+                              stderr=subprocess.PIPE, stdin=subprocess.DEVNULL) as first:
+            end = time.monotonic() + GENEROUS
+            while not list(there.glob("p/.kaldo-*/new")) and time.monotonic() < end:
+                time.sleep(0.05)
+            second = wine(EXE, "allocate", *NON_SEXED, "--project", "p", cwd=there,
+                          capture_output=True)
+            first.send_signal(signal.SIGKILL)
+        self.assertEqual(second.returncode, 1)
+        self.assertRegex(second.stderr.decode(), r'Another run is at work in "p" \(process \d+ on ')
+
+
+def main():
+    global KALDO, EXE, BASE
+    KALDO, EXE = (str(Path(argument).resolve()) for argument in sys.argv[1:3])
+    BASE = Path(tempfile.mkdtemp(prefix="kaldo-wine-"))
+    try:
+        subprocess.run(["x86_64-w64-mingw32-g++-posix", "-static", "-o", BASE / "hold.exe",
+                        ROOT / "tests/windows/hold.cpp"], check=True)
+        wine(EXE, "--version", capture_output=True)     # makes the prefix
+        unittest.main(argv=sys.argv[:1] + sys.argv[3:], verbosity=2)
+    finally:
+        subprocess.run([Path(WINE).resolve().parent / "wineserver", "-k"], env=environment(),
+                       check=False, stderr=subprocess.DEVNULL)
+        shutil.rmtree(BASE, ignore_errors=True)
+
+
+if __name__ == "__main__":
+    main()
