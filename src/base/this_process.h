@@ -31,6 +31,10 @@ class TextConsole {
       0;  ///< of the console, where there is such a thing
 };
 
+/// For a program that was started without words: where that was a double click, whose console goes
+/// with the program, opens the page beside the program, or else waits for Enter.
+void StayForReader();
+
 /// The working folder, or nothing when it has gone.
 std::string CurrentFolder();
 

@@ -23,6 +23,9 @@ int RunProgram(int argc, char** argv, KeepingPace pace) {
       std::cerr << "Cannot write to standard output.\n";
       code = ExitCode::kFailed;
     }
+    if (arguments.empty()) {
+      StayForReader();
+    }
     return static_cast<int>(code);
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';

@@ -28,6 +28,8 @@ std::vector<std::string> ProgramArguments(int argc, char** argv) {
 TextConsole::TextConsole() = default;
 TextConsole::~TextConsole() = default;
 
+void StayForReader() {}  // a terminal stays
+
 std::string CurrentFolder() {
   std::error_code gone;
   return PathText(std::filesystem::current_path(gone));

@@ -2,6 +2,7 @@
 #include "base/this_process.h"
 
 #include <array>
+#include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <io.h>
@@ -32,6 +33,13 @@ void ObeyCodes(DWORD stream) {
   if (::GetConsoleMode(console, &mode) != 0) {
     (void)::SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
   }
+}
+
+/// The page that an installation puts beside the program.
+std::filesystem::path PageBesideProgram() {
+  std::wstring program(32768, L'\0');  // as long as a path may be
+  program.resize(::GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+  return std::filesystem::path(program).replace_filename(L"kaldo.html");
 }
 
 }  // namespace
@@ -74,6 +82,22 @@ TextConsole::~TextConsole() {
   if (earlier_code_page_ != 0) {
     (void)::SetConsoleOutputCP(earlier_code_page_);
   }
+}
+
+void StayForReader() {
+  std::array<DWORD, 2> processes{};
+  if (::GetConsoleProcessList(processes.data(), static_cast<DWORD>(processes.size())) != 1) {
+    return;  // somebody else's console, or none
+  }
+  const std::filesystem::path page = PageBesideProgram();
+  std::error_code ignored;
+  if (std::filesystem::exists(page, ignored) &&
+      reinterpret_cast<INT_PTR>(
+          ::ShellExecuteW(nullptr, L"open", page.c_str(), nullptr, nullptr, SW_SHOWNORMAL)) > 32) {
+    return;
+  }
+  std::fputs("\nThis program is for a command line. Press Enter to close this window.\n", stderr);
+  (void)std::getchar();
 }
 
 std::string CurrentFolder() {
