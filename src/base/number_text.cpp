@@ -40,22 +40,24 @@ std::optional<std::uint32_t> ParseSeedNumber(std::string_view text) {
 #ifdef __cpp_lib_to_chars
 std::optional<double> ParseDouble(std::string_view text) { return ParseWhole<double>(text); }
 #else
-// For standard libraries that read no doubles so. What follows takes a sign, blanks and hexadecimal
-// digits at the beginning, too, and tells numbers too large or too small otherwise.
+// For standard libraries that do not read doubles so. strtod() takes more: blanks and a plus at the
+// beginning, and hexadecimal digits.
 std::optional<double> ParseDouble(std::string_view text) {
-  const std::string copy(text);
   const std::string_view digits = text.substr(text.starts_with('-') ? 1 : 0);
-  const bool is_word = digits.starts_with('n') || digits.starts_with('N') ||
-                       digits.starts_with('i') || digits.starts_with('I');
-  if (!is_word && (digits.find_first_of("+xX") == 0 || digits.empty() ||
-                   std::string_view("0123456789.").find(digits.front()) == std::string_view::npos ||
-                   digits.find_first_of("xX") != std::string_view::npos)) {
+  const auto begins_with_one_of = [&](std::string_view characters) {
+    return !digits.empty() && characters.find(digits.front()) != std::string_view::npos;
+  };
+  const bool is_decimal =
+      begins_with_one_of("0123456789.") && digits.find_first_of("xX") == std::string_view::npos;
+  if (!is_decimal && !begins_with_one_of("nNiI")) {
     return std::nullopt;
   }
+  const std::string copy(text);
   char* end = nullptr;
   errno = 0;
   const double value = std::strtod(copy.c_str(), &end);
-  return errno == 0 && end == copy.c_str() + copy.size() ? std::optional(value) : std::nullopt;
+  const bool is_in_range = errno == 0 || (value != 0 && std::isfinite(value));
+  return is_in_range && end == copy.c_str() + copy.size() ? std::optional(value) : std::nullopt;
 }
 #endif
 
