@@ -154,7 +154,7 @@ void MatingPage::ShowChosen() {
   offspring_->setEnabled(chosen && !table_->CellText(*chosen).isEmpty());
 }
 
-void MatingPage::ShowOffspring() {
+void MatingPage::ShowOffspring() const {
   const auto chosen = view_->Chosen();
   const Family* const family = chosen ? table_->Table().At(chosen->row, chosen->column) : nullptr;
   if (family != nullptr) {
@@ -162,7 +162,7 @@ void MatingPage::ShowOffspring() {
   }
 }
 
-void MatingPage::ShowOffspringOfLine(int line, bool is_row) {
+void MatingPage::ShowOffspringOfLine(int line, bool is_row) const {
   const auto place = static_cast<std::size_t>(line);
   const QStringList& names = is_row ? table_->RowNames() : table_->ColumnNames();
   show_family_(is_row ? table_->OffspringInRow(place) : table_->OffspringInColumn(place),

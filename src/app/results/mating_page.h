@@ -39,8 +39,8 @@ class MatingPage : public QWidget {
   QLayout* NewButtonRow(const QString& folder);
   void FindNext(std::size_t from);
   void ShowChosen();
-  void ShowOffspring();
-  void ShowOffspringOfLine(int line, bool is_row);
+  void ShowOffspring() const;
+  void ShowOffspringOfLine(int line, bool is_row) const;
 
   std::shared_ptr<const MatingTable> table_;
   ShowFamily show_family_;

@@ -178,7 +178,7 @@ void MatingView::Mark(const std::vector<MatingPlace>& places) {
 }
 
 bool MatingView::IsMarked(const QModelIndex& index) const {
-  return marked_.count({index.row(), index.column()}) > 0;
+  return marked_.contains({index.row(), index.column()});
 }
 
 void MatingView::Choose(MatingPlace place) {

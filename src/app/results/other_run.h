@@ -17,7 +17,8 @@ struct OtherRun {
   QString folder;  ///< the full path of its project folder
 };
 
-/// Asks the user for one; nothing where he thinks better of it or it cannot be read, which is told.
+/// Asks the user for one; nothing when the user thinks better of it, or where it cannot be read,
+/// which is told.
 using ChooseOtherRun = std::function<std::optional<OtherRun>(QWidget* parent)>;
 
 }  // namespace kaldo
