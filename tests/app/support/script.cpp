@@ -21,6 +21,7 @@ namespace kaldo {
 namespace {
 
 constexpr int kTick = 5;              // milliseconds
+constexpr int kPatientTicks = 200;    // a second for windows to come and go on their own
 constexpr int kMostIdleTicks = 2000;  // at least ten seconds
 
 QMessageBox* MessageInFront() { return qobject_cast<QMessageBox*>(WindowInFront()); }
@@ -211,10 +212,11 @@ Script& Script::Await(std::string_view screen) {
   const std::string wanted(screen);
   return Add(
       "await " + wanted,
-      [wanted] {
+      [this, wanted] {
         const QWidget* const window = WindowInFront();
         const bool is_in_front = window != nullptr && Shows(*window, wanted);
-        if (!is_in_front && QApplication::activeModalWidget() == nullptr) {
+        if (!is_in_front && idle_ticks_ > kPatientTicks &&
+            QApplication::activeModalWidget() == nullptr) {
           BringToFront(wanted);
         }
         return is_in_front;
