@@ -24,6 +24,7 @@ class TextConsole {
   TextConsole& operator=(const TextConsole&) = delete;
   TextConsole(TextConsole&&) = delete;
   TextConsole& operator=(TextConsole&&) = delete;
+  // NOLINTNEXTLINE(performance-trivially-destructible): only where there is nothing to put back
   ~TextConsole();
 
  private:
