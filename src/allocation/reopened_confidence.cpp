@@ -181,11 +181,11 @@ bool ReadOffspring(Flow flow, const AllocationInput& input, std::string_view tex
   }
   for (std::size_t place = 0; place < result.outcomes.size(); ++place) {
     const std::string_view line = lines.Next();
-    auto read = reader.Read(place, CellsOf(line));
+    const auto read = reader.Read(place, CellsOf(line));
     if (!read) {
       return false;
     }
-    result.confidence->offspring.push_back(std::move(*read));
+    result.confidence->offspring.push_back(*read);
     if (ConfidenceLine(flow, input, result, place) != std::string(line) + '\n') {
       return false;
     }

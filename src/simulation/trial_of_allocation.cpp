@@ -27,7 +27,7 @@ double Uncollected(double collected, double share) {
 /// says so.
 std::string DrawWhatFits(SimulationSettings& settings) {
   double wanted = 0;
-  double room = static_cast<double>(kMaxIndividuals);
+  auto room = static_cast<double>(kMaxIndividuals);
   for (const ParentalSet& set : settings.Sets()) {
     wanted += set.uncollected;
     room -= set.estimated_collected;
