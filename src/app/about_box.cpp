@@ -10,6 +10,7 @@
 
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/version.h"
 
 namespace kaldo {
@@ -22,13 +23,13 @@ void ShowAboutBox(QWidget* parent) {
   QFont font = title->font();
   font.setPointSizeF(font.pointSizeF() * 2);
   title->setFont(font);
-  auto* const text = new QLabel(Text(fmt::format(
-      "Version {} ({})\n\n"
-      "Parentage allocation with uncollected parents, from microsatellite genotypes.\n\n"
-      "To cite: KALDO, version {}, with the run record of your results.\n\n"
-      "Free software under the GNU General Public License, version 3 or later.\n"
-      "Charts are drawn with QCustomPlot, windows with Qt.",
-      Version(), BuildNote(), Version())));
+  auto* const text = new QLabel(
+      Tr("Version %1 (%2)\n\n"
+         "Parentage allocation with uncollected parents, from microsatellite genotypes.\n\n"
+         "To cite: KALDO, version %1, with the run record of your results.\n\n"
+         "Free software under the GNU General Public License, version 3 or later.\n"
+         "Charts are drawn with QCustomPlot, windows with Qt.")
+          .arg(Text(Version()), Text(BuildNote())));
   text->setTextFormat(Qt::PlainText);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok);

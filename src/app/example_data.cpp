@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -25,7 +26,7 @@ std::string PathOf(Flow flow, std::string_view file) {
 std::optional<std::string> CopyFiles(Flow flow) {
   const QString folder = Text(FolderOf(flow));
   if (!QDir().mkpath(folder)) {
-    return fmt::format("Cannot make the folder \"{}\".", FolderOf(flow));
+    return Bytes(Tr("Cannot make the folder \"%1\".").arg(Text(FolderOf(flow))));
   }
   const QDir source(Text(flow == Flow::kSexed ? ":/examples/sexed" : ":/examples/non-sexed"));
   for (const QString& name : source.entryList()) {
@@ -34,7 +35,7 @@ std::optional<std::string> CopyFiles(Flow flow) {
       continue;
     }
     if (!QFile::copy(source.filePath(name), copy)) {
-      return fmt::format("Cannot write \"{}\".", Bytes(copy));
+      return Bytes(Tr("Cannot write \"%1\".").arg(copy));
     }
     QFile::setPermissions(
         copy, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);

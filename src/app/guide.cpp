@@ -16,6 +16,7 @@
 
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -102,10 +103,10 @@ void ShowGuide(QWidget& window) {
   auto* guide = new QDialog(&window);
   guide->setAttribute(Qt::WA_DeleteOnClose);
   guide->setObjectName(Text("Guide"));
-  guide->setWindowTitle(Text("User guide"));
+  guide->setWindowTitle(Tr("User guide"));
   auto* const text = new QTextBrowser;
   text->setObjectName(Text("GuideText"));
-  text->setAccessibleName(Text("User guide"));
+  text->setAccessibleName(Tr("User guide"));
   text->setOpenLinks(false);
   text->setMarkdown(GuideText());
   QObject::connect(text, &QTextBrowser::anchorClicked, text,

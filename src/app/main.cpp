@@ -7,13 +7,14 @@
 #include <iostream>
 #include <string_view>
 
+#include "app/base/languages.h"
 #include "app/desktop.h"
 #include "base/version.h"
 
 namespace {
 
 constexpr std::string_view kUsage =
-    "Usage: kaldo-desktop [RECORD]\n"
+    "Usage: kaldo-desktop [--language de|en|fr] [RECORD]\n"
     "Allocates offspring to their parents, in windows. RECORD is the \"Run record.toml\" of an "
     "earlier\nrun, whose settings fill the screens. See also: kaldo --help\n";
 
@@ -42,6 +43,17 @@ bool HasDisplay() {
 #endif
 }
 
+/// The language asked for, which leaves the arguments; else that of the system.
+QString TakeLanguage(QStringList& arguments) {
+  const qsizetype option = arguments.indexOf(QStringLiteral("--language"));
+  if (option < 0) {
+    return kaldo::LanguageOfSystem();
+  }
+  QString language = arguments.value(option + 1);
+  arguments.remove(option, std::min<qsizetype>(2, arguments.size() - option));
+  return language;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -55,8 +67,13 @@ int main(int argc, char** argv) {
     }
     const QApplication application(argc, argv);
     kaldo::PrepareApplication();
-    const QStringList arguments = QCoreApplication::arguments();
-    return kaldo::RunDesktop(arguments.size() > 1 ? arguments[1] : QString());
+    QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (!kaldo::SetLanguage(TakeLanguage(arguments))) {
+      std::cerr << "--language is one of: "
+                << kaldo::Languages().join(QStringLiteral(", ")).toStdString() << '\n';
+      return EXIT_FAILURE;
+    }
+    return kaldo::RunDesktop(arguments.value(0));
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
     return EXIT_FAILURE;

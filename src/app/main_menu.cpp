@@ -23,6 +23,7 @@
 #include "app/base/recent_folders.h"
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/example_data.h"
 #include "app/flows/allocation_flow_window.h"
 #include "app/flows/results_opener.h"
@@ -36,14 +37,17 @@ namespace kaldo {
 namespace {
 
 constexpr FieldText kProject{
-    "Name of project    ----->", "Project",
-    "Names the folder for the results, in the folder below. A second run under the same name "
-    "replaces the results of the first."};
+    Phrase("Name of project    ----->"), "Project",
+    Phrase(
+        "Names the folder for the results, in the folder below. A second run under the same name "
+        "replaces the results of the first.")};
 
-constexpr std::string_view kNonSexedHelp =
-    "One set of candidate parents: any two of them may be a pair";
-constexpr std::string_view kSexedHelp =
-    "Males and females are known: a pair is a male and a female";
+constexpr auto kAllocation = Phrase("ALLOCATION");
+constexpr auto kSimulations = Phrase("SIMULATIONS");
+
+constexpr auto kNonSexedHelp =
+    Phrase("One set of candidate parents: any two of them may be a pair");
+constexpr auto kSexedHelp = Phrase("Males and females are known: a pair is a male and a female");
 
 constexpr int kWidestPath = 70;  ///< in characters
 
@@ -56,14 +60,16 @@ bool AreResultsOpen() {
 
 std::size_t FlowPlace(Flow flow) { return static_cast<std::size_t>(flow); }
 
-QPushButton* NewFlowButton(Flow flow, std::string_view group, int number, Qt::Key key) {
-  auto* const button = new QPushButton(Text(flow == Flow::kSexed ? "SEXED" : "NON-SEXED"));
+/// Of one kind of work, which has its name as its object name and as the title of its box.
+QPushButton* NewFlowButton(Flow flow, Phrase group, int number, Qt::Key key) {
+  const bool sexed = flow == Flow::kSexed;
+  auto* const button = new QPushButton(sexed ? Tr("SEXED") : Tr("NON-SEXED"));
   Number(*button, number);
-  button->setObjectName(Text(group) + button->text());
-  button->setAccessibleName(Text(group) + Text(", ") + button->text());
+  button->setObjectName(Text(group.English()) + Text(sexed ? "SEXED" : "NON-SEXED"));
+  button->setAccessibleName(Tr(group) + Text(", ") + button->text());
   const QKeySequence shortcut(Qt::ALT | key);
   button->setShortcut(shortcut);
-  button->setToolTip(Text(flow == Flow::kSexed ? kSexedHelp : kNonSexedHelp) + Text(" (") +
+  button->setToolTip(Tr(sexed ? kSexedHelp : kNonSexedHelp) + Text(" (") +
                      shortcut.toString(QKeySequence::NativeText) + Text(")"));
   return button;
 }
@@ -92,18 +98,18 @@ QLayout* MainMenu::NewProjectRows() {
   form->setRowWrapPolicy(QFormLayout::WrapLongRows);
   Describe(*project_, kProject);
   project_->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
-  form->addRow(Text(kProject.label), project_);
+  form->addRow(Tr(kProject.label), project_);
   connect(project_, &QLineEdit::textChanged, this, [this] { ShowFolder(); });
 
   folder_->setObjectName(Text("ResultsFolder"));
-  folder_->setAccessibleName(Text("Results go to"));
-  auto* const choose =
-      NewButton("Working &folder...", "ChooseFolder", "Choose where project folders are made");
+  folder_->setAccessibleName(Tr("Results go to"));
+  auto* const choose = NewButton(Phrase("Working &folder..."), "ChooseFolder",
+                                 Phrase("Choose where project folders are made"));
   connect(choose, &QPushButton::clicked, this, [this] { ChooseFolder(); });
   auto* const row = new QHBoxLayout;
   row->addWidget(folder_, 1);
   row->addWidget(choose);
-  form->addRow(Text("Results go to"), row);
+  form->addRow(Tr("Results go to"), row);
   return form;
 }
 
@@ -111,8 +117,8 @@ QWidget* MainMenu::NewFlowGroups() {
   auto* const groups = new QWidget;
   auto* const row = new QHBoxLayout(groups);
   row->setContentsMargins(0, 0, 0, 0);
-  auto* const allocation = new QGroupBox(Text("ALLOCATION"));
-  auto* const simulations = new QGroupBox(Text("SIMULATIONS"));
+  auto* const allocation = new QGroupBox(Tr(kAllocation));
+  auto* const simulations = new QGroupBox(Tr(kSimulations));
   auto* const allocation_column = new QVBoxLayout(allocation);
   auto* const simulation_column = new QVBoxLayout(simulations);
   const auto add = [this](QVBoxLayout& column, QPushButton* button, auto start) {
@@ -120,16 +126,16 @@ QWidget* MainMenu::NewFlowGroups() {
     connect(button, &QPushButton::clicked, this, start);
   };
   add(*allocation_column,
-      NewFlowButton(Flow::kNonSexed, "ALLOCATION", kNonSexedAllocationButton, Qt::Key_1),
+      NewFlowButton(Flow::kNonSexed, kAllocation, kNonSexedAllocationButton, Qt::Key_1),
       [this] { StartAllocation(Flow::kNonSexed); });
   add(*allocation_column,
-      NewFlowButton(Flow::kSexed, "ALLOCATION", kSexedAllocationButton, Qt::Key_2),
+      NewFlowButton(Flow::kSexed, kAllocation, kSexedAllocationButton, Qt::Key_2),
       [this] { StartAllocation(Flow::kSexed); });
   add(*simulation_column,
-      NewFlowButton(Flow::kNonSexed, "SIMULATIONS", kNonSexedSimulationButton, Qt::Key_3),
+      NewFlowButton(Flow::kNonSexed, kSimulations, kNonSexedSimulationButton, Qt::Key_3),
       [this] { StartSimulation(Flow::kNonSexed); });
   add(*simulation_column,
-      NewFlowButton(Flow::kSexed, "SIMULATIONS", kSexedSimulationButton, Qt::Key_4),
+      NewFlowButton(Flow::kSexed, kSimulations, kSexedSimulationButton, Qt::Key_4),
       [this] { StartSimulation(Flow::kSexed); });
   row->addWidget(allocation);
   row->addWidget(simulations);
@@ -137,21 +143,22 @@ QWidget* MainMenu::NewFlowGroups() {
 }
 
 QLayout* MainMenu::NewFurtherButtons() {
-  auto* const record = NewButton("Open &run record...", "OpenRecord",
-                                 "Fill all screens as they were for an earlier run");
+  auto* const record = NewButton(Phrase("Open &run record..."), "OpenRecord",
+                                 Phrase("Fill all screens as they were for an earlier run"));
   connect(record, &QPushButton::clicked, this, [this] { ChooseRecord(); });
-  auto* const examples =
-      NewButton("&Examples", "Examples", "Open a flow with the files of a made-up study");
+  auto* const examples = NewButton(Phrase("&Examples"), "Examples",
+                                   Phrase("Open a flow with the files of a made-up study"));
   auto* const menu = new QMenu(examples);
-  const auto add = [this, menu](std::string_view text, Flow flow, bool simulation) {
-    menu->addAction(Text(text), this, [=, this] { StartExampleOf(flow, simulation); });
+  const auto add = [this, menu](Phrase text, Flow flow, bool simulation) {
+    menu->addAction(Tr(text), this, [=, this] { StartExampleOf(flow, simulation); });
   };
-  add("Allocation, &non-sexed: a lake", Flow::kNonSexed, false);
-  add("Allocation, &sexed: two ponds", Flow::kSexed, false);
-  add("Simulations, n&on-sexed: after netting the lake", Flow::kNonSexed, true);
-  add("Simulations, s&exed: before netting the ponds", Flow::kSexed, true);
+  add(Phrase("Allocation, &non-sexed: a lake"), Flow::kNonSexed, false);
+  add(Phrase("Allocation, &sexed: two ponds"), Flow::kSexed, false);
+  add(Phrase("Simulations, n&on-sexed: after netting the lake"), Flow::kNonSexed, true);
+  add(Phrase("Simulations, s&exed: before netting the ponds"), Flow::kSexed, true);
   examples->setMenu(menu);
-  auto* const about = NewButton("A&bout KALDO...", "About", "Version, licence, how to cite");
+  auto* const about =
+      NewButton(Phrase("A&bout KALDO..."), "About", Phrase("Version, licence, how to cite"));
   connect(about, &QPushButton::clicked, this, [this] { ShowAboutBox(this); });
   auto* const row = new QHBoxLayout;
   row->addWidget(NewResultsButton());
@@ -163,8 +170,9 @@ QLayout* MainMenu::NewFurtherButtons() {
 }
 
 QPushButton* MainMenu::NewResultsButton() {
-  auto* const results = NewButton("&Open results", "OpenResults",
-                                  "Show the results of a finished run again, without running it");
+  auto* const results =
+      NewButton(Phrase("&Open results"), "OpenResults",
+                Phrase("Show the results of a finished run again, without running it"));
   auto* const menu = new QMenu(results);
   menu->setToolTipsVisible(true);
   connect(menu, &QMenu::aboutToShow, this, [this, menu] { FillResultsMenu(*menu); });
@@ -188,9 +196,9 @@ void MainMenu::FillResultsMenu(QMenu& menu) {
   if (number > 0) {
     menu.addSeparator();
   }
-  menu.addAction(Text("&Another folder..."), this, [this] { ChooseResults(); });
+  menu.addAction(Tr("&Another folder..."), this, [this] { ChooseResults(); });
   if (number > 0) {
-    menu.addAction(Text("&Forget these folders"), this, [] { ForgetFolders(); });
+    menu.addAction(Tr("&Forget these folders"), this, [] { ForgetFolders(); });
   }
 }
 
@@ -200,7 +208,7 @@ void MainMenu::OpenResultsOf(const std::string& path) {
 
 void MainMenu::ChooseResults() {
   const QString picked = QFileDialog::getExistingDirectory(
-      this, Text("Folder with the results of a run"), QDir::currentPath());
+      this, Tr("Folder with the results of a run"), QDir::currentPath());
   if (!picked.isEmpty()) {
     OpenResultsOf(PathBytes(picked));
   }
@@ -287,9 +295,8 @@ void MainMenu::OpenRecord(const std::string& path) {
 }
 
 void MainMenu::ChooseRecord() {
-  const QString picked =
-      QFileDialog::getOpenFileName(this, Text("Open run record"), QDir::currentPath(),
-                                   Text("Run records (*.toml);;All files (*)"));
+  const QString picked = QFileDialog::getOpenFileName(
+      this, Tr("Open run record"), QDir::currentPath(), Tr("Run records (*.toml);;All files (*)"));
   if (!picked.isEmpty()) {
     OpenRecord(PathBytes(picked));
   }
@@ -297,9 +304,9 @@ void MainMenu::ChooseRecord() {
 
 void MainMenu::ChooseFolder() {
   const QString picked =
-      QFileDialog::getExistingDirectory(this, Text("Working folder"), QDir::currentPath());
+      QFileDialog::getExistingDirectory(this, Tr("Working folder"), QDir::currentPath());
   if (!picked.isEmpty() && !QDir::setCurrent(picked)) {
-    ShowFailure(this, Text("Cannot use the folder ") + picked);
+    ShowFailure(this, Tr("Cannot use the folder %1").arg(picked));
   }
   ShowFolder();
 }
@@ -309,13 +316,13 @@ void MainMenu::ShowFolder() {
       QDir::toNativeSeparators(QDir::current().absoluteFilePath(project_->text()));
   folder_->SetText(folder, folder);
   folder_->setToolTip(
-      TipText(folder + Text("\nMade when the first screen of a flow is confirmed")));
+      TipText(folder + Text("\n") + Tr("Made when the first screen of a flow is confirmed")));
 }
 
 void MainMenu::closeEvent(QCloseEvent* event) {
   if (AreResultsOpen() &&
-      !AskBeforeLoss(this, Text("Results are open. Close them, too? They stay in their folders and "
-                                "can be opened again."))) {
+      !AskBeforeLoss(this, Tr("Results are open. Close them, too? They stay in their folders and "
+                              "can be opened again."))) {
     event->ignore();
     return;
   }

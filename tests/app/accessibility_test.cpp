@@ -10,9 +10,11 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <algorithm>
 
 #include <fmt/format.h>
 
+#include "app/base/languages.h"
 #include "app/base/screen_table.h"
 #include "app/base/text.h"
 #include "app/introduction_screen.h"
@@ -100,7 +102,14 @@ void ExpectNoFaults(const QWidget& window, std::string_view name) {
   EXPECT_EQ(Faults(window).All(), std::vector<std::string>{}) << name;
 }
 
-class AccessibilityTest : public test::MenuTest {
+/// Before the windows are made.
+class InLanguage : public testing::WithParamInterface<std::string> {
+ protected:
+  InLanguage() { EXPECT_TRUE(SetLanguage(Text(GetParam()))); }
+  ~InLanguage() override { SetLanguage(Text("en")); }
+};
+
+class AccessibilityTest : public InLanguage, public test::MenuTest {
  protected:
   AccessibilityTest() { WriteStudy(); }
 
@@ -157,7 +166,7 @@ class AccessibilityTest : public test::MenuTest {
   }
 };
 
-TEST_F(AccessibilityTest, TheFirstScreens) {
+TEST_P(AccessibilityTest, TheFirstScreens) {
   IntroductionScreen introduction;
   Script first;
   first.Await("Introduction").Do([](QWidget& window) { ExpectNoFaults(window, "Introduction"); });
@@ -168,7 +177,7 @@ TEST_F(AccessibilityTest, TheFirstScreens) {
   Go(script_);
 }
 
-TEST_F(AccessibilityTest, TheScreenThatConvertsFiles) {
+TEST_P(AccessibilityTest, TheScreenThatConvertsFiles) {
   WriteExamples();
   OpenFlow(script_, "ALLOCATIONSEXED");
   script_.Type("MalesFile", Text("data/foreign/adults.csv")).Click("MalesFileConvert");
@@ -178,7 +187,7 @@ TEST_F(AccessibilityTest, TheScreenThatConvertsFiles) {
   Go(script_);
 }
 
-TEST_F(AccessibilityTest, AllScreensAndResults) {
+TEST_P(AccessibilityTest, AllScreensAndResults) {
   for (const bool sexed : {false, true}) {
     InspectAllocation(sexed);
     InspectSimulation(sexed, false);
@@ -186,6 +195,16 @@ TEST_F(AccessibilityTest, AllScreensAndResults) {
   }
   Go(script_);
 }
+
+std::vector<std::string> AllLanguages() {
+  const QStringList codes = Languages();
+  std::vector<std::string> languages(static_cast<std::size_t>(codes.size()));
+  std::transform(codes.begin(), codes.end(), languages.begin(), Bytes);
+  return languages;
+}
+
+INSTANTIATE_TEST_SUITE_P(In, AccessibilityTest, testing::ValuesIn(AllLanguages()),
+                         [](const auto& language) { return language.param; });
 
 }  // namespace
 }  // namespace kaldo

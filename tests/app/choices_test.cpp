@@ -20,7 +20,7 @@ namespace {
 /// The screens of a simulation on which one of several things is chosen.
 struct Screens {
   explicit Screens(Flow flow)
-      : start(flow, opened, {}), error(""), tolerance(flow), strategy(flow), output(flow) {}
+      : start(flow, opened, {}), error(Phrase()), tolerance(flow), strategy(flow), output(flow) {}
 
   SimulationSettings Settings() const {
     SimulationSettings settings;

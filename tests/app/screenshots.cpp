@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // Takes the pictures of the user guide: walks through all four flows with the example data and
-// saves every screen. Usage: kaldo_screenshots FOLDER [dark]
+// saves every screen. Usage: kaldo_screenshots FOLDER [dark] [LANGUAGE]
 
 #include <QApplication>
 #include <QDir>
@@ -20,6 +20,8 @@
 #include <utility>
 
 #include "allocation/allocation_run.h"
+#include "app/base/elided_label.h"
+#include "app/base/languages.h"
 #include "app/base/text.h"
 #include "app/desktop.h"
 #include "app/example_data.h"
@@ -292,11 +294,13 @@ int main(int argc, char** argv) {
   QApplication::setCursorFlashTime(0);  // seen in every picture, or in none
   QApplication::setStyle(QStyleFactory::create(kaldo::Text("Fusion")));
   if (argc < 2) {
-    qWarning("usage: kaldo_screenshots FOLDER [dark]");
+    qWarning("usage: kaldo_screenshots FOLDER [dark] [LANGUAGE]");
     return 2;
   }
-  if (argc > 2) {
-    QApplication::setPalette(kaldo::DarkPalette());
+  for (const QString& wish : QCoreApplication::arguments().mid(2)) {
+    if (!kaldo::SetLanguage(wish)) {
+      QApplication::setPalette(kaldo::DarkPalette());
+    }
   }
   return kaldo::TakeAll(QString::fromLocal8Bit(argv[1]));
 }

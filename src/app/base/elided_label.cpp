@@ -8,6 +8,7 @@
 #include <QStyle>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -23,7 +24,7 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   setFocusPolicy(Qt::ClickFocus);
   setContextMenuPolicy(Qt::ActionsContextMenu);
-  auto* const copy = new QAction(Text("&Copy the folder"), this);
+  auto* const copy = new QAction(Tr("&Copy the folder"), this);
   copy->setShortcut(QKeySequence::Copy);
   copy->setShortcutContext(Qt::WidgetShortcut);
   connect(copy, &QAction::triggered, this,

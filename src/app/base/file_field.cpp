@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -35,17 +36,17 @@ FileField::FileField(const FieldText& text, QWidget* parent)
     : QWidget(parent), path_(new QLineEdit(this)), hint_(NewHint(this)) {
   Describe(*path_, text);
   title_ = path_->accessibleName();
-  path_->setPlaceholderText(Text("type, browse or drop a file here"));
+  path_->setPlaceholderText(Tr("type, browse or drop a file here"));
   path_->setMinimumWidth(fontMetrics().averageCharWidth() * kNarrowest);
   path_->setAcceptDrops(false);  // a dropped file replaces the text, it is not inserted into it
   // The screen does not jump when a file is named, nor when much is to be said of it.
   hint_->setFixedHeight(kHintLines * fontMetrics().lineSpacing());
   hint_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   hint_->setObjectName(path_->objectName() + Text("Hint"));
-  convert_ = new QPushButton(Text("Convert..."), this);
+  convert_ = new QPushButton(Tr("Convert..."), this);
   convert_->setObjectName(path_->objectName() + Text("Convert"));
-  convert_->setAccessibleName(Text("Convert: ") + title_);
-  convert_->setToolTip(Text("Make files that a run takes of this file of another program"));
+  convert_->setAccessibleName(Tr("Convert: %1").arg(title_));
+  convert_->setToolTip(Tr("Make files that a run takes of this file of another program"));
   convert_->setAutoDefault(false);
   convert_->setMaximumHeight(fontMetrics().height() * 3 / 2);
   QSizePolicy policy = convert_->sizePolicy();
@@ -53,10 +54,10 @@ FileField::FileField(const FieldText& text, QWidget* parent)
   convert_->setSizePolicy(policy);
   convert_->hide();
 
-  auto* const browse = new QPushButton(Text("Browse..."), this);
+  auto* const browse = new QPushButton(Tr("Browse..."), this);
   browse->setObjectName(path_->objectName() + Text("Browse"));
-  browse->setAccessibleName(Text("Browse for: ") + title_);
-  browse->setToolTip(Text("Look for the file in the folders of this computer"));
+  browse->setAccessibleName(Tr("Browse for: %1").arg(title_));
+  browse->setToolTip(Tr("Look for the file in the folders of this computer"));
   browse->setAutoDefault(false);
 
   auto* const row = new QHBoxLayout;
@@ -110,9 +111,9 @@ void FileField::Refresh() {
 void FileField::ShowHint(const std::string& path) {
   const auto foreign = path.empty() || !recogniser_ ? std::nullopt : recogniser_(path);
   convert_->setVisible(foreign.has_value());
-  hint_->setText(foreign                       ? Text(*foreign)
+  hint_->setText(foreign                       ? TrCore(*foreign)
                  : path.empty() || !describer_ ? QString()
-                                               : Text(describer_(path)));
+                                               : TrCore(describer_(path)));
   hint_->setToolTip(TipText(hint_->text()));
   ShowAsFault(*hint_, !foreign && !path.empty() && is_fault_ && is_fault_(path));
 }
@@ -125,9 +126,9 @@ void FileField::SetRecogniser(Recogniser recogniser, std::function<void()> conve
 void FileField::Browse() {
   const QString picked =
       QFileDialog::getOpenFileName(this, title_, path_->text(),
-                                   Text("Text files (.txt) (*.txt);;Files of other programs (*.gen "
-                                        "*.csv *.tsv *.xlsx *.dat *.str "
-                                        "*.txt);;All files (*)"));
+                                   Tr("Text files (.txt) (*.txt);;Files of other programs (*.gen "
+                                      "*.csv *.tsv *.xlsx *.dat *.str "
+                                      "*.txt);;All files (*)"));
   if (!picked.isEmpty()) {
     SetPath(PathBytes(picked));
   }
@@ -142,7 +143,7 @@ void FileField::dragEnterEvent(QDragEnterEvent* event) {
 void FileField::dropEvent(QDropEvent* event) {
   const QString file = DraggedFile(*event->mimeData());
   if (file.isEmpty()) {
-    hint_->setText(Text("One file at a time can be dropped here."));
+    hint_->setText(Tr("One file at a time can be dropped here."));
     return;
   }
   event->acceptProposedAction();
@@ -158,7 +159,7 @@ void FileField::showEvent(QShowEvent* event) {
 
 FileField* AddFileField(QFormLayout& form, const FieldText& text) {
   auto* const field = new FileField(text);
-  form.addRow(Text(text.label), field);
+  form.addRow(Tr(text.label), field);
   // The key of the label works only on what takes the keyboard itself.
   if (auto* const label = qobject_cast<QLabel*>(form.labelForField(field))) {
     label->setBuddy(field->focusProxy());

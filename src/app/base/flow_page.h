@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "app/base/screen_table.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -13,7 +14,7 @@ struct Problem;
 /// tested by the flow, with the sentences of the core.
 class FlowPage : public QWidget {
  public:
-  FlowPage(const ScreenEntry& entry, std::string_view caption);
+  FlowPage(const ScreenEntry& entry, Phrase caption);
 
   /// The title of the window while this screen is shown.
   const QString& Caption() const { return caption_; }

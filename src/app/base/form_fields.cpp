@@ -20,8 +20,8 @@ namespace kaldo {
 namespace {
 
 /// The label without its key and the arrow that leads to the field.
-QString SpokenName(std::string_view label) {
-  QString name = Text(label).remove(QLatin1Char('&'));
+QString SpokenName(Phrase label) {
+  QString name = Tr(label).remove(QLatin1Char('&'));
   while (name.endsWith(QLatin1Char('>')) || name.endsWith(QLatin1Char('-')) ||
          name.endsWith(QLatin1Char(' ')) || name.endsWith(QLatin1Char(':'))) {
     name.chop(1);
@@ -35,23 +35,23 @@ std::string Typed(const QLineEdit& field) { return Bytes(field.text().trimmed())
 
 void Describe(QWidget& widget, const FieldText& text) {
   widget.setObjectName(Text(text.object_name));
-  widget.setToolTip(Text(text.help));
-  widget.setWhatsThis(Text(text.help));
+  widget.setToolTip(Tr(text.help));
+  widget.setWhatsThis(Tr(text.help));
   widget.setAccessibleName(SpokenName(text.label));
-  widget.setAccessibleDescription(Text(text.help));
+  widget.setAccessibleDescription(Tr(text.help));
 }
 
 QLineEdit* AddLineEdit(QFormLayout& form, const FieldText& text) {
   auto* const field = new QLineEdit;
   Describe(*field, text);
-  form.addRow(Text(text.label), field);
+  form.addRow(Tr(text.label), field);
   return field;
 }
 
-QPushButton* NewButton(std::string_view caption, std::string_view name, std::string_view help) {
-  auto* const button = new QPushButton(Text(caption));
+QPushButton* NewButton(Phrase caption, std::string_view name, Phrase help) {
+  auto* const button = new QPushButton(Tr(caption));
   button->setObjectName(Text(name));
-  button->setToolTip(Text(help));
+  button->setToolTip(Tr(help));
   return button;
 }
 
@@ -91,13 +91,13 @@ std::optional<double> NumberIn(const QLineEdit& field) { return ParseDouble(Type
 
 void TellIfNoWholeNumber(const QLineEdit& field, Problem& problem) {
   if (!WholeNumberIn(field)) {
-    problem.found = fmt::format("{} is no whole number", Quoted(Bytes(field.text())));
+    problem.found = Bytes(Tr("%1 is no whole number").arg(Text(Quoted(Bytes(field.text())))));
   }
 }
 
 void TellIfNoNumber(const QLineEdit& field, Problem& problem) {
   if (!NumberIn(field)) {
-    problem.found = fmt::format("{} is no number", Quoted(Bytes(field.text())));
+    problem.found = Bytes(Tr("%1 is no number").arg(Text(Quoted(Bytes(field.text())))));
   }
 }
 

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string_view>
 
+#include "app/base/tr.h"
+
 class QDialog;
 class QFormLayout;
 class QLabel;
@@ -20,9 +22,9 @@ struct Problem;
 
 /// How a field of a screen is labelled and explained.
 struct FieldText {
-  std::string_view label;  ///< with "&" before its key
+  Phrase label;  ///< with "&" before its key
   std::string_view object_name;
-  std::string_view help;  ///< what the value means to a geneticist, with unit and range
+  Phrase help;  ///< what the value means to a geneticist, with unit and range
 };
 
 /// Sets object name, tooltip and the name that a screen reader says.
@@ -32,7 +34,7 @@ void Describe(QWidget& widget, const FieldText& text);
 QLineEdit* AddLineEdit(QFormLayout& form, const FieldText& text);
 
 /// A button with its name and its tooltip.
-QPushButton* NewButton(std::string_view caption, std::string_view name, std::string_view help);
+QPushButton* NewButton(Phrase caption, std::string_view name, Phrase help);
 
 /// The last row of a dialog: the button that leaves it, and the one that acts, which Enter presses.
 QLayout* NewDialogButtons(QDialog& dialog, QPushButton* cancel, QPushButton* act);

@@ -10,6 +10,7 @@
 #include <QUrl>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/version.h"
 
 namespace kaldo {
@@ -30,7 +31,7 @@ void OfferToOpen(QMessageBox& box, const QString& file) {
   if (file.isEmpty() || !info.isFile()) {
     return;
   }
-  auto* const open = new QPushButton(Text("&Open the file"));
+  auto* const open = new QPushButton(Tr("&Open the file"));
   open->setObjectName(Text("OpenFile"));
   open->setToolTip(TipText(QDir::toNativeSeparators(info.absoluteFilePath())));
   box.addButton(open, QMessageBox::HelpRole);
@@ -74,20 +75,22 @@ bool Ask(QWidget* parent, const QString& question, QMessageBox::StandardButton a
 }  // namespace
 
 void ShowSentence(QWidget* parent, std::string_view sentence) {
-  ShowBox(parent, {.text = Text(sentence)});
+  ShowBox(parent, {.text = TrCore(sentence)});
 }
 
+void ShowSentence(QWidget* parent, Phrase sentence) { ShowBox(parent, {.text = Tr(sentence)}); }
+
 void ShowSentenceAbout(QWidget* parent, std::string_view sentence, const QString& file) {
-  ShowBox(parent, {.text = Text(sentence), .file = file, .at_bottom = true});
+  ShowBox(parent, {.text = TrCore(sentence), .file = file, .at_bottom = true});
 }
 
 void ShowClosingSentence(QWidget* results, std::string_view sentence) {
-  ShowBox(results, {.text = Text(sentence), .at_bottom = true});
+  ShowBox(results, {.text = TrCore(sentence), .at_bottom = true});
 }
 
 void ShowProblem(QWidget* parent, const Problem& problem) {
   ShowBox(parent, {.icon = QMessageBox::Warning,
-                   .text = Text(SentenceOf(problem)),
+                   .text = TrCore(SentenceOf(problem)),
                    .details = Text(DetailLine(problem)),
                    .file = PathText(problem.file)});
 }

@@ -4,6 +4,7 @@
 #include <QString>
 #include <string_view>
 
+#include "app/base/tr.h"
 #include "base/problem.h"
 
 class QWidget;
@@ -12,6 +13,7 @@ namespace kaldo {
 
 /// Shows one sentence with "OK" and waits for it.
 void ShowSentence(QWidget* parent, std::string_view sentence);
+void ShowSentence(QWidget* parent, Phrase sentence);
 
 /// The same about a file, with a button that opens it.
 void ShowSentenceAbout(QWidget* parent, std::string_view sentence, const QString& file);

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "app/base/tr.h"
 #include "method/flow.h"
 
 class QWidget;
@@ -51,13 +52,13 @@ enum ControlNumber : int {
 };
 
 // The captions of the flows.
-constexpr std::string_view AllocationCaption(Flow flow) {
-  return flow == Flow::kSexed ? "ALLOCATION : SEXED" : "ALLOCATION : NON-SEXED";
+constexpr Phrase AllocationCaption(Flow flow) {
+  return flow == Flow::kSexed ? Phrase("ALLOCATION : SEXED") : Phrase("ALLOCATION : NON-SEXED");
 }
-constexpr std::string_view SimulationCaption(Flow flow) {
-  return flow == Flow::kSexed ? "SIMULATIONS : SEXED" : "SIMULATIONS: NON-SEXED";
+constexpr Phrase SimulationCaption(Flow flow) {
+  return flow == Flow::kSexed ? Phrase("SIMULATIONS : SEXED") : Phrase("SIMULATIONS: NON-SEXED");
 }
-inline constexpr std::string_view kSequenceCaption = "Cumulative Sequence";
+inline constexpr Phrase kSequenceCaption = Phrase("Cumulative Sequence");
 
 inline constexpr const char* kNumberProperty = "number";
 

@@ -22,6 +22,7 @@
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "runs/earlier_run.h"
 #include "runs/project_folder.h"
 #include "runs/project_lock.h"
@@ -73,10 +74,12 @@ FlowWindow::FlowWindow(OpenedFiles& opened, QWidget* parent)
       area_(new QScrollArea),
       destination_(new ElidedLabel),
       step_(new QLabel),
-      copy_(NewButton("Cop&y as command", "CopyAsCommand",
-                      "Copy the command line that does the same run, for a script or a cluster")),
-      back_(NewButton("<---  Back", "Back", "To the screen before; what was typed stays")),
-      ok_(NewButton("OK", "Ok", "Check this screen and go on")) {
+      copy_(NewButton(
+          Phrase("Cop&y as command"), "CopyAsCommand",
+          Phrase("Copy the command line that does the same run, for a script or a cluster"))),
+      back_(NewButton(Phrase("<---  Back"), "Back",
+                      Phrase("To the screen before; what was typed stays"))),
+      ok_(NewButton(Phrase("OK"), "Ok", Phrase("Check this screen and go on"))) {
   setModal(true);
   area_->setWidgetResizable(true);
   area_->setFrameShape(QFrame::NoFrame);
@@ -138,7 +141,7 @@ void FlowWindow::Display(FlowPage& page) {
   setWindowTitle(page.Caption());
   ShowDestination(page);
   step_->setText(
-      Text("Step %1 of %2").arg(before_.size() + 1).arg(before_.size() + 1 + ScreensBehind(page)));
+      Tr("Step %1 of %2").arg(before_.size() + 1).arg(before_.size() + 1 + ScreensBehind(page)));
   FitScreens();
   FocusFirst(page);
 }
@@ -166,13 +169,14 @@ void FlowWindow::ShowDestination(const FlowPage& page) {
   if (!may_start) {
     return;
   }
-  QString text = Text("Results go to ") + QDir::toNativeSeparators(ResultsFolder());
+  const QString folder = QDir::toNativeSeparators(ResultsFolder());
+  QString text = Tr("Results go to %1").arg(folder);
   const QFileInfo record(PathText(ProjectFolder(project_).Path(kRunRecordFile)));
   if (record.exists()) {
-    text += Text("\nThe results of ") + record.lastModified().toString(Text("yyyy-MM-dd HH:mm")) +
-            Text(" will be replaced.");
+    text += Text("\n") + Tr("The results of %1 will be replaced.")
+                             .arg(record.lastModified().toString(Text("yyyy-MM-dd HH:mm")));
   }
-  destination_->SetText(text, QDir::toNativeSeparators(ResultsFolder()));
+  destination_->SetText(text, folder);
 }
 
 void FlowWindow::GoBack() {
@@ -198,10 +202,11 @@ void FlowWindow::Refuse(const Problem& problem) {
   Problem told = problem;
   current_->TellTyped(told);
   if (const auto look = told.file.empty() ? std::nullopt : opened_.ForeignLookAt(told.file)) {
-    told.found += fmt::format(
-        "{}{} The button \"Convert...\" below its field makes files of it that "
-        "a run takes.",
-        told.found.empty() ? "" : " ", look->sentence);
+    const QString found = Text(told.found);
+    told.found =
+        Bytes(found + Text(found.isEmpty() ? "" : " ") + TrCore(look->sentence) + Text(" ") +
+              Tr("The button \"Convert...\" below its field makes files of it that a run "
+                 "takes."));
   }
   ShowProblem(this, told);
 }
@@ -225,14 +230,14 @@ bool FlowWindow::MakeProjectFolder() {
 
 bool FlowWindow::AskToReplace(std::string_view flow, bool& may_replace) {
   const auto other = OtherFlowSentence(ProjectFolder(project_), flow);
-  may_replace = other && AskYesNo(this, Text(*other + " Replace them?"));
+  may_replace = other && AskYesNo(this, TrCore(*other) + Text(" ") + Tr("Replace them?"));
   return !other || may_replace;
 }
 
 KeptWork FlowWindow::AskToResume(std::string_view flow) {
   const auto unfinished = UnfinishedSentence(ProjectFolder(project_), flow);
-  return unfinished && AskYesNo(this, Text(*unfinished + " Go on with it? With No this run begins "
-                                                         "anew."))
+  return unfinished && AskYesNo(this, TrCore(*unfinished) + Text(" ") +
+                                          Tr("Go on with it? With No this run begins anew."))
              ? KeptWork::kResumed
              : KeptWork::kAnew;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/flows/loci_screens.h"
 
-#include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/pages/loci_page.h"
 #include "app/pages/sequence_page.h"
 #include "confidence/locus_order.h"
@@ -36,7 +36,7 @@ void LociScreens::OrderByInformation(const LociList& names, const GenotypeTable&
                                      std::span<const SlotRange> parents) {
   const auto loci = InformationOfLoci(table, parents);
   sequence_->SetIndices(SequenceByInformation(loci));
-  sequence_->Tell(Text(SequenceSentence(names, loci)));
+  sequence_->Tell(TrCore(SequenceSentence(names, loci)));
 }
 
 std::optional<Problem> LociScreens::ChoiceFault() const {

@@ -7,6 +7,7 @@
 
 #include "app/base/messages.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/version.h"
 #include "simulation/recorded_files.h"
 
@@ -19,10 +20,12 @@ void OfferFolder(QWidget* parent, const RunRecord& record, const std::string& pa
   if (folder == QDir::currentPath() || !QDir(folder).exists()) {
     return;
   }
-  const QString what = folder == PathText(record.folder)
-                           ? Text("The recorded run was started in the folder\n")
-                           : Text("The study of the recorded run was moved to the folder\n");
-  if (AskYesNo(parent, what + folder + Text("\nUse it as the working folder?"))) {
+  const QString question =
+      folder == PathText(record.folder)
+          ? Tr("The recorded run was started in the folder\n%1\nUse it as the working folder?")
+          : Tr("The study of the recorded run was moved to the folder\n%1\nUse it as the working "
+               "folder?");
+  if (AskYesNo(parent, question.arg(folder))) {
     QDir::setCurrent(folder);
   }
 }
@@ -33,8 +36,8 @@ void TellChanges(QWidget* parent, const LocatedRecord& located) {
   const auto& changed = located.changes.changed;
   changes.insert(changes.end(), changed.begin(), changed.end());
   if (record.version != Version()) {
-    changes.push_back(fmt::format("The record was made by KALDO {}, this is KALDO {}.",
-                                  record.version, Version()));
+    changes.push_back(Bytes(Tr("The record was made by KALDO %1, this is KALDO %2.")
+                                .arg(Text(record.version), Text(Version()))));
   }
   if (changes.empty()) {
     return;

@@ -13,6 +13,7 @@
 #include "app/base/command_text.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/flows/run_dialog.h"
 #include "app/results/allocation_window.h"
 #include "app/results/simulation_window.h"
@@ -71,13 +72,13 @@ struct Opened {
 };
 
 QString WithoutCertainty(const Problem& problem) {
-  return Text(
-      fmt::format(" How sure the allocations are is not shown in full: {}.", problem.found));
+  return Tr(" How sure the allocations are is not shown in full: %1.").arg(TrCore(problem.found));
 }
 
 Opened OpenedOf(const ReopenedAllocation& reopened) {
   const auto& outcomes = reopened.run.result.outcomes;
-  const auto first_alone = std::count_if(outcomes.begin(), outcomes.end(), IsOnlyFirstPairTold);
+  const auto first_alone = static_cast<std::size_t>(
+      std::count_if(outcomes.begin(), outcomes.end(), IsOnlyFirstPairTold));
   Opened opened;
   for (const NamedExportForm& form : kAllExportForms) {
     const bool is_told = form.choice == &ExportForms::pedigree ||
@@ -90,20 +91,22 @@ Opened OpenedOf(const ReopenedAllocation& reopened) {
     opened.untold += WithoutCertainty(*reopened.without_certainty);
   }
   if (first_alone > 0) {
-    opened.untold += Text(fmt::format(
-        " Of {} with more than five pairs the reports name the first one alone, so that tables, "
-        "which count them, cannot be exported.",
-        Counted(static_cast<std::size_t>(first_alone), "offspring", "offspring")));
+    opened.untold += TrCount(
+        " Of %n offspring with more than five pairs the reports name the first one alone, so that "
+        "tables, which count them, cannot be exported.",
+        " Of %n offspring with more than five pairs the reports name the first one alone, so that "
+        "tables, which count them, cannot be exported.",
+        first_alone);
   }
-  opened.untold += Text(
-      " An HTML report and a workbook need more digits than the reports have: "
-      "run again for them.");
+  opened.untold +=
+      Tr(" An HTML report and a workbook need more digits than the reports have: run again for "
+         "them.");
   return opened;
 }
 
 Opened OpenedOf(const SimulationRun& /*run*/) {
-  return {Text(" Figures have the digits of the reports; NA stands where these tell none. Exports "
-               "need all digits: run again for them."),
+  return {Tr(" Figures have the digits of the reports; NA stands where these tell none. Exports "
+             "need all digits: run again for them."),
           {}};
 }
 
@@ -123,7 +126,7 @@ AllocationRun RunIn(ReopenedAllocation reopened) { return std::move(reopened.run
 template <typename Reopened, typename Read>
 std::optional<Reopened> ReadRun(QWidget* parent, Read read) {
   tl::expected<Reopened, Problem> run;
-  const bool done = RunWithProgress(parent, Text("Open results"),
+  const bool done = RunWithProgress(parent, Tr("Open results"),
                                     [&](RunObserver& observer) { run = read(observer); });
   if (done && !run) {
     ShowProblem(parent, run.error());
@@ -139,8 +142,8 @@ Window* ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord&
   if (!run) {
     return nullptr;
   }
-  const QString note = Text(
-      fmt::format("Opened from the reports of {}; nothing was run again.", checked.record.date));
+  const QString note =
+      Tr("Opened from the reports of %1; nothing was run again.").arg(Text(checked.record.date));
   Opened opened = OpenedOf(*run);
   auto* const window = new Window(settings, RunIn(std::move(*run)), folder);
   Show(window, note, std::move(opened),
@@ -153,8 +156,7 @@ Window* ReadAndShow(QWidget* parent, const QString& folder, const CheckedRecord&
 std::optional<OtherRun> ReadOtherRun(QWidget* parent, const CheckedRecord& checked) {
   const auto* now = std::get_if<AllocationSettings>(&checked.now);
   if (now == nullptr) {
-    ShowFailure(parent,
-                Text("This is the record of simulations. Only allocations can be compared."));
+    ShowFailure(parent, Tr("This is the record of simulations. Only allocations can be compared."));
     return std::nullopt;
   }
   const RecordedReports reports(checked.record, checked.path);
@@ -212,8 +214,8 @@ void ShowRun(QWidget* parent, const CheckedRecord& checked, const StartTrial& st
 
 std::optional<OtherRun> AskForOtherRun(QWidget* parent) {
   const QString picked =
-      QFileDialog::getOpenFileName(parent, Text("Run record of the other run"), QDir::currentPath(),
-                                   Text("Run records (*.toml);;All files (*)"));
+      QFileDialog::getOpenFileName(parent, Tr("Run record of the other run"), QDir::currentPath(),
+                                   Tr("Run records (*.toml);;All files (*)"));
   if (picked.isEmpty()) {
     return std::nullopt;
   }

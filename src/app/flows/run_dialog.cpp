@@ -21,6 +21,7 @@
 
 #include "app/base/messages.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/problem.h"
 #include "base/run_observer.h"
 
@@ -33,6 +34,8 @@ constexpr int kBarSteps = 1000;
 constexpr double kShareBeforeEstimate = 0.05;
 
 using Clock = std::chrono::steady_clock;
+
+constexpr std::string_view kReadingPart = "Reading the files";
 
 /// Where a run is, as the dialog shows it.
 struct Progress {
@@ -85,7 +88,7 @@ class WatchedRun : public RunObserver {
 
  private:
   mutable std::mutex mutex_;  // guards what is neither const nor atomic
-  std::string part_ = "Reading the files";
+  std::string part_{kReadingPart};
   std::string note_;
   std::string warnings_;
   std::uint64_t steps_ = 0;
@@ -101,16 +104,18 @@ std::string TimeText(double seconds) {
 }
 
 /// "250 of 1000, 0:12 elapsed, about 0:36 left". An estimate comes once it means something.
-std::string ProgressText(const Progress& progress) {
+QString ProgressText(const Progress& progress) {
   if (progress.steps == 0) {
     return {};
   }
   const double elapsed = progress.elapsed.count();
-  std::string text =
-      fmt::format("{} of {}, {} elapsed", progress.done, progress.steps, TimeText(elapsed));
+  QString text = Tr("%1 of %2, %3 elapsed")
+                     .arg(progress.done)
+                     .arg(progress.steps)
+                     .arg(Text(TimeText(elapsed)));
   const double share = progress.Share();
   if (share >= kShareBeforeEstimate && share < 1) {
-    text += fmt::format(", about {} left", TimeText(elapsed * (1 - share) / share));
+    text += Tr(", about %1 left").arg(Text(TimeText(elapsed * (1 - share) / share)));
   }
   return text;
 }
@@ -125,10 +130,10 @@ class RunDialog : public QDialog {
     setModal(true);
     part_->setObjectName(Text("RunPart"));
     bar_->setObjectName(Text("RunBar"));
-    bar_->setAccessibleName(Text("Progress of the run"));
+    bar_->setAccessibleName(Tr("Progress of the run"));
     time_->setObjectName(Text("RunTime"));
     cancel_->setObjectName(Text("RunCancel"));
-    cancel_->setToolTip(Text("Stop; the results of earlier runs stay as they are"));
+    cancel_->setToolTip(Tr("Stop; the results of earlier runs stay as they are"));
     auto* const column = new QVBoxLayout(this);
     column->addWidget(part_);
     column->addWidget(bar_);
@@ -165,8 +170,8 @@ class RunDialog : public QDialog {
   /// Esc and the close button of the window.
   void reject() override {
     if (end_ == RunEnd::kRunning && !watched_.StopRequested() &&
-        AskBeforeLoss(this, Text("A run is going on. Stop it? The results of earlier runs stay as "
-                                 "they are."))) {
+        AskBeforeLoss(this, Tr("A run is going on. Stop it? The results of earlier runs stay as "
+                               "they are."))) {
       Stop();
     }
   }
@@ -183,7 +188,7 @@ class RunDialog : public QDialog {
     } catch (const RunStopped&) {
       return RunEnd::kStopped;
     } catch (const std::bad_alloc&) {
-      failure_ = Text("Out of memory. The results of earlier runs are as they were.");
+      failure_ = Tr("Out of memory. The results of earlier runs are as they were.");
     } catch (const std::exception& error) {
       failure_ = Text(error.what());
     }
@@ -193,7 +198,7 @@ class RunDialog : public QDialog {
   void Stop() {
     watched_.Stop();
     cancel_->setEnabled(false);
-    part_->setText(Text("Stopping..."));
+    part_->setText(Tr("Stopping..."));
   }
 
   void Finish(RunEnd end) {
@@ -209,12 +214,13 @@ class RunDialog : public QDialog {
   void Refresh() {
     const Progress progress = watched_.Now();
     if (!watched_.StopRequested()) {
-      part_->setText(Text(progress.note.empty() ? progress.part + "..."
-                                                : progress.part + ": " + progress.note));
+      part_->setText(progress.note.empty()
+                         ? TrCore(progress.part) + Text("...")
+                         : TrCore(progress.part) + Text(": ") + TrCore(progress.note));
     }
     bar_->setRange(0, progress.steps == 0 ? 0 : kBarSteps);
     bar_->setValue(static_cast<int>(progress.Share() * kBarSteps));
-    time_->setText(Text(ProgressText(progress)));
+    time_->setText(ProgressText(progress));
   }
 
   WatchedRun watched_;
@@ -224,7 +230,7 @@ class RunDialog : public QDialog {
   QLabel* part_ = new QLabel(this);
   QProgressBar* bar_ = new QProgressBar(this);
   QLabel* time_ = new QLabel(this);
-  QPushButton* cancel_ = new QPushButton(Text("&Cancel"), this);
+  QPushButton* cancel_ = new QPushButton(Tr("&Cancel"), this);
 };
 
 }  // namespace

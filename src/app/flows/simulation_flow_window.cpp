@@ -10,6 +10,7 @@
 #include "app/base/messages.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/flows/run_dialog.h"
 #include "app/pages/loci_page.h"
 #include "app/pages/output_page.h"
@@ -91,11 +92,12 @@ void SimulationFlowWindow::TakeLoci(const AllocationSettings& imported) {
   if (then && now && LociList(*then).Names() == LociList(*now).Names()) {
     return;
   }
-  ShowFailure(this,
-              Text(fmt::format("The converted files have other loci than the names-of-loci file "
-                               "of this simulation, or in another order. Theirs are in \"{}\": "
-                               "all files of a simulation need the same.",
-                               imported.loci_file)));
+  ShowFailure(
+      this,
+      Tr("The converted files have other loci than the names-of-loci file of this simulation, "
+         "or in another order. Theirs are in \"%1\": all files of a simulation need the "
+         "same.")
+          .arg(PathText(imported.loci_file)));
 }
 
 FlowPage& SimulationFlowWindow::FirstPage() { return *start_; }

@@ -16,6 +16,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/counted_text.h"
 #include "interchange/import/format_readers.h"
 #include "interchange/import/import_words.h"
@@ -42,101 +43,107 @@ constexpr std::string_view kNoGroupsOption = "--no-groups";
 constexpr std::array<ImportField, 16> kFields{{
     {kFormatOption,
      FieldKind::kFormat,
-     {"&Format", "ImportFormat", "What the files were written for; recognised by what they hold."},
+     {Phrase("&Format"), "ImportFormat",
+      Phrase("What the files were written for; recognised by what they hold.")},
      ""},
     {kPopulationsOption,
      FieldKind::kPopulations,
-     {"&Populations of offspring", "ImportPopulations",
-      "Tick the populations whose members are offspring; all others are parents."},
+     {Phrase("&Populations of offspring"), "ImportPopulations",
+      Phrase("Tick the populations whose members are offspring; all others are parents.")},
      ""},
     {"--missing-parents",
      FieldKind::kWay,
-     {"Parents with undefined loci", "ImportMissingParents",
-      "Parents have to be typed at every locus unless a run allows otherwise; the list below tells "
-      "what each way costs."},
+     {Phrase("Parents with undefined loci"), "ImportMissingParents",
+      Phrase(
+          "Parents have to be typed at every locus unless a run allows otherwise; the list below "
+          "tells what each way costs.")},
      ""},
     {"--repeat-length",
      FieldKind::kText,
-     {"Repeat lengths", "ImportRepeatLengths",
-      "Loci whose alleles count repeats, with the length of a repeat in base pairs: Ssa85=4, "
-      "Ssa197=2"},
+     {Phrase("Repeat lengths"), "ImportRepeatLengths",
+      Phrase(
+          "Loci whose alleles count repeats, with the length of a repeat in base pairs: Ssa85=4, "
+          "Ssa197=2")},
      ""},
     {"--missing",
      FieldKind::kText,
-     {"Missing code", "ImportMissingCode",
-      "One more word for an allele that was not typed, beside 0, -9, NA and the like."},
+     {Phrase("Missing code"), "ImportMissingCode",
+      Phrase("One more word for an allele that was not typed, beside 0, -9, NA and the like.")},
      ""},
     {"--loci",
      FieldKind::kText,
-     {"Loci to keep", "ImportLoci", "Names between commas; empty: all loci."},
+     {Phrase("Loci to keep"), "ImportLoci", Phrase("Names between commas; empty: all loci.")},
      ""},
     {"--sheet",
      FieldKind::kText,
-     {"Sheet", "ImportSheet", "The sheet of a workbook; empty: the first one."},
+     {Phrase("Sheet"), "ImportSheet", Phrase("The sheet of a workbook; empty: the first one.")},
      ""},
     {"--id",
      FieldKind::kColumn,
-     {"Column of names", "ImportId", "The column that names the individuals."},
+     {Phrase("Column of names"), "ImportId", Phrase("The column that names the individuals.")},
      "table"},
     {"--sex",
      FieldKind::kColumn,
-     {"Column of sexes", "ImportSex", "m, male, 1 or f, female, 2."},
+     {Phrase("Column of sexes"), "ImportSex", Phrase("m, male, 1 or f, female, 2.")},
      "table"},
     {"--group",
      FieldKind::kColumn,
-     {"Column of populations", "ImportGroup", "Populations of parents become groups."},
+     {Phrase("Column of populations"), "ImportGroup",
+      Phrase("Populations of parents become groups.")},
      "table"},
     {"--role",
      FieldKind::kColumn,
-     {"Column of roles", "ImportRole", "The column that says parent or offspring."},
+     {Phrase("Column of roles"), "ImportRole", Phrase("The column that says parent or offspring.")},
      "table"},
     {"--rows",
      FieldKind::kRows,
-     {"Rows per individual", "ImportRows", "How many rows of the file an individual has."},
+     {Phrase("Rows per individual"), "ImportRows",
+      Phrase("How many rows of the file an individual has.")},
      "structure"},
     {"--leading",
      FieldKind::kText,
-     {"Before the genotypes", "ImportLeading",
-      "What stands there in each row, between commas: id, group, sex, role, other."},
+     {Phrase("Before the genotypes"), "ImportLeading",
+      Phrase("What stands there in each row, between commas: id, group, sex, role, other.")},
      "structure"},
     {kNoGroupsOption,
      FieldKind::kBox,
-     {"Populations do not become groups", "ImportNoGroups",
-      "All parents may meet, whatever population they are from."},
+     {Phrase("Populations do not become groups"), "ImportNoGroups",
+      Phrase("All parents may meet, whatever population they are from.")},
      ""},
     {"--unique-names",
      FieldKind::kBox,
-     {"Refuse repeated names", "ImportUniqueNames",
-      "Individuals without a name, or with that of another, are a fault; else they are named by "
-      "population and row."},
+     {Phrase("Refuse repeated names"), "ImportUniqueNames",
+      Phrase("Individuals without a name, or with that of another, are a fault; else they are "
+             "named by "
+             "population and row.")},
      "genepop"},
     {"--half-missing",
      FieldKind::kBox,
-     {"Refuse half a genotype", "ImportHalfMissing",
-      "A genotype of which one allele is missing is a fault; else it counts as not typed."},
+     {Phrase("Refuse half a genotype"), "ImportHalfMissing",
+      Phrase("A genotype of which one allele is missing is a fault; else it counts as not typed.")},
      ""},
 }};
 
 /// What else the rules name, in the words of this screen.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 6> kOtherWords{
-    {{"--parents FILE --offspring", R"("parents" and "offspring")"},
-     {"--no-sexes", "take the NON-SEXED flow"},
-     {"--parents", R"("parents")"},
-     {"--males", R"("males")"},
-     {"--females", R"("females")"},
-     {"--offspring", R"("offspring")"}}};
+constexpr std::array<std::pair<std::string_view, Phrase>, 6> kOtherWords{
+    {{"--parents FILE --offspring", Phrase(R"("parents" and "offspring")")},
+     {"--no-sexes", Phrase("take the NON-SEXED flow")},
+     {"--parents", Phrase("\"parents\"")},
+     {"--males", Phrase("\"males\"")},
+     {"--females", Phrase("\"females\"")},
+     {"--offspring", Phrase("\"offspring\"")}}};
 
 struct Way {
-  std::string_view text;
+  Phrase text;
   MissingParents way;
 };
 
 constexpr std::array<Way, 5> kWays{
-    {{"not chosen yet", MissingParents::kRefused},
-     {"drop-individuals: leave such parents out", MissingParents::kDropIndividuals},
-     {"drop-loci: leave such loci out", MissingParents::kDropLoci},
-     {"least: leave out so that most genotypes stay", MissingParents::kLeast},
-     {"keep: leave nothing out; the run allows undefined parents", MissingParents::kKeep}}};
+    {{Phrase("not chosen yet"), MissingParents::kRefused},
+     {Phrase("drop-individuals: leave such parents out"), MissingParents::kDropIndividuals},
+     {Phrase("drop-loci: leave such loci out"), MissingParents::kDropLoci},
+     {Phrase("least: leave out so that most genotypes stay"), MissingParents::kLeast},
+     {Phrase("keep: leave nothing out; the run allows undefined parents"), MissingParents::kKeep}}};
 
 /// The option with the word for its value, and no longer one that begins alike.
 QRegularExpression Named(std::string_view option) {
@@ -144,7 +151,7 @@ QRegularExpression Named(std::string_view option) {
                             Text(R"((?![a-z-])(?: (?:FILE|COLUMN|NAME,\.\.\.)(?![a-z]))?)"));
 }
 
-QString Caption(const FieldText& text) { return Text(text.label).remove(QLatin1Char('&')); }
+QString Caption(const FieldText& text) { return Tr(text.label).remove(QLatin1Char('&')); }
 
 QComboBox* NewChoice(const QStringList& entries) {
   auto* const choice = new QComboBox;
@@ -156,9 +163,9 @@ QComboBox* NewChoice(const QStringList& entries) {
 }
 
 QStringList NamesOfFormats() {
-  QStringList names{Text("as recognised")};
+  QStringList names{Tr("as recognised")};
   for (const FormatReader& reader : FormatReaders()) {
-    names += Text(reader.name);
+    names += TrCore(reader.name);
   }
   return names;
 }
@@ -166,7 +173,7 @@ QStringList NamesOfFormats() {
 QStringList NamesOfWays() {
   QStringList names;
   for (const Way& way : kWays) {
-    names += Text(way.text);
+    names += Tr(way.text);
   }
   return names;
 }
@@ -182,7 +189,7 @@ QString InWordsOfFields(const std::string& text) {
     replace(field.option, QLatin1Char('"') + Caption(field.text) + QLatin1Char('"'));
   }
   for (const auto& [option, name] : kOtherWords) {
-    replace(option, Text(name));
+    replace(option, Tr(name));
   }
   return words;
 }
@@ -191,12 +198,12 @@ ImportFields::ImportFields(ImportNeed need, std::function<void()> on_change)
     : need_(need),
       on_change_(std::move(on_change)),
       form_(new QFormLayout(this)),
-      more_(new QCheckBox(Text("&More choices"))) {
+      more_(new QCheckBox(Tr("&More choices"))) {
   form_->setContentsMargins(0, 0, 0, 0);
   form_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   form_->setRowWrapPolicy(QFormLayout::WrapLongRows);
   more_->setObjectName(Text("ImportMore"));
-  more_->setToolTip(Text("Show all that can be chosen for files of this format"));
+  more_->setToolTip(Tr("Show all that can be chosen for files of this format"));
   for (std::size_t place = 0; place < kFields.size(); ++place) {
     QWidget* const field = NewField(place);
     Describe(*field, kFields.at(place).text);
@@ -204,7 +211,7 @@ ImportFields::ImportFields(ImportNeed need, std::function<void()> on_change)
     if (kFields.at(place).kind == FieldKind::kBox) {
       form_->addRow(field);
     } else {
-      form_->addRow(Text(kFields.at(place).text.label), field);
+      form_->addRow(Tr(kFields.at(place).text.label), field);
     }
   }
   form_->addRow(more_);
@@ -218,7 +225,7 @@ QWidget* ImportFields::NewField(std::size_t place) {
     case FieldKind::kPopulations:
       return NewPopulations();
     case FieldKind::kBox: {
-      auto* const box = new QCheckBox(Text(field.text.label));
+      auto* const box = new QCheckBox(Tr(field.text.label));
       connect(box, &QCheckBox::toggled, this, [this] { on_change_(); });
       return box;
     }
@@ -233,12 +240,11 @@ QWidget* ImportFields::NewField(std::size_t place) {
     case FieldKind::kColumn:
       break;
   }
-  QComboBox* const choice =
-      NewChoice(field.kind == FieldKind::kFormat ? NamesOfFormats()
-                : field.kind == FieldKind::kWay  ? NamesOfWays()
-                : field.kind == FieldKind::kRows
-                    ? QStringList{Text("as the file looks"), Text("1"), Text("2")}
-                    : QStringList{Text("as recognised")});
+  QComboBox* const choice = NewChoice(
+      field.kind == FieldKind::kFormat ? NamesOfFormats()
+      : field.kind == FieldKind::kWay  ? NamesOfWays()
+      : field.kind == FieldKind::kRows ? QStringList{Tr("as the file looks"), Text("1"), Text("2")}
+                                       : QStringList{Tr("as recognised")});
   connect(choice, &QComboBox::currentIndexChanged, this, [this] { on_change_(); });
   return choice;
 }
@@ -261,8 +267,8 @@ void ImportFields::ShowPopulations(const std::vector<CountedPopulation>& populat
   list.clear();
   for (const CountedPopulation& population : populations) {
     auto* const item = new QListWidgetItem(
-        Text(fmt::format("{} ({})", population.name,
-                         Counted(population.individuals, "individual", "individuals"))),
+        Text("%1 (%2)").arg(Text(population.name),
+                            TrCount("%n individuals", "%n individual", population.individuals)),
         &list);
     item->setData(Qt::UserRole, Text(population.name));
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);

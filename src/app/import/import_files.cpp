@@ -16,6 +16,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/counted_text.h"
 
 namespace kaldo {
@@ -24,26 +25,26 @@ namespace {
 
 /// Who all in a file are.
 struct Who {
-  std::string_view text;
+  Phrase text;
   Role role;
   Sex sex;
 };
 
-constexpr std::array<Who, 5> kWho{{{"as its rows tell", Role::kUnknown, Sex::kUnknown},
-                                   {"parents", Role::kParent, Sex::kUnknown},
-                                   {"males", Role::kParent, Sex::kMale},
-                                   {"females", Role::kParent, Sex::kFemale},
-                                   {"offspring", Role::kOffspring, Sex::kUnknown}}};
+constexpr std::array<Who, 5> kWho{{{Phrase("as its rows tell"), Role::kUnknown, Sex::kUnknown},
+                                   {Phrase("parents"), Role::kParent, Sex::kUnknown},
+                                   {Phrase("males"), Role::kParent, Sex::kMale},
+                                   {Phrase("females"), Role::kParent, Sex::kFemale},
+                                   {Phrase("offspring"), Role::kOffspring, Sex::kUnknown}}};
 
-constexpr std::string_view kWhoHelp =
+constexpr auto kWhoHelp = Phrase(
     "Who is in the file: parents, males, females or offspring alone, or both parents and "
     "offspring, "
-    "told by a column, by populations or by the format itself.";
+    "told by a column, by populations or by the format itself.");
 
 QComboBox* NewWho(const ImportedFile& file) {
   auto* const who = new QComboBox;
   for (const Who& each : kWho) {
-    who->addItem(Text(each.text));
+    who->addItem(Tr(each.text));
     if (each.role == file.role && each.sex == file.sex) {
       who->setCurrentIndex(who->count() - 1);
     }
@@ -58,8 +59,8 @@ ImportFiles::ImportFiles(const std::vector<ImportedFile>& files, std::function<v
   auto* const rows = new QVBoxLayout(list_);
   rows->setContentsMargins(0, 0, 0, 0);
   auto* const add =
-      NewButton("&Add a file...", "ImportAdd",
-                "A further file of the same study, for instance that of the offspring");
+      NewButton(Phrase("&Add a file..."), "ImportAdd",
+                Phrase("A further file of the same study, for instance that of the offspring"));
   add->setAutoDefault(false);
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -78,16 +79,16 @@ void ImportFiles::AddRow(const ImportedFile& file) {
   auto* const path = new QLineEdit(PathText(file.path));
   path->setObjectName(Text("ImportFile") + number);
   path->setReadOnly(true);
-  path->setAccessibleName(Text("File to convert"));
+  path->setAccessibleName(Tr("File to convert"));
   path->setToolTip(TipText(PathText(file.path)));
   Row row{widget, file.path, NewWho(file), NewHint(nullptr)};
   row.who->setObjectName(Text("ImportWho") + number);
-  row.who->setAccessibleName(Text("Who is in ") + name);
-  row.who->setToolTip(Text(kWhoHelp));
-  auto* const remove =
-      NewButton("Remove", "", "Leave this file out; nothing happens to the file itself");
+  row.who->setAccessibleName(Tr("Who is in %1").arg(name));
+  row.who->setToolTip(Tr(kWhoHelp));
+  auto* const remove = NewButton(Phrase("Remove"), "",
+                                 Phrase("Leave this file out; nothing happens to the file itself"));
   remove->setObjectName(Text("ImportRemove") + number);
-  remove->setAccessibleName(Text("Remove ") + name);
+  remove->setAccessibleName(Tr("Remove %1").arg(name));
   remove->setAutoDefault(false);
   auto* const line = new QHBoxLayout;
   line->addWidget(path, 1);
@@ -114,7 +115,7 @@ void ImportFiles::RemoveRow(const QWidget* widget) {
 
 void ImportFiles::AskForFile() {
   const QString near = rows_.empty() ? QString() : QFileInfo(PathText(rows_[0].path)).path();
-  const QString picked = QFileDialog::getOpenFileName(this, Text("A further file"), near);
+  const QString picked = QFileDialog::getOpenFileName(this, Tr("A further file"), near);
   if (!picked.isEmpty()) {
     AddRow({PathBytes(picked)});
     on_change_();
@@ -140,12 +141,12 @@ void ImportFiles::ShowFound(const std::vector<ReadFile>& found) {
   for (const Row& row : rows_) {
     const auto file = std::find_if(found.begin(), found.end(),
                                    [&row](const ReadFile& each) { return each.path == row.path; });
-    row.found->setText(
-        file == found.end()
-            ? Text("not read")
-            : Text(fmt::format("{}, {}; {}. Taken for that, since {}.", file->format,
-                               Counted(file->individuals, "individual", "individuals"), file->text,
-                               file->why)));
+    row.found->setText(file == found.end()
+                           ? Tr("not read")
+                           : Tr("%1, %2; %3. Taken for that, since %4.")
+                                 .arg(Text(file->format),
+                                      TrCount("%n individuals", "%n individual", file->individuals),
+                                      TrCore(file->text), TrCore(file->why)));
   }
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -18,7 +19,7 @@ constexpr int kFirstLocusRow = 2;
 
 ImportPreview::ImportPreview() {
   setObjectName(Text("ImportPreview"));
-  setAccessibleName(Text("The first individuals, locus by locus"));
+  setAccessibleName(Tr("The first individuals, locus by locus"));
   setEditTriggers(NoEditTriggers);
   setTabKeyNavigation(false);
   setWordWrap(false);
@@ -41,7 +42,7 @@ void ImportPreview::Show(const StudyPreview& preview) {
   setColumnCount(static_cast<int>(preview.individuals.size()));
   setRowCount(preview.individuals.empty() ? 0
                                           : kFirstLocusRow + static_cast<int>(preview.loci.size()));
-  QStringList rows{preview.is_as_written ? Text("file") : Text("who"), Text("population")};
+  QStringList rows{preview.is_as_written ? Tr("file") : Tr("who"), Tr("population")};
   for (const std::string& locus : preview.loci) {
     rows += Text(locus);
   }

@@ -17,6 +17,7 @@
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/base/wait_cursor.h"
 #include "app/import/import_fields.h"
 #include "app/import/import_files.h"
@@ -29,12 +30,15 @@ namespace {
 
 constexpr int kTypingPause = 400;  // milliseconds
 
-constexpr std::string_view kNotYet =
-    "The files cannot be converted yet. What is to be settled stands in the list.";
-constexpr std::string_view kNoSexes =
+constexpr auto kNotYet =
+    Phrase("The files cannot be converted yet. What is to be settled stands in the list.");
+constexpr FieldText kFolder{
+    Phrase("&Write to"), "ImportFolder",
+    Phrase("The folder for the converted files; it is made where it is not there.")};
+constexpr auto kNoSexes = Phrase(
     "This flow needs the sexes of all parents. Tell them by file (\"males\" and \"females\") or by "
     "a "
-    "column of sexes (\"More choices\"), or convert the files in the NON-SEXED flow.";
+    "column of sexes (\"More choices\"), or convert the files in the NON-SEXED flow.");
 
 /// Beside the first file, under its name.
 std::string FolderBeside(const std::vector<ImportedFile>& files) {
@@ -42,8 +46,8 @@ std::string FolderBeside(const std::vector<ImportedFile>& files) {
   return (first.parent_path() / (first.stem().string() + "-imported")).string();
 }
 
-QLabel* NewLabelOf(QWidget& field, std::string_view text) {
-  auto* const label = new QLabel(Text(text));
+QLabel* NewLabelOf(QWidget& field, Phrase text) {
+  auto* const label = new QLabel(Tr(text));
   label->setBuddy(&field);
   return label;
 }
@@ -62,7 +66,7 @@ ImportScreen::ImportScreen(QWidget* parent, ImportNeed need, const std::vector<I
       preview_(new ImportPreview),
       folder_(new QLineEdit(PathText(FolderBeside(files)))) {
   setObjectName(Text("Import"));
-  setWindowTitle(Text("Convert files of another program"));
+  setWindowTitle(Tr("Convert files of another program"));
   auto* const area = new QScrollArea;
   area->setWidgetResizable(true);
   area->setFrameShape(QFrame::NoFrame);
@@ -86,8 +90,8 @@ QWidget* ImportScreen::NewBody() {
   strong.setBold(true);
   status_->setFont(strong);
   findings_->setObjectName(Text("ImportFindings"));
-  findings_->setAccessibleName(Text("What is to be settled, and what was found"));
-  findings_->setToolTip(Text("Everything at once, with file, line and cell; can be copied"));
+  findings_->setAccessibleName(Tr("What is to be settled, and what was found"));
+  findings_->setToolTip(Tr("Everything at once, with file, line and cell; can be copied"));
   findings_->setReadOnly(true);
   findings_->setTabChangesFocus(true);
   findings_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -99,31 +103,30 @@ QWidget* ImportScreen::NewBody() {
   column->addWidget(fields_);
   column->addWidget(status_);
   column->addWidget(findings_, 1);
-  column->addWidget(NewLabelOf(*preview_, "&The first individuals"));
+  column->addWidget(NewLabelOf(*preview_, Phrase("&The first individuals")));
   column->addWidget(preview_, 2);
   return body;
 }
 
 QLayout* ImportScreen::NewFolderRow() {
-  Describe(*folder_, {"&Write to", "ImportFolder",
-                      "The folder for the converted files; it is made where it is not there."});
-  auto* const browse =
-      NewButton("&Browse...", "ImportBrowse", "Choose a folder that is there already");
+  Describe(*folder_, kFolder);
+  auto* const browse = NewButton(Phrase("&Browse..."), "ImportBrowse",
+                                 Phrase("Choose a folder that is there already"));
   browse->setAutoDefault(false);
   connect(browse, &QPushButton::clicked, this, [this] { BrowseFolder(); });
   connect(folder_, &QLineEdit::textChanged, this, [this] { TryLater(); });
   auto* const row = new QHBoxLayout;
-  row->addWidget(NewLabelOf(*folder_, "&Write to"));
+  row->addWidget(NewLabelOf(*folder_, kFolder.label));
   row->addWidget(folder_, 1);
   row->addWidget(browse);
   return row;
 }
 
 QLayout* ImportScreen::NewButtons() {
-  auto* const convert =
-      NewButton("&Convert", "ImportConvert", "Write the files and fill in the fields of the flow");
-  auto* const cancel =
-      NewButton("Cancel", "ImportCancel", "Back to the flow; nothing is written (Esc)");
+  auto* const convert = NewButton(Phrase("&Convert"), "ImportConvert",
+                                  Phrase("Write the files and fill in the fields of the flow"));
+  auto* const cancel = NewButton(Phrase("Cancel"), "ImportCancel",
+                                 Phrase("Back to the flow; nothing is written (Esc)"));
   connect(convert, &QPushButton::clicked, this, [this] { Convert(); });
   return NewDialogButtons(*this, cancel, convert);
 }
@@ -144,14 +147,14 @@ void ImportScreen::Try() {
   ImportTry tried = TryImport(choices_, source_);
   std::string faults = not_understood ? *not_understood + '\n' : "";
   if (choices_.files.empty()) {
-    faults += "Name a file to be converted.\n";
+    faults += Bytes(Tr("Name a file to be converted.")) + '\n';
   } else if (!tried.study) {
     faults += tried.study.error().Text();
   } else {
     faults += FaultForFlow(*tried.study);
   }
   if (choices_.folder.empty()) {
-    faults += "Name the folder for the converted files.\n";
+    faults += Bytes(Tr("Name the folder for the converted files.")) + '\n';
   }
   ShowTry(tried, faults);
   if (faults.empty()) {
@@ -160,22 +163,22 @@ void ImportScreen::Try() {
 }
 
 std::string ImportScreen::FaultForFlow(const ImportedStudy& study) const {
-  return study.settings.flow == need_.flow ? "" : std::string(kNoSexes) + '\n';
+  return study.settings.flow == need_.flow ? "" : Bytes(Tr(kNoSexes)) + '\n';
 }
 
 void ImportScreen::ShowTry(const ImportTry& tried, const std::string& faults) {
   std::string text = faults;
   if (faults.empty()) {
-    text =
-        tried.study->summary + "\"Import report.txt\" in the folder will tell all that is done.\n";
+    text = tried.study->summary +
+           Bytes(Tr("\"Import report.txt\" in the folder will tell all that is done.")) + '\n';
     for (const std::string& warning : tried.study->warnings) {
-      text += "Warning: " + warning + '\n';
+      text += Bytes(Tr("Warning: ")) + warning + '\n';
     }
     if (tried.study->settings.offspring_file.empty() && !need_.is_simulation) {
-      text += "There are no offspring among them.\n";
+      text += Bytes(Tr("There are no offspring among them.")) + '\n';
     }
   }
-  status_->setText(faults.empty() ? Text("Ready to convert.") : Text("To be settled first:"));
+  status_->setText(faults.empty() ? Tr("Ready to convert.") : Tr("To be settled first:"));
   findings_->setPlainText(InWordsOfFields(EscapedLines(text)));
   files_->ShowFound(tried.files);
   fields_->ShowNeeded(tried, text, files_->HasOpenFile());
@@ -184,7 +187,7 @@ void ImportScreen::ShowTry(const ImportTry& tried, const std::string& faults) {
 
 void ImportScreen::BrowseFolder() {
   const QString picked =
-      QFileDialog::getExistingDirectory(this, Text("Folder for the files"), folder_->text());
+      QFileDialog::getExistingDirectory(this, Tr("Folder for the files"), folder_->text());
   if (!picked.isEmpty()) {
     folder_->setText(picked);
   }
@@ -192,11 +195,11 @@ void ImportScreen::BrowseFolder() {
 
 bool ImportScreen::MayReplace() {
   const auto names = FilesToReplace(choices_);
-  return names.empty() ||
-         AskYesNo(this,
-                  Text(fmt::format("These files are in the folder \"{}\" already and would be "
-                                   "replaced or removed: {}. Go on?",
-                                   choices_.folder, fmt::join(names, ", "))));
+  return names.empty() || AskYesNo(this, Tr("These files are in the folder \"%1\" already and "
+                                            "would be replaced or removed: %2. "
+                                            "Go on?")
+                                             .arg(Text(choices_.folder),
+                                                  Text(fmt::format("{}", fmt::join(names, ", ")))));
 }
 
 void ImportScreen::Convert() {

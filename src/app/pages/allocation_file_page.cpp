@@ -10,6 +10,7 @@
 #include "app/base/file_field.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "genotypes/file_summary.h"
 
 namespace kaldo {
@@ -17,38 +18,43 @@ namespace kaldo {
 namespace {
 
 constexpr FieldText kParents{
-    "Collected &parents file", "ParentsFile",
-    "Genotypes of all collected candidate parents: a name and one field per locus. Lines with * "
-    "divide them into groups; only parents of one group are tried as a pair."};
-constexpr FieldText kMales{
-    "Collected &males file", "MalesFile",
-    "Genotypes of the collected males: a name and one field per locus. Lines with * divide them "
-    "into groups; males of a group are tried with the females of the group of the same number."};
-constexpr FieldText kFemales{"Collected &females file", "FemalesFile",
-                             "Genotypes of the collected females, in as many groups as the males."};
-constexpr FieldText kOffspring{
-    "&Offspring file", "OffspringFile",
-    "Genotypes of the offspring to allocate. A locus that could not be typed is a field of zeros."};
-constexpr FieldText kLoci{
-    "Names of &loci file", "LociFile",
-    "The names of the loci, in the order in which their fields follow each individual's name."};
+    Phrase("Collected &parents file"), "ParentsFile",
+    Phrase("Genotypes of all collected candidate parents: a name and one field per locus. Lines "
+           "with * "
+           "divide them into groups; only parents of one group are tried as a pair.")};
+constexpr FieldText kMales{Phrase("Collected &males file"), "MalesFile",
+                           Phrase("Genotypes of the collected males: a name and one field per "
+                                  "locus. Lines with * divide them "
+                                  "into groups; males of a group are tried with the females of the "
+                                  "group of the same number.")};
+constexpr FieldText kFemales{
+    Phrase("Collected &females file"), "FemalesFile",
+    Phrase("Genotypes of the collected females, in as many groups as the males.")};
+constexpr FieldText kOffspring{Phrase("&Offspring file"), "OffspringFile",
+                               Phrase("Genotypes of the offspring to allocate. A locus that could "
+                                      "not be typed is a field of zeros.")};
+constexpr FieldText kLoci{Phrase("Names of &loci file"), "LociFile",
+                          Phrase("The names of the loci, in the order in which their fields follow "
+                                 "each individual's name.")};
 
 constexpr FieldText kUndefinedParents{
-    "Parents may be undefined at some loci", "AllowUndefinedParents",
-    "A parent that could not be typed at a locus is tried there with what its population would "
-    "have. Else every parent has to be typed at every locus."};
+    Phrase("Parents may be undefined at some loci"), "AllowUndefinedParents",
+    Phrase("A parent that could not be typed at a locus is tried there with what its population "
+           "would have. Else every parent has to be typed at every locus.")};
 
-constexpr FieldText kSomethingKnown{"Something is &known of single offspring", "SomethingKnown",
-                                    "For a known mother, candidates or a group of each offspring: "
-                                    "only pairs that agree are tried."};
+constexpr FieldText kSomethingKnown{
+    Phrase("Something is &known of single offspring"), "SomethingKnown",
+    Phrase("For a known mother, candidates or a group of each offspring: "
+           "only pairs that agree are tried.")};
 constexpr FieldText kKnownMothers{
-    "Known mothers file", "KnownMothersFile",
-    "Per line an offspring and its mother; where sexes are not known, one of its parents."};
-constexpr FieldText kCandidates{"Candidates file", "CandidatesFile",
-                                "Per line an offspring and the parents that may be its own."};
+    Phrase("Known mothers file"), "KnownMothersFile",
+    Phrase("Per line an offspring and its mother; where sexes are not known, one of its parents.")};
+constexpr FieldText kCandidates{
+    Phrase("Candidates file"), "CandidatesFile",
+    Phrase("Per line an offspring and the parents that may be its own.")};
 constexpr FieldText kOffspringGroups{
-    "Groups of offspring file", "OffspringGroupsFile",
-    "Per line an offspring and the number of its group of parents: 1, 2 and so on."};
+    Phrase("Groups of offspring file"), "OffspringGroupsFile",
+    Phrase("Per line an offspring and the number of its group of parents: 1, 2 and so on.")};
 
 const ScreenEntry& EntryOf(Flow flow) {
   return flow == Flow::kSexed ? kSexedAllocationScreen : kNonSexedAllocationScreen;
@@ -81,7 +87,7 @@ AllocationFilePage::AllocationFilePage(Flow flow, OpenedFiles& opened)
       [this](const std::string& file) { return IsLociFileAtFault(file, opened_.Opener()); });
   loci_->SetOnChange([this] { RefreshFiles(); });
   offer_.Watch(*loci_);
-  undefined_parents_ = new QCheckBox(Text(kUndefinedParents.label), this);
+  undefined_parents_ = new QCheckBox(Tr(kUndefinedParents.label), this);
   Describe(*undefined_parents_, kUndefinedParents);
   form->addRow(undefined_parents_);
   AddKnowledge(*form);
@@ -108,7 +114,7 @@ FileField* AllocationFilePage::AddFile(QFormLayout& form, FileOf file, const Fie
 }
 
 void AllocationFilePage::AddKnowledge(QFormLayout& form) {
-  something_known_ = new QCheckBox(Text(kSomethingKnown.label), this);
+  something_known_ = new QCheckBox(Tr(kSomethingKnown.label), this);
   Describe(*something_known_, kSomethingKnown);
   form.addRow(something_known_);
   for (const auto& [path, text] : {
@@ -145,9 +151,10 @@ std::string AllocationFilePage::GroupsFault() const {
   if (!males || !females || *males == *females) {
     return {};
   }
-  return fmt::format(
-      "\nThe numbers of groups differ: {} of males, {} of females. No run can start.", *males,
-      *females);
+  return '\n' +
+         Bytes(Tr("The numbers of groups differ: %1 of males, %2 of females. No run can start.")
+                   .arg(*males)
+                   .arg(*females));
 }
 
 void AllocationFilePage::RefreshFiles() {

@@ -13,6 +13,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -27,20 +28,23 @@ struct KindText {
 
 constexpr std::array<KindText, 3> kKinds{{
     {ErrorKind::kNoError,
-     {"&No Error", "NoError",
-      "Every allele of a parent is read as itself: one misread allele excludes a parent."}},
+     {Phrase("&No Error"), "NoError",
+      Phrase("Every allele of a parent is read as itself: one misread allele excludes a parent.")}},
     {ErrorKind::kUniform,
-     {"&Uniform", "Uniform",
-      "An allele may be read as any other allele of its locus, all with the same probability."}},
+     {Phrase("&Uniform"), "Uniform",
+      Phrase("An allele may be read as any other allele of its locus, all with the same "
+             "probability.")}},
     {ErrorKind::kNonUniform,
-     {"N&on Uniform", "NonUniform",
-      "An allele may be read one or two unit distances shorter or longer, as stutter and slips of "
-      "the polymerase do."}},
+     {Phrase("N&on Uniform"), "NonUniform",
+      Phrase("An allele may be read one or two unit distances shorter or longer, as stutter and "
+             "slips of "
+             "the polymerase do.")}},
 }};
 
 constexpr FieldText kEpsilon{
-    "&Global error", "Epsilon",
-    "Probability that an allele is read as any other one, all others together: at most 0.1."};
+    Phrase("&Global error"), "Epsilon",
+    Phrase(
+        "Probability that an allele is read as any other one, all others together: at most 0.1.")};
 
 /// Over the five fields, in the order in which they stand.
 struct ProbabilityText {
@@ -49,15 +53,20 @@ struct ProbabilityText {
 };
 
 constexpr std::array<ProbabilityText, 5> kProbabilities{{
-    {{"-&2 units", "Minus2", "Probability that an allele is read two unit distances shorter."},
+    {{Phrase("-&2 units"), "Minus2",
+      Phrase("Probability that an allele is read two unit distances shorter.")},
      &ErrorModel::minus2},
-    {{"-&1 unit", "Minus1", "Probability that an allele is read one unit distance shorter."},
+    {{Phrase("-&1 unit"), "Minus1",
+      Phrase("Probability that an allele is read one unit distance shorter.")},
      &ErrorModel::minus1},
-    {{"&Target Allele", "Focal", "Probability that an allele is read as itself: 0.9 to 1."},
+    {{Phrase("&Target Allele"), "Focal",
+      Phrase("Probability that an allele is read as itself: 0.9 to 1.")},
      &ErrorModel::focal},
-    {{"+1 un&it", "Plus1", "Probability that an allele is read one unit distance longer."},
+    {{Phrase("+1 un&it"), "Plus1",
+      Phrase("Probability that an allele is read one unit distance longer.")},
      &ErrorModel::plus1},
-    {{"+2 unit&s", "Plus2", "Probability that an allele is read two unit distances longer."},
+    {{Phrase("+2 unit&s"), "Plus2",
+      Phrase("Probability that an allele is read two unit distances longer.")},
      &ErrorModel::plus2},
 }};
 
@@ -82,17 +91,17 @@ QLineEdit* NewShortField(const FieldText& text, double ErrorModel::*value) {
 
 Problem NoNumber(const QLineEdit& field) {
   return {.kind = ProblemKind::kNotADecimal,
-          .found = fmt::format("{}: {} is not a number", Bytes(field.accessibleName()),
-                               Quoted(Bytes(field.text())))};
+          .found = Bytes(Tr("%1: %2 is not a number")
+                             .arg(field.accessibleName(), Text(Quoted(Bytes(field.text())))))};
 }
 
 }  // namespace
 
-ErrorModelBox::ErrorModelBox(std::string_view title)
-    : QGroupBox(Text(title)), kinds_(new QButtonGroup(this)), sum_(NewHint(this)) {
+ErrorModelBox::ErrorModelBox(Phrase title)
+    : QGroupBox(Tr(title)), kinds_(new QButtonGroup(this)), sum_(NewHint(this)) {
   auto* const column = new QVBoxLayout(this);
   for (const KindText& kind : kKinds) {
-    auto* const button = new QRadioButton(Text(kind.text.label));
+    auto* const button = new QRadioButton(Tr(kind.text.label));
     Describe(*button, kind.text);
     kinds_->addButton(button, static_cast<int>(kind.kind));
     column->addWidget(button);
@@ -111,7 +120,7 @@ ErrorModelBox::ErrorModelBox(std::string_view title)
 QLayout* ErrorModelBox::UniformRow() {
   auto* const form = new QFormLayout;
   epsilon_ = NewShortField(kEpsilon, &ErrorModel::epsilon);
-  form->addRow(Text(kEpsilon.label), epsilon_);
+  form->addRow(Tr(kEpsilon.label), epsilon_);
   form->setContentsMargins(fontMetrics().height() * 2, 0, 0, 0);
   form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
   return form;
@@ -122,7 +131,7 @@ QLayout* ErrorModelBox::NonUniformRow() {
   grid->setContentsMargins(fontMetrics().height() * 2, 0, 0, 0);
   for (int k = 0; const ProbabilityText& probability : kProbabilities) {
     QLineEdit* const field = NewShortField(probability.text, probability.value);
-    auto* const label = new QLabel(Text(probability.text.label));
+    auto* const label = new QLabel(Tr(probability.text.label));
     label->setBuddy(field);
     label->setAlignment(Qt::AlignHCenter);
     grid->addWidget(label, 0, k);
@@ -142,15 +151,16 @@ void ErrorModelBox::ShowSum() {
     }
     const auto value = NumberIn(*field);
     if (!value) {
-      sum_->setText(field->accessibleName() + Text(": enter a number with a decimal point"));
+      sum_->setText(Tr("%1: enter a number with a decimal point").arg(field->accessibleName()));
       ShowAsFault(*sum_, true);
       return;
     }
     sum += *value;
   }
   ShowAsFault(*sum_, sum != 1.0);
-  sum_->setText(Text(sum == 1.0 ? std::string("The five probabilities sum to 1.")
-                                : fmt::format("The five probabilities sum to {}, not to 1.", sum)));
+  sum_->setText(sum == 1.0
+                    ? Tr("The five probabilities sum to 1.")
+                    : Tr("The five probabilities sum to %1, not to 1.").arg(NumberText(sum)));
 }
 
 void ErrorModelBox::Set(const ErrorModel& model) {
@@ -193,8 +203,8 @@ tl::expected<ErrorModel, Problem> ErrorModelBox::Model() const {
   return model;
 }
 
-ErrorPage::ErrorPage(std::string_view caption)
-    : FlowPage(kErrorScreen, caption), box_(new ErrorModelBox("  Model of error  ")) {
+ErrorPage::ErrorPage(Phrase caption)
+    : FlowPage(kErrorScreen, caption), box_(new ErrorModelBox(Phrase("  Model of error  "))) {
   auto* const column = new QVBoxLayout(this);
   column->addWidget(box_);
 }

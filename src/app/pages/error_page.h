@@ -7,6 +7,7 @@
 #include <tl/expected.hpp>
 
 #include "app/base/flow_page.h"
+#include "app/base/tr.h"
 #include "method/error_model.h"
 
 class QButtonGroup;
@@ -19,7 +20,7 @@ namespace kaldo {
 /// probabilities. Nothing is chosen at first: an error model is a statement about one's laboratory.
 class ErrorModelBox : public QGroupBox {
  public:
-  explicit ErrorModelBox(std::string_view title);
+  explicit ErrorModelBox(Phrase title);
 
   void Set(const ErrorModel& model);
 
@@ -40,7 +41,7 @@ class ErrorModelBox : public QGroupBox {
 /// The error screen of the allocation flows.
 class ErrorPage : public FlowPage {
  public:
-  explicit ErrorPage(std::string_view caption);
+  explicit ErrorPage(Phrase caption);
 
   ErrorModelBox& Box() const { return *box_; }
 

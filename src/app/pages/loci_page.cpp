@@ -11,6 +11,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -18,23 +19,24 @@ namespace {
 
 constexpr std::size_t kRowsPerColumn = 13;
 
-constexpr FieldText kAll{"   &All loci                ", "AllLoci",
-                         "Every locus takes part, whatever is marked in its row."};
-constexpr FieldText kSequence{"&Cumulative Sequence", "Sequence",
-                              "Run with the first locus, then with the first two, and so on: shows "
-                              "how many loci are enough."};
+constexpr FieldText kAll{Phrase("   &All loci                "), "AllLoci",
+                         Phrase("Every locus takes part, whatever is marked in its row.")};
+constexpr FieldText kSequence{
+    Phrase("&Cumulative Sequence"), "Sequence",
+    Phrase("Run with the first locus, then with the first two, and so on: shows "
+           "how many loci are enough.")};
 
 }  // namespace
 
-LociPage::LociPage(const ScreenEntry& entry, std::string_view caption)
+LociPage::LociPage(const ScreenEntry& entry, Phrase caption)
     : FlowPage(entry, caption),
-      all_(new QCheckBox(Text(kAll.label))),
-      sequence_(new QCheckBox(Text(kSequence.label))) {
+      all_(new QCheckBox(Tr(kAll.label))),
+      sequence_(new QCheckBox(Tr(kSequence.label))) {
   Describe(*all_, kAll);
   Describe(*sequence_, kSequence);
   Number(*all_, kAllLociBox);
   Number(*sequence_, kCumulativeSequenceBox);
-  auto* const group = new QGroupBox(Text("  Choice of loci  "));
+  auto* const group = new QGroupBox(Tr("  Choice of loci  "));
   auto* const inside = new QVBoxLayout(group);
   inside->addWidget(all_);
   inside->addWidget(NewRows());
@@ -90,7 +92,7 @@ void LociPage::SetNames(const std::vector<std::string>& names) {
     rows_.at(k).name->setText(name);
     rows_.at(k).name->setAccessibleName(name);
     rows_.at(k).in_use->setAccessibleName(name);
-    rows_.at(k).in_use->setToolTip(Text("Whether the locus takes part in the run"));
+    rows_.at(k).in_use->setToolTip(Tr("Whether the locus takes part in the run"));
     rows_.at(k).in_use->setChecked(true);
   }
   ShowRows();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/base/flow_page.h"
+#include "app/base/tr.h"
 #include "genotypes/capacities.h"
 
 class QCheckBox;
@@ -17,7 +18,7 @@ namespace kaldo {
 /// The choice-of-loci screen: a row per locus with its name and whether it is in use.
 class LociPage : public FlowPage {
  public:
-  LociPage(const ScreenEntry& entry, std::string_view caption);
+  LociPage(const ScreenEntry& entry, Phrase caption);
 
   /// Labels the rows. Other names than before put all loci in use.
   void SetNames(const std::vector<std::string>& names);

@@ -11,39 +11,43 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/number_text.h"
 
 namespace kaldo {
 
 namespace {
 
-constexpr FieldText kPrintIterations{"Print results for each &iteration", "PrintIterations",
-                                     "Write the tables of all iterations, a file per origin."};
+constexpr FieldText kPrintIterations{
+    Phrase("Print results for each &iteration"), "PrintIterations",
+    Phrase("Write the tables of all iterations, a file per origin.")};
 constexpr FieldText kPrintSubsets{
-    "Print global statistics for each &subset of loci (recommended)", "PrintSubsets",
-    "Write means and standard deviations of every subset at the end of the summary."};
-constexpr FieldText kModernRandoms{"modern &random numbers", "ModernRandoms",
-                                   "Numbers of 64 bits, without the coarse draws of the default "
-                                   "ones: needed where alleles have two "
-                                   "digits."};
-constexpr FieldText kCommonRandoms{
-    "the same random numbers for &all subsets", "CommonRandoms",
-    "All subsets of loci see the same parents and offspring, so that they differ less by chance."};
+    Phrase("Print global statistics for each &subset of loci (recommended)"), "PrintSubsets",
+    Phrase("Write means and standard deviations of every subset at the end of the summary.")};
+constexpr FieldText kModernRandoms{
+    Phrase("modern &random numbers"), "ModernRandoms",
+    Phrase("Numbers of 64 bits, without the coarse draws of the default "
+           "ones: needed where alleles have two "
+           "digits.")};
+constexpr FieldText kCommonRandoms{Phrase("the same random numbers for &all subsets"),
+                                   "CommonRandoms",
+                                   Phrase("All subsets of loci see the same parents and offspring, "
+                                          "so that they differ less by chance.")};
 constexpr FieldText kKeepParents{
-    "simulated &parents", "KeepParents",
-    "Keep the simulated parents of the last iteration, one file per group."};
-constexpr FieldText kKeepOffspring{"pseudo-&offspring", "KeepOffspring",
-                                   "Keep the pseudo-offspring of the last iteration."};
-constexpr FieldText kKeepMatrices{
-    "transmission &matrices", "KeepMatrices",
-    "Keep the listing of all allocated pseudo-offspring of all iterations. It can be very large."};
-constexpr FieldText kSeed{
-    "S&eed", "Seed",
-    "Start of the random numbers, 0 to 4294967295: the same seed gives the same results. Empty: "
-    "the calendar time; the run record tells it."};
+    Phrase("simulated &parents"), "KeepParents",
+    Phrase("Keep the simulated parents of the last iteration, one file per group.")};
+constexpr FieldText kKeepOffspring{Phrase("pseudo-&offspring"), "KeepOffspring",
+                                   Phrase("Keep the pseudo-offspring of the last iteration.")};
+constexpr FieldText kKeepMatrices{Phrase("transmission &matrices"), "KeepMatrices",
+                                  Phrase("Keep the listing of all allocated pseudo-offspring of "
+                                         "all iterations. It can be very large.")};
+constexpr FieldText kSeed{Phrase("S&eed"), "Seed",
+                          Phrase("Start of the random numbers, 0 to 4294967295: the same seed "
+                                 "gives the same results. Empty: "
+                                 "the calendar time; the run record tells it.")};
 
 QCheckBox* NewBox(QVBoxLayout& column, const FieldText& text) {
-  auto* const box = new QCheckBox(Text(text.label));
+  auto* const box = new QCheckBox(Tr(text.label));
   Describe(*box, text);
   column.addWidget(box);
   return box;
@@ -52,22 +56,22 @@ QCheckBox* NewBox(QVBoxLayout& column, const FieldText& text) {
 }  // namespace
 
 OutputPage::OutputPage(Flow flow) : FlowPage(kOutputScreen, SimulationCaption(flow)) {
-  auto* const print = new QGroupBox(Text("  Print  "));
+  auto* const print = new QGroupBox(Tr("  Print  "));
   auto* const print_column = new QVBoxLayout(print);
   print_iterations_ = NewBox(*print_column, kPrintIterations);
   print_subsets_ = NewBox(*print_column, kPrintSubsets);
-  auto* const keep = new QGroupBox(Text("  Keep in file  "));
+  auto* const keep = new QGroupBox(Tr("  Keep in file  "));
   auto* const keep_column = new QVBoxLayout(keep);
   keep_parents_ = NewBox(*keep_column, kKeepParents);
   keep_offspring_ = NewBox(*keep_column, kKeepOffspring);
   keep_matrices_ = NewBox(*keep_column, kKeepMatrices);
-  auto* const randoms = new QGroupBox(Text("  Random numbers  "));
+  auto* const randoms = new QGroupBox(Tr("  Random numbers  "));
   auto* const randoms_column = new QVBoxLayout(randoms);
   modern_randoms_ = NewBox(*randoms_column, kModernRandoms);
   common_randoms_ = NewBox(*randoms_column, kCommonRandoms);
   auto* const form = new QFormLayout;
   seed_ = AddLineEdit(*form, kSeed);
-  seed_->setPlaceholderText(Text("calendar time"));
+  seed_->setPlaceholderText(Tr("calendar time"));
   auto* const column = new QVBoxLayout(this);
   column->addWidget(print);
   column->addWidget(keep);
@@ -107,7 +111,7 @@ std::optional<Problem> OutputPage::SeedFault() const {
   }
   return Problem{
       .kind = ProblemKind::kNotASeed,
-      .found = fmt::format("{} is not a whole number from 0 to 4294967295", Quoted(typed))};
+      .found = Bytes(Tr("%1 is not a whole number from 0 to 4294967295").arg(Text(Quoted(typed))))};
 }
 
 }  // namespace kaldo

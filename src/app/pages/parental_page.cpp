@@ -11,21 +11,22 @@
 #include "app/base/file_field.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "genotypes/file_summary.h"
 
 namespace kaldo {
 
 namespace {
 
-constexpr std::string_view kDrawnHelp =
-    "How many of them are drawn anew at every iteration: a whole number.";
-constexpr std::string_view kProportionHelp =
+constexpr auto kDrawnHelp =
+    Phrase("How many of them are drawn anew at every iteration: a whole number.");
+constexpr auto kProportionHelp = Phrase(
     "How many there may be in the population; sets the proportion of collected parents, and with "
-    "it the share of each origin of the pseudo-offspring.";
+    "it the share of each origin of the pseudo-offspring.");
 
 /// The labels of one set of parents.
 struct SetTexts {
-  std::string_view title;
+  Phrase title;
   FieldText collected_file;
   FieldText pseudo_collected_sample;
   FieldText pseudo_collected;
@@ -35,50 +36,53 @@ struct SetTexts {
   FieldText estimated_uncollected;
 };
 
-constexpr std::string_view kCollectedHelp =
-    "Genotypes of the parents collected: a name and one field per locus, no undefined alleles.";
-constexpr std::string_view kPseudoCollectedHelp =
-    "A representative sample: pseudo-collected parents are drawn from its allele frequencies.";
-constexpr std::string_view kUncollectedHelp =
+constexpr auto kCollectedHelp = Phrase(
+    "Genotypes of the parents collected: a name and one field per locus, no undefined alleles.");
+constexpr auto kPseudoCollectedHelp = Phrase(
+    "A representative sample: pseudo-collected parents are drawn from its allele frequencies.");
+constexpr auto kUncollectedHelp = Phrase(
     "A representative sample: the uncollected parents are drawn from its allele frequencies at "
-    "every iteration.";
-constexpr std::string_view kPseudoNumberHelp =
-    "How many parents you expect to collect; as many are drawn at every iteration.";
+    "every iteration.");
+constexpr auto kPseudoNumberHelp =
+    Phrase("How many parents you expect to collect; as many are drawn at every iteration.");
 
 constexpr SetTexts kParentTexts{
-    "  Parents  ",
-    {"Collected &parents file", "CollectedFile", kCollectedHelp},
-    {"Sample of &pseudo-collected parents", "PseudoCollectedSample", kPseudoCollectedHelp},
-    {"&Estimated number of pseudo-collected parents", "PseudoCollected", kPseudoNumberHelp},
-    {"Sample of &uncollected parents", "UncollectedSample", kUncollectedHelp},
-    {"Estimated &number of uncollected parents", "Uncollected",
-     "How many true parents were not collected; as many are drawn at every iteration. Together "
-     "with the collected ones they set the share of each origin of the pseudo-offspring."},
+    Phrase("  Parents  "),
+    {Phrase("Collected &parents file"), "CollectedFile", kCollectedHelp},
+    {Phrase("Sample of &pseudo-collected parents"), "PseudoCollectedSample", kPseudoCollectedHelp},
+    {Phrase("&Estimated number of pseudo-collected parents"), "PseudoCollected", kPseudoNumberHelp},
+    {Phrase("Sample of &uncollected parents"), "UncollectedSample", kUncollectedHelp},
+    {Phrase("Estimated &number of uncollected parents"), "Uncollected",
+     Phrase(
+         "How many true parents were not collected; as many are drawn at every iteration. Together "
+         "with the collected ones they set the share of each origin of the pseudo-offspring.")},
     {},
     {}};
 
 constexpr SetTexts kMaleTexts{
-    "  Males  ",
-    {"Collected &males file", "CollectedMalesFile", kCollectedHelp},
-    {"Sample of pseudo-collected &males", "PseudoCollectedMalesSample", kPseudoCollectedHelp},
-    {"&Number of pseudo-collected males", "PseudoCollectedMales", kPseudoNumberHelp},
-    {"Sample of &uncollected males", "UncollectedMalesSample", kUncollectedHelp},
-    {"Num&ber of uncollected males", "UncollectedMales", kDrawnHelp},
-    {"Estimated number of (pseudo)collected male parents   -------------- >",
+    Phrase("  Males  "),
+    {Phrase("Collected &males file"), "CollectedMalesFile", kCollectedHelp},
+    {Phrase("Sample of pseudo-collected &males"), "PseudoCollectedMalesSample",
+     kPseudoCollectedHelp},
+    {Phrase("&Number of pseudo-collected males"), "PseudoCollectedMales", kPseudoNumberHelp},
+    {Phrase("Sample of &uncollected males"), "UncollectedMalesSample", kUncollectedHelp},
+    {Phrase("Num&ber of uncollected males"), "UncollectedMales", kDrawnHelp},
+    {Phrase("Estimated number of (pseudo)collected male parents   -------------- >"),
      "EstimatedCollectedMales", kProportionHelp},
-    {"Estimated number of uncollected male parents   ------------------------ >",
+    {Phrase("Estimated number of uncollected male parents   ------------------------ >"),
      "EstimatedUncollectedMales", kProportionHelp}};
 
 constexpr SetTexts kFemaleTexts{
-    "  Females  ",
-    {"Collected &females file", "CollectedFemalesFile", kCollectedHelp},
-    {"Sample of pseudo-collected &females", "PseudoCollectedFemalesSample", kPseudoCollectedHelp},
-    {"Number &of pseudo-collected females", "PseudoCollectedFemales", kPseudoNumberHelp},
-    {"Sample of unco&llected females", "UncollectedFemalesSample", kUncollectedHelp},
-    {"Numbe&r of uncollected females", "UncollectedFemales", kDrawnHelp},
-    {"Estimated number of (pseudo)collected female parents   ----------- >",
+    Phrase("  Females  "),
+    {Phrase("Collected &females file"), "CollectedFemalesFile", kCollectedHelp},
+    {Phrase("Sample of pseudo-collected &females"), "PseudoCollectedFemalesSample",
+     kPseudoCollectedHelp},
+    {Phrase("Number &of pseudo-collected females"), "PseudoCollectedFemales", kPseudoNumberHelp},
+    {Phrase("Sample of unco&llected females"), "UncollectedFemalesSample", kUncollectedHelp},
+    {Phrase("Numbe&r of uncollected females"), "UncollectedFemales", kDrawnHelp},
+    {Phrase("Estimated number of (pseudo)collected female parents   ----------- >"),
      "EstimatedCollectedFemales", kProportionHelp},
-    {"Estimated number of uncollected female parents   --------------------- >",
+    {Phrase("Estimated number of uncollected female parents   --------------------- >"),
      "EstimatedUncollectedFemales", kProportionHelp}};
 
 const SetTexts& TextsOf(Flow flow, std::size_t set) {
@@ -154,7 +158,7 @@ FileField* ParentalPage::NewFile(QFormLayout& form, const FieldText& text, std::
 QWidget* ParentalPage::NewSet(std::size_t set) {
   const SetTexts& texts = TextsOf(flow_, set);
   SetFields& fields = sets_.at(set);
-  auto* const group = new QGroupBox(Text(texts.title));
+  auto* const group = new QGroupBox(Tr(texts.title));
   auto* const form = new QFormLayout(group);
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   form->setRowWrapPolicy(QFormLayout::WrapLongRows);
@@ -231,21 +235,22 @@ void ParentalPage::FillIn(SimulationSettings& settings) const {
 }
 
 std::optional<Problem> ParentalPage::NumberFault() const {
-  const auto fault = [](const QLineEdit& field, std::string_view wanted) {
+  const auto fault = [](const QLineEdit& field, const QString& wanted) {
     return Problem{.kind = ProblemKind::kImpossibleNumberOfParents,
-                   .found = fmt::format("{}: {} is not {}", Bytes(field.accessibleName()),
-                                        Quoted(Bytes(field.text())), wanted)};
+                   .found = Bytes(Tr("%1: %2 is not %3")
+                                      .arg(field.accessibleName(),
+                                           Text(Quoted(Bytes(field.text()))), wanted))};
   };
   for (const SetFields& fields : Sets()) {
     if (procedure_ == Procedure::kPreParental && !WholeNumberIn(*fields.pseudo_collected)) {
-      return fault(*fields.pseudo_collected, "a whole number");
+      return fault(*fields.pseudo_collected, Tr("a whole number"));
     }
     for (const NumberRow& row : NumbersOf(fields)) {
       if (row.whole && !WholeNumberIn(*row.field)) {
-        return fault(*row.field, "a whole number");
+        return fault(*row.field, Tr("a whole number"));
       }
       if (!NumberIn(*row.field)) {
-        return fault(*row.field, "a number with a decimal point");
+        return fault(*row.field, Tr("a number with a decimal point"));
       }
     }
   }

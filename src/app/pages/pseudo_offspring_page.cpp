@@ -13,6 +13,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/problem.h"
 
 namespace kaldo {
@@ -20,8 +21,8 @@ namespace kaldo {
 namespace {
 
 constexpr FieldText kNumber{
-    "Nu&mber of pseudo-offspring generated at each iteration", "OffspringPerIteration",
-    "They are shared out over the origins by the weights below; fractions are dropped."};
+    Phrase("Nu&mber of pseudo-offspring generated at each iteration"), "OffspringPerIteration",
+    Phrase("They are shared out over the origins by the weights below; fractions are dropped.")};
 
 QTableWidgetItem* NewItem(const QString& text, Qt::Alignment alignment) {
   auto* const item = new QTableWidgetItem(text);
@@ -33,13 +34,12 @@ QTableWidgetItem* NewItem(const QString& text, Qt::Alignment alignment) {
 QTableWidget* NewTable() {
   auto* const table = new QTableWidget;
   table->setObjectName(Text("Origins"));
-  table->setAccessibleName(Text("Weights of the origins of the pseudo-offspring"));
+  table->setAccessibleName(Tr("Weights of the origins of the pseudo-offspring"));
   table->setToolTip(
-      Text("The share of each parental origin in the population, which also weighs "
-           "the partial results into the global ones"));
+      Tr("The share of each parental origin in the population, which also weighs "
+         "the partial results into the global ones"));
   table->setColumnCount(3);
-  table->setHorizontalHeaderLabels(
-      {Text("True parents"), Text("Weight"), Text("Pseudo-offspring")});
+  table->setHorizontalHeaderLabels({Tr("True parents"), Tr("Weight"), Tr("Pseudo-offspring")});
   table->verticalHeader()->hide();
   table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   table->setTabKeyNavigation(false);
@@ -52,8 +52,8 @@ QTableWidget* NewTable() {
 PseudoOffspringPage::PseudoOffspringPage(Flow flow)
     : FlowPage(kOffspringScreen, SimulationCaption(flow)),
       table_(NewTable()),
-      box_(new ErrorModelBox("  Transmission error  ")) {
-  auto* const group = new QGroupBox(Text("  Pseudo-offspring  "));
+      box_(new ErrorModelBox(Phrase("  Transmission error  "))) {
+  auto* const group = new QGroupBox(Tr("  Pseudo-offspring  "));
   auto* const inside = new QVBoxLayout(group);
   auto* const form = new QFormLayout;
   number_ = AddLineEdit(*form, kNumber);

@@ -11,6 +11,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/problem.h"
 #include "method/cumulative_sequence.h"
 
@@ -27,7 +28,7 @@ QString LabelText(QString name) { return name.replace(QLatin1Char('&'), Text("&&
 
 SequencePage::SequencePage()
     : FlowPage(kSequenceScreen, kSequenceCaption), note_(NewHint(nullptr)) {
-  auto* const group = new QGroupBox(Text("  Position of each locus in the sequence  "));
+  auto* const group = new QGroupBox(Tr("  Position of each locus in the sequence  "));
   auto* const grid = new QGridLayout;
   for (std::size_t k = 0; k < rows_.size(); ++k) {
     Row& row = rows_.at(k);
@@ -54,9 +55,10 @@ SequencePage::SequencePage()
 }
 
 QLayout* SequencePage::NewOrderRow() {
-  auto* const order = NewButton("Order by &information", "OrderByInformation",
-                                "The locus that excludes most random pairs of parents enters "
-                                "first, as by exclusion_pair in \"Loci.tsv\"");
+  auto* const order =
+      NewButton(Phrase("Order by &information"), "OrderByInformation",
+                Phrase("The locus that excludes most random pairs of parents enters first, as by "
+                       "exclusion_pair in \"Loci.tsv\""));
   note_->setObjectName(Text("OrderNote"));
   connect(order, &QPushButton::clicked, this, [this] {
     if (on_order_) {
@@ -80,7 +82,7 @@ void SequencePage::SetNames(const std::vector<std::string>& names) {
     rows_.at(k).name->setVisible(has_locus);
     rows_.at(k).index->setAccessibleName(name);
     rows_.at(k).index->setToolTip(
-        Text("Position of the locus: 1 enters first. A whole number from 1 to the number of loci"));
+        Tr("Position of the locus: 1 enters first. A whole number from 1 to the number of loci"));
     rows_.at(k).index->setVisible(has_locus);
   }
   SetIndices(FileOrderSequence(number_of_loci_));

@@ -12,6 +12,7 @@
 #include "app/base/form_fields.h"
 #include "app/base/opened_files.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/problem.h"
 #include "genotypes/file_summary.h"
 
@@ -19,19 +20,21 @@ namespace kaldo {
 
 namespace {
 
-constexpr FieldText kLoci{
-    "Names of &loci file", "LociFile",
-    "The names of the loci, in the order in which their fields follow each individual's name."};
+constexpr FieldText kLoci{Phrase("Names of &loci file"), "LociFile",
+                          Phrase("The names of the loci, in the order in which their fields follow "
+                                 "each individual's name.")};
 constexpr FieldText kIterations{
-    "Number of &iterations", "Iterations",
-    "How often parents are drawn and pseudo-offspring are produced and allocated: fewer than 1000 "
-    "in the non-sexed flow, at most 1000 in the sexed one. More give steadier averages."};
-constexpr FieldText kParental{"&parental procedure (real collected parents)", "Parental",
-                              "After the field work: the collected parents are read from a file."};
+    Phrase("Number of &iterations"), "Iterations",
+    Phrase("How often parents are drawn and pseudo-offspring are produced and allocated: fewer "
+           "than 1000 "
+           "in the non-sexed flow, at most 1000 in the sexed one. More give steadier averages.")};
+constexpr FieldText kParental{
+    Phrase("&parental procedure (real collected parents)"), "Parental",
+    Phrase("After the field work: the collected parents are read from a file.")};
 constexpr FieldText kPreParental{
-    "pr&e-parental procedure (pseudo-collected parents)", "PreParental",
-    "Before the field work: parents as you hope to collect them are drawn from the allele "
-    "frequencies of a sample."};
+    Phrase("pr&e-parental procedure (pseudo-collected parents)"), "PreParental",
+    Phrase("Before the field work: parents as you hope to collect them are drawn from the allele "
+           "frequencies of a sample.")};
 
 }  // namespace
 
@@ -54,11 +57,11 @@ SimulationStartPage::SimulationStartPage(Flow flow, OpenedFiles& opened,
   const SimulationSettings first_shown = FirstShownSimulation(flow);
   iterations_->setText(NumberText(first_shown.iterations));
 
-  auto* const group = new QGroupBox(Text("  Type of simulations  "));
+  auto* const group = new QGroupBox(Tr("  Type of simulations  "));
   auto* const inside = new QVBoxLayout(group);
   for (const auto& [procedure, text] :
        {std::pair{Procedure::kParental, kParental}, {Procedure::kPreParental, kPreParental}}) {
-    auto* const button = new QRadioButton(Text(text.label));
+    auto* const button = new QRadioButton(Tr(text.label));
     Describe(*button, text);
     button->setChecked(procedure == first_shown.procedure);
     procedure_->addButton(button, static_cast<int>(procedure));

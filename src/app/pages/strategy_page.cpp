@@ -17,6 +17,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/problem.h"
 
 namespace kaldo {
@@ -30,24 +31,26 @@ struct StrategyText {
 
 constexpr std::array<StrategyText, 4> kStrategyTexts{{
     {LociStrategy::kChoice,
-     {"-   &Your choice of loci", "ChoiceOfLociStrategy", "One run with the loci of your choice."}},
+     {Phrase("-   &Your choice of loci"), "ChoiceOfLociStrategy",
+      Phrase("One run with the loci of your choice.")}},
     {LociStrategy::kAll,
-     {"-   &All subsets of loci", "AllSubsets",
-      "Every subset of the loci, from the smallest size on. Their number doubles with every locus: "
-      "10 loci have 1,023 subsets."}},
+     {Phrase("-   &All subsets of loci"), "AllSubsets",
+      Phrase("Every subset of the loci, from the smallest size on. Their number doubles with every "
+             "locus: "
+             "10 loci have 1,023 subsets.")}},
     {LociStrategy::kMinimal,
-     {"-   &Minimal subsets with correctness criteria", "MinimalSubsets",
-      "The same subsets, smallest first, until one reaches the criterion below."}},
+     {Phrase("-   &Minimal subsets with correctness criteria"), "MinimalSubsets",
+      Phrase("The same subsets, smallest first, until one reaches the criterion below.")}},
     {LociStrategy::kCumulative,
-     {"-   &Cumulative sequence", "CumulativeStrategy",
-      "The first locus, the first two, and so on, in the order of the next screen."}},
+     {Phrase("-   &Cumulative sequence"), "CumulativeStrategy",
+      Phrase("The first locus, the first two, and so on, in the order of the next screen.")}},
 }};
 
-constexpr FieldText kCriterion{
-    "&Give correctness criteria :", "Criterion",
-    "The probability that any allocation is correct which a minimal subset has to reach: 0 to 1."};
-constexpr FieldText kStartWith{"&Number of loci to start with :", "StartWith",
-                               "The smallest number of loci of a subset: 1 or more."};
+constexpr FieldText kCriterion{Phrase("&Give correctness criteria :"), "Criterion",
+                               Phrase("The probability that any allocation is correct which a "
+                                      "minimal subset has to reach: 0 to 1.")};
+constexpr FieldText kStartWith{Phrase("&Number of loci to start with :"), "StartWith",
+                               Phrase("The smallest number of loci of a subset: 1 or more.")};
 
 }  // namespace
 
@@ -55,10 +58,10 @@ StrategyPage::StrategyPage(Flow flow)
     : FlowPage(kStrategyScreen, SimulationCaption(flow)),
       strategies_(new QButtonGroup(this)),
       loci_(NewHint(nullptr)) {
-  auto* const group = new QGroupBox(Text("     Simulations run with :     "));
+  auto* const group = new QGroupBox(Tr("     Simulations run with :     "));
   auto* const inside = new QVBoxLayout(group);
   for (const StrategyText& strategy : kStrategyTexts) {
-    auto* const button = new QRadioButton(Text(strategy.text.label));
+    auto* const button = new QRadioButton(Tr(strategy.text.label));
     Describe(*button, strategy.text);
     strategies_->addButton(button, static_cast<int>(strategy.strategy));
     inside->addWidget(button);
@@ -77,8 +80,8 @@ StrategyPage::StrategyPage(Flow flow)
 }
 
 QLayout* StrategyPage::NewLociRow() {
-  auto* const choose = NewButton("C&hoose loci...", "ChooseLoci",
-                                 "Leave loci out of the subsets or of the sequence");
+  auto* const choose = NewButton(Phrase("C&hoose loci..."), "ChooseLoci",
+                                 Phrase("Leave loci out of the subsets or of the sequence"));
   choose->setAutoDefault(false);
   connect(choose, &QPushButton::clicked, this, [this] { on_choose_loci_(); });
   auto* const row = new QHBoxLayout;
@@ -89,9 +92,9 @@ QLayout* StrategyPage::NewLociRow() {
 
 void StrategyPage::ShowLoci(std::size_t in_use, std::size_t all) {
   loci_->setText(
-      Text(in_use == all
-               ? fmt::format("Subsets and sequences are formed from all {} loci.", all)
-               : fmt::format("Subsets and sequences are formed from {} of {} loci.", in_use, all)));
+      in_use == all
+          ? Tr("Subsets and sequences are formed from all %1 loci.").arg(all)
+          : Tr("Subsets and sequences are formed from %1 of %2 loci.").arg(in_use).arg(all));
 }
 
 void StrategyPage::Set(const SimulationSettings& settings) {

@@ -8,16 +8,18 @@
 #include "allocation/allocation_settings.h"
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
 namespace {
 
-constexpr FieldText kTolerance{
-    "Maximal offset &tolerance", "Tolerance",
-    "The largest difference between a parent's and an offspring's allele, in whole unit distances "
-    "(repeats), that is taken for a transmission error. A parent that would need a larger one is "
-    "declared uncollected (UC). 0 accepts exact alleles only."};
+constexpr FieldText kTolerance{Phrase("Maximal offset &tolerance"), "Tolerance",
+                               Phrase("The largest difference between a parent's and an "
+                                      "offspring's allele, in whole unit distances "
+                                      "(repeats), that is taken for a transmission error. A parent "
+                                      "that would need a larger one is "
+                                      "declared uncollected (UC). 0 accepts exact alleles only.")};
 
 }  // namespace
 
@@ -39,10 +41,9 @@ std::optional<Problem> ToleranceField::Fault() const {
   if (WholeNumberIn(*field_)) {
     return ValidateTolerance(Value());
   }
-  return Problem{
-      .kind = ProblemKind::kNegativeTolerance,
-      .found = fmt::format("the maximal offset tolerance is {}, which is no whole number",
-                           Quoted(Bytes(field_->text())))};
+  return Problem{.kind = ProblemKind::kNegativeTolerance,
+                 .found = Bytes(Tr("the maximal offset tolerance is %1, which is no whole number")
+                                    .arg(Text(Quoted(Bytes(field_->text())))))};
 }
 
 }  // namespace kaldo

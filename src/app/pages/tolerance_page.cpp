@@ -10,34 +10,37 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "simulation/allocation_model.h"
 
 namespace kaldo {
 
 namespace {
 
-constexpr std::string_view kNonSexedNote =
+constexpr auto kNonSexedNote = Phrase(
     "The pseudo-offspring are allocated to the collected or pseudo-collected parents only. A "
-    "tolerance acts where the allocation knows of errors.";
-constexpr std::string_view kSexedNote =
+    "tolerance acts where the allocation knows of errors.");
+constexpr auto kSexedNote = Phrase(
     "The pseudo-offspring are allocated as in an allocation with the same transmission error, to "
-    "the collected or pseudo-collected males and females only.";
+    "the collected or pseudo-collected males and females only.");
 
 constexpr FieldText kStrictly{
-    "with the model &No Error", "AllocateWithNone",
-    "Strict exclusion: a pair fits every allele or is no pair. The figures are not those of an "
-    "allocation with an error model."};
+    Phrase("with the model &No Error"), "AllocateWithNone",
+    Phrase(
+        "Strict exclusion: a pair fits every allele or is no pair. The figures are not those of an "
+        "allocation with an error model.")};
 constexpr FieldText kAsRun{
-    "with the &same transmission error, as an allocation would", "AllocateWithRun",
-    "The figures tell how often an allocation with this model and this tolerance is right."};
-constexpr FieldText kAsInRecord{"with the model of the &record", "AllocateWithRecorded",
-                                "Another model than that of the transmission error."};
+    Phrase("with the &same transmission error, as an allocation would"), "AllocateWithRun",
+    Phrase(
+        "The figures tell how often an allocation with this model and this tolerance is right.")};
+constexpr FieldText kAsInRecord{Phrase("with the model of the &record"), "AllocateWithRecorded",
+                                Phrase("Another model than that of the transmission error.")};
 
 }  // namespace
 
 TolerancePage::TolerancePage(Flow flow)
     : FlowPage(kToleranceScreen, SimulationCaption(flow)), flow_(flow) {
-  auto* const group = new QGroupBox(Text("  Allocation of the pseudo-offspring  "));
+  auto* const group = new QGroupBox(Tr("  Allocation of the pseudo-offspring  "));
   auto* const inside = new QVBoxLayout(group);
   if (flow == Flow::kNonSexed) {
     AddChoices(*inside);
@@ -45,7 +48,7 @@ TolerancePage::TolerancePage(Flow flow)
   auto* const form = new QFormLayout;
   field_.emplace(*form);
   QLabel* const note = NewHint(nullptr);
-  note->setText(Text(flow == Flow::kSexed ? kSexedNote : kNonSexedNote));
+  note->setText(Tr(flow == Flow::kSexed ? kSexedNote : kNonSexedNote));
   note->setMinimumWidth(fontMetrics().averageCharWidth() * 60);
   form->addRow(note);
   inside->addLayout(form);
@@ -59,7 +62,7 @@ void TolerancePage::AddChoices(QBoxLayout& column) {
   choices_ = new QButtonGroup(this);
   int place = kExcludeStrictly;
   for (const FieldText& text : {kStrictly, kAsRun, kAsInRecord}) {
-    auto* const button = new QRadioButton(Text(text.label));
+    auto* const button = new QRadioButton(Tr(text.label));
     Describe(*button, text);
     column.addWidget(button);
     choices_->addButton(button, place);
@@ -79,7 +82,7 @@ void TolerancePage::Set(const SimulationSettings& settings) {
     choices_->button(kAsRecorded)->setVisible(recorded_.has_value());
     if (recorded_) {
       choices_->button(kAsRecorded)
-          ->setText(Text(kAsInRecord.label) + Text(": ") + Text(ShortDescription(*recorded_)));
+          ->setText(Tr(kAsInRecord.label) + Text(": ") + TrCore(ShortDescription(*recorded_)));
     }
     choices_->button(choice)->setChecked(true);
   }

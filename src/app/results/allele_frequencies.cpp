@@ -4,6 +4,7 @@
 #include <map>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -26,9 +27,9 @@ AlleleFrequencies CountAlleles(const GenotypeTable& table, LocusIndex locus) {
 
 BarChart FrequencyChart(const AlleleFrequencies& frequencies, const QString& locus) {
   BarChart chart;
-  chart.texts = {Text("Allele frequencies at %1").arg(locus), Text("allele size (bp)"),
-                 Text("frequency"), false};
-  chart.series.name = Text("frequency");
+  chart.texts = {Tr("Allele frequencies at %1").arg(locus), Tr("allele size (bp)"), Tr("frequency"),
+                 false};
+  chart.series.name = Tr("frequency");
   for (std::size_t k = 0; k < frequencies.alleles.size(); ++k) {
     const std::uint32_t size = frequencies.alleles[k].size.Value();
     chart.positions.push_back(size);
@@ -39,7 +40,7 @@ BarChart FrequencyChart(const AlleleFrequencies& frequencies, const QString& loc
 }
 
 DataTable FrequencyTable(const AlleleFrequencies& frequencies) {
-  DataTable table{{Text("size (bp)"), Text("copies"), Text("frequency")}, {}};
+  DataTable table{{Tr("size (bp)"), Tr("copies"), Tr("frequency")}, {}};
   for (std::size_t k = 0; k < frequencies.alleles.size(); ++k) {
     const AlleleCount& allele = frequencies.alleles[k];
     table.rows.push_back({QString::number(allele.size.Value()), QString::number(allele.copies),

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/allele_frequencies.h"
 #include "app/results/chart_panel.h"
 
@@ -17,8 +18,8 @@ AllelesPage::AllelesPage(SharedAllocation allocation, const QString& folder, QWi
     : QWidget(parent),
       allocation_(std::move(allocation)),
       locus_(new QComboBox),
-      previous_(new QPushButton(Text("Pre&vious"))),
-      next_(new QPushButton(Text("&Next"))),
+      previous_(new QPushButton(Tr("Pre&vious"))),
+      next_(new QPushButton(Tr("&Next"))),
       copies_(new QLabel),
       panel_(new ChartPanel(Text("Alleles"), Qt::Horizontal, folder, nullptr)) {
   auto* layout = new QVBoxLayout(this);
@@ -31,17 +32,17 @@ AllelesPage::AllelesPage(SharedAllocation allocation, const QString& folder, QWi
 
 QWidget* AllelesPage::LocusRow() {
   locus_->setObjectName(Text("AllelesLocus"));
-  locus_->setToolTip(Text("The loci in use."));
+  locus_->setToolTip(Tr("The loci in use."));
   for (const LocusIndex locus : allocation_->run.result.loci.loci) {
     locus_->addItem(Text(allocation_->run.input.loci.Name(locus)));
   }
   previous_->setObjectName(Text("AllelesPrevious"));
   next_->setObjectName(Text("AllelesNext"));
-  previous_->setToolTip(Text("To the locus before, in the order of the names-of-loci file"));
-  next_->setToolTip(Text("To the next locus, in the order of the names-of-loci file"));
+  previous_->setToolTip(Tr("To the locus before, in the order of the names-of-loci file"));
+  next_->setToolTip(Tr("To the next locus, in the order of the names-of-loci file"));
   copies_->setObjectName(Text("AllelesCopies"));
   copies_->setWordWrap(true);
-  auto* label = new QLabel(Text("Loc&us:"));
+  auto* label = new QLabel(Tr("Loc&us:"));
   label->setBuddy(locus_);
   auto* row = new QWidget;
   auto* layout = new QHBoxLayout(row);
@@ -66,7 +67,7 @@ void AllelesPage::ShowLocus() {
   const AlleleFrequencies frequencies = CountAlleles(
       input.table, allocation_->run.result.loci.loci[static_cast<std::size_t>(chosen)]);
   const std::size_t individuals = input.NumberOfParents() + input.NumberOfOffspring();
-  copies_->setText(Text("%1 gene copies typed in parents and offspring together, of %2.")
+  copies_->setText(Tr("%1 gene copies typed in parents and offspring together, of %2.")
                        .arg(frequencies.copies)
                        .arg(2 * individuals));
   panel_->Show(FrequencyChart(frequencies, locus_->currentText()), FrequencyTable(frequencies));

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -24,7 +25,7 @@ std::size_t ClassOf(Flow flow, const AllocationOutcome& outcome) {
 }
 
 QString CertaintyText(Certainty certainty) {
-  return Text(Sign(certainty)) + Text(" ") + Text(Word(certainty));
+  return Text(Sign(certainty)) + Text(" ") + TrCore(Word(certainty));
 }
 
 }  // namespace kaldo

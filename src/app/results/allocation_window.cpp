@@ -9,6 +9,7 @@
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/alleles_page.h"
 #include "app/results/allocation_summary.h"
 #include "app/results/chart_panel.h"
@@ -24,12 +25,12 @@ namespace kaldo {
 namespace {
 
 /// Why there are no probabilities to go by; empty where there are.
-std::string WithoutProbabilities(const AllocationResult& result) {
+Phrase WithoutProbabilities(const AllocationResult& result) {
   if (KnowsCertainty(result)) {
     return {};
   }
-  return result.confidence ? "none: the error model has a negative probability"
-                           : "none: probabilities are not known";
+  return result.confidence ? Phrase("none: the error model has a negative probability")
+                           : Phrase("none: probabilities are not known");
 }
 
 }  // namespace
@@ -49,30 +50,30 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
   allocation_ = shared;
   auto* offspring = new OffspringPage(shared, Folder());
   AddSummary(shared, *offspring);
-  AddTab(offspring, Text("&Offspring"),
-         Text("The parents of every offspring, and why, locus by locus."));
+  AddTab(offspring, Tr("&Offspring"),
+         Tr("The parents of every offspring, and why, locus by locus."));
   const auto show_offspring = [this, offspring](Slot of_parent) {
     offspring->ShowOffspringOf(of_parent);
     ShowTab(*offspring);
   };
-  AddTab(new ParentsPage(shared, Folder(), show_offspring), Text("&Parents"),
-         Text("The offspring and mates of every collected parent, and who has none."));
+  AddTab(new ParentsPage(shared, Folder(), show_offspring), Tr("&Parents"),
+         Tr("The offspring and mates of every collected parent, and who has none."));
   AddTab(new MatingPage(shared, Folder(),
                         [this, offspring](std::vector<std::size_t> places, const QString& what) {
                           offspring->ShowSome(std::move(places), what);
                           ShowTab(*offspring);
                         }),
-         Text("Matin&gs"), Text("Who had offspring with whom, as a table that is a picture."));
+         Tr("Matin&gs"), Tr("Who had offspring with whom, as a table that is a picture."));
   if (shared->settings.sequence) {
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Vertical, Folder(), nullptr);
     sequence->Show(SequenceChart(shared->run.input, shared->run.result));
-    AddTab(sequence, Text("Se&quence"), Text("How the proportions settle as loci are added."));
+    AddTab(sequence, Tr("Se&quence"), Tr("How the proportions settle as loci are added."));
   }
-  AddTab(new AllelesPage(shared, Folder()), Text("&Alleles"),
-         Text("The allele frequencies of each locus."));
+  AddTab(new AllelesPage(shared, Folder()), Tr("&Alleles"),
+         Tr("The allele frequencies of each locus."));
   if (!shared->run.result.loci_quality.empty()) {
-    AddTab(new LociUsePage(*shared, Folder()), Text("Loc&i"),
-           Text("What each locus is worth, and what may be wrong with it."));
+    AddTab(new LociUsePage(*shared, Folder()), Tr("Loc&i"),
+           Tr("What each locus is worth, and what may be wrong with it."));
   }
 }
 
@@ -89,7 +90,7 @@ void AllocationWindow::AddSummary(const SharedAllocation& shared, OffspringPage&
     }
     ShowTab(offspring);
   });
-  AddTab(summary_, Text("&Summary"), Text("What was found, what to check, and what was run."));
+  AddTab(summary_, Tr("&Summary"), Tr("What was found, what to check, and what was run."));
 }
 
 void AllocationWindow::OfferTrial(StartTrial start) {
@@ -97,7 +98,7 @@ void AllocationWindow::OfferTrial(StartTrial start) {
     const auto trial =
         TrialOf(allocation_->settings, allocation_->run.input, allocation_->run.result);
     if (!trial) {
-      return ShowFailure(this, Text(trial.error()));
+      return ShowFailure(this, TrCore(trial.error()));
     }
     const QPointer<AllocationWindow> asking(this);  // it may be closed meanwhile
     if (!trial->note.empty()) {
@@ -105,15 +106,15 @@ void AllocationWindow::OfferTrial(StartTrial start) {
     }
     const auto figures = start(trial->settings);
     if (asking && figures) {
-      summary_->AddNote(Text(*figures));
+      summary_->AddNote(TrCore(*figures));
     }
   });
 }
 
 void AllocationWindow::OfferComparison(ChooseOtherRun choose) {
   auto* const compare =
-      NewButton("Compare with another run...", "CompareRuns",
-                "Show which offspring have another pair in another run (Ctrl+D).");
+      NewButton(Phrase("Compare with another run..."), "CompareRuns",
+                Phrase("Show which offspring have another pair in another run (Ctrl+D)."));
   compare->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_D));
   connect(compare, &QPushButton::clicked, this, [this, choose = std::move(choose)] {
     const QPointer<AllocationWindow> asking(this);  // it may be closed meanwhile

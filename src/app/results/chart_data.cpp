@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -17,7 +18,7 @@ bool HasDeviations(const ChartSeries& series) {
 void AppendHeads(const ChartSeries& series, QStringList& heads) {
   heads += series.name;
   if (HasDeviations(series)) {
-    heads += series.name + Text(" sd");
+    heads += Tr("%1 sd").arg(series.name);
   }
 }
 

@@ -11,6 +11,7 @@
 
 #include "app/base/messages.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/save_file.h"
 #include "base/version.h"
 
@@ -83,8 +84,8 @@ bool SaveFigure(QWidget* parent, const Figure& figure, const QString& path, QSiz
   if (ending == QLatin1String("csv")) {
     return SaveFile(parent, path, CsvText(figure.numbers()));
   }
-  ShowFailure(parent, Text("A chart is saved as .svg, .pdf or .png, its numbers as .csv. \"%1\" "
-                           "has none of these endings.")
+  ShowFailure(parent, Tr("A chart is saved as .svg, .pdf or .png, its numbers as .csv. \"%1\" "
+                         "has none of these endings.")
                           .arg(path));
   return false;
 }

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/chart_files.h"
 #include "app/results/chart_layout.h"
 #include "app/results/data_table.h"
@@ -315,7 +316,7 @@ void ChartPainter::PaintLevel(double value, Qt::PenStyle style, const QString& t
 void ChartPainter::PaintData(const SpreadChart& chart) {
   CountPlaces();
   plot_.axisRect()->setMinimumMargins(
-      QMargins(0, 0, QFontMetrics(font_).horizontalAdvance(Text("mean + sd")) + 2 * kLevelGap, 0));
+      QMargins(0, 0, QFontMetrics(font_).horizontalAdvance(Tr("mean + sd")) + 2 * kLevelGap, 0));
   const auto count = static_cast<double>(chart.values.size());
   Places()->setRange(0, count + 1);
   if (chart.values.empty()) {
@@ -337,10 +338,10 @@ void ChartPainter::PaintData(const SpreadChart& chart) {
   const double highest = std::max(*high, chart.mean + deviation);
   const double margin = std::max((highest - lowest) / 4, 0.01);
   Values()->setRange(lowest - margin, highest + margin);
-  PaintLevel(chart.mean, Qt::SolidLine, Text("mean"));
+  PaintLevel(chart.mean, Qt::SolidLine, Tr("mean"));
   if (deviation > 0) {
-    PaintLevel(chart.mean + deviation, Qt::DashLine, Text("mean + sd"));
-    PaintLevel(chart.mean - deviation, Qt::DashLine, Text("mean - sd"));
+    PaintLevel(chart.mean + deviation, Qt::DashLine, Tr("mean + sd"));
+    PaintLevel(chart.mean - deviation, Qt::DashLine, Tr("mean - sd"));
   }
 }
 

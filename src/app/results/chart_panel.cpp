@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/chart_layout.h"
 #include "app/results/chart_view.h"
 #include "app/results/result_table.h"
@@ -39,7 +40,7 @@ ChartPanel::ChartPanel(const QString& name, Qt::Orientation orientation, QString
     : QWidget(parent),
       chart_(new ChartView),
       model_(new DataTableModel(this)),
-      table_(new ResultTable(Text("Numbers of the chart"))),
+      table_(new ResultTable(Tr("Numbers of the chart"))),
       saver_(*this, name, std::move(folder),
              [this] { return std::pair(chart_->ShownFigure(), ChartSize(chart_->Shown())); }) {
   auto* splitter = new QSplitter(orientation);
@@ -58,10 +59,10 @@ ChartPanel::ChartPanel(const QString& name, Qt::Orientation orientation, QString
 }
 
 void ChartPanel::AddButtons(QBoxLayout& layout, const QString& name) {
-  auto* copy = new QPushButton(Text("Copy &table"));
+  auto* copy = new QPushButton(Tr("Copy &table"));
   copy->setObjectName(name + Text("Copy"));
   copy->setToolTip(
-      Text("Copy the selected rows, or all, with their heads, to be pasted into a spreadsheet."));
+      Tr("Copy the selected rows, or all, with their heads, to be pasted into a spreadsheet."));
   auto* row = new QHBoxLayout;
   row->addStretch();
   saver_.AddButtons(*row);
@@ -69,7 +70,7 @@ void ChartPanel::AddButtons(QBoxLayout& layout, const QString& name) {
   layout.addLayout(row);
   connect(copy, &QPushButton::clicked, this, [this] { table_->CopyRows(); });
   saver_.AddMenu(*chart_);
-  auto* const action = new QAction(Text("Copy &table"), chart_);
+  auto* const action = new QAction(Tr("Copy &table"), chart_);
   connect(action, &QAction::triggered, this, [this] { table_->CopyRows(); });
   chart_->addAction(action);
 }

@@ -10,6 +10,7 @@
 #include <qcustomplot.h>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/chart_layout.h"
 #include "app/results/chart_painter.h"
 
@@ -67,7 +68,7 @@ bool ChartView::SaveChart(const QString& path) {
 void ChartView::SetChart(const Chart& chart) {
   chart_ = chart;
   setAccessibleName(TextsOf(chart).title);
-  setAccessibleDescription(Text("Chart; its numbers stand in the table beside it."));
+  setAccessibleDescription(Tr("Chart; its numbers stand in the table beside it."));
   Draw();
 }
 

@@ -5,6 +5,7 @@
 
 #include "allocation/findings.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -16,30 +17,33 @@ QString GenotypeText(const LocusGenotype& genotype) {
   const auto allele = [](AlleleSize size) {
     return size == kUndefinedAllele ? std::string("?") : std::to_string(size.Value());
   };
-  return genotype.IsMissing() ? Text("undefined")
+  return genotype.IsMissing() ? Tr("undefined")
                               : Text(allele(genotype.allele1) + '/' + allele(genotype.allele2));
 }
 
 /// A condition in words; R and J are the first and the second allele of the offspring.
-std::string_view ConditionTip(LocusCondition condition) {
+Phrase ConditionTip(LocusCondition condition) {
   switch (condition) {
     case LocusCondition::kNone:
-      return "Neither parent carries an allele of the offspring, or its locus is undefined.";
+      return Phrase(
+          "Neither parent carries an allele of the offspring, or its locus is undefined.");
     case LocusCondition::kComplete:
-      return "One parent carries one allele of the offspring and the other parent the other.";
+      return Phrase(
+          "One parent carries one allele of the offspring and the other parent the other.");
     case LocusCondition::kOneToEach:
-      return "Both parents carry the same allele of the offspring, nobody the other one. Offsets "
-             "are 0 all the same; the likelihood speaks against the pair.";
+      return Phrase(
+          "Both parents carry the same allele of the offspring, nobody the other one. Offsets "
+          "are 0 all the same; the likelihood speaks against the pair.");
     case LocusCondition::kRrOnlyPar1:
     case LocusCondition::kRInPar1:
     case LocusCondition::kJInPar1:
     case LocusCondition::kBothInPar1:
-      return "Only parent 1 carries an allele of the offspring; parent 2 is measured.";
+      return Phrase("Only parent 1 carries an allele of the offspring; parent 2 is measured.");
     case LocusCondition::kRrOnlyPar2:
     case LocusCondition::kRInPar2:
     case LocusCondition::kJInPar2:
     case LocusCondition::kBothInPar2:
-      return "Only parent 2 carries an allele of the offspring; parent 1 is measured.";
+      return Phrase("Only parent 2 carries an allele of the offspring; parent 1 is measured.");
     case LocusCondition::kError:
       break;
   }
@@ -180,13 +184,13 @@ QString ComparisonModel::VerdictOn(Slot parent, UnitDistances LocusComparison::*
   const ToleranceVerdict verdict = CheckTolerance(offsets, tolerance);
   const QString name = Text(Input().table.Name(parent).Text());
   if (verdict.uncollected) {
-    return Text("%1: UC, offset above the tolerance of %2 at %3.")
+    return Tr("%1: UC, offset above the tolerance of %2 at %3.")
         .arg(name, QString::number(tolerance.Value()), excluding.join(Text(", ")));
   }
   if (verdict.errors > 0) {
-    return Text("%1: accepted, errors assumed: %2.").arg(name, QString::number(verdict.errors));
+    return Tr("%1: accepted, errors assumed: %2.").arg(name, QString::number(verdict.errors));
   }
-  return (all_carried ? Text("%1: accepted without errors.") : Text("%1: accepted, offsets 0."))
+  return (all_carried ? Tr("%1: accepted without errors.") : Tr("%1: accepted, offsets 0."))
       .arg(name);
 }
 
@@ -202,12 +206,11 @@ QStringList ComparisonModel::LociCarriedByNone() const {
 
 QString ComparisonModel::Verdict() const {
   if (!offspring_) {
-    return Text("Choose an offspring in the table above.");
+    return Tr("Choose an offspring in the table above.");
   }
   if (!pair_) {
-    return Text(
-               "No pair of collected parents can have produced %1 under the error model: both "
-               "parents count as UC.")
+    return Tr("No pair of collected parents can have produced %1 under the error model: both "
+              "parents count as UC.")
         .arg(Text(Input().table.Name(*offspring_).Text()));
   }
   const QStringList none = LociCarriedByNone();
@@ -216,7 +219,7 @@ QString ComparisonModel::Verdict() const {
                     VerdictOn(pair_->parent2, &LocusComparison::offset_par2, none.isEmpty());
   if (!none.isEmpty()) {
     verdict +=
-        Text("  An allele of the offspring is in neither parent at %1.").arg(none.join(Text(", ")));
+        Tr("  An allele of the offspring is in neither parent at %1.").arg(none.join(Text(", ")));
   }
   return verdict;
 }
@@ -292,7 +295,7 @@ QVariant ComparisonModel::data(const QModelIndex& index, int role) const {
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   if (role == Qt::ToolTipRole && column == Column::kCondition && pair_) {
-    return Text(ConditionTip(comparisons_[row].condition));
+    return Tr(ConditionTip(comparisons_[row].condition));
   }
   const std::optional<LocusFit> fit = FitAt(column, row);
   if (!fit || *fit == LocusFit::kUnsaid) {
@@ -311,45 +314,46 @@ QVariant ComparisonModel::data(const QModelIndex& index, int role) const {
 QString ComparisonModel::OtherHead(Column column) const {
   const auto& other = others_.at(IsFirst(column) ? 0 : 1);
   if (!other) {
-    return Text("Runner-up");
+    return Tr("Runner-up");
   }
-  return Text("or %1 (p %2)")
+  return Tr("or %1 (p %2)")
       .arg(Text(Input().table.Name(other->parent.slot).Text()),
            QString::number(other->parent.probability, 'f', 3));
 }
 
 QString ComparisonModel::Head(Column column) const {
   const bool sexed = allocation_->settings.flow == Flow::kSexed;
-  const QString who = IsFirst(column) ? Text(sexed ? "male" : "1") : Text(sexed ? "female" : "2");
+  const QString who =
+      IsFirst(column) ? (sexed ? Tr("male") : Text("1")) : (sexed ? Tr("female") : Text("2"));
   const auto named = [this](std::optional<Slot> slot, const QString& otherwise) {
     return slot ? Text(Input().table.Name(*slot).Text()) : otherwise;
   };
   switch (column) {
     case Column::kLocus:
-      return Text("Locus");
+      return Tr("Locus");
     case Column::kUnit:
-      return Text("Unit (bp)");
+      return Tr("Unit (bp)");
     case Column::kOffspring:
-      return named(offspring_, Text("Offspring"));
+      return named(offspring_, Tr("Offspring"));
     case Column::kParent1:
       return named(pair_ ? std::optional(pair_->parent1) : std::nullopt,
-                   Text(sexed ? "Male" : "Parent 1"));
+                   sexed ? Tr("Male") : Tr("Parent 1"));
     case Column::kParent2:
       return named(pair_ ? std::optional(pair_->parent2) : std::nullopt,
-                   Text(sexed ? "Female" : "Parent 2"));
+                   sexed ? Tr("Female") : Tr("Parent 2"));
     case Column::kOther1:
     case Column::kOther2:
       return OtherHead(column);
     case Column::kOtherOffset1:
     case Column::kOtherOffset2:
-      return Text("Offset (units)");
+      return Tr("Offset (units)");
     case Column::kCondition:
-      return Text("Condition");
+      return Tr("Condition");
     case Column::kDistance1:
     case Column::kDistance2:
-      return Text("Distance %1 (bp)").arg(who);
+      return Tr("Distance %1 (bp)").arg(who);
     default:
-      return Text("Offset %1 (units)").arg(who);
+      return Tr("Offset %1 (units)").arg(who);
   }
 }
 
@@ -365,8 +369,7 @@ QVariant ComparisonModel::headerData(int section, Qt::Orientation orientation, i
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   if (role == Qt::ToolTipRole && IsOther(column)) {
-    return Text(
-               "The most probable other candidate, in the place of parent %1 beside the same mate.")
+    return Tr("The most probable other candidate, in the place of parent %1 beside the same mate.")
         .arg(IsFirst(column) ? 1 : 2);
   }
   return {};

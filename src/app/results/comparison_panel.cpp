@@ -13,6 +13,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/comparison_model.h"
 #include "app/results/result_table.h"
 
@@ -22,11 +23,11 @@ ComparisonPanel::ComparisonPanel(SharedAllocation allocation, QWidget* parent)
     : QWidget(parent),
       allocation_(std::move(allocation)),
       model_(new ComparisonModel(allocation_, this)),
-      table_(new ResultTable(Text("Genotypes locus by locus"))),
+      table_(new ResultTable(Tr("Genotypes locus by locus"))),
       pair_(new QComboBox),
       verdict_(new QLabel) {
   pair_->setObjectName(Text("ComparisonPair"));
-  pair_->setToolTip(Text("Pairs that explain the offspring equally well. The first one decided."));
+  pair_->setToolTip(Tr("Pairs that explain the offspring equally well. The first one decided."));
   pair_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   verdict_->setObjectName(Text("ComparisonVerdict"));
   verdict_->setWordWrap(true);
@@ -45,22 +46,21 @@ ComparisonPanel::ComparisonPanel(SharedAllocation allocation, QWidget* parent)
 }
 
 void ComparisonPanel::LayOut() {
-  auto* pair_label = new QLabel(Text("Pair &beside it:"));
+  auto* pair_label = new QLabel(Tr("Pair &beside it:"));
   pair_label->setBuddy(pair_);
   auto* head = new QHBoxLayout;
   head->addWidget(pair_label);
   head->addWidget(pair_);
   head->addWidget(verdict_, 1);
   auto* legend = new QLabel(
-      Text(fmt::format("{} exact   {} within the tolerance (an error)   {} above it (UC)   {} one "
-                       "allele in neither parent   {} undefined",
-                       Bytes(SignOf(LocusFit::kExact)), Bytes(SignOf(LocusFit::kTolerated)),
-                       Bytes(SignOf(LocusFit::kExcluded)), Bytes(SignOf(LocusFit::kUnmeasured)),
-                       Bytes(SignOf(LocusFit::kUnsaid)))));
+      Tr("%1 exact   %2 within the tolerance (an error)   %3 above it (UC)   %4 one allele in "
+         "neither parent   %5 undefined")
+          .arg(SignOf(LocusFit::kExact), SignOf(LocusFit::kTolerated), SignOf(LocusFit::kExcluded),
+               SignOf(LocusFit::kUnmeasured), SignOf(LocusFit::kUnsaid)));
   legend->setObjectName(Text("ComparisonLegend"));
   legend->setWordWrap(true);
-  auto* copy = NewButton("Copy &genotypes", "ComparisonCopy",
-                         "Copy the selected loci, or all, with their heads.");
+  auto* copy = NewButton(Phrase("Copy &genotypes"), "ComparisonCopy",
+                         Phrase("Copy the selected loci, or all, with their heads."));
   auto* foot = new QHBoxLayout;
   foot->addWidget(legend, 1);
   foot->addWidget(copy);
@@ -78,13 +78,13 @@ void ComparisonPanel::FillPairs() {
   const auto pairs = allocation_->run.result.outcomes[offspring_].Pairs();
   const GenotypeTable& table = allocation_->run.input.table;
   for (std::size_t k = 0; k < pairs.size(); ++k) {
-    pair_->addItem(Text("%1 of %2: %3 x %4")
+    pair_->addItem(Tr("%1 of %2: %3 x %4")
                        .arg(QString::number(k + 1), QString::number(pairs.size()),
                             Text(table.Name(pairs[k].parent1).Text()),
                             Text(table.Name(pairs[k].parent2).Text())));
   }
   if (pairs.empty()) {
-    pair_->addItem(Text("none"));
+    pair_->addItem(Tr("none"));
   }
   pair_->setEnabled(pairs.size() > 1);
 }

@@ -20,6 +20,7 @@
 #include "app/base/form_fields.h"
 #include "app/base/messages.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/base/wait_cursor.h"
 #include "runs/run_refused.h"
 
@@ -28,15 +29,17 @@ namespace kaldo {
 namespace {
 
 constexpr FieldText kSexes{
-    "&Sexes file", "ExportSexes",
-    "Per line an individual and m or f. Without it pedigrees name parent 1 and parent 2, which "
-    "some programs do not take."};
-constexpr FieldText kLeast{"&Least probability", "ExportLeast",
-                           "Pedigrees leave out parents that are less sure, for instance 0.95. "
-                           "Empty: all that are named."};
+    Phrase("&Sexes file"), "ExportSexes",
+    Phrase(
+        "Per line an individual and m or f. Without it pedigrees name parent 1 and parent 2, which "
+        "some programs do not take.")};
+constexpr FieldText kLeast{
+    Phrase("&Least probability"), "ExportLeast",
+    Phrase("Pedigrees leave out parents that are less sure, for instance 0.95. "
+           "Empty: all that are named.")};
 constexpr FieldText kFolder{
-    "&Write to", "ExportFolder",
-    "In the folder of the run the files become a part of it, and its record lists them."};
+    Phrase("&Write to"), "ExportFolder",
+    Phrase("In the folder of the run the files become a part of it, and its record lists them.")};
 
 /// Makes the files and tells what kept them from being made; nothing then.
 std::optional<Exported> Make(QWidget* parent, const ExportOffer& offer, const WantedExports& wanted,
@@ -59,7 +62,7 @@ std::optional<Exported> Make(QWidget* parent, const ExportOffer& offer, const Wa
 }
 
 std::string DoneText(const Exported& exported, const QString& folder) {
-  std::string text = fmt::format("Files in \"{}\":\n", Bytes(folder));
+  std::string text = Bytes(Tr("Files in \"%1\":").arg(folder)) + '\n';
   for (const ExportedFile& file : exported.files) {
     text += fmt::format("  {}\n", file.name.substr(1));
   }
@@ -82,7 +85,7 @@ ExportDialog::ExportDialog(QWidget* parent, const ExportOffer& offer, QString fo
       run_folder_(std::move(folder)),
       folder_(new QLineEdit(QDir::toNativeSeparators(run_folder_))) {
   setObjectName(Text("Exports"));
-  setWindowTitle(Text("Export the results"));
+  setWindowTitle(Tr("Export the results"));
   auto* const column = new QVBoxLayout(this);
   AddForms(*column);
   if (offer.Has(&ExportForms::pedigree)) {
@@ -96,9 +99,9 @@ ExportDialog::ExportDialog(QWidget* parent, const ExportOffer& offer, QString fo
 
 void ExportDialog::AddForms(QLayout& column) {
   for (const NamedExportForm& form : offer_.forms) {
-    auto* const box = new QCheckBox(Text(fmt::format("{} ({})", form.help, form.name)));
+    auto* const box = new QCheckBox(Text("%1 (%2)").arg(TrCore(form.help), Text(form.name)));
     box->setObjectName(Text(fmt::format("ExportForm_{}", form.name)));
-    box->setToolTip(Text("Write the results in this form"));
+    box->setToolTip(Tr("Write the results in this form"));
     box->setChecked(offer_.forms.size() == 1);
     column.addWidget(box);
     forms_.push_back({form.choice, box});
@@ -113,10 +116,10 @@ QWidget* ExportDialog::NewPedigreeFields() {
     sexes_ = AddFileField(*form, kSexes);
   }
   least_ = AddLineEdit(*form, kLeast);
-  if (!offer_.without_probabilities.empty()) {
+  if (!offer_.without_probabilities.IsEmpty()) {
     least_->setEnabled(false);
-    least_->setPlaceholderText(Text(offer_.without_probabilities));
-    least_->setToolTip(Text(offer_.without_probabilities));
+    least_->setPlaceholderText(Tr(offer_.without_probabilities));
+    least_->setToolTip(Tr(offer_.without_probabilities));
   }
   fields->setVisible(false);
   for (const Form& each : forms_) {
@@ -129,9 +132,10 @@ QWidget* ExportDialog::NewPedigreeFields() {
 
 QLayout* ExportDialog::NewFolderRow() {
   Describe(*folder_, kFolder);
-  auto* const label = new QLabel(Text(kFolder.label));
+  auto* const label = new QLabel(Tr(kFolder.label));
   label->setBuddy(folder_);
-  auto* const browse = NewButton("&Browse...", "ExportBrowse", "Choose another folder");
+  auto* const browse =
+      NewButton(Phrase("&Browse..."), "ExportBrowse", Phrase("Choose another folder"));
   browse->setAutoDefault(false);
   connect(browse, &QPushButton::clicked, this, [this] { BrowseFolder(); });
   auto* const row = new QHBoxLayout;
@@ -142,15 +146,16 @@ QLayout* ExportDialog::NewFolderRow() {
 }
 
 QLayout* ExportDialog::NewButtons() {
-  auto* const write = NewButton("&Export", "ExportWrite", "Write the files");
-  auto* const cancel = NewButton("Cancel", "ExportCancel", "Nothing is written (Esc)");
+  auto* const write = NewButton(Phrase("&Export"), "ExportWrite", Phrase("Write the files"));
+  auto* const cancel =
+      NewButton(Phrase("Cancel"), "ExportCancel", Phrase("Nothing is written (Esc)"));
   connect(write, &QPushButton::clicked, this, [this] { Write(); });
   return NewDialogButtons(*this, cancel, write);
 }
 
 void ExportDialog::BrowseFolder() {
   const QString picked =
-      QFileDialog::getExistingDirectory(this, Text("Folder for the files"), folder_->text());
+      QFileDialog::getExistingDirectory(this, Tr("Folder for the files"), folder_->text());
   if (!picked.isEmpty()) {
     folder_->setText(QDir::toNativeSeparators(picked));
   }
@@ -162,7 +167,7 @@ std::optional<WantedExports> ExportDialog::Wanted() {
     wanted.forms.*each.form = each.box->isChecked();
   }
   if (!wanted.forms.Any()) {
-    ShowSentence(this, "Tick the forms in which the results are wanted.");
+    ShowSentence(this, Phrase("Tick the forms in which the results are wanted."));
     return std::nullopt;
   }
   if (wanted.forms.pedigree && sexes_ != nullptr) {
@@ -188,9 +193,9 @@ void ExportDialog::Write() {
   if (QDir(folder_->text()) != QDir(run_folder_)) {
     place.folder = PathBytes(folder_->text());
     place.may_replace = [this](const std::vector<std::string>& names) {
-      return AskYesNo(this, Text(fmt::format("These files are in the folder already and would be "
-                                             "replaced: {}. Go on?",
-                                             fmt::join(names, ", "))));
+      return AskYesNo(this,
+                      Tr("These files are in the folder already and would be replaced: %1. Go on?")
+                          .arg(Text(fmt::format("{}", fmt::join(names, ", ")))));
     };
   }
   const auto exported = Make(this, offer_, *wanted, place);
@@ -212,7 +217,7 @@ void OpenHtmlReport(QWidget* parent, const ExportOffer& offer, const QString& fo
   const QString path =
       folder + Text(page == exported->files.end() ? std::string_view() : page->name);
   if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path))) {
-    ShowFailure(parent, Text("The report \"%1\" was written, but cannot be opened.").arg(path));
+    ShowFailure(parent, Tr("The report \"%1\" was written, but cannot be opened.").arg(path));
   }
 }
 

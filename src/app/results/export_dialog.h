@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "app/base/tr.h"
 #include "interchange/export/run_exports.h"
 
 class QCheckBox;
@@ -22,7 +23,7 @@ struct ExportOffer {
   bool needs_sexes = false;  ///< for most pedigrees, since the run knows none
 
   /// Why no parents can be left out of pedigrees by their probabilities; empty where they can.
-  std::string without_probabilities = {};
+  Phrase without_probabilities = {};
 
   std::function<tl::expected<Exported, Problem>(const WantedExports&, const ExportPlace&)> make =
       {};

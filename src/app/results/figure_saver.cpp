@@ -11,6 +11,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/chart_layout.h"
 #include "app/results/save_file.h"
 
@@ -28,20 +29,20 @@ void FigureSaver::AskSize() {
   constexpr int kLargest = 400;
   QDialog dialog(owner_.window());
   dialog.setObjectName(Text("ChartSize"));
-  dialog.setWindowTitle(Text("Size of saved charts"));
+  dialog.setWindowTitle(Tr("Size of saved charts"));
   auto* const form = new QFormLayout(&dialog);
   const QSize now = Millimetres(SizeOr(shown_().second));
-  const auto add = [&](std::string_view label, std::string_view name, int value) {
+  const auto add = [&](Phrase label, std::string_view name, int value) {
     auto* const field = new QSpinBox;
     field->setObjectName(Text(name));
     field->setRange(kSmallest, kLargest);
-    field->setSuffix(Text(" mm"));
+    field->setSuffix(Tr(" mm"));
     field->setValue(value);
-    form->addRow(Text(label), field);
+    form->addRow(Tr(label), field);
     return field;
   };
-  const QSpinBox* const width = add("&Width", "ChartWidth", now.width());
-  const QSpinBox* const height = add("&Height", "ChartHeight", now.height());
+  const QSpinBox* const width = add(Phrase("&Width"), "ChartWidth", now.width());
+  const QSpinBox* const height = add(Phrase("&Height"), "ChartHeight", now.height());
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
   QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
@@ -53,9 +54,9 @@ void FigureSaver::AskSize() {
 
 void FigureSaver::AskAndSave() const {
   const QString path = AskWhereToSave(
-      owner_.window(), Text("Save chart"), folder_ + QLatin1Char('/') + name_.toLower(),
-      {Text("Vector graphics (*.svg)"), Text("Portable document (*.pdf)"),
-       Text("Picture, 300 dpi (*.png)"), Text("Numbers of the chart (*.csv)")});
+      owner_.window(), Tr("Save chart"), folder_ + QLatin1Char('/') + name_.toLower(),
+      {Tr("Vector graphics (*.svg)"), Tr("Portable document (*.pdf)"),
+       Tr("Picture, 300 dpi (*.png)"), Tr("Numbers of the chart (*.csv)")});
   if (!path.isEmpty()) {
     const auto [figure, natural] = shown_();
     SaveFigure(owner_.window(), figure, path, SizeOr(natural));
@@ -68,13 +69,14 @@ void FigureSaver::CopyPicture() const {
 }
 
 void FigureSaver::AddButtons(QBoxLayout& row) {
-  auto* const save = new QPushButton(Text("Save c&hart..."));
+  auto* const save = new QPushButton(Tr("Save c&hart..."));
   save->setObjectName(name_ + Text("Save"));
-  save->setToolTip(Text("Save the chart for an article (SVG, PDF, PNG) or its numbers (CSV)."));
-  auto* const size = NewButton("Si&ze...", (name_ + Text("Size")).toStdString(),
-                               "Choose the width and the height of a saved chart in millimetres.");
-  auto* const picture = NewButton("Copy p&icture", (name_ + Text("Picture")).toStdString(),
-                                  "Copy the chart as a picture, for a text or a slide.");
+  save->setToolTip(Tr("Save the chart for an article (SVG, PDF, PNG) or its numbers (CSV)."));
+  auto* const size =
+      NewButton(Phrase("Si&ze..."), (name_ + Text("Size")).toStdString(),
+                Phrase("Choose the width and the height of a saved chart in millimetres."));
+  auto* const picture = NewButton(Phrase("Copy p&icture"), (name_ + Text("Picture")).toStdString(),
+                                  Phrase("Copy the chart as a picture, for a text or a slide."));
   for (QPushButton* button : {save, size, picture}) {
     row.addWidget(button);
   }
@@ -85,14 +87,14 @@ void FigureSaver::AddButtons(QBoxLayout& row) {
 
 void FigureSaver::AddMenu(QWidget& widget) {
   widget.setContextMenuPolicy(Qt::ActionsContextMenu);
-  const auto add = [&](std::string_view text, auto act) {
-    auto* const action = new QAction(Text(text), &widget);
+  const auto add = [&](Phrase text, auto act) {
+    auto* const action = new QAction(Tr(text), &widget);
     QObject::connect(action, &QAction::triggered, &owner_, act);
     widget.addAction(action);
   };
-  add("Copy &picture", [this] { CopyPicture(); });
-  add("&Save chart...", [this] { AskAndSave(); });
-  add("Si&ze...", [this] { AskSize(); });
+  add(Phrase("Copy &picture"), [this] { CopyPicture(); });
+  add(Phrase("&Save chart..."), [this] { AskAndSave(); });
+  add(Phrase("Si&ze..."), [this] { AskSize(); });
 }
 
 }  // namespace kaldo

@@ -8,6 +8,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/locus_table.h"
 #include "app/results/result_table.h"
 
@@ -18,18 +19,20 @@ LociUsePage::LociUsePage(const FinishedAllocation& allocation, const QString& fo
     : QWidget(parent) {
   auto* hint = NewHint(nullptr);
   hint->setText(
-      Text("The locus that excludes most pairs of strangers stands first. Many homozygote "
-           "mismatches, a high null allele frequency or a high error rate ask for another look at "
-           "its gels."));
+      Tr("The locus that excludes most pairs of strangers stands first. Many homozygote "
+         "mismatches, a high null allele frequency or a high error rate ask for another look at "
+         "its gels."));
   auto* model = new DataTableModel(this);
   model->SetTable(LocusTable(allocation));
-  auto* table = new ResultTable(Text("What each locus is worth"));
+  auto* table = new ResultTable(Tr("What each locus is worth"));
   table->setObjectName(Text("LociTable"));
   table->setModel(model);
-  auto* copy = NewButton("Copy &rows", "LociCopy",
-                         "Copy the selected loci, or all, with their heads, to be pasted into a "
-                         "spreadsheet (Ctrl+C).");
-  auto* save = NewButton("&Export table...", "LociExport", "Save the table as it is shown (CSV).");
+  auto* copy =
+      NewButton(Phrase("Copy &rows"), "LociCopy",
+                Phrase("Copy the selected loci, or all, with their heads, to be pasted into a "
+                       "spreadsheet (Ctrl+C)."));
+  auto* save = NewButton(Phrase("&Export table..."), "LociExport",
+                         Phrase("Save the table as it is shown (CSV)."));
   auto* row = new QHBoxLayout;
   row->addStretch();
   row->addWidget(copy);

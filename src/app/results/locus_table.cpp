@@ -7,6 +7,7 @@
 
 #include "allocation/reports/loci_report.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "confidence/locus_order.h"
 
 namespace kaldo {
@@ -63,7 +64,9 @@ DataTable LocusTable(const FinishedAllocation& allocation) {
   const QStringList heads = lines.front().split(QLatin1Char('\t'));
   const std::vector<qsizetype> order = OrderOf(heads);
   DataTable table;
-  table.heads = InOrder(heads, order).replaceInStrings(Text("_"), Text(" "));
+  for (QString head : InOrder(heads, order)) {
+    table.heads += TrCore(Bytes(head.replace(QLatin1Char('_'), QLatin1Char(' '))));
+  }
   table.rows.reserve(loci.size() + 1);
   for (const QString& line : lines.mid(1)) {
     table.rows.push_back(InOrder(Cells(line), order));

@@ -13,6 +13,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/mating_figure.h"
 #include "app/results/mating_view.h"
 #include "app/results/result_table.h"
@@ -32,13 +33,14 @@ MatingPage::MatingPage(const SharedAllocation& allocation, const QString& folder
       table_(std::make_shared<const MatingTable>(allocation)),
       show_family_(std::move(show_family)),
       view_(new MatingView(table_)),
-      list_(new ResultTable(Text("Families, the largest first"))),
+      list_(new ResultTable(Tr("Families, the largest first"))),
       find_(new QLineEdit),
       found_count_(new QLabel),
       details_(NewHint(nullptr)),
-      offspring_(NewButton("Show offsp&ring", "MatingsOffspring",
-                           "Show the offspring of the chosen family (Enter, or a double click). A "
-                           "double click on a name shows all of that parent.")),
+      offspring_(
+          NewButton(Phrase("Show offsp&ring"), "MatingsOffspring",
+                    Phrase("Show the offspring of the chosen family (Enter, or a double click). A "
+                           "double click on a name shows all of that parent."))),
       saver_(*this, Text("Matings"), folder,
              [this] { return std::pair(MatingFigure(table_), MatingFigureSize(*table_)); }) {
   LayOut(folder);
@@ -93,21 +95,21 @@ void MatingPage::LayOut(const QString& folder) {
 
 QLayout* MatingPage::NewSearchRow() {
   find_->setObjectName(Text("MatingsFind"));
-  find_->setPlaceholderText(Text("part of a name"));
+  find_->setPlaceholderText(Tr("part of a name"));
   find_->setToolTip(
-      Text("Go to the families of parents and offspring whose name contains this; "
-           "Enter goes to the next."));
+      Tr("Go to the families of parents and offspring whose name contains this; "
+         "Enter goes to the next."));
   find_->setClearButtonEnabled(true);
   found_count_->setObjectName(Text("MatingsFound"));
-  auto* const label = new QLabel(Text("Fi&nd:"));
+  auto* const label = new QLabel(Tr("Fi&nd:"));
   label->setBuddy(find_);
-  auto* const whole = new QCheckBox(Text("&Whole table"));
+  auto* const whole = new QCheckBox(Tr("&Whole table"));
   whole->setObjectName(Text("MatingsWhole"));
-  whole->setToolTip(Text("Make the cells so small that the table is seen at once."));
+  whole->setToolTip(Tr("Make the cells so small that the table is seen at once."));
   connect(find_, &QLineEdit::textChanged, this, [this](const QString& text) {
     found_ = table_->Find(text);
     view_->Mark(found_);
-    found_count_->setText(text.isEmpty() ? QString() : Text("nothing found"));
+    found_count_->setText(text.isEmpty() ? QString() : Tr("nothing found"));
     FindNext(0);
   });
   connect(find_, &QLineEdit::returnPressed, this, [this] { FindNext(shown_ + 1); });
@@ -121,11 +123,12 @@ QLayout* MatingPage::NewSearchRow() {
 }
 
 QLayout* MatingPage::NewButtonRow(const QString& folder) {
-  auto* const copy = NewButton("Copy &table", "MatingsCopy",
-                               "Copy the selected families of the list, or all, with their heads, "
-                               "to be pasted into a spreadsheet.");
-  auto* const save = NewButton("&Export table...", "MatingsExport",
-                               "Save the list of families as comma-separated values.");
+  auto* const copy =
+      NewButton(Phrase("Copy &table"), "MatingsCopy",
+                Phrase("Copy the selected families of the list, or all, with their heads, "
+                       "to be pasted into a spreadsheet."));
+  auto* const save = NewButton(Phrase("&Export table..."), "MatingsExport",
+                               Phrase("Save the list of families as comma-separated values."));
   connect(offspring_, &QPushButton::clicked, this, [this] { ShowOffspring(); });
   connect(copy, &QPushButton::clicked, list_, [this] { list_->CopyRows(); });
   connect(save, &QPushButton::clicked, list_,
@@ -145,7 +148,7 @@ void MatingPage::FindNext(std::size_t from) {
   }
   shown_ = from % found_.size();
   view_->Choose(found_[shown_]);
-  found_count_->setText(Text("%1 of %2 found").arg(shown_ + 1).arg(found_.size()));
+  found_count_->setText(Tr("%1 of %2 found").arg(shown_ + 1).arg(found_.size()));
 }
 
 void MatingPage::ShowChosen() {
@@ -158,7 +161,7 @@ void MatingPage::ShowOffspring() const {
   const auto chosen = view_->Chosen();
   const Family* const family = chosen ? table_->Table().At(chosen->row, chosen->column) : nullptr;
   if (family != nullptr) {
-    show_family_(family->offspring, Text("offspring of ") + table_->PlaceTitle(*chosen));
+    show_family_(family->offspring, Tr("offspring of %1").arg(table_->PlaceTitle(*chosen)));
   }
 }
 
@@ -166,7 +169,7 @@ void MatingPage::ShowOffspringOfLine(int line, bool is_row) const {
   const auto place = static_cast<std::size_t>(line);
   const QStringList& names = is_row ? table_->RowNames() : table_->ColumnNames();
   show_family_(is_row ? table_->OffspringInRow(place) : table_->OffspringInColumn(place),
-               Text("offspring of ") + names.value(line));
+               Tr("offspring of %1").arg(names.value(line)));
 }
 
 }  // namespace kaldo

@@ -8,17 +8,17 @@
 #include "allocation/findings.h"
 #include "allocation/settled_parents.h"
 #include "app/base/text.h"
-#include "base/counted_text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
 namespace {
 
-QString OffspringText(std::size_t count) { return Text(Counted(count, "offspring", "offspring")); }
+QString OffspringText(std::size_t count) { return TrCount("%n offspring", "%n offspring", count); }
 
 QString LineTip(const QString& name, std::size_t offspring, std::size_t mates) {
-  return Text("%1: %2 with %3")
-      .arg(name, OffspringText(offspring), Text(Counted(mates, "mate", "mates")));
+  return Tr("%1: %2 with %3")
+      .arg(name, OffspringText(offspring), TrCount("%n mates", "%n mate", mates));
 }
 
 }  // namespace
@@ -84,8 +84,8 @@ void MatingTable::MakeList() {
     return families[a].offspring.size() > families[b].offspring.size();
   });
   const bool sexed = !families_.is_symmetric;
-  list_.heads = {sexed ? Text("Male") : Text("Parent 1"), sexed ? Text("Female") : Text("Parent 2"),
-                 Text("Offspring"), Text("Only likely"), Text("Names")};
+  list_.heads = {sexed ? Tr("Male") : Tr("Parent 1"), sexed ? Tr("Female") : Tr("Parent 2"),
+                 Tr("Offspring"), Tr("Only likely"), Tr("Names")};
   list_.rows.reserve(order.size());
   list_places_.reserve(order.size());
   for (const std::size_t k : order) {
@@ -103,8 +103,8 @@ void MatingTable::MakeList() {
 }
 
 QString MatingTable::Title() const {
-  return families_.is_symmetric ? Text("Offspring of the parents (rows) with each other (columns)")
-                                : Text("Offspring of males (rows) and females (columns)");
+  return families_.is_symmetric ? Tr("Offspring of the parents (rows) with each other (columns)")
+                                : Tr("Offspring of males (rows) and females (columns)");
 }
 
 QString MatingTable::CellText(MatingPlace place) const {
@@ -117,7 +117,7 @@ QString MatingTable::CellText(MatingPlace place) const {
 }
 
 QString MatingTable::PlaceTitle(MatingPlace place) const {
-  return Text("%1 and %2")
+  return Tr("%1 and %2")
       .arg(row_names_[static_cast<qsizetype>(place.row)],
            column_names_[static_cast<qsizetype>(place.column)]);
 }
@@ -125,7 +125,7 @@ QString MatingTable::PlaceTitle(MatingPlace place) const {
 QString MatingTable::CellTip(MatingPlace place, std::size_t most) const {
   const Family* const family = families_.At(place.row, place.column);
   if (family == nullptr) {
-    return PlaceTitle(place) + Text(": no offspring");
+    return Tr("%1: no offspring").arg(PlaceTitle(place));
   }
   const std::size_t count = family->offspring.size();
   QStringList names;
@@ -134,10 +134,10 @@ QString MatingTable::CellTip(MatingPlace place, std::size_t most) const {
   }
   QString tip = PlaceTitle(place) + Text(": ") + OffspringText(count);
   if (family->likely > 0) {
-    tip += Text(", %1 only likely").arg(family->likely);
+    tip += Tr(", %1 only likely").arg(family->likely);
   }
   tip += Text("\n") + names.join(Text(", "));
-  return count > most ? tip + Text(" and %1 more").arg(count - most) : tip;
+  return count > most ? tip + Tr(" and %1 more").arg(count - most) : tip;
 }
 
 QString MatingTable::RowTip(std::size_t row) const {
@@ -210,12 +210,12 @@ std::vector<MatingPlace> MatingTable::Find(const QString& text) const {
 QString MatingTable::Note() const {
   const bool knows_certainty = KnowsCertainty(allocation_->run.result);
   const std::size_t all = places_.size();
-  QString note = Text("%1 of %2 stand here").arg(all - families_.left_out).arg(OffspringText(all));
+  QString note = Tr("%1 of %2 stand here").arg(all - families_.left_out).arg(OffspringText(all));
   if (families_.left_out > 0) {
-    note += Text("; %1 left out, because %2")
+    note += Tr("; %1 left out, because %2")
                 .arg(families_.left_out)
-                .arg(knows_certainty ? Text("a parent is open")
-                                     : Text("not one pair alone explains them best"));
+                .arg(knows_certainty ? Tr("a parent is open")
+                                     : Tr("not one pair alone explains them best"));
   }
   const auto collected = [](const std::vector<FamilyLine>& lines) {
     return lines.size() - (!lines.empty() && !lines.back().parent ? 1U : 0U);
@@ -223,23 +223,22 @@ QString MatingTable::Note() const {
   const std::size_t parents = allocation_->run.input.NumberOfParents();
   const std::size_t shown =
       collected(families_.rows) + (families_.is_symmetric ? 0 : collected(families_.columns));
-  note += Text(". %1 of %2 collected parents have none of them and are left out, too.")
+  note += Tr(". %1 of %2 collected parents have none of them and are left out, too.")
               .arg(parents - shown)
               .arg(parents);
   if (!knows_certainty) {
-    note += Text(" How sure the pairs are was not computed.");
+    note += Tr(" How sure the pairs are was not computed.");
   }
   return note;
 }
 
 QString MatingTable::Legend() const {
-  QString legend = Text("Number and colour: offspring. UC: not collected.");
+  QString legend = Tr("Number and colour: offspring. UC: not collected.");
   if (has_likely_) {
-    legend +=
-        Text(" %1: some of them are no more than likely.").arg(Text(Sign(Certainty::kLikely)));
+    legend += Tr(" %1: some of them are no more than likely.").arg(Text(Sign(Certainty::kLikely)));
   }
   if (families_.is_symmetric) {
-    legend += Text(" Every pair stands twice, so that a row has all mates of its parent.");
+    legend += Tr(" Every pair stands twice, so that a row has all mates of its parent.");
   }
   return legend;
 }

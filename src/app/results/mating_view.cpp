@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/mating_figure.h"
 
 namespace kaldo {
@@ -150,7 +151,7 @@ QVariant MatingModel::headerData(int section, Qt::Orientation orientation, int r
 MatingView::MatingView(std::shared_ptr<const MatingTable> table, QWidget* parent)
     : QTableView(parent), table_(std::move(table)), model_(new MatingModel(table_, this)) {
   setAccessibleName(table_->Title());
-  setAccessibleDescription(Text("A cell has the number of offspring of two parents. ") +
+  setAccessibleDescription(Tr("A cell has the number of offspring of two parents.") + Text(" ") +
                            table_->Legend());
   setVerticalHeader(new Heads(Qt::Vertical, this));
   setHorizontalHeader(new Heads(Qt::Horizontal, this));

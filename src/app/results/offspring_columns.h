@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "app/base/tr.h"
+
 namespace kaldo {
 
 /// What stands in the columns of the offspring table, first what is read first. Parent 1 and 2 are
@@ -42,9 +44,9 @@ enum class OffspringColumn {
 };
 
 struct OffspringColumnTexts {
-  std::string_view head;
-  std::string_view sexed_head;
-  std::string_view tip;
+  Phrase head;
+  Phrase sexed_head;
+  Phrase tip;
   bool is_numeric = false;
 };
 

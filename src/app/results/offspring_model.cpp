@@ -6,6 +6,7 @@
 #include "allocation/findings.h"
 #include "allocation/reports/result_line.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/allocation_classes.h"
 #include "app/results/data_table.h"
 
@@ -15,9 +16,9 @@ namespace {
 
 using Column = OffspringColumn;
 
-constexpr std::string_view kManyPairsTip =
+constexpr auto kManyPairsTip = Phrase(
     "More than five equally likely pairs were met during the search. The mark stays, also when a "
-    "better pair was found later.";
+    "better pair was found later.");
 
 const AllocatedSide& SideIn(const AllocatedSides& sides, Column column) {
   return SideOf(column) == 1 ? sides.second : sides.first;
@@ -115,7 +116,7 @@ QString OffspringModel::ConfidenceText(Column column, int row) const {
       return CertaintyText(CertaintyOf(*confidence));
     case Column::kVerdict1:
     case Column::kVerdict2:
-      return Text(Label(confidence->sides.at(SideOf(column)).verdict));
+      return TrCore(Label(confidence->sides.at(SideOf(column)).verdict));
     case Column::kCandidate1:
     case Column::kCandidate2:
     case Column::kRunnerUp1:
@@ -194,7 +195,7 @@ QVariant OffspringModel::data(const QModelIndex& index, int role) const {
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
   }
   if (role == Qt::ToolTipRole && column == Column::kPairs && Outcome(index.row()).more_than_five) {
-    return Text(kManyPairsTip);
+    return Tr(kManyPairsTip);
   }
   const bool is_coloured = role == Qt::BackgroundRole || role == Qt::ForegroundRole;
   if (is_coloured && column == Column::kCertainty) {
@@ -213,10 +214,10 @@ QVariant OffspringModel::headerData(int section, Qt::Orientation orientation, in
   const auto column = static_cast<Column>(section);
   const OffspringColumnTexts texts = TextsOf(column);
   if (role == Qt::DisplayRole) {
-    return Text(RunFlow() == Flow::kSexed ? texts.sexed_head : texts.head);
+    return Tr(RunFlow() == Flow::kSexed ? texts.sexed_head : texts.head);
   }
   if (role == Qt::ToolTipRole) {
-    return Text(texts.tip);
+    return Tr(texts.tip);
   }
   if (role == Qt::TextAlignmentRole && TextsOf(column).is_numeric) {
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);

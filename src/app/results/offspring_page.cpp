@@ -10,6 +10,7 @@
 #include "allocation/findings.h"
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/allocation_classes.h"
 #include "app/results/comparison_panel.h"
 #include "app/results/result_table.h"
@@ -21,10 +22,10 @@ namespace {
 
 constexpr SearchableTexts kTexts{
     "Offspring",
-    "Offspring and their parents",
-    "part of a name",
-    "Show only offspring whose name, or the name of a parent, contains this.",
-    "Show only one class of allocations, or those to be looked at twice.",
+    Phrase("Offspring and their parents"),
+    Phrase("part of a name"),
+    Phrase("Show only offspring whose name, or the name of a parent, contains this."),
+    Phrase("Show only one class of allocations, or those to be looked at twice."),
     "offspring.csv"};
 
 }  // namespace
@@ -71,7 +72,7 @@ QWidget* OffspringPage::NewUpperHalf() {
   }
   QStringList meanings;
   for (const Certainty certainty : kAllCertainties) {
-    meanings += CertaintyText(certainty) + Text(": ") + Text(MeaningForOffspring(certainty));
+    meanings += CertaintyText(certainty) + Text(": ") + TrCore(MeaningForOffspring(certainty));
   }
   auto* legend = NewHint(nullptr);
   legend->setObjectName(Text("OffspringLegend"));
@@ -93,7 +94,7 @@ void OffspringPage::AddChoice(const QString& text, const OffspringChoice& choice
 }
 
 void OffspringPage::FillChoices() {
-  AddChoice(Text("all offspring"), {});
+  AddChoice(Tr("all offspring"), {});
   const std::vector<QString> classes = ClassNames(model_->RunFlow());
   for (std::size_t k = 0; k < classes.size(); ++k) {
     OffspringChoice choice;
@@ -102,22 +103,22 @@ void OffspringPage::FillChoices() {
   }
   OffspringChoice several;
   several.only_several_pairs = true;
-  AddChoice(Text("several pairs"), several);
+  AddChoice(Tr("several pairs"), several);
   OffspringChoice none;
   none.only_without_pair = true;
-  AddChoice(Text("no pair"), none);
+  AddChoice(Tr("no pair"), none);
   if (!KnowsCertainty(allocation_->run.result)) {
     return;
   }
   OffspringChoice check;
   check.only_to_check = true;
   to_check_ = static_cast<int>(choices_.size());
-  AddChoice(Text("to check"), check,
-            Text("A parent is open, or what the results say is less probable than not."));
+  AddChoice(Tr("to check"), check,
+            Tr("A parent is open, or what the results say is less probable than not."));
   for (const Certainty certainty : kAllCertainties) {
     OffspringChoice choice;
     choice.certainty = certainty;
-    AddChoice(CertaintyText(certainty), choice, Text(MeaningForOffspring(certainty)));
+    AddChoice(CertaintyText(certainty), choice, TrCore(MeaningForOffspring(certainty)));
   }
 }
 
@@ -142,7 +143,7 @@ void OffspringPage::ShowOffspringOf(Slot parent) {
   OffspringChoice choice;
   choice.parent = parent;
   ShowAsked(choice,
-            Text("offspring of %1").arg(Text(allocation_->run.input.table.Name(parent).Text())));
+            Tr("offspring of %1").arg(Text(allocation_->run.input.table.Name(parent).Text())));
 }
 
 void OffspringPage::ShowSome(std::vector<std::size_t> places, const QString& what) {
@@ -168,7 +169,7 @@ void OffspringPage::Narrow() {
   const QModelIndex current = filter_->mapToSource(list_->Table().currentIndex());
   filter_->Choose(choice);
   list_->Table().setCurrentIndex(filter_->ShownOrFirst(current));
-  list_->SetCount(Text("%1 of %2 offspring").arg(filter_->rowCount()).arg(model_->rowCount()));
+  list_->SetCount(Tr("%1 of %2 offspring").arg(filter_->rowCount()).arg(model_->rowCount()));
   ShowCurrent();
 }
 

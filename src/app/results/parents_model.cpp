@@ -5,6 +5,7 @@
 
 #include "allocation/reports/result_line.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/data_table.h"
 
 namespace kaldo {
@@ -14,30 +15,32 @@ namespace {
 using Column = ParentColumn;
 
 struct ColumnTexts {
-  std::string_view head;
-  std::string_view tip;
+  Phrase head;
+  Phrase tip;
 };
 
 ColumnTexts TextsOf(Column column) {
   switch (column) {
     case Column::kRank:
-      return {"Rank", "Place in the file of the parents, separators counted."};
+      return {Phrase("Rank"), Phrase("Place in the file of the parents, separators counted.")};
     case Column::kParent:
-      return {"Parent", "Name of the collected parent."};
+      return {Phrase("Parent"), Phrase("Name of the collected parent.")};
     case Column::kSex:
-      return {"Sex", "From which file the parent is: of the males or of the females."};
+      return {Phrase("Sex"),
+              Phrase("From which file the parent is: of the males or of the females.")};
     case Column::kOffspring:
-      return {"Offspring", "Offspring that the results allocate to it."};
+      return {Phrase("Offspring"), Phrase("Offspring that the results allocate to it.")};
     case Column::kNamed:
-      return {"Named", "Offspring of which it is named a parent at the level of confidence."};
+      return {Phrase("Named"),
+              Phrase("Offspring of which it is named a parent at the level of confidence.")};
     case Column::kExpected:
-      return {"Expected",
-              "The sum of the probabilities of the allocations to it: so many of them "
-              "are expected to be its own."};
+      return {Phrase("Expected"),
+              Phrase("The sum of the probabilities of the allocations to it: so many of them "
+                     "are expected to be its own.")};
     case Column::kMates:
-      return {"Mates", "Collected parents with whom it has some of them."};
+      return {Phrase("Mates"), Phrase("Collected parents with whom it has some of them.")};
     case Column::kWithUncollected:
-      return {"With UC", "Offspring whose other parent is taken as uncollected."};
+      return {Phrase("With UC"), Phrase("Offspring whose other parent is taken as uncollected.")};
     case Column::kCount:
       break;
   }
@@ -76,7 +79,7 @@ std::size_t ParentsModel::WithoutOffspring() const {
 
 QString ParentsModel::SexName(int row) const {
   const SlotRange females = allocation_->run.input.second_parents;
-  return females.Holds(Parent(row).slot) ? Text("female") : Text("male");
+  return females.Holds(Parent(row).slot) ? Tr("female") : Tr("male");
 }
 
 /// The number of a cell; below all others where it is not known.
@@ -134,10 +137,10 @@ QVariant ParentsModel::headerData(int section, Qt::Orientation orientation, int 
   }
   const auto column = static_cast<Column>(section);
   if (role == Qt::DisplayRole) {
-    return Text(TextsOf(column).head);
+    return Tr(TextsOf(column).head);
   }
   if (role == Qt::ToolTipRole) {
-    return Text(TextsOf(column).tip);
+    return Tr(TextsOf(column).tip);
   }
   if (role == Qt::TextAlignmentRole && !IsText(column)) {
     return kAtRight;

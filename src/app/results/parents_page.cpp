@@ -9,6 +9,7 @@
 #include "allocation/findings.h"
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/parents_model.h"
 #include "app/results/result_table.h"
 #include "app/results/searchable_table.h"
@@ -19,19 +20,18 @@ namespace kaldo {
 namespace {
 
 constexpr SearchableTexts kTexts{"Parents",
-                                 "Collected parents and their offspring",
-                                 "part of a name",
-                                 "Show only parents whose name contains this.",
-                                 "Show only parents with offspring, or without.",
+                                 Phrase("Collected parents and their offspring"),
+                                 Phrase("part of a name"),
+                                 Phrase("Show only parents whose name contains this."),
+                                 Phrase("Show only parents with offspring, or without."),
                                  "parents.csv"};
 
 QString FamiliesText(const AllocationResult& result, std::size_t without, int parents) {
-  QString text =
-      Text("%1 of %2 collected parents have no offspring here.").arg(without).arg(parents);
+  QString text = Tr("%1 of %2 collected parents have no offspring here.").arg(without).arg(parents);
   if (KnowsCertainty(result)) {
     const auto named = NamedParentsOf(result.confidence->offspring);
-    text += Text(" ") + Text(SibshipsSentence(SibshipsOf(named))) + Text("\n") +
-            Text(BreedersSentence(EffectiveBreedersOf(named)));
+    text += Text(" ") + TrCore(SibshipsSentence(SibshipsOf(named))) + Text("\n") +
+            TrCore(BreedersSentence(EffectiveBreedersOf(named)));
   }
   return text;
 }
@@ -46,12 +46,13 @@ ParentsPage::ParentsPage(const SharedAllocation& allocation, const QString& fold
       filter_(new ParentsFilter(*model_, this)),
       list_(new SearchableTable(kTexts, folder)),
       families_(NewHint(nullptr)),
-      offspring_(NewButton("Show its offspr&ing", "ParentsOffspring",
-                           "Show the offspring of the chosen parent (Enter, or a double click).")) {
+      offspring_(NewButton(
+          Phrase("Show its offspr&ing"), "ParentsOffspring",
+          Phrase("Show the offspring of the chosen parent (Enter, or a double click)."))) {
   QComboBox& choices = list_->Choices();
-  choices.addItem(Text("all parents"));
-  choices.addItem(Text("with offspring"));
-  choices.addItem(Text("without offspring"));
+  choices.addItem(Tr("all parents"));
+  choices.addItem(Tr("with offspring"));
+  choices.addItem(Tr("without offspring"));
   LayOut(*allocation);
 }
 
@@ -84,7 +85,7 @@ void ParentsPage::Narrow() {
   const QModelIndex current = filter_->mapToSource(table.currentIndex());
   filter_->Choose(list_->SoughtText(), static_cast<ShownParents>(list_->Choices().currentIndex()));
   table.setCurrentIndex(filter_->ShownOrFirst(current));
-  list_->SetCount(Text("%1 of %2 parents").arg(filter_->rowCount()).arg(model_->rowCount()));
+  list_->SetCount(Tr("%1 of %2 parents").arg(filter_->rowCount()).arg(model_->rowCount()));
   offspring_->setEnabled(filter_->rowCount() > 0);
 }
 

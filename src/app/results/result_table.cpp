@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/copied_rows.h"
 #include "app/results/save_file.h"
 #include "base/number_text.h"
@@ -151,13 +152,13 @@ ResultTable::ResultTable(const QString& name, QWidget* parent) : QTableView(pare
 
 void ResultTable::AddActions() {
   setContextMenuPolicy(Qt::ActionsContextMenu);
-  const auto add = [this](std::string_view text, auto act) {
-    auto* const action = new QAction(Text(text), this);
+  const auto add = [this](Phrase text, auto act) {
+    auto* const action = new QAction(Tr(text), this);
     connect(action, &QAction::triggered, this, act);
     addAction(action);
   };
-  add("&Copy rows", [this] { CopyRows(); });
-  add("Select &all", [this] { selectAll(); });
+  add(Phrase("&Copy rows"), [this] { CopyRows(); });
+  add(Phrase("Select &all"), [this] { selectAll(); });
 }
 
 void ResultTable::setModel(QAbstractItemModel* model) {
@@ -225,8 +226,8 @@ void ResultTable::CopyRows() const {
 }
 
 void ResultTable::ExportRows(const QString& suggested) {
-  const QString path = AskWhereToSave(window(), Text("Export table"), suggested,
-                                      {Text("Comma-separated values (*.csv)")});
+  const QString path = AskWhereToSave(window(), Tr("Export table"), suggested,
+                                      {Tr("Comma-separated values (*.csv)")});
   if (!path.isEmpty()) {
     SaveCsv(path);
   }

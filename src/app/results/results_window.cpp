@@ -19,6 +19,7 @@
 #include "app/base/messages.h"
 #include "app/base/recent_folders.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/version.h"
 
 namespace kaldo {
@@ -49,13 +50,15 @@ ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget
       folder_(std::move(folder)),
       note_(NewHint(nullptr)),
       tabs_(new QTabWidget),
-      copy_command_(new QPushButton(Text("&Copy as command"))),
-      export_(NewButton("E&xport...", "ExportRun",
-                        "Write the results for other programs: tables, a workbook, pedigrees")),
-      html_report_(NewButton("HT&ML report", "HtmlReport",
-                             "Write the results as a page to read and print, and open it")) {
+      copy_command_(new QPushButton(Tr("&Copy as command"))),
+      export_(
+          NewButton(Phrase("E&xport..."), "ExportRun",
+                    Phrase("Write the results for other programs: tables, a workbook, pedigrees"))),
+      html_report_(
+          NewButton(Phrase("HT&ML report"), "HtmlReport",
+                    Phrase("Write the results as a page to read and print, and open it"))) {
   setAttribute(Qt::WA_DeleteOnClose);
-  setWindowTitle(Text("%1 - %2 - results").arg(Text(kProductTitle), PathText(project)));
+  setWindowTitle(Tr("%1 - %2 - results").arg(Text(kProductTitle), PathText(project)));
   tabs_->setObjectName(Text("Tabs"));
   tabs_->setDocumentMode(true);
   auto* layout = new QVBoxLayout(this);
@@ -72,15 +75,15 @@ ResultsWindow::ResultsWindow(const std::string& project, QString folder, QWidget
 }
 
 QWidget* ResultsWindow::ButtonRow() {
-  auto* open = new QPushButton(Text("Open &folder"));
+  auto* open = new QPushButton(Tr("Open &folder"));
   open->setObjectName(Text("OpenFolder"));
-  open->setToolTip(TipText(Text("Show the reports of this run: %1").arg(folder_)));
+  open->setToolTip(TipText(Tr("Show the reports of this run: %1").arg(folder_)));
   copy_command_->setObjectName(Text("CopyCommand"));
   copy_command_->setToolTip(
-      Text("Copy the command line that repeats this run, for a script or a colleague."));
+      Tr("Copy the command line that repeats this run, for a script or a colleague."));
   copy_command_->setEnabled(false);
-  auto* close_button =
-      NewButton("C&lose", "Close", "Close this window. The reports stay in their folder.");
+  auto* close_button = NewButton(Phrase("C&lose"), "Close",
+                                 Phrase("Close this window. The reports stay in their folder."));
 
   auto* row = new QWidget;
   auto* layout = new QHBoxLayout(row);
@@ -94,7 +97,7 @@ QWidget* ResultsWindow::ButtonRow() {
   layout->addWidget(close_button);
   connect(open, &QPushButton::clicked, this, [this] {
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(folder_))) {
-      ShowFailure(this, Text("The folder \"%1\" cannot be opened.").arg(folder_));
+      ShowFailure(this, Tr("The folder \"%1\" cannot be opened.").arg(folder_));
     }
   });
   connect(copy_command_, &QPushButton::clicked, this,

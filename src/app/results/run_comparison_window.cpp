@@ -15,6 +15,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/allocation_classes.h"
 #include "app/results/result_table.h"
 #include "app/results/row_filter.h"
@@ -27,10 +28,10 @@ namespace {
 
 constexpr SearchableTexts kTexts{
     "RunComparison",
-    "Offspring in both runs",
-    "part of a name",
-    "Show only offspring whose name, or the name of a parent in either run, contains this.",
-    "Show only offspring with another pair, all, or those of one run alone.",
+    Phrase("Offspring in both runs"),
+    Phrase("part of a name"),
+    Phrase("Show only offspring whose name, or the name of a parent in either run, contains this."),
+    Phrase("Show only offspring with another pair, all, or those of one run alone."),
     "comparison.csv"};
 
 /// The list of what to show, in its order.
@@ -38,36 +39,36 @@ enum class ShownOffspring { kChanged, kAll, kInOneRun };
 
 /// What stands in the table for one run beside the same of the other.
 struct ComparedColumns {
-  std::vector<std::string_view> heads;
-  std::vector<std::string_view> sexed_heads;
+  std::vector<Phrase> heads;
+  std::vector<Phrase> sexed_heads;
   std::function<QStringList(const RunStatement&)> cells;
 };
 
 std::vector<ComparedColumns> ColumnsOfRuns() {
-  return {{{"Parent 1", "Parent 2"},
-           {"Male", "Female"},
+  return {{{Phrase("Parent 1"), Phrase("Parent 2")},
+           {Phrase("Male"), Phrase("Female")},
            [](const RunStatement& run) {
              return QStringList{Text(run.parents[0]), Text(run.parents[1])};
            }},
-          {{"p right 1", "p right 2"},
-           {"p male right", "p female right"},
+          {{Phrase("p right 1"), Phrase("p right 2")},
+           {Phrase("p male right"), Phrase("p female right")},
            [](const RunStatement& run) {
              return QStringList{ShortNumber(run.p_right[0]), ShortNumber(run.p_right[1])};
            }},
-          {{"Class"},
-           {"Class"},
+          {{Phrase("Class")},
+           {Phrase("Class")},
            [](const RunStatement& run) { return QStringList{Text(run.the_class)}; }},
-          {{"Certainty"}, {"Certainty"}, [](const RunStatement& run) {
+          {{Phrase("Certainty")}, {Phrase("Certainty")}, [](const RunStatement& run) {
              return QStringList{run.certainty ? CertaintyText(*run.certainty) : Text("NA")};
            }}};
 }
 
 QStringList Heads(bool sexed) {
-  QStringList heads{Text("Offspring"), Text("Result")};
+  QStringList heads{Tr("Offspring"), Tr("Result")};
   for (const ComparedColumns& columns : ColumnsOfRuns()) {
-    for (const char* const run : {"This: %1", "Other: %1"}) {
-      for (const std::string_view head : sexed ? columns.sexed_heads : columns.heads) {
-        heads += Text(run).arg(Text(head));
+    for (const Phrase& run : {Phrase("This: %1"), Phrase("Other: %1")}) {
+      for (const Phrase& head : sexed ? columns.sexed_heads : columns.heads) {
+        heads += Tr(run).arg(Tr(head));
       }
     }
   }
@@ -75,10 +76,10 @@ QStringList Heads(bool sexed) {
 }
 
 QString ResultText(const ComparedOffspring& offspring) {
-  return Text(!offspring.first       ? "other run only"
-              : !offspring.second    ? "this run only"
-              : offspring.is_changed ? "another pair"
-                                     : "same pair");
+  return Tr(!offspring.first       ? Phrase("other run only")
+            : !offspring.second    ? Phrase("this run only")
+            : offspring.is_changed ? Phrase("another pair")
+                                   : Phrase("same pair"));
 }
 
 DataTable TableOfComparison(const RunComparison& comparison, const RunStatements& here,
@@ -104,12 +105,12 @@ DataTable TableOfComparison(const RunComparison& comparison, const RunStatements
 }
 
 QString RunsText(const OtherRun& here, const OtherRun& other, const RunComparison& comparison) {
-  QStringList lines{Text("This run: ") + QDir::toNativeSeparators(here.folder),
-                    Text("Other run: ") + QDir::toNativeSeparators(other.folder)};
-  lines += comparison.other_files.empty() ? Text("Both have the same input files.")
-                                          : Text("Their input files differ:");
+  QStringList lines{Tr("This run: %1").arg(QDir::toNativeSeparators(here.folder)),
+                    Tr("Other run: %1").arg(QDir::toNativeSeparators(other.folder))};
+  lines += comparison.other_files.empty() ? Tr("Both have the same input files.")
+                                          : Tr("Their input files differ:");
   for (const std::string& file : comparison.other_files) {
-    lines += Text("- ") + Text(file);
+    lines += Text("- ") + TrCore(file);
   }
   return lines.join(QLatin1Char('\n'));
 }
@@ -164,20 +165,21 @@ RunComparisonWindow::RunComparisonWindow(const OtherRun& here, const OtherRun& o
     : QWidget(parent, Qt::Window), list_(new SearchableTable(kTexts, here.folder)) {
   setAttribute(Qt::WA_DeleteOnClose);
   setObjectName(Text("RunComparison"));
-  setWindowTitle(Text("%1 - two runs compared").arg(Text(kProductTitle)));
+  setWindowTitle(Tr("%1 - two runs compared").arg(Text(kProductTitle)));
   const RunComparison comparison = Compare(here.statements, other.statements);
   auto* const model = new DataTableModel(this);
   model->SetTable(TableOfComparison(comparison, here.statements, other.statements));
   filter_ = new RunComparisonFilter(comparison.offspring, *model);
-  for (const char* const choice : {"another pair", "all offspring", "in one run only"}) {
-    list_->Choices().addItem(Text(choice));
+  for (const Phrase& choice :
+       {Phrase("another pair"), Phrase("all offspring"), Phrase("in one run only")}) {
+    list_->Choices().addItem(Tr(choice));
   }
   ResultTable& table = list_->Table();
   table.setModel(filter_);
   table.setSortingEnabled(true);
   table.sortByColumn(-1, Qt::AscendingOrder);  // as in the files
   table.FitColumns();
-  LayOut(Text(ComparisonSentence(comparison)), RunsText(here, other, comparison));
+  LayOut(TrCore(ComparisonSentence(comparison)), RunsText(here, other, comparison));
   list_->SetOnChoice([this] { Narrow(); });
   Narrow();
   new QShortcut(QKeySequence(Qt::Key_Escape), this, [this] { list_->ClearSought(); });
@@ -196,7 +198,7 @@ void RunComparisonWindow::LayOut(const QString& found, const QString& compared) 
   auto* const runs = NewHint(nullptr);
   runs->setObjectName(Text("RunComparisonRuns"));
   runs->setText(compared);
-  auto* const close_button = NewButton("C&lose", "Close", "Close this window.");
+  auto* const close_button = NewButton(Phrase("C&lose"), "Close", Phrase("Close this window."));
   connect(close_button, &QPushButton::clicked, this, [this] { close(); });
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(sentence);
@@ -209,7 +211,7 @@ void RunComparisonWindow::Narrow() {
   filter_->Choose(list_->SoughtText(),
                   static_cast<ShownOffspring>(list_->Choices().currentIndex()));
   list_->SetCount(
-      Text("%1 of %2 offspring").arg(filter_->rowCount()).arg(filter_->sourceModel()->rowCount()));
+      Tr("%1 of %2 offspring").arg(filter_->rowCount()).arg(filter_->sourceModel()->rowCount()));
 }
 
 }  // namespace kaldo

@@ -7,6 +7,7 @@
 
 #include "app/base/messages.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 
 namespace kaldo {
 
@@ -15,8 +16,7 @@ bool SaveFile(QWidget* parent, const QString& path, const QByteArray& contents) 
   const bool written =
       file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.commit();
   if (!written) {
-    ShowFailure(parent,
-                Text("The file \"%1\" cannot be written: %2").arg(path, file.errorString()));
+    ShowFailure(parent, Tr("The file \"%1\" cannot be written: %2").arg(path, file.errorString()));
   }
   return written;
 }

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/result_table.h"
 
 namespace kaldo {
@@ -16,7 +17,7 @@ namespace kaldo {
 SearchableTable::SearchableTable(const SearchableTexts& texts, const QString& folder,
                                  QWidget* parent)
     : QWidget(parent),
-      table_(new ResultTable(Text(texts.title))),
+      table_(new ResultTable(Tr(texts.title))),
       find_(new QLineEdit),
       choices_(new QComboBox),
       count_(new QLabel) {
@@ -30,16 +31,16 @@ SearchableTable::SearchableTable(const SearchableTexts& texts, const QString& fo
 
 QLayout* SearchableTable::NewChoiceRow(const SearchableTexts& texts) {
   find_->setObjectName(Text(texts.name) + Text("Find"));
-  find_->setPlaceholderText(Text(texts.find_hint));
-  find_->setToolTip(Text(texts.find_help));
+  find_->setPlaceholderText(Tr(texts.find_hint));
+  find_->setToolTip(Tr(texts.find_help));
   find_->setClearButtonEnabled(true);
   choices_->setObjectName(Text(texts.name) + Text("Show"));
-  choices_->setToolTip(Text(texts.show_help));
+  choices_->setToolTip(Tr(texts.show_help));
   count_->setTextFormat(Qt::PlainText);
   count_->setObjectName(Text(texts.name) + Text("Count"));
-  auto* find_label = new QLabel(Text("Fi&nd:"));
+  auto* find_label = new QLabel(Tr("Fi&nd:"));
   find_label->setBuddy(find_);
-  auto* show_label = new QLabel(Text("Sho&w:"));
+  auto* show_label = new QLabel(Tr("Sho&w:"));
   show_label->setBuddy(choices_);
   auto* row = new QHBoxLayout;
   row->addWidget(find_label);
@@ -51,13 +52,13 @@ QLayout* SearchableTable::NewChoiceRow(const SearchableTexts& texts) {
 }
 
 QLayout* SearchableTable::NewButtons(const SearchableTexts& texts, const QString& folder) {
-  auto* copy = new QPushButton(Text("Copy &rows"));
+  auto* copy = new QPushButton(Tr("Copy &rows"));
   copy->setObjectName(Text(texts.name) + Text("Copy"));
   copy->setToolTip(
-      Text("Copy the selected rows with their heads, to be pasted into a spreadsheet (Ctrl+C)."));
-  auto* save = new QPushButton(Text("&Export table..."));
+      Tr("Copy the selected rows with their heads, to be pasted into a spreadsheet (Ctrl+C)."));
+  auto* save = new QPushButton(Tr("&Export table..."));
   save->setObjectName(Text(texts.name) + Text("Export"));
-  save->setToolTip(Text("Save all rows shown, in their order, as comma-separated values."));
+  save->setToolTip(Tr("Save all rows shown, in their order, as comma-separated values."));
   connect(copy, &QPushButton::clicked, this, [this] { table_->CopyRows(); });
   connect(save, &QPushButton::clicked, this,
           [this, path = folder + Text("/") + Text(texts.file)] { table_->ExportRows(path); });

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string_view>
 
+#include "app/base/tr.h"
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -15,11 +17,11 @@ class ResultTable;
 
 /// The words of a SearchableTable.
 struct SearchableTexts {
-  std::string_view name;       ///< begins the object names of all parts
-  std::string_view title;      ///< read out to who cannot see the table
-  std::string_view find_hint;  ///< stands in the empty field
-  std::string_view find_help;
-  std::string_view show_help;
+  std::string_view name;  ///< begins the object names of all parts
+  Phrase title;           ///< read out to who cannot see the table
+  Phrase find_hint;       ///< stands in the empty field
+  Phrase find_help;
+  Phrase show_help;
   std::string_view file;  ///< suggested for an export
 };
 

@@ -5,7 +5,9 @@
 
 #include <fmt/format.h>
 
+#include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "base/number_text.h"
 #include "confidence/intervals.h"
 #include "runs/project_folder.h"
@@ -20,6 +22,20 @@
 namespace kaldo {
 
 namespace {
+
+/// How the lines about a set of parents begin.
+struct SetWords {
+  Phrase collected;
+  Phrase pseudo_collected;
+  Phrase uncollected;
+};
+
+constexpr SetWords kParents{Phrase("collected parents"), Phrase("pseudo-collected parents"),
+                            Phrase("uncollected parents")};
+constexpr SetWords kMales{Phrase("collected males"), Phrase("pseudo-collected males"),
+                          Phrase("uncollected males")};
+constexpr SetWords kFemales{Phrase("collected females"), Phrase("pseudo-collected females"),
+                            Phrase("uncollected females")};
 
 /// A title of the reports as the name of a class: "C X U :" is "C X U".
 QString ClassName(const OriginTexts& texts) {
@@ -38,52 +54,52 @@ void AddParents(const SimulationSettings& settings, Summary& summary) {
   const bool sexed = settings.flow == Flow::kSexed;
   const auto sets = settings.Sets();
   for (std::size_t k = 0; k < sets.size(); ++k) {
-    const std::string who = !sexed ? "parents" : k == 0 ? "males" : "females";
+    const SetWords& words = !sexed ? kParents : k == 0 ? kMales : kFemales;
     const ParentalSet& set = sets[k];
     if (settings.procedure == Procedure::kParental) {
-      summary.lines.emplace_back(Text("collected " + who), PathText(set.collected_file));
+      summary.lines.emplace_back(Tr(words.collected), PathText(set.collected_file));
     } else {
-      summary.lines.emplace_back(Text("pseudo-collected " + who),
-                                 Text(fmt::format("{} drawn from ", set.pseudo_collected)) +
-                                     PathText(set.pseudo_collected_sample));
+      summary.lines.emplace_back(
+          Tr(words.pseudo_collected),
+          Tr("%1 drawn from %2")
+              .arg(NumberText(set.pseudo_collected), PathText(set.pseudo_collected_sample)));
     }
-    summary.lines.emplace_back(
-        Text("uncollected " + who),
-        Text(FormatDouble(set.uncollected) + " drawn from ") + PathText(set.uncollected_sample));
+    summary.lines.emplace_back(Tr(words.uncollected), Tr("%1 drawn from %2")
+                                                          .arg(Text(FormatDouble(set.uncollected)),
+                                                               PathText(set.uncollected_sample)));
   }
-  summary.lines.emplace_back(Text("names of loci file"), PathText(settings.loci_file));
+  summary.lines.emplace_back(Tr("names of loci file"), PathText(settings.loci_file));
 }
 
 void AddFigures(const SimulationSettings& settings, const SimulationRun& run, Summary& summary) {
   const SimulationResult& result = run.result;
   const SimulationInput& input = run.input;
-  const auto add = [&summary](std::string_view label, const std::string& text) {
-    summary.lines.emplace_back(Text(label), Text(text));
+  const auto add = [&summary](const QString& label, const QString& text) {
+    summary.lines.emplace_back(label, text);
   };
-  add("true parents",
-      fmt::format("{} candidates, {} in all", input.candidates.Size(), input.NumberOfParents()));
-  add("pseudo-offspring",
-      fmt::format("{} x {} iterations", input.OffspringPerIteration(), settings.iterations));
-  add("loci in use", fmt::format("{} of {}", input.loci.LociInUse().size(), input.loci.Count()));
-  add("error model", ShortDescription(settings.error_model));
+  add(Tr("true parents"),
+      Tr("%1 candidates, %2 in all").arg(input.candidates.Size()).arg(input.NumberOfParents()));
+  add(Tr("pseudo-offspring"),
+      Tr("%1 x %2 iterations").arg(input.OffspringPerIteration()).arg(settings.iterations));
+  add(Tr("loci in use"), Tr("%1 of %2").arg(input.loci.LociInUse().size()).arg(input.loci.Count()));
+  add(Tr("error model"), TrCore(ShortDescription(settings.error_model)));
   if (settings.flow == Flow::kNonSexed && settings.error_model.kind != ErrorKind::kNoError) {
-    add("allocated with", ShortDescription(AllocationModelOf(settings)));
+    add(Tr("allocated with"), TrCore(ShortDescription(AllocationModelOf(settings))));
   }
-  add("maximal offset tolerance", std::to_string(settings.tolerance.Value()));
-  add("seed", std::to_string(result.seed));
-  add("last loci run", NamesOf(input.loci, result.LastSubset().loci));
+  add(Tr("maximal offset tolerance"), NumberText(settings.tolerance.Value()));
+  add(Tr("seed"), QString::number(result.seed));
+  add(Tr("last loci run"), Text(NamesOf(input.loci, result.LastSubset().loci)));
   if (settings.random == RandomSource::kModern) {
-    add("random numbers", "modern");
+    add(Tr("random numbers"), Tr("modern"));
   }
   if (settings.until_error) {
-    add("iterations run", std::to_string(result.LastSubset().iterations));
+    add(Tr("iterations run"), QString::number(result.LastSubset().iterations));
   }
   const Estimate& any =
       EstimateOfKind(result.LastSubset().estimates.population, AllocationKind::kAny);
-  const std::string error = std::isnan(any.error) ? "NA" : FormatDouble(any.error);
-  add("any allocation correct",
-      fmt::format("{} (estimated probability in the population, standard error {})",
-                  FormatDouble(result.LastSubset().probabilities.any), error));
+  add(Tr("any allocation correct"),
+      Tr("%1 (estimated probability in the population, standard error %2)")
+          .arg(Text(FormatDouble(result.LastSubset().probabilities.any)), NumberOrNone(any.error)));
 }
 
 /// "0.912 (0.88 to 0.95)"
@@ -92,19 +108,22 @@ QString WithInterval(const Estimate& estimate) {
     return Text("NA");
   }
   if (std::isnan(estimate.error)) {
-    return Text(fmt::format("{:.3f} (NA after one iteration)", estimate.value));
+    return Tr("%1 (NA after one iteration)").arg(estimate.value, 0, 'f', 3);
   }
   const Interval interval = NormalInterval(estimate.value, estimate.error);
-  return Text(fmt::format("{:.3f} ({:.3f} to {:.3f})", estimate.value, interval.from, interval.to));
+  return Tr("%1 (%2 to %3)")
+      .arg(estimate.value, 0, 'f', 3)
+      .arg(interval.from, 0, 'f', 3)
+      .arg(interval.to, 0, 'f', 3);
 }
 
 void AddEstimates(const SimulationSettings& settings, const SimulationRun& run, Summary& summary) {
-  summary.headline = Text(SimulationBanner(settings, run.input));
+  summary.headline = TrCore(SimulationBanner(settings, run.input));
   summary.figures_title =
-      Text("Estimated probability to be correct, in the population, with its 95 % interval:");
+      Tr("Estimated probability to be correct, in the population, with its 95 % interval:");
   for (const EstimateKind& kind : EstimateKinds(settings.flow)) {
     summary.figures.emplace_back(
-        Text(kind.words),
+        TrCore(kind.words),
         WithInterval(EstimateOfKind(run.result.LastSubset().estimates.population, kind.kind)));
   }
 }
@@ -114,14 +133,14 @@ void AddSubsets(const SimulationSettings& settings, const SimulationResult& resu
   if (settings.strategy == LociStrategy::kChoice) {
     return;
   }
-  summary.notes += Text(fmt::format("Subsets of loci run: {}.", result.subsets.size()));
+  summary.notes += Tr("Subsets of loci run: %1.").arg(result.subsets.size());
   if (result.criterion_reached) {
-    summary.notes +=
-        Text(fmt::format("The criterion {} has been reached with {} loci.",
-                         FormatDouble(settings.criterion), result.LastSubset().loci.size()));
+    summary.notes += Tr("The criterion %1 has been reached with %2 loci.")
+                         .arg(Text(FormatDouble(settings.criterion)))
+                         .arg(result.LastSubset().loci.size());
   } else if (settings.strategy == LociStrategy::kMinimal) {
     summary.warnings +=
-        Text(fmt::format("No subset reached the criterion {}.", FormatDouble(settings.criterion)));
+        Tr("No subset reached the criterion %1.").arg(Text(FormatDouble(settings.criterion)));
   }
 }
 
@@ -147,7 +166,7 @@ std::vector<Correctness> CorrectnessOf(Flow flow, const SimulationResult& result
     const OriginStatistics& origin = result.origins[k];
     Correctness& correctness = classes.emplace_back();
     correctness.name = ClassName(texts);
-    correctness.text = Text(texts.label_text);
+    correctness.text = TrCore(texts.label_text);
     correctness.offspring = origin.offspring;
     if (!origin.is_empty) {
       correctness.values = origin.correct.values;
@@ -160,25 +179,29 @@ std::vector<Correctness> CorrectnessOf(Flow flow, const SimulationResult& result
 Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
                   const QString& folder) {
   Summary summary;
+  const bool sexed = settings.flow == Flow::kSexed;
+  const bool parental = settings.procedure == Procedure::kParental;
   summary.title =
-      Text(fmt::format("{} simulation, {}{}", settings.flow == Flow::kSexed ? "Sexed" : "Non-sexed",
-                       settings.procedure == Procedure::kParental ? "PARENTAL" : "PRE-PARENTAL",
-                       LastCombinationNote(settings.strategy)));
+      (sexed ? (parental ? Tr("Sexed simulation, PARENTAL") : Tr("Sexed simulation, PRE-PARENTAL"))
+             : (parental ? Tr("Non-sexed simulation, PARENTAL")
+                         : Tr("Non-sexed simulation, PRE-PARENTAL"))) +
+      TrCore(LastCombinationNote(settings.strategy));
   AddEstimates(settings, run, summary);
   AddParents(settings, summary);
   AddFigures(settings, run, summary);
   if (const auto note = AllocatedWithoutErrorsNote(
-          settings, "the choice \"with the same transmission error\" beside the tolerance")) {
-    summary.warnings += Text(*note);
+          settings,
+          Bytes(Tr("the choice \"with the same transmission error\" beside the tolerance")))) {
+    summary.warnings += TrCore(*note);
   }
   for (const std::string& line : WarningLines(run.input.warnings)) {
-    summary.warnings += Text(line);
+    summary.warnings += TrCore(line);
   }
   if (run.result.stepping.any_out_of_step) {
-    summary.warnings += Text(kSteppingSentence);
+    summary.warnings += TrCore(kSteppingSentence);
   }
   AddSubsets(settings, run.result, summary);
-  summary.files_title = Text("Files in \"%1\"").arg(folder);
+  summary.files_title = Tr("Files in \"%1\"").arg(folder);
   summary.files = FilesPresent(folder, FilesOf(TextsOf(settings.flow)));
   return summary;
 }
@@ -186,10 +209,10 @@ Summary SummaryOf(const SimulationSettings& settings, const SimulationRun& run,
 BarChart CorrectnessChart(const SimulationSettings& settings,
                           const std::vector<Correctness>& classes) {
   BarChart chart;
-  chart.texts = {Text("Correct decisions by origin of the offspring") +
-                     Text(LastCombinationNote(settings.strategy)),
-                 Text("true parents"), Text("correct, mean and sd"), true};
-  chart.series.name = Text("correct");
+  chart.texts = {Tr("Correct decisions by origin of the offspring") +
+                     TrCore(LastCombinationNote(settings.strategy)),
+                 Tr("true parents"), Tr("correct, mean and sd"), true};
+  chart.series.name = Tr("correct");
   for (const Correctness& of_class : classes) {
     chart.categories.push_back(of_class.name);
     ChartValue value;
@@ -203,7 +226,7 @@ BarChart CorrectnessChart(const SimulationSettings& settings,
 }
 
 DataTable CorrectnessTable(const std::vector<Correctness>& classes) {
-  DataTable table{{Text("true parents"), Text("offspring"), Text("correct"), Text("sd")}, {}};
+  DataTable table{{Tr("true parents"), Tr("offspring"), Tr("correct"), Tr("sd")}, {}};
   for (const Correctness& of_class : classes) {
     std::optional<double> mean;
     std::optional<double> deviation;
@@ -219,44 +242,44 @@ DataTable CorrectnessTable(const std::vector<Correctness>& classes) {
 
 LineChart SequenceChart(Flow flow, const SimulationRun& run) {
   LineChart chart;
-  chart.texts = {Text("Correct allocations in the population, by number of loci"), Text("loci"),
-                 Text("estimated probability"), true};
-  chart.label_title = Text("added");
+  chart.texts = {Tr("Correct allocations in the population, by number of loci"), Tr("loci"),
+                 Tr("estimated probability"), true};
+  chart.label_title = Tr("added");
   for (const SubsetFigures& subset : run.result.subsets) {
     chart.positions.push_back(static_cast<double>(subset.loci.size()));
     chart.labels.push_back(Text("+ ") + Text(run.input.loci.Name(subset.loci.back())));
   }
-  const auto add = [&](const std::string& name, std::size_t scope, AllocationKind kind) {
-    ChartSeries& series = chart.series.emplace_back(ChartSeries{Text(name), {}});
+  const auto add = [&](const QString& name, std::size_t scope, AllocationKind kind) {
+    ChartSeries& series = chart.series.emplace_back(ChartSeries{name, {}});
     for (const SubsetFigures& subset : run.result.subsets) {
       const Estimate& estimate = EstimateOfKind(EstimatesIn(subset.estimates, scope), kind);
       series.values.push_back({NumberIfAny(estimate.value), {}});
     }
   };
   for (const EstimateKind& kind : EstimateKinds(flow)) {
-    add(kind.column, 0, kind.kind);
+    add(TrCore(kind.column), 0, kind.kind);
   }
-  add("any, of these pseudo-offspring", 1, AllocationKind::kAny);
+  add(Tr("any, of these pseudo-offspring"), 1, AllocationKind::kAny);
   return chart;
 }
 
 BarChart EstimatesChart(const SimulationSettings& settings, const SimulationResult& result) {
   BarChart chart;
-  chart.texts = {Text("Estimated probability to be correct, in the population") +
-                     Text(LastCombinationNote(settings.strategy)),
-                 Text("allocation"), Text("mean and sd"), true};
-  chart.series.name = Text("correct");
+  chart.texts = {Tr("Estimated probability to be correct, in the population") +
+                     TrCore(LastCombinationNote(settings.strategy)),
+                 Tr("allocation"), Tr("mean and sd"), true};
+  chart.series.name = Tr("correct");
   for (const EstimateKind& kind : EstimateKinds(settings.flow)) {
     const Estimate& estimate = EstimateOfKind(result.LastSubset().estimates.population, kind.kind);
-    chart.categories.push_back(Text(kind.column));
+    chart.categories.push_back(TrCore(kind.column));
     chart.series.values.push_back({NumberIfAny(estimate.value), NumberIfAny(estimate.deviation)});
   }
   return chart;
 }
 
 DataTable EstimatesTable(Flow flow, const SimulationResult& result) {
-  DataTable table{{Text("pseudo-offspring"), Text("allocation"), Text("correct"), Text("sd"),
-                   Text("se"), Text("from"), Text("to")},
+  DataTable table{{Tr("pseudo-offspring"), Tr("allocation"), Tr("correct"), Tr("sd"), Tr("se"),
+                   Tr("from"), Tr("to")},
                   {}};
   const auto scopes = EstimateScopes(flow);
   for (std::size_t scope = 0; scope < scopes.size(); ++scope) {
@@ -266,7 +289,7 @@ DataTable EstimatesTable(Flow flow, const SimulationResult& result) {
       const bool exact = !std::isnan(estimate.value) && !std::isnan(estimate.error);
       const Interval interval = exact ? NormalInterval(estimate.value, estimate.error)
                                       : Interval{Estimate::kNone, Estimate::kNone};
-      table.rows.push_back({Text(scopes[scope].brief), Text(kind.words),
+      table.rows.push_back({TrCore(scopes[scope].brief), TrCore(kind.words),
                             NumberOrNone(estimate.value), NumberOrNone(estimate.deviation),
                             NumberOrNone(estimate.error), NumberOrNone(interval.from),
                             NumberOrNone(interval.to)});

@@ -2,6 +2,7 @@
 #include "app/results/simulation_window.h"
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/chart_panel.h"
 #include "app/results/finished_runs.h"
 #include "app/results/simulation_summary.h"
@@ -26,22 +27,22 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
   AddTab(new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
                          CorrectnessChart(shared->settings, classes), CorrectnessTable(classes),
                          Folder()),
-         Text("&Summary"), Text("What was simulated, and how often decisions were correct."));
-  AddTab(new SpreadPage(classes, Text(LastCombinationNote(strategy)), Folder()), Text("S&pread"),
-         Text("How much the share of correct decisions varies between iterations."));
+         Tr("&Summary"), Tr("What was simulated, and how often decisions were correct."));
+  AddTab(new SpreadPage(classes, TrCore(LastCombinationNote(strategy)), Folder()), Tr("S&pread"),
+         Tr("How much the share of correct decisions varies between iterations."));
   auto* estimates = new ChartPanel(Text("Estimates"), Qt::Vertical, Folder(), nullptr);
   estimates->Show(EstimatesChart(shared->settings, shared->run.result),
                   EstimatesTable(shared->settings.flow, shared->run.result));
-  AddTab(estimates, Text("&Estimates"),
-         Text("Every estimated probability that an allocation is correct, and how exact it is."));
+  AddTab(estimates, Tr("&Estimates"),
+         Tr("Every estimated probability that an allocation is correct, and how exact it is."));
   if (strategy == LociStrategy::kCumulative) {
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Vertical, Folder(), nullptr);
     sequence->Show(SequenceChart(shared->settings.flow, shared->run));
-    AddTab(sequence, Text("Se&quence"), Text("What each further locus adds."));
+    AddTab(sequence, Tr("Se&quence"), Tr("What each further locus adds."));
   }
   if (strategy == LociStrategy::kAll || strategy == LociStrategy::kMinimal) {
-    AddTab(new SubsetPage(shared, Folder()), Text("Su&bsets"),
-           Text("Which loci, and how many, are enough."));
+    AddTab(new SubsetPage(shared, Folder()), Tr("Su&bsets"),
+           Tr("Which loci, and how many, are enough."));
   }
 }
 

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/chart_panel.h"
 
 namespace kaldo {
@@ -20,7 +21,7 @@ SpreadPage::SpreadPage(std::vector<Correctness> classes, QString note, const QSt
       figures_(new QLabel),
       panel_(new ChartPanel(Text("Spread"), Qt::Horizontal, folder, nullptr)) {
   class_->setObjectName(Text("SpreadClass"));
-  class_->setToolTip(Text("The origin of the pseudo-offspring: which true parents are collected."));
+  class_->setToolTip(Tr("The origin of the pseudo-offspring: which true parents are collected."));
   for (const Correctness& of_class : classes_) {
     class_->addItem(of_class.name);
   }
@@ -28,7 +29,7 @@ SpreadPage::SpreadPage(std::vector<Correctness> classes, QString note, const QSt
   figures_->setObjectName(Text("SpreadFigures"));
   figures_->setWordWrap(true);
   figures_->setTextFormat(Qt::PlainText);
-  auto* label = new QLabel(Text("Cl&ass:"));
+  auto* label = new QLabel(Tr("Cl&ass:"));
   label->setBuddy(class_);
   auto* row = new QHBoxLayout;
   row->addWidget(label);
@@ -45,17 +46,17 @@ SpreadPage::SpreadPage(std::vector<Correctness> classes, QString note, const QSt
 void SpreadPage::ShowClass() {
   const Correctness& chosen = classes_[static_cast<std::size_t>(class_->currentIndex())];
   SpreadChart chart;
-  chart.texts = {Text("Correct decisions by iteration: %1%2").arg(chosen.name, note_),
-                 Text("iteration"), Text("correct"), false};
+  chart.texts = {Tr("Correct decisions by iteration: %1%2").arg(chosen.name, note_),
+                 Tr("iteration"), Tr("correct"), false};
   chart.values = chosen.values;
   if (chosen.spread) {
     chart.mean = chosen.spread->mean;
     chart.deviation = chosen.spread->deviation;
-    figures_->setText(Text("mean %1, sd %2 (%3; %4 pseudo-offspring per iteration)")
+    figures_->setText(Tr("mean %1, sd %2 (%3; %4 pseudo-offspring per iteration)")
                           .arg(ShortNumber(chart.mean), ShortNumber(chart.deviation), chosen.text,
                                QString::number(chosen.offspring)));
   } else {
-    figures_->setText(Text("NA: the class has no pseudo-offspring (%1)").arg(chosen.text));
+    figures_->setText(Tr("NA: the class has no pseudo-offspring (%1)").arg(chosen.text));
   }
   panel_->Show(chart);
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/data_table.h"
 #include "app/results/simulation_summary.h"
 #include "simulation/reports/estimate_texts.h"
@@ -144,7 +145,7 @@ QString SubsetModel::CellText(Column column, std::size_t subset) const {
     case Column::kError:
       return std::isnan(ErrorOf(subset)) ? Text("NA") : ShortNumber(ErrorOf(subset));
     case Column::kBest:
-      return IsBest(subset) ? Text("\u2605 best of %1").arg(loci.size()) : QString();
+      return IsBest(subset) ? Tr("\u2605 best of %1").arg(loci.size()) : QString();
     default:
       return Text(NamesOf(simulation_->run.input.loci, loci));
   }
@@ -165,26 +166,28 @@ QVariant SubsetModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant SubsetModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  static constexpr std::array<std::string_view, 7> kHeads = {"No.", "Rank", "Loci", "Any correct",
-                                                             "se",  "Best", "Names"};
-  static constexpr std::array<std::string_view, 7> kTips = {
-      "Place in the order of the run.",
-      "Place when the subset with which allocations are most often correct comes first; of equals "
-      "that of fewer loci.",
-      "Number of loci.",
-      "Estimated probability that any allocation is correct, in the population.",
-      "Standard error of the estimated probability.",
-      "Which subset of its size makes allocations most often correct; the first of equals.",
-      "The loci of the subset."};
+  static constexpr std::array<Phrase, 7> kHeads = {
+      Phrase("No."), Phrase("Rank"), Phrase("Loci"), Phrase("Any correct"),
+      Phrase("se"),  Phrase("Best"), Phrase("Names")};
+  static constexpr std::array<Phrase, 7> kTips = {
+      Phrase("Place in the order of the run."),
+      Phrase("Place when the subset with which allocations are most often correct comes first; of "
+             "equals "
+             "that of fewer loci."),
+      Phrase("Number of loci."),
+      Phrase("Estimated probability that any allocation is correct, in the population."),
+      Phrase("Standard error of the estimated probability."),
+      Phrase("Which subset of its size makes allocations most often correct; the first of equals."),
+      Phrase("The loci of the subset.")};
   if (orientation != Qt::Horizontal) {
     return {};
   }
   const auto place = static_cast<std::size_t>(section);
   if (role == Qt::DisplayRole) {
-    return Text(kHeads.at(place));
+    return Tr(kHeads.at(place));
   }
   if (role == Qt::ToolTipRole) {
-    return Text(kTips.at(place));
+    return Tr(kTips.at(place));
   }
   if (role == Qt::TextAlignmentRole && static_cast<Column>(section) <= Column::kError) {
     return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/chart_panel.h"
 #include "app/results/result_table.h"
 #include "app/results/searchable_table.h"
@@ -22,22 +23,22 @@ namespace {
 constexpr int kOnlyBest = -1;
 constexpr int kAllSizes = 0;
 
-constexpr SearchableTexts kTexts{
-    "Subsets",
-    "Subsets of loci",
-    "names of loci",
-    "Show only subsets that contain all these loci, with blanks between them; parts of names will "
-    "do.",
-    "Show only subsets of one size, or the best of each.",
-    "subsets.csv"};
+constexpr SearchableTexts kTexts{"Subsets",
+                                 Phrase("Subsets of loci"),
+                                 Phrase("names of loci"),
+                                 Phrase("Show only subsets that contain all these loci, with "
+                                        "blanks between them; parts of names will "
+                                        "do."),
+                                 Phrase("Show only subsets of one size, or the best of each."),
+                                 "subsets.csv"};
 
 ChartPanel* BestPanel(const FinishedSimulation& simulation, const SubsetModel& model,
                       const QString& folder) {
   LineChart chart;
-  chart.texts = {Text("Any allocation correct, best subset of each size"), Text("loci"),
-                 Text("estimated probability"), true};
-  ChartSeries series{Text("any allocation correct"), {}};
-  DataTable table{{Text("loci"), Text("any correct"), Text("best subset"), Text("se")}, {}};
+  chart.texts = {Tr("Any allocation correct, best subset of each size"), Tr("loci"),
+                 Tr("estimated probability"), true};
+  ChartSeries series{Tr("any allocation correct"), {}};
+  DataTable table{{Tr("loci"), Tr("any correct"), Tr("best subset"), Tr("se")}, {}};
   for (const auto& [size, place] : model.Best()) {
     const SubsetFigures& best = simulation.run.result.subsets[place];
     const double correct = best.probabilities.any;
@@ -61,11 +62,10 @@ SubsetPage::SubsetPage(const SharedSimulation& simulation, const QString& folder
       model_(new SubsetModel(simulation, this)),
       list_(new SearchableTable(kTexts, folder)) {
   QComboBox& choices = list_->Choices();
-  choices.addItem(Text("all subsets"), kAllSizes);
-  choices.addItem(Text("best of each size"), kOnlyBest);
+  choices.addItem(Tr("all subsets"), kAllSizes);
+  choices.addItem(Tr("best of each size"), kOnlyBest);
   for (const auto& [size, place] : model_->Best()) {
-    choices.addItem(size == 1 ? Text("1 locus") : Text("%1 loci").arg(size),
-                    static_cast<int>(size));
+    choices.addItem(TrCount("%n loci", "%n locus", size), static_cast<int>(size));
   }
   ResultTable& table = list_->Table();
   table.setModel(model_);
@@ -96,7 +96,7 @@ void SubsetPage::Narrow() {
     choice.size = static_cast<std::size_t>(chosen);
   }
   model_->Choose(choice);
-  list_->SetCount(Text("%1 of %2 subsets").arg(model_->rowCount()).arg(model_->AllSubsets()));
+  list_->SetCount(Tr("%1 of %2 subsets").arg(model_->rowCount()).arg(model_->AllSubsets()));
 }
 
 }  // namespace kaldo

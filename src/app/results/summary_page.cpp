@@ -11,6 +11,7 @@
 
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
+#include "app/base/tr.h"
 #include "app/results/chart_panel.h"
 
 namespace kaldo {
@@ -46,8 +47,9 @@ QString FilesHtml(const Summary& summary) {
 
 QString HtmlOf(const Summary& summary, bool with_settings) {
   QString html = Text("<h3>%1</h3>").arg(summary.title.toHtmlEscaped());
-  const QString found = Paragraphs(Text("<b>&#9888; Warning:</b> "), summary.warnings) +
-                        Paragraphs(QString(), summary.notes);
+  const QString found =
+      Paragraphs(Text("<b>&#9888; %1</b> ").arg(Tr("Warning:")), summary.warnings) +
+      Paragraphs(QString(), summary.notes);
   if (summary.headline.isEmpty()) {
     return html + TableHtml(summary.lines) + found + FilesHtml(summary);
   }
@@ -77,12 +79,13 @@ SummaryPage::SummaryPage(Summary summary, const Chart& chart, const DataTable& t
       summary_(std::move(summary)),
       text_(new QTextBrowser),
       to_check_(new QListWidget),
-      more_(NewButton("Files an&d settings", "SummaryMore",
-                      "Show which files and settings this run had, and what it wrote.")),
-      trial_(NewButton("How far can this be tr&usted?", "SummaryTrial",
-                       "Simulate offspring of these parents, whose origin is known, and see how "
-                       "often such allocations are right. The screens are filled in for you; the "
-                       "figures come back here.")) {
+      more_(NewButton(Phrase("Files an&d settings"), "SummaryMore",
+                      Phrase("Show which files and settings this run had, and what it wrote."))),
+      trial_(NewButton(
+          Phrase("How far can this be tr&usted?"), "SummaryTrial",
+          Phrase("Simulate offspring of these parents, whose origin is known, and see how "
+                 "often such allocations are right. The screens are filled in for you; the "
+                 "figures come back here."))) {
   auto* figures = new ChartPanel(Text("Summary"), Qt::Vertical, folder, nullptr);
   figures->Show(chart, table);
   auto* splitter = new QSplitter;
@@ -99,18 +102,18 @@ SummaryPage::SummaryPage(Summary summary, const Chart& chart, const DataTable& t
 
 QWidget* SummaryPage::NewTextSide() {
   text_->setObjectName(Text("SummaryText"));
-  text_->setAccessibleName(Text("Summary of the run"));
+  text_->setAccessibleName(Tr("Summary of the run"));
   text_->setTabChangesFocus(true);
   text_->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
   to_check_->setObjectName(Text("SummaryToCheck"));
-  to_check_->setAccessibleName(Text("Offspring to check"));
-  to_check_->setToolTip(Text("Choose a line to see the offspring, locus by locus."));
+  to_check_->setAccessibleName(Tr("Offspring to check"));
+  to_check_->setToolTip(Tr("Choose a line to see the offspring, locus by locus."));
   to_check_->addItems(summary_.to_check);
   to_check_->setWordWrap(true);
   to_check_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   to_check_->setMaximumHeight((kMostLines + 1) * fontMetrics().lineSpacing() * 4 / 3);
   more_->setCheckable(true);
-  auto* label = new QLabel(Text("To chec&k:"));
+  auto* label = new QLabel(Tr("To chec&k:"));
   label->setBuddy(to_check_);
   auto* side = new QWidget;
   auto* layout = new QVBoxLayout(side);
