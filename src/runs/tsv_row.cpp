@@ -7,9 +7,7 @@
 
 namespace kaldo {
 
-double AsTold(double number) {
-  return ParseDouble(fmt::format("{:.8g}", number)).value_or(number);
-}
+double AsTold(double number) { return ParseDouble(fmt::format("{:.8g}", number)).value_or(number); }
 
 TsvRow& TsvRow::Plain(std::string_view word) {
   if (!text_.empty()) {
