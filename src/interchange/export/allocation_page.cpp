@@ -5,20 +5,18 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
-#include <map>
 
 #include <fmt/format.h>
 
 #include "allocation/allocation_confidence.h"
 #include "allocation/findings.h"
-#include "allocation/parent_summary.h"
 #include "base/counted_text.h"
 #include "base/path_text.h"
 #include "base/version.h"
-#include "confidence/certainty.h"
 #include "confidence/confidence_summary.h"
 #include "confidence/effective_breeders.h"
 #include "confidence/intervals.h"
+#include "interchange/export/allocation_charts.h"
 #include "interchange/export/allocation_tables.h"
 #include "interchange/export/html_text.h"
 #include "interchange/export/told_settings.h"
@@ -63,14 +61,14 @@ std::string Section(std::string_view title, const std::string& contents) {
 
 std::string Paragraph(std::string_view text) { return fmt::format("<p>{}</p>\n", HtmlText(text)); }
 
+std::string Drawn(const CaptionedChart& chart) {
+  return BarChart(chart.title, chart.bars) + Paragraph(chart.caption);
+}
+
 std::string Percent(double share) { return fmt::format("{:.1f} %", 100 * share); }
 
 std::string Within(Interval interval) {
   return fmt::format("95 % interval {} to {}", Percent(interval.from), Percent(interval.to));
-}
-
-Bar Verdicts(Certainty certainty, std::size_t sides) {
-  return {std::string(Word(certainty)), static_cast<double>(sides)};
 }
 
 /// The page of one allocation, section by section.
@@ -156,81 +154,16 @@ class Page {
         {"", "", {"read", "found"}, rows.size(), [&rows](std::size_t row) { return rows[row]; }});
   }
 
-  std::string Classes() const {
-    std::vector<Bar> bars;
-    for (const AllocationShare& share : result_.LastShares().pairs) {
-      bars.push_back({std::string(share.name), share.number});
-    }
-    return BarChart("Offspring by the allocation of both parents", bars) +
-           Paragraph(fmt::format("Offspring by the allocation of both parents. {}",
-                                 ClassLegend(study_.Settings().flow)));
-  }
+  std::string Classes() const { return Drawn(ClassChart(study_)); }
 
   std::string Probabilities() const {
     if (!summary_) {
       return Paragraph("Probabilities were not computed.");
     }
-    const double level = study_.Settings().confidence.level;
-    const std::array<Bar, 4> verdicts{{Verdicts(Certainty::kSure, summary_->surely_named),
-                                       Verdicts(Certainty::kLikely, summary_->named),
-                                       Verdicts(Certainty::kOpen, summary_->open),
-                                       Verdicts(Certainty::kUncollected, summary_->uncollected)}};
-    std::string text = BarChart("Sides by verdict", verdicts);
-    text += Paragraph(fmt::format(
-        "Sides, two per offspring, by what can be said of their parent at a level of {:g}: {} "
-        "where "
-        "it is named at {:g} or more, {} where it is named with less.",
-        level, Word(Certainty::kSure), std::max(level, kSureLevel), Word(Certainty::kLikely)));
-    text += BarChart("Allocations by probability", ByProbability());
-    return text +
-           Paragraph(fmt::format(
-               "Allocations to a collected parent by the probability that they are right. "
-               "Of these {} sides, {} have a probability below {:g}, and {:.1f} are expected "
-               "to be wrong.",
-               summary_->reported, summary_->reported_improbable, kImprobable,
-               summary_->wrong_reported));
+    return Drawn(VerdictChart(study_, *summary_)) + Drawn(ProbabilityChart(study_, *summary_));
   }
 
-  std::vector<Bar> ByProbability() const {
-    constexpr std::array<double, 5> kFrom = {0, 0.5, 0.8, 0.95, 0.99};
-    std::vector<Bar> bars(kFrom.size());
-    for (std::size_t k = 0; k < kFrom.size(); ++k) {
-      bars[k].label = k + 1 < kFrom.size()
-                          ? fmt::format("{:g} to {:g}", kFrom.at(k), kFrom.at(k + 1))
-                          : fmt::format("{:g} to 1", kFrom.at(k));
-    }
-    for (std::size_t place = 0; place < study_.NumberOfOffspring(); ++place) {
-      for (const ExportedSide& side : study_.Offspring(place).sides) {
-        if (side.Parent() && side.probability) {
-          const auto* const above = std::upper_bound(kFrom.begin(), kFrom.end(), *side.probability);
-          bars[static_cast<std::size_t>(above - kFrom.begin()) - 1].value += 1;
-        }
-      }
-    }
-    return bars;
-  }
-
-  std::string OffspringPerParent() const {
-    constexpr std::size_t kMostBars = 30;
-    std::map<std::size_t, std::size_t> parents_by_offspring;
-    for (const ParentSummary& parent :
-         SummariesOfParents(study_.Settings().flow, input_, result_)) {
-      ++parents_by_offspring[parent.offspring];
-    }
-    std::vector<Bar> bars;
-    for (const auto& [offspring, parents] : parents_by_offspring) {
-      if (bars.size() < kMostBars) {
-        bars.push_back(
-            {Counted(offspring, "offspring", "offspring"), static_cast<double>(parents)});
-      } else {
-        bars.back().label = "more offspring";
-        bars.back().value += static_cast<double>(parents);
-      }
-    }
-    return BarChart("Collected parents by their number of offspring", bars) +
-           Paragraph("Collected parents by the number of offspring allocated to them.") +
-           Families();
-  }
+  std::string OffspringPerParent() const { return Drawn(ParentsChart(study_)) + Families(); }
 
   std::string Families() const {
     if (!summary_) {
