@@ -88,19 +88,6 @@ QString OffsetText(LocusFit fit, UnitDistances offset) {
 
 }  // namespace
 
-LocusFit FitOf(const LocusComparison& locus, UnitDistances offset, OffsetTolerance tolerance) {
-  if (locus.offspring.IsMissing()) {
-    return LocusFit::kUnsaid;
-  }
-  if (locus.condition == LocusCondition::kOneToEach) {
-    return LocusFit::kUnmeasured;
-  }
-  if (offset.Value() == 0) {
-    return LocusFit::kExact;
-  }
-  return ExceedsTolerance(offset, tolerance) ? LocusFit::kExcluded : LocusFit::kTolerated;
-}
-
 QString SignOf(LocusFit fit) {
   switch (fit) {
     case LocusFit::kUnsaid:

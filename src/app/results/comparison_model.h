@@ -8,6 +8,7 @@
 
 #include "app/results/chart_theme.h"
 #include "app/results/finished_runs.h"
+#include "method/locus_fit.h"
 
 namespace kaldo {
 
@@ -29,18 +30,6 @@ enum class ComparisonColumn {
   kUnit,  ///< the unit distance of the locus
   kCount,
 };
-
-/// How well one parent explains an offspring at one locus.
-enum class LocusFit {
-  kUnsaid,      ///< the locus is missing in the offspring
-  kExact,       ///< what it should have transmitted is there
-  kUnmeasured,  ///< both parents carry the same allele; the other one comes from nowhere
-  kTolerated,   ///< an offset, not above the tolerance: a presumed error
-  kExcluded,    ///< an offset above the tolerance: the parent is UC
-};
-
-/// `offset` is that of the parent in question.
-LocusFit FitOf(const LocusComparison& locus, UnitDistances offset, OffsetTolerance tolerance);
 
 /// The sign before every offset, for whoever does not see the colours: "✓ 0", "≈ 1", "✗ 3".
 QString SignOf(LocusFit fit);
