@@ -80,6 +80,7 @@ TEST_F(PageSessionTest, RunsWriteWhatTheCommandLineWrites) {
   trial["typed"].update({{"project", "trial"},
                          {"iterations", "3"},
                          {"seed", "7"},
+                         {"keep", "offspring"},
                          {"offspring_per_iteration", "40"}});
   const Json simulated = Ask(Request("run", "simulation", trial["typed"]));
   ASSERT_FALSE(simulated.contains("problem")) << simulated;
@@ -90,7 +91,7 @@ TEST_F(PageSessionTest, RunsWriteWhatTheCommandLineWrites) {
       << command;
   const Json recorded = Ask({{"ask", "record"}, {"file", "trial/Run record.toml"}});
   EXPECT_EQ(recorded["kind"], "simulation");
-  EXPECT_EQ(recorded["typed"], trial["typed"]);
+  EXPECT_EQ(recorded["typed"].get<TypedSettings>(), trial["typed"].get<TypedSettings>());
   EXPECT_EQ(reports, TakeReports(folder_, "trial"));
 }
 
