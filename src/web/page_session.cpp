@@ -243,7 +243,9 @@ Json PageSession::Trial() const {
   if (!trial) {
     return ProblemJson(trial.error());
   }
-  return TypedJson(trial->settings);
+  Json told = TypedJson(trial->settings);
+  told["note"] = trial->note;
+  return told;
 }
 
 Json PageSession::Export(const Json& request) const {

@@ -16,15 +16,15 @@ namespace kaldo {
 /// in the working folder and the results of the last run in memory. Requests and answers are JSON;
 /// a request has its name in "ask":
 ///
-/// - "form": the settings of "kind" (allocation, simulation, import) beside what was "typed" so
-/// far;
+/// - "form": the settings of "kind" (allocation, simulation, import) beside what is "typed" by now;
 /// - "look": what a "file" of another program holds, null for one of this program;
 /// - "check": all that is wrong with what was typed, and the loci of its files, as `kaldo check`
 ///   tells them;
 /// - "run": runs what was typed, writes its files, and tells what came out;
 /// - "table", "offspring": tables of the results, one offspring locus by locus;
 /// - "record": the settings, as typed, of the run that a "file" records, and its "kind";
-/// - "trial": the settings, as typed, of a simulation like the allocation that was run;
+/// - "trial": the settings, as typed, of a simulation like the allocation that was run, and where
+///   fewer parents are drawn than the estimate asks for, a "note" that says so, else empty;
 /// - "export": writes the results in the "forms" of other programs, too;
 /// - "command": runs the "arguments" of a command line; its texts and its exit code.
 ///

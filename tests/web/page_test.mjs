@@ -266,6 +266,10 @@ test('50,000 parents and 5,000 offspring', async () => {
   const unpacked = await page.unpacked();
   const verified = command(unpacked, 'rerun', 'results');
   assert.equal(verified.status, 0, verified.stderr);
+  await page.openTab('summary');
+  await page.click('#trial');
+  await page.shows('#run-told p');
+  assert.match(await page.text('#run-told'), /not collected\. .* room for 50000 parents/);
   await page.close();
 });
 

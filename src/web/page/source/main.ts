@@ -284,9 +284,10 @@ function setRunning(isRunning: boolean): void {
 async function simulateLikeIt(engine: Engine): Promise<void> {
   try {
     const project = `${study.project}-simulation`;
-    const { kind, typed } = await engine.ask('trial', {});
+    const { kind, typed, note } = await engine.ask('trial', {});
     study.repeat(kind, { ...typed, project });
     await showForm();
+    byId('run-told').replaceChildren(...(note ? [h('p', { textContent: note })] : []));
     byId('settings').scrollIntoView({ block: 'start' });
     byId('run').focus();
   } catch (error) {

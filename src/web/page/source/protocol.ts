@@ -123,7 +123,7 @@ export interface Asked {
   table: { request: { name: string }; answer: TableData };
   offspring: { request: { place: number; pair: number }; answer: OffspringDetail };
   record: { request: { file: string }; answer: { kind: Kind; typed: Typed } };
-  trial: { request: object; answer: { kind: Kind; typed: Typed } };
+  trial: { request: object; answer: { kind: Kind; typed: Typed; note: string } };
   export: { request: { forms: string }; answer: { files: string[]; warnings: string[] } };
   command: { request: { arguments: string[] }; answer: Told };
 }
