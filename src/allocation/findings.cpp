@@ -11,6 +11,11 @@ namespace kaldo {
 
 namespace {
 
+/// Three digits; what they cannot tell from nothing is not nothing.
+std::string ProbabilityText(double probability) {
+  return probability < 0.0005 ? "<0.001" : fmt::format("{:.3f}", probability);
+}
+
 bool BothNamed(const OffspringConfidence& offspring) {
   return offspring.sides[0].verdict == Verdict::kNamed &&
          offspring.sides[1].verdict == Verdict::kNamed;
@@ -57,9 +62,9 @@ std::string DoubtText(const AllocationInput& input, const AllocationResult& resu
   const bool first_is_less = sides[0].p_reported.value_or(1) <= sides[1].p_reported.value_or(1);
   const AllocatedSides reported = SidesOf(flow, result.outcomes[check.place]);
   const auto parent = (first_is_less ? reported.first : reported.second).parent;
-  return fmt::format("{} has a probability of {:.3f} only",
+  return fmt::format("{} has a probability of {} only",
                      parent ? input.table.Name(*parent).Text() : "UC",
-                     sides.at(first_is_less ? 0 : 1).p_reported.value_or(0));
+                     ProbabilityText(sides.at(first_is_less ? 0 : 1).p_reported.value_or(0)));
 }
 
 std::string FindingsSentence(const AllocationFindings& findings) {
