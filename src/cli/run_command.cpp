@@ -4,8 +4,7 @@
 #include <ostream>
 
 #include "allocation/allocation_run.h"
-#include "cli/foreign_hint.h"
-#include "cli/missing_options.h"
+#include "cli/refusal.h"
 #include "cli/result_json.h"
 #include "cli/short_result.h"
 #include "cli/simulation_result_text.h"
@@ -30,40 +29,20 @@ std::string ResultText(ResultForm form, const Settings& settings, const Run& run
                                    : EscapedLines(ShortResult(settings, run, exports));
 }
 
-ExitCode AllocateAndTell(const AllocationSettings& settings, ResultForm form,
-                         const CommandLineStreams& streams, Workforce& workforce) {
-  AllocationExporter exporter;
-  const auto run = [&] {
+/// Runs the settings with `run`, one of RunAllocation and RunSimulation, and tells what came of it.
+template <typename Exporter, typename Settings, typename Run>
+ExitCode RunWith(Run run, const Settings& settings, ResultForm form,
+                 const CommandLineStreams& streams, Workforce& workforce) {
+  Exporter exporter;
+  const auto finished = [&] {
     TerminalProgress progress(streams.err, streams.err_is_terminal);
-    return RunAllocation(settings, progress, workforce, &exporter);
+    return run(settings, progress, workforce, &exporter);
   }();
-  if (!run) {
-    const ExitCode code = Tell(WithMissingOptions(run.error(), settings), streams);
-    TellForeignFile(run.error().file, InputsOf(settings), workforce.Files(), streams);
-    return code;
+  if (!finished) {
+    return TellRefusal(finished.error(), settings, workforce.Files(), streams);
   }
-  TellWarnings(run->input.warnings, streams);
-  streams.out << ResultText(form, settings, *run, exporter.Made());
-  return ExitCode::kDone;
-}
-
-ExitCode SimulateAndTell(const SimulationSettings& settings, ResultForm form,
-                         const CommandLineStreams& streams, Workforce& workforce) {
-  if (WarnsOfManyIterations(settings.flow, settings.iterations)) {
-    streams.err << kManyIterations << '\n';
-  }
-  SimulationExporter exporter;
-  const auto run = [&] {
-    TerminalProgress progress(streams.err, streams.err_is_terminal);
-    return RunSimulation(settings, progress, workforce, &exporter);
-  }();
-  if (!run) {
-    const ExitCode code = Tell(WithMissingOptions(run.error(), settings), streams);
-    TellForeignFile(run.error().file, InputsOf(settings), workforce.Files(), streams);
-    return code;
-  }
-  TellWarnings(run->input.warnings, streams);
-  streams.out << ResultText(form, settings, *run, exporter.Made());
+  TellWarnings(finished->input.warnings, streams);
+  streams.out << ResultText(form, settings, *finished, exporter.Made());
   return ExitCode::kDone;
 }
 
@@ -89,9 +68,15 @@ ExitCode RunAndTell(tl::expected<RunSettings, Problem> settings, const Decisions
   const CommandLineStreams told =
       decisions.is_quiet ? CommandLineStreams{nowhere, streams.err, false} : streams;
   if (const auto* allocation = std::get_if<AllocationSettings>(&*settings)) {
-    return AllocateAndTell(*allocation, form, told, workforce);
+    const auto run = [](auto&&... all) { return RunAllocation(all...); };
+    return RunWith<AllocationExporter>(run, *allocation, form, told, workforce);
   }
-  return SimulateAndTell(std::get<SimulationSettings>(*settings), form, told, workforce);
+  const auto& simulation = std::get<SimulationSettings>(*settings);
+  if (WarnsOfManyIterations(simulation.flow, simulation.iterations)) {
+    told.err << kManyIterations << '\n';
+  }
+  const auto run = [](auto&&... all) { return RunSimulation(all...); };
+  return RunWith<SimulationExporter>(run, simulation, form, told, workforce);
 }
 
 }  // namespace kaldo

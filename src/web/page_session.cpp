@@ -8,9 +8,7 @@
 #include "allocation/allocation_command.h"
 #include "base/problem.h"
 #include "cli/check_json.h"
-#include "cli/foreign_hint.h"
-#include "cli/missing_options.h"
-#include "cli/tell.h"
+#include "cli/refusal.h"
 #include "interchange/export/allocation_exporter.h"
 #include "interchange/export/run_exports.h"
 #include "interchange/export/simulation_exporter.h"
@@ -48,9 +46,7 @@ Json ProblemJson(const Problem& problem) {
 template <typename Settings>
 Json RefusalJson(const Problem& problem, const Settings& settings, Workforce& workforce) {
   std::ostringstream err;
-  const CommandLineStreams streams{err, err};
-  Tell(WithMissingOptions(problem, settings), streams);
-  TellForeignFile(problem.file, InputsOf(settings), workforce.Files(), streams);
+  TellRefusal(problem, settings, workforce.Files(), {err, err});
   return ProblemJson(err.str());
 }
 

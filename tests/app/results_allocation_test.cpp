@@ -46,11 +46,7 @@ namespace {
 constexpr int Place(OffspringColumn column) { return static_cast<int>(column); }
 constexpr int Place(ComparisonColumn column) { return static_cast<int>(column); }
 
-struct Shown : test::Shown<AllocationSettings, AllocationRun, AllocationWindow> {
-  explicit Shown(Flow flow)
-      : test::Shown<AllocationSettings, AllocationRun, AllocationWindow>(
-            test::ExampleAllocation(flow)) {}
-};
+using Shown = test::Shown<AllocationSettings, AllocationRun, AllocationWindow>;
 
 /// The lines of the offspring in the results report.
 Rows OffspringLines() {

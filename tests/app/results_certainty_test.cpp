@@ -31,11 +31,7 @@ namespace {
 
 constexpr int Place(OffspringColumn column) { return static_cast<int>(column); }
 
-struct Shown : test::Shown<AllocationSettings, AllocationRun, AllocationWindow> {
-  explicit Shown(Flow flow)
-      : test::Shown<AllocationSettings, AllocationRun, AllocationWindow>(
-            test::ExampleAllocation(flow)) {}
-};
+using Shown = test::Shown<AllocationSettings, AllocationRun, AllocationWindow>;
 
 /// The row in words, from its own table: what is less sure decides.
 QString WordFor(const TsvRow& row, const std::array<QString, 2>& sides) {

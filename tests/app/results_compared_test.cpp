@@ -16,11 +16,7 @@ using test::TsvRow;
 
 namespace {
 
-struct Shown : test::Shown<AllocationSettings, AllocationRun, AllocationWindow> {
-  explicit Shown(Flow flow)
-      : test::Shown<AllocationSettings, AllocationRun, AllocationWindow>(
-            test::ExampleAllocation(flow)) {}
-};
+using Shown = test::Shown<AllocationSettings, AllocationRun, AllocationWindow>;
 
 class ResultsComparedTest : public test::WorkplaceTest {
  protected:

@@ -21,11 +21,7 @@ using test::TsvRow;
 
 namespace {
 
-struct Shown : test::Shown<AllocationSettings, AllocationRun, AllocationWindow> {
-  explicit Shown(Flow flow)
-      : test::Shown<AllocationSettings, AllocationRun, AllocationWindow>(
-            test::ExampleAllocation(flow)) {}
-};
+using Shown = test::Shown<AllocationSettings, AllocationRun, AllocationWindow>;
 
 /// Names of offspring by the names of their parents, and whether one of them is only likely.
 struct NamedFamily {

@@ -28,11 +28,7 @@ namespace {
 
 constexpr int Place(SubsetColumn column) { return static_cast<int>(column); }
 
-struct Shown : test::Shown<SimulationSettings, SimulationRun, SimulationWindow> {
-  explicit Shown(Flow flow)
-      : test::Shown<SimulationSettings, SimulationRun, SimulationWindow>(
-            test::ExampleSimulation(flow)) {}
-};
+using Shown = test::Shown<SimulationSettings, SimulationRun, SimulationWindow>;
 
 /// The rows of correct frequencies in the summary report that begin with `word`, without it; "NA"
 /// without its blanks.

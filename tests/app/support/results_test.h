@@ -179,10 +179,19 @@ inline auto Run(const SimulationSettings& settings) {
   return RunSimulation(settings, observer);
 }
 
-/// A finished run in its window.
+template <typename Settings>
+Settings Example(Flow flow) {
+  if constexpr (std::is_same_v<Settings, AllocationSettings>) {
+    return ExampleAllocation(flow);
+  } else {
+    return ExampleSimulation(flow);
+  }
+}
+
+/// The run of an example, in its window once it is finished.
 template <typename Settings, typename FinishedRun, typename Window>
 struct Shown {
-  explicit Shown(Settings example) : settings(std::move(example)) {}
+  explicit Shown(Flow flow) : settings(Example<Settings>(flow)) {}
 
   void Run() {
     run = test::Run(settings).value();
