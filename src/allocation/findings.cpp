@@ -11,17 +11,16 @@ namespace kaldo {
 
 namespace {
 
-/// Three digits; what they cannot tell from nothing is not nothing.
-std::string ProbabilityText(double probability) {
-  return probability < 0.0005 ? "<0.001" : fmt::format("{:.3f}", probability);
-}
-
 bool BothNamed(const OffspringConfidence& offspring) {
   return offspring.sides[0].verdict == Verdict::kNamed &&
          offspring.sides[1].verdict == Verdict::kNamed;
 }
 
 }  // namespace
+
+std::string ProbabilityText(double probability) {
+  return probability < 0.0005 ? "<0.001" : fmt::format("{:.3f}", probability);
+}
 
 bool KnowsCertainty(const AllocationResult& result) {
   return result.confidence && result.confidence->is_meaningful;

@@ -40,6 +40,10 @@ struct AllocationFindings {
 
 AllocationFindings FindingsOf(const AllocationResult& result);
 
+/// A probability for the eye, with three digits; what they cannot tell from nothing is not nothing:
+/// "0.203", "<0.001".
+std::string ProbabilityText(double probability);
+
 /// Why an offspring is to be looked at, in words: "Adult36 has a probability of 0.203 only".
 std::string DoubtText(const AllocationInput& input, const AllocationResult& result, Flow flow,
                       const OffspringToCheck& check);

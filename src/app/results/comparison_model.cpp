@@ -305,7 +305,7 @@ QString ComparisonModel::OtherHead(Column column) const {
   }
   return Tr("or %1 (p %2)")
       .arg(Text(Input().table.Name(other->parent.slot).Text()),
-           QString::number(other->parent.probability, 'f', 3));
+           Text(ProbabilityText(other->parent.probability)));
 }
 
 QString ComparisonModel::Head(Column column) const {
