@@ -6,16 +6,21 @@
 The prefix of Wine is made anew in a temporary folder.
 """
 
+import fcntl
 import os
+import pty
 import re
+import select
 import shutil
 import signal
 import subprocess
 import sys
 import tempfile
+import termios
 import time
 import unittest
 from pathlib import Path
+from urllib.parse import unquote
 
 WINE = next((found for found in map(shutil.which, ("wine64", "/usr/lib/wine/wine64", "wine"))
              if found), "wine64")
@@ -51,6 +56,52 @@ def environment():
 def wine(*command, **more):
     return subprocess.run([WINE, *command], env=environment(), timeout=GENEROUS,
                           stdin=subprocess.DEVNULL, **more)
+
+
+class Console:
+    """A program alone on a terminal: where Wine is first there, that is a console of its own."""
+
+    def __init__(self, folder, *command, **more):
+        self.keys, terminal = pty.openpty()
+        termios.tcsetwinsize(terminal, (50, 200))
+        modes = termios.tcgetattr(terminal)
+        modes[0] &= ~termios.ICRNL      # Enter stays what it is until Wine reads keys itself
+        termios.tcsetattr(terminal, termios.TCSANOW, modes)
+        self.program = subprocess.Popen(
+            command, cwd=folder, env={**environment(), **more}, stdin=terminal, stdout=terminal,
+            stderr=terminal, start_new_session=True,
+            preexec_fn=lambda: fcntl.ioctl(0, termios.TIOCSCTTY, 0))
+        os.close(terminal)
+        self.written = b""
+
+    def text(self):
+        """What was written, without the codes that move and colour; Wine skips over blanks."""
+        codes = re.sub(rb"\x1b\[K\x1b\[1C", b" ", self.written)
+        return re.sub(rb"\x1b(\[[0-9;?]*[A-Za-z]|\][^\a]*\a)", b"", codes).decode(errors="replace")
+
+    def wait_for(self, words):
+        """True once these were written, None for the end of the program."""
+        end = time.monotonic() + GENEROUS
+        while words is None or words not in self.text():
+            if not select.select([self.keys], [], [], max(0, end - time.monotonic()))[0]:
+                return False
+            try:
+                self.written += os.read(self.keys, 1 << 16)
+            except OSError:     # nobody is left to write
+                return words is None
+        return True
+
+    def press(self, key):
+        os.write(self.keys, key)
+
+    def end(self):
+        """The exit code."""
+        try:
+            self.wait_for(None)
+            return self.program.wait(GENEROUS)
+        finally:
+            self.program.kill()
+            os.close(self.keys)
 
 
 class WindowsTest(unittest.TestCase):
@@ -153,6 +204,53 @@ class WindowsTest(unittest.TestCase):
             first.send_signal(signal.SIGKILL)
         self.assertEqual(second.returncode, 1)
         self.assertRegex(second.stderr.decode(), r'Another run is at work in "p" \(process \d+ on ')
+
+    def test_ctrl_c_on_a_console_with_a_bar_leaves_the_earlier_results(self):
+        code, _, said = self.both("simulate", *SIMULATION, *NUMBERS, "--project", "p")
+        self.assertEqual(code, 0, said)
+        for system, program in (("here", [KALDO]), ("there", [WINE, EXE])):
+            with self.subTest(system):
+                before = self.files(system)
+                console = Console(self.folder / system, *program, "simulate", *SIMULATION, *LONG,
+                                  "--project", "p")
+                self.assertTrue(console.wait_for("Simulating ["), console.text())
+                console.press(b"\x03")
+                self.assertEqual(console.end(), 130, console.text())
+                self.assertIn("Stopped. The results of earlier runs are as they were.",
+                              console.text())
+                self.assertEqual(self.files(system), before)
+
+    def test_a_console_shows_names_of_any_language(self):
+        console = Console(self.folder, WINE, EXE, "allocate", "--project", "p", *NON_SEXED[:2],
+                          "--offspring", "fehlt-ä-湖.txt")
+        self.assertEqual(console.end(), 2)
+        self.assertIn("fehlt-ä-湖.txt", console.text())
+
+    def test_a_double_click_opens_the_page_or_waits_for_its_reader(self):
+        place = self.folder / "Zürich lac"
+        place.mkdir()
+        program, page = shutil.copy(EXE, place), place / "kaldo.html"
+        page.touch()
+        browser, opened = place / "xdg-open", place / "opened"
+        browser.write_text(f'#!/bin/sh\nprintf %s "$1" >"{opened}"\n')
+        browser.chmod(0o755)
+        opened.touch()
+        path = f"{place}:{os.environ['PATH']}"
+        self.assertEqual(Console(place, WINE, program, PATH=path).end(), 2)
+        end = time.monotonic() + GENEROUS
+        while not opened.read_text() and time.monotonic() < end:
+            time.sleep(0.05)
+        self.assertEqual(unquote(opened.read_text()), f"file://{page}")
+
+        page.unlink()
+        alone = Console(place, WINE, program)
+        self.assertTrue(alone.wait_for("Press Enter to close this window"), alone.text())
+        self.assertIsNone(alone.program.poll())
+        alone.press(b"\r")
+        self.assertEqual(alone.end(), 2)
+        of_a_shell = Console(place, WINE, "cmd", "/c", f"Z:{program}".replace("/", "\\"))
+        self.assertEqual(of_a_shell.end(), 2)
+        self.assertNotIn("Press Enter", of_a_shell.text())
 
 
 def main():

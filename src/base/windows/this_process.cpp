@@ -35,6 +35,14 @@ void ObeyCodes(DWORD stream) {
   }
 }
 
+/// Lets a stream write what it was given at once: unbuffered, as it is on a console, it writes byte
+/// by byte, of which a console makes no letter but those of English.
+void WriteWhole(std::FILE* stream) {
+  constexpr std::size_t kBytes = std::size_t{1} << 16U;
+  (void)::_setmode(::_fileno(stream), _O_BINARY);
+  (void)std::setvbuf(stream, nullptr, _IOFBF, kBytes);
+}
+
 /// The page that an installation puts beside the program.
 std::filesystem::path PageBesideProgram() {
   std::wstring program(32768, L'\0');  // as long as a path may be
@@ -71,8 +79,8 @@ std::vector<std::string> ProgramArguments(int /*argc*/, char** /*argv*/) {
 }
 
 TextConsole::TextConsole() : earlier_code_page_(::GetConsoleOutputCP()) {
-  (void)::_setmode(::_fileno(stdout), _O_BINARY);
-  (void)::_setmode(::_fileno(stderr), _O_BINARY);
+  WriteWhole(stdout);
+  WriteWhole(stderr);
   (void)::SetConsoleOutputCP(CP_UTF8);
   ObeyCodes(STD_OUTPUT_HANDLE);
   ObeyCodes(STD_ERROR_HANDLE);
@@ -97,6 +105,7 @@ void StayForReader() {
     return;
   }
   std::fputs("\nThis program is for a command line. Press Enter to close this window.\n", stderr);
+  (void)std::fflush(stderr);
   (void)std::getchar();
 }
 
