@@ -1,7 +1,8 @@
 ; The installer for Windows: for one user, without an administrator. Built by scripts/make-release:
-;   makensis -DVERSION=1.0.0 -DCONTENT=folder -DREMOVED=list.nsh -DOUTPUT=installer.exe packaging/windows.nsi
-; The user's PATH is neither read nor changed: it may be longer than what an installer can hold. The
-; entry of the Start menu opens a console that finds the program.
+;   makensis -DVERSION=1.0.0 -DCONTENT=folder -DREMOVED=list.nsh -DUSER_PATH=user-path.exe \
+;     -DOUTPUT=installer.exe packaging/windows.nsi
+; The user's PATH may be longer than what a string of an installer holds: a program of its own puts the
+; folder onto it, and takes it off. Where that fails, the console of the Start menu finds kaldo.
 Unicode true
 Target amd64-unicode
 Name "KALDO ${VERSION}"
@@ -16,6 +17,13 @@ UninstPage uninstConfirm
 UninstPage instfiles
 
 !define REMOVAL "Software\Microsoft\Windows\CurrentVersion\Uninstall\KALDO"
+
+; Result is 0 where the PATH of the user has changed as asked, or was so.
+!macro ChangeUserPath HOW
+  InitPluginsDir
+  File "/oname=$PLUGINSDIR\user-path.exe" "${USER_PATH}"
+  ExecWait '"$PLUGINSDIR\user-path.exe" ${HOW} "$INSTDIR"' $0
+!macroend
 
 Section
   SetOutPath "$INSTDIR"
@@ -32,15 +40,22 @@ Section
   CreateShortcut "$SMPROGRAMS\KALDO\KALDO command line.lnk" "$SYSDIR\cmd.exe" \
     '/k "set PATH=$INSTDIR;%PATH%&&kaldo --help"'
   CreateShortcut "$SMPROGRAMS\KALDO\Documents and examples.lnk" "$INSTDIR"
+  IfFileExists "$INSTDIR\kaldo.html" 0 +2
+    CreateShortcut "$SMPROGRAMS\KALDO\KALDO in the browser.lnk" "$INSTDIR\kaldo.html"
+  !insertmacro ChangeUserPath add
+  StrCmp $0 0 +2
+    DetailPrint "PATH was left as it is: it cannot take $INSTDIR."
 SectionEnd
 
 ; Only what was installed goes: the folder may be one with other things in it.
 Section Uninstall
+  !insertmacro ChangeUserPath remove
   !include "${REMOVED}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
   Delete "$SMPROGRAMS\KALDO\KALDO command line.lnk"
   Delete "$SMPROGRAMS\KALDO\Documents and examples.lnk"
+  Delete "$SMPROGRAMS\KALDO\KALDO in the browser.lnk"
   RMDir "$SMPROGRAMS\KALDO"
   DeleteRegKey HKCU "${REMOVAL}"
   DeleteRegKey HKCU "Software\KALDO"

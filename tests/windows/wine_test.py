@@ -220,6 +220,33 @@ class WindowsTest(unittest.TestCase):
                               console.text())
                 self.assertEqual(self.files(system), before)
 
+    def user_path(self):
+        """The type of the user's PATH in the registry, in its words, and its folders."""
+        exported = self.folder / "environment.reg"
+        wine("reg", "export", r"HKCU\Environment", exported, "/y", capture_output=True, check=True)
+        lines = re.sub(r"\\\r?\n *", "", exported.read_text("utf-16"))
+        kind, value = re.search(r'^"Path"=(hex\(2\)|)[:"]?(.*?)"?$', lines, re.M).groups()
+        return kind, (bytes.fromhex(value.replace(",", "")).decode("utf-16-le").rstrip("\0")
+                      if kind else value)
+
+    def test_the_installer_changes_a_long_path_of_the_user_by_one_folder(self):
+        step = Path(EXE).parents[2] / "packaging/user-path.exe"
+        long = ";".join([r"%USERPROFILE%\Zürich"] + [rf"C:\a\folder {k}" for k in range(250)] + [""])
+        self.assertGreater(len(long), 3000)
+        content = long.encode("utf-16-le").hex(",") + ",00,00"
+        imported = self.folder / "long.reg"
+        imported.write_text("Windows Registry Editor Version 5.00\n\n[HKEY_CURRENT_USER\\Environment]"
+                            f'\n"Path"=hex(2):{content}\n', "utf-16")
+        wine("reg", "import", imported, capture_output=True, check=True)
+        self.assertEqual(self.user_path(), ("hex(2)", long))
+        folder = r"C:\Users\Jürg\KALDO"
+        for how, after in (("add", f"{long};{folder}"), ("add", f"{long};{folder}"),
+                           ("remove", long), ("remove", long)):
+            self.assertEqual(wine(step, how, folder).returncode, 0)
+            self.assertEqual(self.user_path(), ("hex(2)", after))
+        self.assertEqual(wine(step, "add", "C:\\" + 30000 * "x").returncode, 1)
+        self.assertEqual(self.user_path(), ("hex(2)", long))
+
     def test_a_console_shows_names_of_any_language(self):
         console = Console(self.folder, WINE, EXE, "allocate", "--project", "p", *NON_SEXED[:2],
                           "--offspring", "fehlt-ä-湖.txt")
