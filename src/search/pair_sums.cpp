@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <tuple>
+#include <utility>
 
 #include "base/problem.h"
 #include "search/cost_kernels.h"
@@ -24,6 +25,15 @@ constexpr double kLimitMargin = 1e-6;
 
 // Where two pairs have to be found first: so many costs above the smallest, then twice as many.
 constexpr std::int32_t kFirstCosts = 64;
+
+/// The order of a list of pairs: equally likely ones stand as in the file, so that where the list
+/// ends does not depend on the order in which they were met.
+bool IsBefore(const PairLikelihood& a, const PairLikelihood& b) {
+  if (a.likelihood != b.likelihood) {
+    return a.likelihood > b.likelihood;
+  }
+  return std::pair(a.pair.parent1, a.pair.parent2) < std::pair(b.pair.parent1, b.pair.parent2);
+}
 
 /// Sums of every fourth value, added in the end: a fixed order that does not wait for each sum.
 double SumOf(std::span<const double> values) {
@@ -282,22 +292,21 @@ void PairSums::AddRow(std::size_t first_parent, std::size_t begin,
 
 void PairSums::ListRow(std::size_t first_parent, std::size_t begin,
                        std::span<const double> likelihoods, std::size_t most) {
-  const auto is_more_likely = [](const PairLikelihood& a, const PairLikelihood& b) {
-    return a.likelihood > b.likelihood;
-  };
   for (std::size_t i = 0; i < likelihoods.size(); ++i) {
-    if (likelihoods[i] == 0) {
+    const bool is_full = most_likely_.size() == most;
+    if (likelihoods[i] == 0 || (is_full && likelihoods[i] < most_likely_.front().likelihood)) {
       continue;
     }
-    if (most_likely_.size() == most) {
-      if (likelihoods[i] <= most_likely_.front().likelihood) {
+    const PairLikelihood one = {PairAt(first_parent, begin + i), likelihoods[i]};
+    if (is_full) {
+      if (!IsBefore(one, most_likely_.front())) {
         continue;
       }
-      std::pop_heap(most_likely_.begin(), most_likely_.end(), is_more_likely);
+      std::pop_heap(most_likely_.begin(), most_likely_.end(), IsBefore);
       most_likely_.pop_back();
     }
-    most_likely_.push_back({PairAt(first_parent, begin + i), likelihoods[i]});
-    std::push_heap(most_likely_.begin(), most_likely_.end(), is_more_likely);
+    most_likely_.push_back(one);
+    std::push_heap(most_likely_.begin(), most_likely_.end(), IsBefore);
   }
 }
 
@@ -351,6 +360,7 @@ void PairSums::SumUp(double limit, std::size_t most_listed, const RunObserver& o
       TakeSums();
     }
   }
+  std::sort_heap(most_likely_.begin(), most_likely_.end(), IsBefore);
 }
 
 BestPair PairSums::FindBest(const RunObserver& observer) {

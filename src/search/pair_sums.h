@@ -95,7 +95,7 @@ class PairSums {
   std::span<const ParentSum> SumsOfFirst() const { return sums_[0]; }
   std::span<const ParentSum> SumsOfSecond() const { return sums_[1]; }
 
-  /// The most likely pairs that were summed up, in no particular order.
+  /// The most likely pairs that were summed up, the likeliest first, equals in file order.
   std::span<const PairLikelihood> MostLikely() const { return most_likely_; }
 
   /// The most likely pair of all. Of several that are exactly so likely the first one in the order
@@ -163,7 +163,7 @@ class PairSums {
   double total_ = 0;
   std::array<std::vector<ParentSum>, 2> sums_;
   BestPair best_;
-  std::vector<PairLikelihood> most_likely_;  ///< a heap, the least likely one in front
+  std::vector<PairLikelihood> most_likely_;  ///< while they are summed up a heap, the last in front
 };
 
 }  // namespace kaldo

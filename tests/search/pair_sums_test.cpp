@@ -2,6 +2,7 @@
 // The sums over the pairs worth a look against all pairs, multiplied out one by one.
 #include "search/pair_sums.h"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 
@@ -92,6 +93,24 @@ void ExpectSums(std::span<const ParentSum> sums, const std::map<Slot, Bounds>& b
   }
 }
 
+/// The likeliest pairs in the order of the file, however many are equally likely where the list
+/// ends; those below the limit may be missing.
+void ExpectList(std::span<const PairLikelihood> listed, std::vector<WeighedPair> pairs,
+                double limit, std::size_t most) {
+  std::stable_sort(pairs.begin(), pairs.end(), [](const WeighedPair& a, const WeighedPair& b) {
+    return a.likelihood > b.likelihood;
+  });
+  for (std::size_t k = 0; k < std::min(most, pairs.size()); ++k) {
+    if (pairs[k].likelihood < limit || pairs[k].likelihood == 0) {
+      return;
+    }
+    ASSERT_LT(k, listed.size());
+    EXPECT_EQ(listed[k].pair, pairs[k].pair);
+    EXPECT_EQ(listed[k].likelihood, pairs[k].likelihood);
+  }
+  EXPECT_LE(listed.size(), most);
+}
+
 /// A limit that leaves out few pairs, some, most or all of them.
 double SomeLimit(RandomStudyMaker& random, const BestPair& best) {
   constexpr std::array<double, 6> kShares = {1e-30, 1e-9, 1e-3, 0.5, 1.0, 2.0};
@@ -114,7 +133,9 @@ void CompareStudy(const RandomStudy& study, RandomStudyMaker& random, PairSums& 
     const BestPair best = BestOf(pairs);
     const double limit = SomeLimit(random, best);
     sums.GoTo(Slot{i}, ones);
-    sums.SumUp(limit, 0, observer);
+    const std::size_t most = random.Draw(1, 9);
+    sums.SumUp(limit, most, observer);
+    ExpectList(sums.MostLikely(), pairs, limit, most);
     ExpectSums(sums.SumsOfFirst(), BoundsByParent(study, pairs, limit, false));
     if (study.flow == Flow::kSexed) {
       ExpectSums(sums.SumsOfSecond(), BoundsByParent(study, pairs, limit, true));
