@@ -10,6 +10,9 @@ extern "C" {
 /// Of the script: a part of the run begins, with so many steps.
 void KaldoBeginsPart(const char* name, double steps);
 
+/// Of the script: where in the part the run is, in words.
+void KaldoIsAt(const char* note);
+
 /// Of the script: so many steps of the part are done.
 void KaldoDoesSteps(double steps);
 
@@ -27,6 +30,7 @@ class PageObserver final : public RunObserver {
   void OnPart(std::string_view name, std::uint64_t steps) override {
     KaldoBeginsPart(std::string(name).c_str(), static_cast<double>(steps));
   }
+  void OnNote(std::string_view note) override { KaldoIsAt(std::string(note).c_str()); }
   void OnSteps(std::uint64_t steps) override { KaldoDoesSteps(static_cast<double>(steps)); }
   void OnMessage(RunMessage /*kind*/, std::string_view sentence) override {
     KaldoTells(std::string(sentence).c_str());

@@ -3,6 +3,9 @@ mergeInto(LibraryManager.library, {
   KaldoBeginsPart: function (name, steps) {
     Module.beginsPart(UTF8ToString(name), steps);
   },
+  KaldoIsAt: function (note) {
+    Module.isAt(UTF8ToString(note));
+  },
   KaldoDoesSteps: function (steps) {
     Module.doesSteps(steps);
   },

@@ -13,7 +13,7 @@ export class Refusal extends Error {
 export class Stopped extends Error {}
 
 export interface Listener {
-  onProgress?(part: string, done: number, steps: number): void;
+  onProgress?(part: string, note: string, done: number, steps: number): void;
   onSentence?(sentence: string): void;
 }
 
@@ -86,7 +86,7 @@ export class Engine {
 
   private hear(message: FromWorker): void {
     if ('part' in message) {
-      this.listener.onProgress?.(message.part, message.done, message.steps);
+      this.listener.onProgress?.(message.part, message.note, message.done, message.steps);
     } else if ('sentence' in message) {
       this.listener.onSentence?.(message.sentence);
     } else {

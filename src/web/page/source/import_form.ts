@@ -22,7 +22,7 @@ export class ImportForm {
 
   constructor(
     private readonly engine: Engine,
-    private readonly onImported: (files: Files) => void,
+    private readonly onImported: (files: Files, hasUndefinedParents: boolean) => void,
   ) {}
 
   /** Recognises the files of other programs among these. */
@@ -90,7 +90,11 @@ export class ImportForm {
         h('p', { className: 'hint', textContent: setting.help }),
       );
     }
-    const input = h('input', { type: 'text', name: key, value: this.typed.get(key) ?? '' });
+    const value = this.typed.get(key) ?? '';
+    const input =
+      setting.choices.length > 0
+        ? choiceOf(setting, value)
+        : h('input', { type: 'text', name: key, value });
     input.onchange = (): void => put(input.value || undefined);
     return field(label, input, setting.help);
   }
@@ -123,8 +127,18 @@ export class ImportForm {
       return;
     }
     place.replaceChildren(h('pre', { textContent: told.err + told.out, tabIndex: 0 }));
-    this.onImported(await this.engine.filesIn(kFolder));
+    const keeps = this.typed.get('missing-parents') === 'keep';
+    this.onImported(await this.engine.filesIn(kFolder), keeps);
   }
+}
+
+function choiceOf(setting: Setting, value: string): HTMLSelectElement {
+  const select = h('select', { name: setting.key });
+  const unchosen = h('option', { value: '', textContent: setting.text || 'not chosen' });
+  const others = setting.choices.filter((each) => each !== setting.text);
+  select.append(unchosen, ...others.map((each) => h('option', { textContent: each })));
+  select.value = value;
+  return select;
 }
 
 function roleOf(path: string): string {

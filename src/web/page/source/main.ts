@@ -12,12 +12,15 @@ import { version } from 'kaldo-embedded';
 const study = new Study();
 const helper = new Engine(); // answers while a form is filled in
 let running: Engine | undefined;
-let results: Results | undefined;
-let shown: Engine | undefined; // holds the results that are shown
+let finished: Results[] = []; // each with a program of its own, which holds them
+let shown: Results | undefined;
 let lastCheck = 0;
 
 const form = new StudyForm(study, () => scheduleCheck());
-const imports = new ImportForm(helper, (files) => void addFiles(files, true));
+const imports = new ImportForm(helper, (files, hasUndefinedParents) => {
+  study.allowUndefinedParents(hasUndefinedParents);
+  void addFiles(files, true);
+});
 
 function isAllocation(): boolean {
   return study.kind === 'allocation';
@@ -206,12 +209,10 @@ function checkedParts(checked: Checked): HTMLElement[] {
 function showProgress(engine: Engine): void {
   const bar = byId<HTMLProgressElement>('bar');
   const told = byId('progress-text');
-  const sentences = byId('progress-sentences');
-  sentences.replaceChildren();
   let part = '';
   let began = performance.now();
   engine.listener = {
-    onProgress(name, done, steps): void {
+    onProgress(name, note, done, steps): void {
       if (name !== part) {
         part = name;
         began = performance.now();
@@ -219,10 +220,15 @@ function showProgress(engine: Engine): void {
       bar.max = Math.max(1, steps);
       bar.value = done;
       const left = done > 0 ? ((performance.now() - began) * (steps - done)) / done : 0;
-      told.textContent = `${name}: ${done} of ${steps}${left > 1000 ? `, ${timeText(left)} left` : ''}`;
+      const parts = [
+        steps > 0 ? `${name}: ${done} of ${steps}` : name,
+        note,
+        left > 1000 ? `${timeText(left)} left` : '',
+      ];
+      told.textContent = parts.filter(Boolean).join(', ');
     },
     onSentence(sentence): void {
-      sentences.append(h('p', { textContent: sentence }));
+      byId('run-told').append(h('p', { textContent: sentence }));
     },
   };
 }
@@ -245,15 +251,12 @@ async function run(): Promise<void> {
   try {
     await engine.put(inputs);
     const summary = await engine.ask('run', { kind, typed: study.typed(form.settings) });
-    shown?.end();
-    shown = engine;
-    byId('results').hidden = false;
-    results = new Results(
+    const results = new Results(
       { engine, summary, project, inputs, isAllocation: kind === 'allocation' },
-      () => void simulateLikeIt(engine),
+      () => void simulateLikeIt(results),
     );
-    byId('results').scrollIntoView({ block: 'start' });
-    byId('results-title').focus();
+    finished.push(results);
+    showResults(results);
   } catch (error) {
     if (error instanceof Stopped) {
       byId('run-told').replaceChildren(
@@ -269,6 +272,42 @@ async function run(): Promise<void> {
   }
 }
 
+function showResults(results: Results): void {
+  shown = results;
+  results.show();
+  showRuns();
+  byId('results').scrollIntoView({ block: 'start' });
+  byId('results-title').focus();
+}
+
+/** Results of earlier runs stay at hand, for instance those that a simulation judges. */
+function showRuns(): void {
+  const runs = finished.map((results, k) => {
+    const show = button(`${k + 1}: ${results.run.summary.title}`, () => showResults(results));
+    show.setAttribute('aria-pressed', String(results === shown));
+    return show;
+  });
+  byId('runs').replaceChildren(
+    ...runs,
+    button('Close these results', () => closeResults(), 'close'),
+  );
+  byId('runs').hidden = finished.length < 2;
+  byId('results').hidden = finished.length === 0;
+}
+
+function closeResults(): void {
+  const question = 'These results were not downloaded. Close them all the same?';
+  if (!shown || (shown.isUnsaved && !confirm(question))) {
+    return;
+  }
+  shown.run.engine.end();
+  finished = finished.filter((each) => each !== shown);
+  const next = finished.at(-1);
+  if (next) {
+    showResults(next);
+  }
+}
+
 function setRunning(isRunning: boolean): void {
   byId('progress').hidden = !isRunning;
   byId<HTMLButtonElement>('run').disabled = isRunning;
@@ -281,10 +320,14 @@ function setRunning(isRunning: boolean): void {
 }
 
 /** Fills in the simulation that tells how far the allocation can be trusted. */
-async function simulateLikeIt(engine: Engine): Promise<void> {
+async function simulateLikeIt({ run }: Results): Promise<void> {
   try {
-    const project = `${study.project}-simulation`;
-    const { kind, typed, note } = await engine.ask('trial', {});
+    const project = `${run.project}-simulation`;
+    const { kind, typed, note } = await run.engine.ask('trial', {});
+    for (const [path, bytes] of run.inputs) {
+      study.files.set(path, bytes); // other ones may have taken their names meanwhile
+    }
+    await helper.put(run.inputs);
     study.repeat(kind, { ...typed, project });
     await showForm();
     byId('run-told').replaceChildren(...(note ? [h('p', { textContent: note })] : []));
@@ -316,7 +359,7 @@ function listen(): void {
   byId('run').onclick = (): void => void run();
   byId('cancel').onclick = (): void => running?.end();
   window.addEventListener('beforeunload', (event) => {
-    if (running || results?.isUnsaved) {
+    if (running || finished.some((results) => results.isUnsaved)) {
       event.preventDefault();
       event.returnValue = true; // what older browsers look at
     }

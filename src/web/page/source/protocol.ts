@@ -140,5 +140,5 @@ export type ToWorker =
 export type FromWorker =
   | { id: number; answer: unknown }
   | { id: number; failure: string }
-  | { part: string; done: number; steps: number }
+  | { part: string; note: string; done: number; steps: number }
   | { sentence: string };

@@ -19,6 +19,7 @@ const kSignLegend =
   '✓ exact   ≈ within the tolerance (an error)   ✗ above it (UC)   # one allele in neither parent   * not typed';
 
 const kMostToCheck = 20;
+const kToCheck = 'to check'; // the filter
 
 /** The forms of other programs that a finished run can be written in. */
 const kForms = {
@@ -49,11 +50,10 @@ export class Results {
   private offspringTable: DataTable | undefined;
 
   constructor(
-    private readonly run: ShownRun,
+    readonly run: ShownRun,
     private readonly onTrial: () => void,
   ) {
     this.isUnsaved = true;
-    byId('results-title').textContent = run.summary.title;
     this.addTab('Summary', async (panel) => panel.append(...this.summaryParts()));
     for (const name of run.summary.tables) {
       const title = name.charAt(0).toUpperCase() + name.slice(1);
@@ -63,14 +63,19 @@ export class Results {
       });
     }
     this.addTab('Files', (panel) => this.showFiles(panel));
+    this.open('Summary');
+  }
+
+  /** Takes the place of other results in the page. */
+  show(): void {
+    byId('results-title').textContent = this.run.summary.title;
     byId('tabs').replaceChildren(...this.tabs.map(({ tab }) => tab));
     byId('panels').replaceChildren(...this.tabs.map(({ panel }) => panel));
-    void this.open('Summary');
   }
 
   private addTab(name: string, fill: (panel: HTMLElement) => Promise<void>): void {
     const id = name.toLowerCase();
-    const tab = button(name, () => void this.open(name), `tab-${id}`);
+    const tab = button(name, () => this.open(name), `tab-${id}`);
     tab.setAttribute('role', 'tab');
     tab.setAttribute('aria-controls', `panel-${id}`);
     tab.onkeydown = (event): void => this.step(name, event);
@@ -93,7 +98,7 @@ export class Results {
     this.tabs.push({ name, tab, panel });
   }
 
-  private async open(name: string): Promise<void> {
+  private open(name: string): void {
     for (const each of this.tabs) {
       const isOpen = each.name === name;
       each.tab.setAttribute('aria-selected', String(isOpen));
@@ -110,7 +115,7 @@ export class Results {
     if (way) {
       const place = this.tabs.findIndex((each) => each.name === name);
       const next = this.tabs.at((place + way) % this.tabs.length);
-      void this.open(next?.name ?? name);
+      this.open(next?.name ?? name);
       next?.tab.focus();
     }
   }
@@ -147,19 +152,33 @@ export class Results {
       return h('li', {}, link, `: ${why}`);
     });
     if (check.length > kMostToCheck) {
-      items.push(h('li', { textContent: `... and ${check.length - kMostToCheck} more` }));
+      const more = `... and ${check.length - kMostToCheck} more`;
+      const all = button(more, () => void this.showToCheck());
+      all.className = 'link';
+      items.push(h('li', {}, all));
     }
     return h('ul', { id: 'to-check' }, ...items);
   }
 
   private async showOffspring(place: number): Promise<void> {
-    await this.open('Offspring');
+    const panel = await this.openedOffspring();
+    this.offspringTable?.show(place);
+    panel?.querySelector<HTMLElement>('.detail')?.scrollIntoView({ block: 'nearest' });
+  }
+
+  private async showToCheck(): Promise<void> {
+    const panel = await this.openedOffspring();
+    this.offspringTable?.choose(kToCheck);
+    panel?.scrollIntoView({ block: 'nearest' });
+  }
+
+  private async openedOffspring(): Promise<HTMLElement | undefined> {
+    this.open('Offspring');
     const panel = this.tabs.find((each) => each.name === 'Offspring')?.panel;
     while (panel && !panel.dataset['ready'] && !panel.querySelector('.problem')) {
       await new Promise((resolve) => setTimeout(resolve, 20));
     }
-    this.offspringTable?.show(place);
-    panel?.querySelector<HTMLElement>('.detail')?.scrollIntoView({ block: 'nearest' });
+    return panel;
   }
 
   private plainTable(label: string, data: TableData): HTMLElement {
@@ -264,7 +283,7 @@ function filtersOf(data: TableData): Filter[] {
   const column = (key: string): number => data.columns.findIndex((each) => each.key === key);
   const check = column('check');
   if (check >= 0) {
-    filters.push({ name: 'to check', accepts: (row) => row[check] !== null });
+    filters.push({ name: kToCheck, accepts: (row) => row[check] !== null });
   }
   for (const key of ['certainty', 'class']) {
     const place = column(key);

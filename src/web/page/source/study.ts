@@ -86,6 +86,16 @@ export class Study {
     }
   }
 
+  /** Converted parents with undefined loci are only of use to runs that allow them. */
+  allowUndefinedParents(allowed: boolean): void {
+    for (const texts of Object.values(this.texts)) {
+      texts.delete('allow_undefined_parents');
+      if (allowed) {
+        texts.set('allow_undefined_parents', '');
+      }
+    }
+  }
+
   remove(path: string): void {
     this.files.delete(path);
     for (const texts of Object.values(this.texts)) {

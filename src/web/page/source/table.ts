@@ -79,16 +79,17 @@ export class DataTable {
     this.narrow();
   }
 
-  /** Shows the rows of one filter, by its place among them; 0 shows all. */
-  choose(filter: number): void {
+  /** Shows the rows of one filter; without a name all. */
+  choose(name = ''): void {
     this.searchField.value = '';
-    this.filterField.selectedIndex = filter;
+    const filters = this.options.filters ?? [];
+    this.filterField.selectedIndex = filters.findIndex((each) => each.name === name) + 1;
     this.narrow();
   }
 
   /** Brings a row into sight and marks it. */
   show(place: number): void {
-    this.choose(0);
+    this.choose();
     this.mark(place);
     this.scroller.scrollTop = Math.max(0, this.order.indexOf(place) - 2) * kRowHeight;
     this.draw();

@@ -26,12 +26,13 @@ const post = (message: FromWorker): void => self.postMessage(message);
 
 const progress = {
   part: '',
+  note: '', // where in the part the run is
   done: 0,
   steps: 0,
   told: 0,
   tell(): void {
     this.told = performance.now();
-    post({ part: this.part, done: this.done, steps: this.steps });
+    post({ part: this.part, note: this.note, done: this.done, steps: this.steps });
   },
 };
 
@@ -39,8 +40,11 @@ async function start(wasmBinary: Uint8Array): Promise<null> {
   program = await createKaldo<Program>({
     wasmBinary,
     beginsPart(part: string, steps: number): void {
-      Object.assign(progress, { part, steps, done: 0 });
+      Object.assign(progress, { part, steps, note: '', done: 0 });
       progress.tell();
+    },
+    isAt(note: string): void {
+      progress.note = note;
     },
     doesSteps(steps: number): void {
       progress.done += steps;
