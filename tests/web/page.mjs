@@ -11,7 +11,7 @@ import {
 } from 'node:fs';
 import { createRequire } from 'node:module';
 import { tmpdir } from 'node:os';
-import { dirname, join } from 'node:path';
+import { basename, dirname, join } from 'node:path';
 import { fileURLToPath, pathToFileURL } from 'node:url';
 
 const installed = createRequire(new URL('../../src/web/page/package.json', import.meta.url));
@@ -44,7 +44,7 @@ export const newFolder = () => mkdtempSync(join(tmpdir(), 'kaldo-page-'));
 
 /** The page of a browser. It fails where the page reports a fault or asks for anything. */
 export class Page {
-  static async open(browser, { width = 1280, height = 900, dark = false } = {}) {
+  static async open(browser) {
     const page = await browser.newPage();
     const faults = [];
     page.on('pageerror', (error) => faults.push(String(error)));
@@ -58,10 +58,7 @@ export class Page {
         faults.push(`asks for ${request.url()}`);
       }
     });
-    await page.setViewport({ width, height });
-    await page
-      .emulateMediaFeatures?.([{ name: 'prefers-color-scheme', value: dark ? 'dark' : 'light' }])
-      .catch(() => {}); // not in every browser
+    await page.setViewport({ width: 1280, height: 900 });
     await page.goto(pathToFileURL(html).href);
     await page.waitForSelector('#file-fields select');
     return new Page(page, faults);
@@ -91,13 +88,23 @@ export class Page {
   async give(...paths) {
     await (await this.page.$('#picker')).uploadFile(...paths);
     for (const path of paths) {
-      const name = path.slice(path.lastIndexOf('/') + 1);
       await this.page.waitForFunction(
         (sought) => document.querySelector('#files').textContent.includes(sought),
         {},
-        name,
+        basename(path),
       );
     }
+  }
+
+  /** Lets files of text fall onto the page. */
+  drop(...paths) {
+    const files = paths.map((path) => [basename(path), readFileSync(path, 'utf8')]);
+    return this.page.evaluate((dropped) => {
+      const dataTransfer = new DataTransfer();
+      dropped.forEach(([name, text]) => dataTransfer.items.add(new File([text], name)));
+      const options = { dataTransfer, bubbles: true, cancelable: true };
+      document.querySelector('#drop').dispatchEvent(new DragEvent('drop', options));
+    }, files);
   }
 
   /** Types into a field as a user does, and leaves it. */
@@ -137,15 +144,19 @@ export class Page {
     await session.send('Browser.setDownloadBehavior', {
       behavior: 'allow',
       downloadPath: folder,
+      eventsEnabled: true,
+    });
+    const ended = new Promise((resolve) => {
+      session.on('Browser.downloadProgress', ({ state }) => {
+        if (state !== 'inProgress') {
+          resolve(state);
+        }
+      });
     });
     await this.click(selector);
-    for (;;) {
-      const done = readdirSync(folder).filter((name) => !name.endsWith('.crdownload'));
-      if (done.length > 0) {
-        return readFileSync(join(folder, done[0]));
-      }
-      await new Promise((resolve) => setTimeout(resolve, 50));
-    }
+    assert.equal(await ended, 'completed');
+    await session.detach();
+    return readFileSync(join(folder, readdirSync(folder)[0]));
   }
 
   /** Unpacks all that the page gives into a new folder. */
@@ -160,12 +171,17 @@ export class Page {
     return folder;
   }
 
-  /** What the judge of accessibility finds, in words. */
-  async findings() {
+  /** What the judge of accessibility finds, in words; by all of its rules unless told. */
+  async findings(...rules) {
     // Between the contexts of page and test: the policy of the page lets nothing be injected.
-    await this.page.evaluate(axeSource);
-    return this.page.evaluate(async () => {
-      const { violations } = await axe.run(document, { resultTypes: ['violations'] });
+    if (!(await this.page.evaluate(() => 'axe' in window))) {
+      await this.page.evaluate(axeSource);
+    }
+    return this.page.evaluate(async (only) => {
+      const { violations } = await axe.run(document, {
+        resultTypes: ['violations'],
+        ...(only.length > 0 ? { runOnly: only } : {}),
+      });
       return violations.map(
         ({ id, nodes }) =>
           `${id}: ${nodes
@@ -173,11 +189,17 @@ export class Page {
             .slice(0, 3)
             .join(' ')}`,
       );
-    });
+    }, rules);
   }
 
-  overflow = () =>
-    this.page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
+  /** How much wider than a window of that width the page is. */
+  async overflow(width) {
+    await this.page.setViewport({ width, height: 900 });
+    return this.page.evaluate(() => document.documentElement.scrollWidth - window.innerWidth);
+  }
+
+  inColours = (scheme) =>
+    this.page.emulateMediaFeatures([{ name: 'prefers-color-scheme', value: scheme }]);
 }
 
 /** Runs the command line in a folder. */

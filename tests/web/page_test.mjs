@@ -49,8 +49,9 @@ test('a file that cannot be used is refused in the words of the command line', a
   const page = await Page.open(browser);
   await page.run();
   assert.match(await page.text('#run-told'), /missing/);
-  await page.give(...['loci', 'parents', 'offspring'].map((name) => join(folder, `${name}.txt`)));
+  await page.drop(...['loci', 'parents', 'offspring'].map((name) => join(folder, `${name}.txt`)));
   await page.shows('#checked .problem');
+  assert.match(await page.text('#checked'), /offspring\.txt, line/);
   await page.run();
   const { stderr } = command(
     folder,
@@ -70,12 +71,22 @@ test('a file that cannot be used is refused in the words of the command line', a
 
 test('files of other programs are recognised, converted and allocated', async () => {
   const page = await Page.open(browser);
-  await page.give(example('foreign/pond.gen'));
+  const pond = readFileSync(example('foreign/pond.gen'), 'utf8');
+  const gaps = join(newFolder(), 'gaps.gen');
+  writeFileSync(gaps, pond.replace('124128', '000000'));
+  await page.give(gaps);
   await page.shows('#convert');
   assert.match(await page.text('#import-files'), /GENEPOP/);
-  await page.click('#convert');
-  await page.shows('#import-told .problem');
+  const refused = async (why) => {
+    await page.click('#convert');
+    await page.shows('#import-told .problem');
+    assert.match(await page.text('#import-told'), why);
+    await page.page.$eval('#import-told', (told) => told.replaceChildren());
+  };
+  await refused(/--offspring-populations/);
   await page.type('offspring-populations', 'pop3');
+  await refused(/1 of 4 parents are undefined/);
+  await page.page.select('[name="missing-parents"]', 'keep');
   await page.click('#convert');
   await page.shows('#checked .sound');
   await page.run();
@@ -167,6 +178,9 @@ test('offspring are sorted, sought, filtered and looked at; then simulated', asy
   await page.type('iterations', '3');
   await page.run();
   assert.match(await page.text('#results-title'), /simulation/);
+  await page.click('#runs button'); // what was simulated is still there
+  assert.match(await page.text('#results-title'), /allocation/);
+  assert.deepEqual(await page.texts('#to-check li'), toCheck);
   await page.close();
 });
 
@@ -189,39 +203,38 @@ test('nothing is lost by mistake, and the report can be read alone', async () =>
   await page.close();
 });
 
-for (const [width, dark] of [
-  [360, false],
-  [1280, true],
-  [3840, false],
-]) {
-  test(`every view is open to all, ${width} pixels wide, ${dark ? 'dark' : 'light'}`, async () => {
-    const page = await Page.open(browser, { width, dark });
-    const judge = async (view) => {
-      assert.deepEqual(await page.findings(), [], view);
-      assert.ok((await page.overflow()) <= 0, `${view} is wider than the window`);
-    };
-    await judge('the empty page');
-    await page.give(example('foreign/pond.gen'));
-    await page.shows('#convert');
-    await judge('the import');
-    await page.openExample('lake');
-    await page.page.$$eval('details', (all) => all.forEach((each) => (each.open = true)));
-    await judge('the form');
-    await page.page.$eval('[name="sequence-on"]', (element) => element.click());
-    await page.run();
-    for (const tab of await page.page.$$eval('[role=tab]', (all) =>
-      all.map(({ id }) => id.slice(4)),
-    )) {
-      await page.openTab(tab);
-      await judge(tab);
+test('every view is open to all, in windows of all widths, light and dark', async () => {
+  const page = await Page.open(browser);
+  const judge = async (view) => {
+    for (const width of [3840, 1366, 360]) {
+      assert.ok((await page.overflow(width)) <= 0, `${view} is wider than ${width} pixels`);
     }
-    await page.openTab('offspring');
-    await page.click('#panel-offspring td button');
-    await page.shows('.detail table');
-    await judge('locus by locus');
-    await page.close();
-  });
-}
+    assert.deepEqual(await page.findings(), [], view);
+    await page.inColours('dark');
+    assert.deepEqual(await page.findings('color-contrast'), [], `${view}, dark`);
+    await page.inColours('light');
+  };
+  await judge('the empty page');
+  await page.give(example('foreign/pond.gen'));
+  await page.shows('#convert');
+  await page.openExample('lake');
+  await page.page.$$eval('details', (all) => all.forEach((each) => (each.open = true)));
+  await judge('the form');
+  await page.page.$$eval('details', (all) => all.forEach((each) => (each.open = false)));
+  await page.page.$eval('[name="sequence-on"]', (element) => element.click());
+  await page.run();
+  for (const tab of await page.page.$$eval('[role=tab]', (all) =>
+    all.map(({ id }) => id.slice(4)),
+  )) {
+    await page.openTab(tab);
+    await judge(tab);
+  }
+  await page.openTab('offspring');
+  await page.click('#panel-offspring td button');
+  await page.shows('.detail table');
+  await judge('locus by locus');
+  await page.close();
+});
 
 test('the keyboard is enough', async () => {
   const page = await Page.open(browser);
@@ -238,20 +251,31 @@ test('the keyboard is enough', async () => {
   await page.close();
 });
 
-test('50,000 parents and 5,000 offspring', async () => {
+/** Makes a study and gives it to a new page. */
+async function openMade(...sizes) {
   const folder = newFolder();
-  const made = spawnSync(join(root, 'scripts/make-large-example'), [
-    folder,
-    '--parents',
-    '50000',
-    '--offspring',
-    '5000',
-    '--loci',
-    '12',
-  ]);
+  const made = spawnSync(join(root, 'scripts/make-large-example'), [folder, ...sizes]);
   assert.equal(made.status, 0);
   const page = await Page.open(browser);
   await page.give(...['loci', 'parents', 'offspring'].map((name) => join(folder, `${name}.txt`)));
+  return page;
+}
+
+async function expectSameOfCommandLine(page) {
+  const repeated = command(await page.unpacked(), 'rerun', 'results');
+  assert.equal(repeated.status, 0, repeated.stderr + repeated.stdout);
+}
+
+test('weak loci, at which many pairs are alike, give the files of the command line', async () => {
+  const weak = ['--loci', '8', '--alleles', '3', '--parents', '200', '--offspring', '60'];
+  const page = await openMade(...weak);
+  await page.run();
+  await expectSameOfCommandLine(page);
+  await page.close();
+});
+
+test('50,000 parents and 5,000 offspring', async () => {
+  const page = await openMade('--parents', '50000', '--offspring', '5000');
   await page.run();
   await page.openTab('parents');
   const { rows, height } = await page.page.$eval('#panel-parents .scroller', (scroller) => {
@@ -263,9 +287,7 @@ test('50,000 parents and 5,000 offspring', async () => {
     () =>
       document.querySelector('#panel-parents tbody tr:nth-last-child(2)').ariaRowIndex === '50001',
   );
-  const unpacked = await page.unpacked();
-  const verified = command(unpacked, 'rerun', 'results');
-  assert.equal(verified.status, 0, verified.stderr);
+  await expectSameOfCommandLine(page);
   await page.openTab('summary');
   await page.click('#trial');
   await page.shows('#run-told p');
