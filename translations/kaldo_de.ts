@@ -3077,11 +3077,11 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
     </message>
     <message>
         <source>Pre&amp;vious</source>
-        <translation>&amp;Vorheriger</translation>
+        <translation>Vor&amp;heriger</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation>Näc&amp;hster</translation>
+        <translation>Näch&amp;ster</translation>
     </message>
     <message>
         <source>The loci in use.</source>

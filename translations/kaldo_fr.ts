@@ -1417,7 +1417,7 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
     </message>
     <message>
         <source>Named</source>
-        <translation>Nommé</translation>
+        <translation>Nommés</translation>
     </message>
     <message>
         <source>Offspring of which it is named a parent at the level of confidence.</source>
@@ -3077,7 +3077,7 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
     </message>
     <message>
         <source>Pre&amp;vious</source>
-        <translation>Précéden&amp;t</translation>
+        <translation>Précédent</translation>
     </message>
     <message>
         <source>&amp;Next</source>

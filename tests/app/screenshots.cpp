@@ -99,8 +99,8 @@ class Photographer {
         tabs->setCurrentIndex(tab);
         QTest::qWait(100);
         ShowHome(window);
-        const QString title = tabs->tabText(tab).remove(QLatin1Char('&')).toLower();
-        if (!window.grab().save(path + Text("-") + title + Text(".png"))) {
+        const QString shown = tabs->widget(tab)->objectName().chopped(3).toLower();  // "Tab"
+        if (!window.grab().save(path + Text("-") + shown + Text(".png"))) {
           qWarning("cannot write into %s", qPrintable(path));
         }
       }

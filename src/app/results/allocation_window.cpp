@@ -50,30 +50,30 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
   allocation_ = shared;
   auto* offspring = new OffspringPage(shared, Folder());
   AddSummary(shared, *offspring);
-  AddTab(offspring, Tr("&Offspring"),
-         Tr("The parents of every offspring, and why, locus by locus."));
+  AddTab(offspring, Phrase("&Offspring"),
+         Phrase("The parents of every offspring, and why, locus by locus."));
   const auto show_offspring = [this, offspring](Slot of_parent) {
     offspring->ShowOffspringOf(of_parent);
     ShowTab(*offspring);
   };
-  AddTab(new ParentsPage(shared, Folder(), show_offspring), Tr("&Parents"),
-         Tr("The offspring and mates of every collected parent, and who has none."));
+  AddTab(new ParentsPage(shared, Folder(), show_offspring), Phrase("&Parents"),
+         Phrase("The offspring and mates of every collected parent, and who has none."));
   AddTab(new MatingPage(shared, Folder(),
                         [this, offspring](std::vector<std::size_t> places, const QString& what) {
                           offspring->ShowSome(std::move(places), what);
                           ShowTab(*offspring);
                         }),
-         Tr("Matin&gs"), Tr("Who had offspring with whom, as a table that is a picture."));
+         Phrase("Matin&gs"), Phrase("Who had offspring with whom, as a table that is a picture."));
   if (shared->settings.sequence) {
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Vertical, Folder(), nullptr);
     sequence->Show(SequenceChart(shared->run.input, shared->run.result));
-    AddTab(sequence, Tr("Se&quence"), Tr("How the proportions settle as loci are added."));
+    AddTab(sequence, Phrase("Se&quence"), Phrase("How the proportions settle as loci are added."));
   }
-  AddTab(new AllelesPage(shared, Folder()), Tr("&Alleles"),
-         Tr("The allele frequencies of each locus."));
+  AddTab(new AllelesPage(shared, Folder()), Phrase("&Alleles"),
+         Phrase("The allele frequencies of each locus."));
   if (!shared->run.result.loci_quality.empty()) {
-    AddTab(new LociUsePage(*shared, Folder()), Tr("Loc&i"),
-           Tr("What each locus is worth, and what may be wrong with it."));
+    AddTab(new LociUsePage(*shared, Folder()), Phrase("Loc&i"),
+           Phrase("What each locus is worth, and what may be wrong with it."));
   }
 }
 
@@ -90,7 +90,7 @@ void AllocationWindow::AddSummary(const SharedAllocation& shared, OffspringPage&
     }
     ShowTab(offspring);
   });
-  AddTab(summary_, Tr("&Summary"), Tr("What was found, what to check, and what was run."));
+  AddTab(summary_, Phrase("&Summary"), Phrase("What was found, what to check, and what was run."));
 }
 
 void AllocationWindow::OfferTrial(StartTrial start) {

@@ -19,7 +19,6 @@
 #include "app/base/messages.h"
 #include "app/base/recent_folders.h"
 #include "app/base/text.h"
-#include "app/base/tr.h"
 #include "base/version.h"
 
 namespace kaldo {
@@ -146,7 +145,7 @@ void ResultsWindow::ClearSearch() {
   }
 }
 
-void ResultsWindow::AddTab(QWidget* page, const QString& title, const QString& tip) {
+void ResultsWindow::AddTab(QWidget* page, Phrase title, Phrase tip) {
   auto* framed = new QWidget;
   auto* layout = new QVBoxLayout(framed);
   layout->addWidget(page);
@@ -154,7 +153,9 @@ void ResultsWindow::AddTab(QWidget* page, const QString& title, const QString& t
   auto* area = new PageArea;
   area->setWidget(framed);
   framed->setAutoFillBackground(false);
-  tabs_->setTabToolTip(tabs_->addTab(area, title), tip);
+  area->setObjectName(Text(title.English()).remove(QLatin1Char('&')).remove(QLatin1Char(' ')) +
+                      Text("Tab"));
+  tabs_->setTabToolTip(tabs_->addTab(area, Tr(title)), Tr(tip));
 }
 
 void ResultsWindow::AddButton(QPushButton* button) { buttons_->addWidget(button); }

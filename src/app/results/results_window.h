@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/base/tr.h"
 #include "app/results/export_dialog.h"
 
 class QHBoxLayout;
@@ -40,8 +41,9 @@ class ResultsWindow : public QWidget {
   /// What the run can be exported as.
   void SetExports(ExportOffer offer);
 
-  /// `title` carries its mnemonic; `tip` says in a sentence what the tab shows.
-  void AddTab(QWidget* page, const QString& title, const QString& tip);
+  /// `title` carries its mnemonic; `tip` says in a sentence what the tab shows. In any language its
+  /// object name is the English title in one word: "SummaryTab".
+  void AddTab(QWidget* page, Phrase title, Phrase tip);
 
   /// Puts one more button beside those that all runs have.
   void AddButton(QPushButton* button);

@@ -27,22 +27,23 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
   AddTab(new SummaryPage(SummaryOf(shared->settings, shared->run, Folder()),
                          CorrectnessChart(shared->settings, classes), CorrectnessTable(classes),
                          Folder()),
-         Tr("&Summary"), Tr("What was simulated, and how often decisions were correct."));
-  AddTab(new SpreadPage(classes, TrCore(LastCombinationNote(strategy)), Folder()), Tr("S&pread"),
-         Tr("How much the share of correct decisions varies between iterations."));
+         Phrase("&Summary"), Phrase("What was simulated, and how often decisions were correct."));
+  AddTab(new SpreadPage(classes, TrCore(LastCombinationNote(strategy)), Folder()),
+         Phrase("S&pread"),
+         Phrase("How much the share of correct decisions varies between iterations."));
   auto* estimates = new ChartPanel(Text("Estimates"), Qt::Vertical, Folder(), nullptr);
   estimates->Show(EstimatesChart(shared->settings, shared->run.result),
                   EstimatesTable(shared->settings.flow, shared->run.result));
-  AddTab(estimates, Tr("&Estimates"),
-         Tr("Every estimated probability that an allocation is correct, and how exact it is."));
+  AddTab(estimates, Phrase("&Estimates"),
+         Phrase("Every estimated probability that an allocation is correct, and how exact it is."));
   if (strategy == LociStrategy::kCumulative) {
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Vertical, Folder(), nullptr);
     sequence->Show(SequenceChart(shared->settings.flow, shared->run));
-    AddTab(sequence, Tr("Se&quence"), Tr("What each further locus adds."));
+    AddTab(sequence, Phrase("Se&quence"), Phrase("What each further locus adds."));
   }
   if (strategy == LociStrategy::kAll || strategy == LociStrategy::kMinimal) {
-    AddTab(new SubsetPage(shared, Folder()), Tr("Su&bsets"),
-           Tr("Which loci, and how many, are enough."));
+    AddTab(new SubsetPage(shared, Folder()), Phrase("Su&bsets"),
+           Phrase("Which loci, and how many, are enough."));
   }
 }
 
