@@ -1008,10 +1008,6 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
         <translation>Wählen Sie Breite und Höhe eines gespeicherten Diagramms in Millimetern.</translation>
     </message>
     <message>
-        <source>Copy p&amp;icture</source>
-        <translation>B&amp;ild kopieren</translation>
-    </message>
-    <message>
         <source>Copy the chart as a picture, for a text or a slide.</source>
         <translation>Kopiert das Diagramm als Bild, für einen Text oder eine Folie.</translation>
     </message>
@@ -1462,10 +1458,6 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
     <message>
         <source>%1 of %2 collected parents have no offspring here.</source>
         <translation>%1 von %2 beprobten Eltern haben hier keine Nachkommen.</translation>
-    </message>
-    <message>
-        <source>Show its offspr&amp;ing</source>
-        <translation>&amp;Dessen Nachkommen zeigen</translation>
     </message>
     <message>
         <source>Show the offspring of the chosen parent (Enter, or a double click).</source>
@@ -3244,14 +3236,6 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
         <translation>Paare, die den Nachkommen gleich gut erklären. Das erste entschied.</translation>
     </message>
     <message>
-        <source>Pair &amp;beside it:</source>
-        <translation>&amp;Vergleichspaar:</translation>
-    </message>
-    <message>
-        <source>Copy &amp;genotypes</source>
-        <translation>Genot&amp;ypen kopieren</translation>
-    </message>
-    <message>
         <source>Copy the selected loci, or all, with their heads.</source>
         <translation>Kopiert die gewählten Loci, oder alle, mit ihren Köpfen.</translation>
     </message>
@@ -3418,10 +3402,6 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
     <message>
         <source>How much the share of correct decisions varies between iterations.</source>
         <translation>Wie sehr der Anteil richtiger Entscheidungen zwischen den Iterationen schwankt.</translation>
-    </message>
-    <message>
-        <source>&amp;Estimates</source>
-        <translation>Schätzu&amp;ngen</translation>
     </message>
     <message>
         <source>Every estimated probability that an allocation is correct, and how exact it is.</source>
@@ -3990,6 +3970,26 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
     <message>
         <source>none: probabilities are not known</source>
         <translation>keine: Wahrscheinlichkeiten sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Pair besi&amp;de it:</source>
+        <translation>Ve&amp;rgleichspaar:</translation>
+    </message>
+    <message>
+        <source>Copy geno&amp;types</source>
+        <translation>Genot&amp;ypen kopieren</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y picture</source>
+        <translation>B&amp;ild kopieren</translation>
+    </message>
+    <message>
+        <source>S&amp;how its offspring</source>
+        <translation>&amp;Dessen Nachkommen zeigen</translation>
+    </message>
+    <message>
+        <source>Est&amp;imates</source>
+        <translation>Schätzu&amp;ngen</translation>
     </message>
 </context>
 </TS>

@@ -1008,10 +1008,6 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
         <translation>Choisissez la largeur et la hauteur d&apos;un graphique enregistré, en millimètres.</translation>
     </message>
     <message>
-        <source>Copy p&amp;icture</source>
-        <translation>Copier l&apos;&amp;image</translation>
-    </message>
-    <message>
         <source>Copy the chart as a picture, for a text or a slide.</source>
         <translation>Copie le graphique comme image, pour un texte ou une diapositive.</translation>
     </message>
@@ -1462,10 +1458,6 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
     <message>
         <source>%1 of %2 collected parents have no offspring here.</source>
         <translation>%1 des %2 parents collectés n&apos;ont pas de descendants ici.</translation>
-    </message>
-    <message>
-        <source>Show its offspr&amp;ing</source>
-        <translation>Voir ses descendan&amp;ts</translation>
     </message>
     <message>
         <source>Show the offspring of the chosen parent (Enter, or a double click).</source>
@@ -3244,14 +3236,6 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
         <translation>Couples qui expliquent le descendant aussi bien. Le premier a décidé.</translation>
     </message>
     <message>
-        <source>Pair &amp;beside it:</source>
-        <translation>Couple vo&amp;isin&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Copy &amp;genotypes</source>
-        <translation>Copier les &amp;génotypes</translation>
-    </message>
-    <message>
         <source>Copy the selected loci, or all, with their heads.</source>
         <translation>Copie les locus choisis, ou tous, avec leurs en-têtes.</translation>
     </message>
@@ -3418,10 +3402,6 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
     <message>
         <source>How much the share of correct decisions varies between iterations.</source>
         <translation>Combien la part de décisions correctes varie d&apos;une itération à l&apos;autre.</translation>
-    </message>
-    <message>
-        <source>&amp;Estimates</source>
-        <translation>Es&amp;timations</translation>
     </message>
     <message>
         <source>Every estimated probability that an allocation is correct, and how exact it is.</source>
@@ -3990,6 +3970,26 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
     <message>
         <source>none: probabilities are not known</source>
         <translation>aucune&#xa0;: les probabilités ne sont pas connues</translation>
+    </message>
+    <message>
+        <source>Pair besi&amp;de it:</source>
+        <translation>Couple vo&amp;isin&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Copy geno&amp;types</source>
+        <translation>Copier les &amp;génotypes</translation>
+    </message>
+    <message>
+        <source>Cop&amp;y picture</source>
+        <translation>Copier l&apos;&amp;image</translation>
+    </message>
+    <message>
+        <source>S&amp;how its offspring</source>
+        <translation>&amp;Voir ses descendants</translation>
+    </message>
+    <message>
+        <source>Est&amp;imates</source>
+        <translation>Es&amp;timations</translation>
     </message>
 </context>
 </TS>

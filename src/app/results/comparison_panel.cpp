@@ -46,7 +46,7 @@ ComparisonPanel::ComparisonPanel(SharedAllocation allocation, QWidget* parent)
 }
 
 void ComparisonPanel::LayOut() {
-  auto* pair_label = new QLabel(Tr("Pair &beside it:"));
+  auto* pair_label = new QLabel(Tr("Pair besi&de it:"));
   pair_label->setBuddy(pair_);
   auto* head = new QHBoxLayout;
   head->addWidget(pair_label);
@@ -59,7 +59,7 @@ void ComparisonPanel::LayOut() {
                SignOf(LocusFit::kUnmeasured), SignOf(LocusFit::kUnsaid)));
   legend->setObjectName(Text("ComparisonLegend"));
   legend->setWordWrap(true);
-  auto* copy = NewButton(Phrase("Copy &genotypes"), "ComparisonCopy",
+  auto* copy = NewButton(Phrase("Copy geno&types"), "ComparisonCopy",
                          Phrase("Copy the selected loci, or all, with their heads."));
   auto* foot = new QHBoxLayout;
   foot->addWidget(legend, 1);

@@ -75,7 +75,7 @@ void FigureSaver::AddButtons(QBoxLayout& row) {
   auto* const size =
       NewButton(Phrase("Si&ze..."), (name_ + Text("Size")).toStdString(),
                 Phrase("Choose the width and the height of a saved chart in millimetres."));
-  auto* const picture = NewButton(Phrase("Copy p&icture"), (name_ + Text("Picture")).toStdString(),
+  auto* const picture = NewButton(Phrase("Cop&y picture"), (name_ + Text("Picture")).toStdString(),
                                   Phrase("Copy the chart as a picture, for a text or a slide."));
   for (QPushButton* button : {save, size, picture}) {
     row.addWidget(button);

@@ -47,7 +47,7 @@ ParentsPage::ParentsPage(const SharedAllocation& allocation, const QString& fold
       list_(new SearchableTable(kTexts, folder)),
       families_(NewHint(nullptr)),
       offspring_(NewButton(
-          Phrase("Show its offspr&ing"), "ParentsOffspring",
+          Phrase("S&how its offspring"), "ParentsOffspring",
           Phrase("Show the offspring of the chosen parent (Enter, or a double click)."))) {
   QComboBox& choices = list_->Choices();
   choices.addItem(Tr("all parents"));

@@ -34,7 +34,7 @@ SimulationWindow::SimulationWindow(SimulationSettings settings, SimulationRun ru
   auto* estimates = new ChartPanel(Text("Estimates"), Qt::Vertical, Folder(), nullptr);
   estimates->Show(EstimatesChart(shared->settings, shared->run.result),
                   EstimatesTable(shared->settings.flow, shared->run.result));
-  AddTab(estimates, Phrase("&Estimates"),
+  AddTab(estimates, Phrase("Est&imates"),
          Phrase("Every estimated probability that an allocation is correct, and how exact it is."));
   if (strategy == LociStrategy::kCumulative) {
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Vertical, Folder(), nullptr);
