@@ -3991,5 +3991,9 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
         <source>Est&amp;imates</source>
         <translation>Schätzu&amp;ngen</translation>
     </message>
+    <message>
+        <source>Number of offspring</source>
+        <translation>Nachkommen</translation>
+    </message>
 </context>
 </TS>

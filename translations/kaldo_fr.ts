@@ -3991,5 +3991,9 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
         <source>Est&amp;imates</source>
         <translation>Es&amp;timations</translation>
     </message>
+    <message>
+        <source>Number of offspring</source>
+        <translation>Descendants</translation>
+    </message>
 </context>
 </TS>

@@ -85,7 +85,7 @@ void MatingTable::MakeList() {
   });
   const bool sexed = !families_.is_symmetric;
   list_.heads = {sexed ? Tr("Male") : Tr("Parent 1"), sexed ? Tr("Female") : Tr("Parent 2"),
-                 Tr("Offspring"), Tr("Only likely"), Tr("Names")};
+                 Tr("Number of offspring"), Tr("Only likely"), Tr("Names")};
   list_.rows.reserve(order.size());
   list_places_.reserve(order.size());
   for (const std::size_t k : order) {

@@ -29,7 +29,7 @@ ColumnTexts TextsOf(Column column) {
       return {Phrase("Sex"),
               Phrase("From which file the parent is: of the males or of the females.")};
     case Column::kOffspring:
-      return {Phrase("Offspring"), Phrase("Offspring that the results allocate to it.")};
+      return {Phrase("Number of offspring"), Phrase("Offspring that the results allocate to it.")};
     case Column::kNamed:
       return {Phrase("Named"),
               Phrase("Offspring of which it is named a parent at the level of confidence.")};
