@@ -3995,5 +3995,21 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
         <source>Number of offspring</source>
         <translation>Nachkommen</translation>
     </message>
+    <message>
+        <source>%1 of %2 offspring are allocated to two collected parents; how sure that is was computed, but its report cannot be used.</source>
+        <translation>%1 von %2 Nachkommen sind zwei beprobten Eltern zugeordnet; wie sicher das ist, wurde berechnet, aber der Bericht darüber ist nicht verwendbar.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 offspring is allocated to two collected parents; how sure that is was computed, but its report cannot be used.</source>
+        <translation>%1 von %2 Nachkommen ist zwei beprobten Eltern zugeordnet; wie sicher das ist, wurde berechnet, aber der Bericht darüber ist nicht verwendbar.</translation>
+    </message>
+    <message>
+        <source>How many parents were not collected is not known: the report of how sure the run is cannot be used.</source>
+        <translation>Wie viele Eltern nicht beprobt wurden, ist nicht bekannt: der Bericht darüber, wie sicher der Lauf ist, ist nicht verwendbar.</translation>
+    </message>
+    <message>
+        <source> How sure the pairs are was computed, but its report cannot be used.</source>
+        <translation> Wie sicher die Paare sind, wurde berechnet, aber der Bericht darüber ist nicht verwendbar.</translation>
+    </message>
 </context>
 </TS>

@@ -3995,5 +3995,21 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
         <source>Number of offspring</source>
         <translation>Descendants</translation>
     </message>
+    <message>
+        <source>%1 of %2 offspring are allocated to two collected parents; how sure that is was computed, but its report cannot be used.</source>
+        <translation>%1 descendants sur %2 sont assignés à deux parents collectés&#xa0;; la certitude a été calculée, mais son rapport est inutilisable.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 offspring is allocated to two collected parents; how sure that is was computed, but its report cannot be used.</source>
+        <translation>%1 descendant sur %2 est assigné à deux parents collectés&#xa0;; la certitude a été calculée, mais son rapport est inutilisable.</translation>
+    </message>
+    <message>
+        <source>How many parents were not collected is not known: the report of how sure the run is cannot be used.</source>
+        <translation>On ne sait pas combien de parents n&apos;ont pas été collectés&#xa0;: le rapport sur la certitude de l&apos;exécution est inutilisable.</translation>
+    </message>
+    <message>
+        <source> How sure the pairs are was computed, but its report cannot be used.</source>
+        <translation> La certitude des couples a été calculée, mais son rapport est inutilisable.</translation>
+    </message>
 </context>
 </TS>

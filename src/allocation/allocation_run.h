@@ -35,6 +35,10 @@ struct AllocationResult {
   std::optional<ConfidenceResult> confidence;
   std::vector<LocusQuality> loci_quality;  ///< beside `loci.loci`; empty where it was not wanted
 
+  /// True where the run computed how sure it is, but a run that was opened again has lost the
+  /// report that tells it.
+  bool confidence_is_lost = false;
+
   std::string folder;    ///< the working folder at the start
   unsigned threads = 1;  ///< that computed, of all processes together
   std::chrono::system_clock::time_point started;

@@ -33,6 +33,7 @@ const OffspringConfidence* ConfidenceIn(const AllocationResult& result, std::siz
 AllocationFindings FindingsOf(const AllocationResult& result) {
   AllocationFindings findings;
   findings.knows_certainty = KnowsCertainty(result);
+  findings.certainty_is_lost = result.confidence_is_lost;
   findings.offspring = result.outcomes.size();
   for (std::size_t place = 0; place < findings.offspring; ++place) {
     const OffspringConfidence* const confidence = ConfidenceIn(result, place);
@@ -71,10 +72,10 @@ std::string FindingsSentence(const AllocationFindings& findings) {
       fmt::format("{} of {} offspring", findings.both_collected, findings.offspring);
   const bool one = findings.both_collected == 1;
   if (!findings.knows_certainty) {
-    return fmt::format(
-        "{} {} allocated to two collected parents; how sure that is was not "
-        "computed.",
-        of, one ? "is" : "are");
+    return fmt::format("{} {} allocated to two collected parents; how sure that is {}.", of,
+                       one ? "is" : "are",
+                       findings.certainty_is_lost ? "was computed, but its report cannot be used"
+                                                  : "was not computed");
   }
   const std::size_t checks = findings.to_check.size();
   return fmt::format("{} {} both parents in your files; {}", of, one ? "has" : "have",

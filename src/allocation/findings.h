@@ -27,7 +27,8 @@ struct OffspringToCheck {
 
 /// What a geneticist wants to know first.
 struct AllocationFindings {
-  bool knows_certainty = false;  ///< posteriors were computed
+  bool knows_certainty = false;    ///< posteriors were computed
+  bool certainty_is_lost = false;  ///< they were, but their report cannot be used
   std::size_t offspring = 0;
 
   /// Offspring of whom both parents are named; without posteriors those that are allocated to two

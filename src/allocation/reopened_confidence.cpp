@@ -254,6 +254,7 @@ std::optional<Problem> AddRecordedConfidence(const AllocationSettings& settings,
     const auto text = reports.Read(kConfidenceFile);
     if (!text || !ReadOffspring(settings.flow, input, *text, result)) {
       result.confidence.reset();
+      result.confidence_is_lost = true;
       return text ? reports.Unreadable(kConfidenceFile) : text.error();
     }
     result.confidence->ways = CountWays(settings.flow, input.groups);

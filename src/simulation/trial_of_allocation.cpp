@@ -64,7 +64,11 @@ tl::expected<Trial, std::string> TrialOf(const AllocationSettings& settings,
                                          const AllocationResult& result) {
   if (!KnowsCertainty(result)) {
     return tl::unexpected<std::string>(
-        "How many parents were not collected is not known: this run computed no probabilities.");
+        result.confidence_is_lost
+            ? "How many parents were not collected is not known: the report of how sure the run is "
+              "cannot be used."
+            : "How many parents were not collected is not known: this run computed no "
+              "probabilities.");
   }
   if (std::isnan(result.confidence->shares.collected)) {
     return tl::unexpected<std::string>(

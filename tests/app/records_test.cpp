@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTextEdit>
 #include <QTimer>
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -230,6 +231,9 @@ TEST_F(RecordsTest, ResultsOpenedAgainAreAsSureAndExportedAsThoseOfTheRun) {
   script_.Await("Note").Do([&](QWidget& window) {
     note = Bytes(window.window()->findChild<QLabel*>(Text("Note"))->text());
     EXPECT_EQ(window.window()->findChild<QWidget*>(Text("OffspringLegend")), nullptr);
+    const auto* const summary = window.window()->findChild<QTextEdit*>(Text("SummaryText"));
+    EXPECT_THAT(Bytes(summary->toPlainText()),
+                testing::HasSubstr("was computed, but its report cannot be used."));
     folder_.Write("p/Confidence.tsv", confidence);
   });
   script_.Click("Close").Until(menu_in_front, "the menu");

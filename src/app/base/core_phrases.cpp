@@ -161,6 +161,10 @@ constexpr std::array kSentences = {
            "computed."),
     Phrase("%1 of %2 offspring is allocated to two collected parents; how sure that is was not "
            "computed."),
+    Phrase("%1 of %2 offspring are allocated to two collected parents; how sure that is was "
+           "computed, but its report cannot be used."),
+    Phrase("%1 of %2 offspring is allocated to two collected parents; how sure that is was "
+           "computed, but its report cannot be used."),
     Phrase("%1 has a probability of %2 only"),
     Phrase("no locus is typed"),
     Phrase("no explanation is possible"),
@@ -234,6 +238,8 @@ constexpr std::array kSentences = {
     Phrase("The pseudo-offspring hold errors and were allocated as if they held none: the figures "
            "describe strict exclusion, not an allocation with an error model, which %1 simulates."),
     Phrase("How many parents were not collected is not known: this run computed no probabilities."),
+    Phrase("How many parents were not collected is not known: the report of how sure the run is "
+           "cannot be used."),
     Phrase(
         "How many parents were not collected is not in the reports of a run that counts relatives. "
         "Run it again to try its results."),

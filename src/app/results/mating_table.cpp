@@ -227,7 +227,9 @@ QString MatingTable::Note() const {
               .arg(parents - shown)
               .arg(parents);
   if (!knows_certainty) {
-    note += Tr(" How sure the pairs are was not computed.");
+    note += allocation_->run.result.confidence_is_lost
+                ? Tr(" How sure the pairs are was computed, but its report cannot be used.")
+                : Tr(" How sure the pairs are was not computed.");
   }
   return note;
 }
