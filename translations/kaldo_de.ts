@@ -4011,5 +4011,53 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
         <source> How sure the pairs are was computed, but its report cannot be used.</source>
         <translation> Wie sicher die Paare sind, wurde berechnet, aber der Bericht darüber ist nicht verwendbar.</translation>
     </message>
+    <message>
+        <source>Step &amp;by step</source>
+        <translation>Schritt &amp;für Schritt</translation>
+    </message>
+    <message>
+        <source>Which offspring have another pair after another step of the sequence.</source>
+        <translation>Welche Nachkommen nach einem anderen Schritt der Folge ein anderes Paar haben.</translation>
+    </message>
+    <message>
+        <source>Step %1: %2</source>
+        <translation>Schritt %1: %2</translation>
+    </message>
+    <message>
+        <source>Offspring with another pair</source>
+        <translation>Nachkommen mit anderem Paar</translation>
+    </message>
+    <message>
+        <source>A step of the sequence: its number and the locus that it adds.</source>
+        <translation>Ein Schritt der Folge: seine Nummer und der Locus, der dazukommt.</translation>
+    </message>
+    <message>
+        <source>S&amp;tep:</source>
+        <translation>Sch&amp;ritt:</translation>
+    </message>
+    <message>
+        <source>Besi&amp;de it:</source>
+        <translation>&amp;Daneben:</translation>
+    </message>
+    <message>
+        <source>Copy the selected offspring, or all, with their heads, to be pasted into a spreadsheet (Ctrl+C).</source>
+        <translation>Kopiert die gewählten Nachkommen, oder alle, mit ihren Köpfen, zum Einfügen in eine Tabellenkalkulation (Strg+C).</translation>
+    </message>
+    <message>
+        <source>The reports tell the pairs of the last step alone, so that of results opened again only numbers are compared. Run again to see which offspring have another pair.</source>
+        <translation>Die Berichte nennen nur die Paare des letzten Schritts, sodass von wieder geöffneten Ergebnissen nur Anzahlen verglichen werden. Wiederholen Sie den Lauf, um zu sehen, welche Nachkommen ein anderes Paar haben.</translation>
+    </message>
+    <message>
+        <source>%1: %2, then %3 (%4)</source>
+        <translation>%1: %2, dann %3 (%4)</translation>
+    </message>
+    <message>
+        <source>Offspring by class. %1</source>
+        <translation>Nachkommen nach Klassen. %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 have another pair.</source>
+        <translation>%1 von %2 haben ein anderes Paar.</translation>
+    </message>
 </context>
 </TS>

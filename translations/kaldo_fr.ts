@@ -4011,5 +4011,53 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
         <source> How sure the pairs are was computed, but its report cannot be used.</source>
         <translation> La certitude des couples a été calculée, mais son rapport est inutilisable.</translation>
     </message>
+    <message>
+        <source>Step &amp;by step</source>
+        <translation>&amp;Étape par étape</translation>
+    </message>
+    <message>
+        <source>Which offspring have another pair after another step of the sequence.</source>
+        <translation>Quels descendants ont un autre couple après une autre étape de la séquence.</translation>
+    </message>
+    <message>
+        <source>Step %1: %2</source>
+        <translation>Étape %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Offspring with another pair</source>
+        <translation>Descendants avec un autre couple</translation>
+    </message>
+    <message>
+        <source>A step of the sequence: its number and the locus that it adds.</source>
+        <translation>Une étape de la séquence&#xa0;: son numéro et le locus qu&apos;elle ajoute.</translation>
+    </message>
+    <message>
+        <source>S&amp;tep:</source>
+        <translation>Étap&amp;e&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Besi&amp;de it:</source>
+        <translation>A&amp;vec&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Copy the selected offspring, or all, with their heads, to be pasted into a spreadsheet (Ctrl+C).</source>
+        <translation>Copie les descendants choisis, ou tous, avec leurs en-têtes, à coller dans un tableur (Ctrl+C).</translation>
+    </message>
+    <message>
+        <source>The reports tell the pairs of the last step alone, so that of results opened again only numbers are compared. Run again to see which offspring have another pair.</source>
+        <translation>Les rapports ne donnent que les couples de la dernière étape, de sorte que seuls les nombres de résultats rouverts sont comparés. Relancez l&apos;exécution pour voir quels descendants ont un autre couple.</translation>
+    </message>
+    <message>
+        <source>%1: %2, then %3 (%4)</source>
+        <translation>%1&#xa0;: %2, puis %3 (%4)</translation>
+    </message>
+    <message>
+        <source>Offspring by class. %1</source>
+        <translation>Descendants par classe. %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 have another pair.</source>
+        <translation>%1 sur %2 ont un autre couple.</translation>
+    </message>
 </context>
 </TS>

@@ -29,12 +29,12 @@ class AllocationTask final : public PortionTask {
   std::vector<TransmissionMatrix> matrices_;
 };
 
-/// Combination by combination, its offspring in file order: fills the counters, the loci and the
-/// outcomes of a result.
+/// Combination by combination, its offspring in file order: fills the counters, the pairs, the
+/// loci and the outcomes of a result.
 class AllocationPlan final : public PortionPlan {
  public:
-  AllocationPlan(const AllocationInput& input, AllocationResult& result)
-      : input_(input), result_(result) {}
+  AllocationPlan(Flow flow, const AllocationInput& input, AllocationResult& result)
+      : flow_(flow), input_(input), result_(result) {}
 
   std::size_t Groups() const override { return input_.combinations.size(); }
   std::size_t ItemsPerGroup() const override { return input_.NumberOfOffspring(); }
@@ -44,6 +44,9 @@ class AllocationPlan final : public PortionPlan {
   bool Take(const Portion& portion, std::string_view result) override;
 
  private:
+  void KeepPairs();
+
+  Flow flow_;
   const AllocationInput& input_;
   AllocationResult& result_;
 };

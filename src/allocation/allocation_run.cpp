@@ -20,7 +20,7 @@ AllocationResult Allocate(const AllocationSettings& settings, const AllocationIn
   result.stepping = CheckStepping(input.loci, input.catalogues);
 
   const AllocationTask task(settings, input);
-  AllocationPlan plan(input, result);
+  AllocationPlan plan(settings.flow, input, result);
   observer.OnPart(kAllocatingPart, input.combinations.size() * input.NumberOfOffspring());
   workforce.Do({kAllocatingPart, task, plan, [&] { return RecordOf(settings, input, result); }},
                settings.threads, observer);

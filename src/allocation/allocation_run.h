@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <chrono>
 #include <string_view>
 #include <vector>
@@ -18,11 +19,18 @@
 
 namespace kaldo {
 
+/// Whom an offspring is allocated to, in the order of its line; nothing for "UC".
+using StatedPair = std::array<std::optional<Slot>, 2>;
+
 /// What an allocation found.
 struct AllocationResult {
   /// One per combination of loci, in their order; a run without a sequence has one.
   std::vector<AllocationCounters> counters;
   std::vector<AllocationShares> shares;  ///< beside `counters`
+
+  /// Of the combinations before the last one: one pair per offspring, in file order. Empty where
+  /// the run was opened again, because no report tells them.
+  std::vector<std::vector<StatedPair>> earlier_pairs;
 
   // Of the last combination:
   LociOfRun loci;

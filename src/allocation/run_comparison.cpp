@@ -15,12 +15,24 @@ namespace kaldo {
 
 namespace {
 
-std::string_view ClassOf(Flow flow, const AllocationOutcome& outcome) {
-  AllocationCounters counters;
-  counters.Count(outcome);
-  const std::vector<double> numbers = PairClassNumbers(flow, counters);
-  const auto largest = std::max_element(numbers.begin(), numbers.end());
-  return PairClassNames(flow)[static_cast<std::size_t>(largest - numbers.begin())];
+std::string_view ClassOf(Flow flow, const StatedPair& pair) {
+  const std::size_t first = pair[0] ? 0 : 1;
+  const std::size_t second = pair[1] ? 0 : 1;
+  return PairClassNames(flow)[flow == Flow::kSexed ? 2 * first + second : first + second];
+}
+
+/// The pairs of a step, the last one included.
+std::vector<StatedPair> PairsOfStep(Flow flow, const AllocationResult& result, std::size_t step) {
+  if (step < result.earlier_pairs.size()) {
+    return result.earlier_pairs[step];
+  }
+  std::vector<StatedPair> pairs;
+  pairs.reserve(result.outcomes.size());
+  for (const AllocationOutcome& outcome : result.outcomes) {
+    const AllocatedSides sides = SidesOf(flow, outcome);
+    pairs.push_back({sides.first.parent, sides.second.parent});
+  }
+  return pairs;
 }
 
 bool HaveSamePair(const RunStatement& first, const RunStatement& second, bool sides_count) {
@@ -64,23 +76,25 @@ std::vector<std::string> OtherFiles(const RunStatements& first, const RunStateme
 
 }  // namespace
 
-RunStatements StatementsOf(Flow flow, const AllocationInput& input,
-                           const AllocationResult& result) {
+RunStatements StatementsOfStep(const AllocationSettings& settings, const AllocationInput& input,
+                               const AllocationResult& result, std::size_t step) {
   RunStatements run;
-  run.flow = flow;
+  run.flow = settings.flow;
   run.files = input.files;
-  run.offspring.resize(result.outcomes.size());
-  const auto name = [&](const AllocatedSide& side) {
-    return side.parent ? std::string(input.table.Name(*side.parent).Text()) : "UC";
+  const std::vector<StatedPair> pairs = PairsOfStep(settings.flow, result, step);
+  const bool is_last = step + 1 == input.combinations.size();
+  run.offspring.resize(pairs.size());
+  const auto name = [&](const std::optional<Slot>& parent) {
+    return parent ? std::string(input.table.Name(*parent).Text()) : "UC";
   };
   for (std::size_t place = 0; place < run.offspring.size(); ++place) {
     RunStatement& statement = run.offspring[place];
     const Slot slot{input.offspring.begin + static_cast<std::uint32_t>(place)};
-    const AllocatedSides sides = SidesOf(flow, result.outcomes[place]);
     statement.offspring = input.table.Name(slot).Text();
-    statement.parents = {name(sides.first), name(sides.second)};
-    statement.the_class = ClassOf(flow, result.outcomes[place]);
-    if (const OffspringConfidence* const confidence = ConfidenceIn(result, place)) {
+    statement.parents = {name(pairs[place][0]), name(pairs[place][1])};
+    statement.the_class = ClassOf(run.flow, pairs[place]);
+    const OffspringConfidence* const confidence = is_last ? ConfidenceIn(result, place) : nullptr;
+    if (confidence != nullptr) {
       statement.certainty = CertaintyOf(*confidence);
       for (std::size_t k = 0; confidence->is_possible && k < 2; ++k) {
         statement.p_right.at(k) = confidence->sides.at(k).p_reported;
@@ -88,6 +102,11 @@ RunStatements StatementsOf(Flow flow, const AllocationInput& input,
     }
   }
   return run;
+}
+
+RunStatements StatementsOf(const AllocationSettings& settings, const AllocationInput& input,
+                           const AllocationResult& result) {
+  return StatementsOfStep(settings, input, result, input.combinations.size() - 1);
 }
 
 RunComparison Compare(const RunStatements& first, const RunStatements& second) {

@@ -30,7 +30,13 @@ struct RunStatements {
   std::vector<RecordedInput> files;
 };
 
-RunStatements StatementsOf(Flow flow, const AllocationInput& input, const AllocationResult& result);
+RunStatements StatementsOf(const AllocationSettings& settings, const AllocationInput& input,
+                           const AllocationResult& result);
+
+/// What a step of a cumulative sequence says, counted from 0. How sure it was is known of the last
+/// one alone. The pairs of the others must have been kept.
+RunStatements StatementsOfStep(const AllocationSettings& settings, const AllocationInput& input,
+                               const AllocationResult& result, std::size_t step);
 
 /// What two runs say of an offspring: its places in either of them, nothing where it is not there.
 struct ComparedOffspring {

@@ -3,7 +3,11 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QTableView>
+#include <array>
 #include <filesystem>
+#include <set>
+
+#include <fmt/format.h>
 
 #include "app/flows/results_opener.h"
 #include "app/results/allocation_window.h"
@@ -101,6 +105,50 @@ TEST_F(ResultsComparedTest, OffspringWithAnotherPairAreListedWithBothPairs) {
   });
   script_.Click("Close").Await("Tabs");
   EXPECT_TRUE(script_.Run([&] { shown.window->activateWindow(); }));
+}
+
+/// A step of a sequence says what a run with its loci alone says.
+TEST_F(ResultsComparedTest, StepsOfASequenceDifferAsRunsWithTheirLociDo) {
+  const std::vector<std::string> loci = {"Mir03Di", "Mir08Di", "Mir14Di"};
+  std::array<std::map<QString, Said>, 2> said;
+  for (const std::size_t step : {0U, 1U}) {
+    AllocationSettings of_step = test::ExampleAllocation(Flow::kSexed);
+    of_step.project = fmt::format("step{}", step);
+    of_step.loci_in_use.emplace(loci.begin(), loci.end() - (step == 0 ? 1 : 0));
+    ASSERT_TRUE(test::Run(of_step));
+    said.at(step) = SaidBy(of_step.project);
+  }
+  std::set<QStringList> changed;
+  std::array<int, 2> both{};
+  for (const auto& [name, before] : said[0]) {
+    const QStringList& after = said[1].at(name).parents;
+    if (before.parents != after) {
+      changed.insert(QStringList{name} + before.parents + after);
+    }
+    both[0] += before.parents.contains(Text("UC")) ? 0 : 1;
+    both[1] += after.contains(Text("UC")) ? 0 : 1;
+  }
+  ASSERT_GT(changed.size(), 3U);
+
+  Shown shown(Flow::kSexed);
+  shown.settings.sequence.emplace();
+  shown.Run();
+  const auto& window = *shown.window;
+  Find<QComboBox>(window, "StepsFirst").setCurrentIndex(1);
+  Find<QComboBox>(window, "StepsSecond").setCurrentIndex(2);
+  test::Rows rows = test::ModelRows(test::ModelIn(window, "StepsTable"));
+  EXPECT_EQ(std::set<QStringList>(rows.begin() + 1, rows.end()), changed);
+  EXPECT_TRUE(Find<QLabel>(window, "StepsNumbers")
+                  .text()
+                  .contains(Text("CM + CF: %1, then %2").arg(both[0]).arg(both[1])));
+  // The last step is that of the results.
+  const int last = Find<QComboBox>(window, "StepsSecond").count() - 1;
+  Find<QComboBox>(window, "StepsSecond").setCurrentIndex(last);
+  const auto of_run = SaidBy("p");
+  rows = test::ModelRows(test::ModelIn(window, "StepsTable"));
+  for (std::size_t k = 1; k < rows.size(); ++k) {
+    EXPECT_EQ(rows[k].mid(3), of_run.at(rows[k][0]).parents);
+  }
 }
 
 }  // namespace

@@ -77,7 +77,7 @@ TEST_F(WorkerCrewTest, DoesPortionsFromWhatWasSentAlone) {
   EXPECT_FALSE(crew.WaitForFinished(0us));
 
   AllocationResult result;
-  AllocationPlan plan(input_, result);
+  AllocationPlan plan(settings_.flow, input_, result);
   for (const auto& [offspring, outcome] : results) {
     plan.Take({0, offspring, offspring + 1}, outcome);
   }

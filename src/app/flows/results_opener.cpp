@@ -170,7 +170,7 @@ std::optional<OtherRun> ReadOtherRun(QWidget* parent, const CheckedRecord& check
   if (reopened->without_certainty) {
     ShowProblem(parent, *reopened->without_certainty);
   }
-  return OtherRun{StatementsOf(now->flow, reopened->run.input, reopened->run.result),
+  return OtherRun{StatementsOf(*now, reopened->run.input, reopened->run.result),
                   QFileInfo(PathText(checked.path)).absolutePath()};
 }
 

@@ -18,6 +18,7 @@
 #include "app/results/offspring_page.h"
 #include "app/results/parents_page.h"
 #include "app/results/run_comparison_window.h"
+#include "app/results/steps_page.h"
 #include "simulation/trial_of_allocation.h"
 
 namespace kaldo {
@@ -68,6 +69,8 @@ AllocationWindow::AllocationWindow(AllocationSettings settings, AllocationRun ru
     auto* sequence = new ChartPanel(Text("Sequence"), Qt::Vertical, Folder(), nullptr);
     sequence->Show(SequenceChart(shared->run.input, shared->run.result));
     AddTab(sequence, Phrase("Se&quence"), Phrase("How the proportions settle as loci are added."));
+    AddTab(new StepsPage(shared, Folder()), Phrase("Step &by step"),
+           Phrase("Which offspring have another pair after another step of the sequence."));
   }
   AddTab(new AllelesPage(shared, Folder()), Phrase("&Alleles"),
          Phrase("The allele frequencies of each locus."));
@@ -123,7 +126,7 @@ void AllocationWindow::OfferComparison(ChooseOtherRun choose) {
       return;
     }
     const OtherRun here{
-        StatementsOf(allocation_->settings.flow, allocation_->run.input, allocation_->run.result),
+        StatementsOf(allocation_->settings, allocation_->run.input, allocation_->run.result),
         Folder()};
     auto* const window = new RunComparisonWindow(here, *other, this);
     window->show();
