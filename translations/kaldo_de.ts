@@ -4059,5 +4059,61 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
         <source>%1 of %2 have another pair.</source>
         <translation>%1 von %2 haben ein anderes Paar.</translation>
     </message>
+    <message>
+        <source>sexes</source>
+        <translation>Geschlechter</translation>
+    </message>
+    <message>
+        <source>known</source>
+        <translation>bekannt</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>tolerance</source>
+        <translation>Toleranz</translation>
+    </message>
+    <message>
+        <source>undefined parents</source>
+        <translation>undefinierte Eltern</translation>
+    </message>
+    <message>
+        <source>sequence of loci</source>
+        <translation>Folge der Loci</translation>
+    </message>
+    <message>
+        <source>how sure computed</source>
+        <translation>Sicherheit berechnet</translation>
+    </message>
+    <message>
+        <source>level of confidence</source>
+        <translation>Konfidenzniveau</translation>
+    </message>
+    <message>
+        <source>uncollected full sibs of candidates</source>
+        <translation>unbeprobte Vollgeschwister der Kandidaten</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>%1: %2 in this run, %3 in the other one</source>
+        <translation>%1: %2 in diesem Lauf, %3 im anderen</translation>
+    </message>
+    <message>
+        <source>Both have the same settings.</source>
+        <translation>Beide haben dieselben Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Their settings differ:</source>
+        <translation>Ihre Einstellungen unterscheiden sich:</translation>
+    </message>
 </context>
 </TS>

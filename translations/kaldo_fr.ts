@@ -4059,5 +4059,61 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
         <source>%1 of %2 have another pair.</source>
         <translation>%1 sur %2 ont un autre couple.</translation>
     </message>
+    <message>
+        <source>sexes</source>
+        <translation>sexes</translation>
+    </message>
+    <message>
+        <source>known</source>
+        <translation>connus</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>non connus</translation>
+    </message>
+    <message>
+        <source>tolerance</source>
+        <translation>tolérance</translation>
+    </message>
+    <message>
+        <source>undefined parents</source>
+        <translation>parents indéfinis</translation>
+    </message>
+    <message>
+        <source>sequence of loci</source>
+        <translation>séquence de locus</translation>
+    </message>
+    <message>
+        <source>how sure computed</source>
+        <translation>certitude calculée</translation>
+    </message>
+    <message>
+        <source>level of confidence</source>
+        <translation>niveau de confiance</translation>
+    </message>
+    <message>
+        <source>uncollected full sibs of candidates</source>
+        <translation>pleins frères et sœurs non collectés des candidats</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>%1: %2 in this run, %3 in the other one</source>
+        <translation>%1&#xa0;: %2 dans cette exécution, %3 dans l&apos;autre</translation>
+    </message>
+    <message>
+        <source>Both have the same settings.</source>
+        <translation>Les deux ont les mêmes réglages.</translation>
+    </message>
+    <message>
+        <source>Their settings differ:</source>
+        <translation>Leurs réglages diffèrent&#xa0;:</translation>
+    </message>
 </context>
 </TS>

@@ -35,6 +35,33 @@ std::vector<StatedPair> PairsOfStep(Flow flow, const AllocationResult& result, s
   return pairs;
 }
 
+std::string LociText(const AllocationInput& input, const std::vector<LocusIndex>& loci) {
+  std::vector<std::string_view> names;
+  names.reserve(loci.size());
+  for (const LocusIndex locus : loci) {
+    names.push_back(input.loci.Name(locus));
+  }
+  return fmt::format("{}", fmt::join(names, ", "));
+}
+
+/// In words that do not depend on how the same was said: all loci by their names or by default.
+std::vector<StatedSetting> SettingsOf(const AllocationSettings& settings,
+                                      const AllocationInput& input) {
+  const auto yes_or_no = [](bool is_so) { return is_so ? "yes" : "no"; };
+  const WantedConfidence& confidence = settings.confidence;
+  return {
+      {"sexes", settings.flow == Flow::kSexed ? "known" : "not known"},
+      {"tolerance", std::to_string(settings.tolerance.Value())},
+      {"error model", ShortDescription(settings.error_model)},
+      {"loci in use", LociText(input, input.loci.LociInUse())},
+      {"undefined parents", yes_or_no(settings.allow_undefined_parents)},
+      {"sequence of loci", settings.sequence ? LociText(input, input.combinations.back()) : "no"},
+      {"how sure computed", yes_or_no(confidence.computed)},
+      {"level of confidence", fmt::format("{}", confidence.level)},
+      {"uncollected full sibs of candidates", yes_or_no(confidence.relatives)},
+  };
+}
+
 bool HaveSamePair(const RunStatement& first, const RunStatement& second, bool sides_count) {
   const auto& [a, b] = first.parents;
   const auto& [c, d] = second.parents;
@@ -74,6 +101,19 @@ std::vector<std::string> OtherFiles(const RunStatements& first, const RunStateme
   return sentences;
 }
 
+std::vector<std::string> OtherSettings(const RunStatements& first, const RunStatements& second) {
+  std::vector<std::string> sentences;
+  for (std::size_t k = 0; k < std::min(first.settings.size(), second.settings.size()); ++k) {
+    const StatedSetting& here = first.settings[k];
+    const StatedSetting& there = second.settings[k];
+    if (here.value != there.value) {
+      sentences.push_back(fmt::format("{}: {} in this run, {} in the other one", here.name,
+                                      here.value, there.value));
+    }
+  }
+  return sentences;
+}
+
 }  // namespace
 
 RunStatements StatementsOfStep(const AllocationSettings& settings, const AllocationInput& input,
@@ -81,6 +121,7 @@ RunStatements StatementsOfStep(const AllocationSettings& settings, const Allocat
   RunStatements run;
   run.flow = settings.flow;
   run.files = input.files;
+  run.settings = SettingsOf(settings, input);
   const std::vector<StatedPair> pairs = PairsOfStep(settings.flow, result, step);
   const bool is_last = step + 1 == input.combinations.size();
   run.offspring.resize(pairs.size());
@@ -112,6 +153,7 @@ RunStatements StatementsOf(const AllocationSettings& settings, const AllocationI
 RunComparison Compare(const RunStatements& first, const RunStatements& second) {
   RunComparison comparison;
   comparison.other_files = OtherFiles(first, second);
+  comparison.other_settings = OtherSettings(first, second);
   const bool sides_count = first.flow == Flow::kSexed && second.flow == Flow::kSexed;
   const auto places = PlacesByName(second);
   std::map<std::string_view, std::size_t> met;

@@ -23,11 +23,18 @@ struct RunStatement {
   std::optional<Certainty> certainty;            ///< of both sides together
 };
 
+/// A setting that can make results differ: "tolerance", "1".
+struct StatedSetting {
+  std::string name;
+  std::string value;
+};
+
 /// What a run says of all its offspring, in file order.
 struct RunStatements {
   Flow flow = Flow::kNonSexed;
   std::vector<RunStatement> offspring;
   std::vector<RecordedInput> files;
+  std::vector<StatedSetting> settings;  ///< the same ones of every run
 };
 
 RunStatements StatementsOf(const AllocationSettings& settings, const AllocationInput& input,
@@ -59,6 +66,9 @@ struct RunComparison {
 
   /// A sentence for each role of input files whose contents differ, or that one run alone has.
   std::vector<std::string> other_files;
+
+  /// The same for each setting that differs, with both values.
+  std::vector<std::string> other_settings;
 };
 
 /// Offspring are matched by their names, and so are parents: files may list them in another order.

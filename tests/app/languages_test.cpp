@@ -80,6 +80,8 @@ TEST_F(LanguagesTest, SaysWhatTheCoreSaysInItsPlaces) {
        "1 von 50 Nachkommen beider Läufe hat ein anderes Paar; 0 nur in diesem Lauf, 3 nur im "
        "anderen."},
       {"known mothers: m.txt in this run only", "bekannte Mütter: m.txt nur in diesem Lauf"},
+      {"error model: Uniform (epsilon 0.02) in this run, No Error in the other one",
+       "Fehlermodell: Gleichverteilt (Epsilon 0.02) in diesem Lauf, Kein Fehler im anderen"},
       {"Calculations completed!", "Calculations completed!"},
       {"nobody has said open, or sure", "nobody has said open, or sure"}};
   for (const auto& [english, german] : said) {

@@ -50,6 +50,7 @@ TEST_F(ResultsComparedTest, OffspringWithAnotherPairAreListedWithBothPairs) {
   AllocationSettings other = test::ExampleAllocation(Flow::kSexed);
   other.project = std::string("q");
   other.loci_in_use = {"Mir03Di", "Mir14Di", "Mir21Di"};
+  other.tolerance = OffsetTolerance{2};
   // The other run knows neither the first offspring nor, by this name, the second.
   const std::string text = test::ReadFile("data/sexed/offspring.txt");
   std::string fewer = text.substr(text.find('\n') + 1);
@@ -94,7 +95,11 @@ TEST_F(ResultsComparedTest, OffspringWithAnotherPairAreListedWithBothPairs) {
                                      "run only, 1 in the other")
                                     .arg(changed)
                                     .arg(there.size() - 1)));
-    EXPECT_TRUE(Find<QLabel>(window, "RunComparisonRuns").text().contains(Text("fewer.txt")));
+    const QString differences = Find<QLabel>(window, "RunComparisonRuns").text();
+    EXPECT_TRUE(differences.contains(Text("fewer.txt")));
+    EXPECT_TRUE(differences.contains(Text("- tolerance: 1 in this run, 2 in the other one")));
+    EXPECT_TRUE(differences.contains(Text(" in this run, Mir03Di, Mir14Di, Mir21Di in the other")));
+    EXPECT_EQ(differences.count(Text("\n- ")), 3) << "no more than the three that differ";
     Find<QComboBox>(window, "RunComparisonShow").setCurrentIndex(2);
     EXPECT_EQ(test::Column(test::ModelIn(window, "RunComparisonTable"), 0),
               QStringList({Text("Young01"), Text("Young02"), Text("Other02")}));

@@ -112,6 +112,11 @@ QString RunsText(const OtherRun& here, const OtherRun& other, const RunCompariso
   for (const std::string& file : comparison.other_files) {
     lines += Text("- ") + TrCore(file);
   }
+  lines += comparison.other_settings.empty() ? Tr("Both have the same settings.")
+                                             : Tr("Their settings differ:");
+  for (const std::string& setting : comparison.other_settings) {
+    lines += Text("- ") + TrCore(setting);
+  }
   return lines.join(QLatin1Char('\n'));
 }
 
