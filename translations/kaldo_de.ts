@@ -4115,5 +4115,293 @@ Sie brauchen: eine Datei mit den Namen der Loci, die Genotypen der beprobten Elt
         <source>Their settings differ:</source>
         <translation>Ihre Einstellungen unterscheiden sich:</translation>
     </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>record %1</source>
+        <translation>Datensatz %1</translation>
+    </message>
+    <message>
+        <source>record %1 (%2)</source>
+        <translation>Datensatz %1 (%2)</translation>
+    </message>
+    <message>
+        <source>locus %1</source>
+        <translation>Locus %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
+        <source>%1 has %2 digits, the first parents file uses %3</source>
+        <translation>%1 hat %2 Ziffern, die erste Elterndatei verwendet %3</translation>
+    </message>
+    <message>
+        <source>%1 has %2 digit, the first parents file uses %3</source>
+        <translation>%1 hat %2 Ziffer, die erste Elterndatei verwendet %3</translation>
+    </message>
+    <message>
+        <source>spreadsheets drop leading zeros: write them again or correct the field</source>
+        <translation>Tabellenkalkulationen lassen führende Nullen weg: schreiben Sie sie wieder hin oder berichtigen Sie das Feld</translation>
+    </message>
+    <message>
+        <source>%1 has %2 digits for both alleles</source>
+        <translation>%1 hat %2 Ziffern für beide Allele</translation>
+    </message>
+    <message>
+        <source>%1 has %2 characters</source>
+        <translation>%1 hat %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 has %2 character</source>
+        <translation>%1 hat %2 Zeichen</translation>
+    </message>
+    <message>
+        <source>both alleles need the same number of digits</source>
+        <translation>beide Allele brauchen gleich viele Ziffern</translation>
+    </message>
+    <message>
+        <source>is it &quot;%1&quot; without its leading zero?</source>
+        <translation>ist es „%1“ ohne die führende Null?</translation>
+    </message>
+    <message>
+        <source>%1 should be both allele sizes as digits side by side</source>
+        <translation>%1 sollte aus den Größen beider Allele bestehen, als Ziffern nebeneinander</translation>
+    </message>
+    <message>
+        <source>%1 holds an undefined allele</source>
+        <translation>%1 enthält ein undefiniertes Allel</translation>
+    </message>
+    <message>
+        <source>fields after the name: %1, loci named: %2</source>
+        <translation>Felder hinter dem Namen: %1, benannte Loci: %2</translation>
+    </message>
+    <message>
+        <source>separators are read in parents files only</source>
+        <translation>Trennzeilen werden nur in Elterndateien gelesen</translation>
+    </message>
+    <message>
+        <source>a separator stands alone on its line</source>
+        <translation>ein Trennzeichen steht allein in seiner Zeile</translation>
+    </message>
+    <message>
+        <source>write one name per locus</source>
+        <translation>schreiben Sie je Locus einen Namen</translation>
+    </message>
+    <message>
+        <source>%1 stands in line %2 already</source>
+        <translation>%1 steht schon in Zeile %2</translation>
+    </message>
+    <message>
+        <source>it is %1</source>
+        <translation>es ist %1</translation>
+    </message>
+    <message>
+        <source>its report %1 is missing</source>
+        <translation>sein Bericht %1 fehlt</translation>
+    </message>
+    <message>
+        <source>its report %1 is not listed</source>
+        <translation>sein Bericht %1 ist nicht aufgeführt</translation>
+    </message>
+    <message>
+        <source>its report %1 cannot be read</source>
+        <translation>sein Bericht %1 lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>its report %1 has other contents: it was edited, or is of another run</source>
+        <translation>sein Bericht %1 hat einen anderen Inhalt: er wurde bearbeitet oder gehört zu einem anderen Lauf</translation>
+    </message>
+    <message>
+        <source>its report %1 does not say what such a report says</source>
+        <translation>sein Bericht %1 sagt nicht, was ein solcher Bericht sagt</translation>
+    </message>
+    <message>
+        <source>it holds no individual</source>
+        <translation>sie enthält kein Individuum</translation>
+    </message>
+    <message>
+        <source>an individual has no name</source>
+        <translation>ein Individuum hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>There is no parent among the individuals.</source>
+        <translation>Unter den Individuen ist kein Elternteil.</translation>
+    </message>
+    <message>
+        <source>Another run is at work in &quot;%1&quot;. Wait for its end, or choose another project name.</source>
+        <translation>Ein anderer Lauf arbeitet gerade in „%1“. Warten Sie sein Ende ab, oder wählen Sie einen anderen Projektnamen.</translation>
+    </message>
+    <message>
+        <source>Another run is at work in &quot;%1&quot; (%2). Wait for its end, or choose another project name.</source>
+        <translation>Ein anderer Lauf arbeitet gerade in „%1“ (%2). Warten Sie sein Ende ab, oder wählen Sie einen anderen Projektnamen.</translation>
+    </message>
+    <message>
+        <source>An earlier run ended while it replaced the results in &quot;%1&quot;; its new results are now all in place.</source>
+        <translation>Ein früherer Lauf endete, während er die Ergebnisse in „%1“ ersetzte; seine neuen Ergebnisse sind jetzt alle da.</translation>
+    </message>
+    <message>
+        <source>An earlier run ended while it replaced the results in &quot;%1&quot;; the results from before it are all back.</source>
+        <translation>Ein früherer Lauf endete, während er die Ergebnisse in „%1“ ersetzte; die Ergebnisse von davor sind alle wieder da.</translation>
+    </message>
+    <message>
+        <source>Cannot remove &quot;%1&quot; of an earlier run.</source>
+        <translation>„%1“ eines früheren Laufs lässt sich nicht entfernen.</translation>
+    </message>
+    <message>
+        <source>a folder of that name is in the way</source>
+        <translation>ein Ordner dieses Namens steht im Weg</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a file</source>
+        <translation>„%1“ ist eine Datei</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Das Dateisystem ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Es ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>Die Datei gibt es schon</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Der Dateiname ist zu lang</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Das Kontingent des Datenträgers ist erschöpft</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>%1 parents</source>
+        <translation>%1 Eltern</translation>
+    </message>
+    <message>
+        <source>%1 parent</source>
+        <translation>%1 Elternteil</translation>
+    </message>
+    <message>
+        <source>%1 The earlier results could not be put back either: %2 Nothing is lost: &quot;kaldo check&quot; with this project, or the next run, goes on with it.</source>
+        <translation>%1 Auch die früheren Ergebnisse ließen sich nicht zurückholen: %2 Nichts ist verloren: „kaldo check“ mit diesem Projekt, oder der nächste Lauf, macht damit weiter.</translation>
+    </message>
+    <message>
+        <source>%1 The results of earlier runs are as they were.</source>
+        <translation>%1 Die Ergebnisse früherer Läufe sind, wie sie waren.</translation>
+    </message>
+    <message>
+        <source>Cannot replace &quot;%1&quot;: %2. Is it protected, or open in another program, such as a spreadsheet?</source>
+        <translation>„%1“ lässt sich nicht ersetzen: %2. Ist die Datei geschützt oder in einem anderen Programm geöffnet, etwa einer Tabellenkalkulation?</translation>
+    </message>
+    <message>
+        <source>Cannot replace &quot;%1&quot;: %2</source>
+        <translation>„%1“ lässt sich nicht ersetzen: %2</translation>
+    </message>
+    <message>
+        <source>Cannot open &quot;%1&quot;: %2</source>
+        <translation>„%1“ lässt sich nicht öffnen: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>„%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder &quot;%1&quot;: %2</source>
+        <translation>Der Ordner „%1“ lässt sich nicht anlegen: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write into the folder &quot;%1&quot;: %2</source>
+        <translation>In den Ordner „%1“ lässt sich nicht schreiben: %2</translation>
+    </message>
+    <message>
+        <source>Cannot make the workbook: %1</source>
+        <translation>Die Arbeitsmappe lässt sich nicht erstellen: %1</translation>
+    </message>
+    <message>
+        <source>An earlier run ended while it replaced the results in &quot;%1&quot;, which can neither be finished nor undone: %2</source>
+        <translation>Ein früherer Lauf endete, während er die Ergebnisse in „%1“ ersetzte, was sich weder beenden noch rückgängig machen lässt: %2</translation>
+    </message>
+    <message>
+        <source>Who is a parent and who an offspring? Of %1 it is not known. Say it by file (--parents FILE --offspring FILE, or --males and --females), by --role COLUMN, or by --offspring-populations NAME,... (%2)</source>
+        <translation>Wer gehört zu den Eltern und wer zu den Nachkommen? Von %1 ist es nicht bekannt. Geben Sie es je Datei an (--parents FILE --offspring FILE, oder --males und --females), durch --role COLUMN oder durch --offspring-populations NAME,... (%2)</translation>
+    </message>
+    <message>
+        <source>Who is a parent and who an offspring? Of %1 it is not known. Say it by file (--parents FILE --offspring FILE, or --males and --females), by --role COLUMN, or by --offspring-populations NAME,...</source>
+        <translation>Wer gehört zu den Eltern und wer zu den Nachkommen? Von %1 ist es nicht bekannt. Geben Sie es je Datei an (--parents FILE --offspring FILE, oder --males und --females), durch --role COLUMN oder durch --offspring-populations NAME,...</translation>
+    </message>
+    <message>
+        <source>the sex of %1 is not known, here first, of %2 it is: tell all of them, or --no-sexes</source>
+        <translation>das Geschlecht ist von %1 nicht bekannt, hier zum ersten Mal, und von %2 bekannt: geben Sie alle an, oder --no-sexes</translation>
+    </message>
+    <message>
+        <source>The study would not run: %1</source>
+        <translation>Die Studie würde nicht laufen: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 are undefined at some locus. Choose with --missing-parents what becomes of them:</source>
+        <translation>%1 von %2 sind an einem Locus undefiniert. Wählen Sie mit --missing-parents, was mit ihnen geschieht:</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is undefined at some locus. Choose with --missing-parents what becomes of them:</source>
+        <translation>%1 von %2 ist an einem Locus undefiniert. Wählen Sie mit --missing-parents, was damit geschieht:</translation>
+    </message>
+    <message>
+        <source>  drop-individuals  %1</source>
+        <translation>  drop-individuals  %1</translation>
+    </message>
+    <message>
+        <source>  drop-loci         %1</source>
+        <translation>  drop-loci         %1</translation>
+    </message>
+    <message>
+        <source>  least             %1</source>
+        <translation>  least             %1</translation>
+    </message>
+    <message>
+        <source>  keep              nothing is left out; runs need --allow-undefined-parents</source>
+        <translation>  keep              nichts wird weggelassen; Läufe brauchen --allow-undefined-parents</translation>
+    </message>
+    <message>
+        <source>%1 left out (%2)</source>
+        <translation>ohne %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>ohne %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 stay</source>
+        <translation>%1 und %2 bleiben</translation>
+    </message>
 </context>
 </TS>

@@ -4115,5 +4115,293 @@ Il vous faut&#xa0;: un fichier des noms des locus, les génotypes des parents co
         <source>Their settings differ:</source>
         <translation>Leurs réglages diffèrent&#xa0;:</translation>
     </message>
+    <message>
+        <source>line %1</source>
+        <translation>ligne %1</translation>
+    </message>
+    <message>
+        <source>record %1</source>
+        <translation>enregistrement %1</translation>
+    </message>
+    <message>
+        <source>record %1 (%2)</source>
+        <translation>enregistrement %1 (%2)</translation>
+    </message>
+    <message>
+        <source>locus %1</source>
+        <translation>locus %1</translation>
+    </message>
+    <message>
+        <source>column %1</source>
+        <translation>colonne %1</translation>
+    </message>
+    <message>
+        <source>%1 has %2 digits, the first parents file uses %3</source>
+        <translation>%1 a %2 chiffres, le premier fichier des parents en utilise %3</translation>
+    </message>
+    <message>
+        <source>%1 has %2 digit, the first parents file uses %3</source>
+        <translation>%1 a %2 chiffre, le premier fichier des parents en utilise %3</translation>
+    </message>
+    <message>
+        <source>spreadsheets drop leading zeros: write them again or correct the field</source>
+        <translation>les tableurs suppriment les zéros initiaux&#xa0;: rétablissez-les ou corrigez le champ</translation>
+    </message>
+    <message>
+        <source>%1 has %2 digits for both alleles</source>
+        <translation>%1 a %2 chiffres pour les deux allèles</translation>
+    </message>
+    <message>
+        <source>%1 has %2 characters</source>
+        <translation>%1 a %2 caractères</translation>
+    </message>
+    <message>
+        <source>%1 has %2 character</source>
+        <translation>%1 a %2 caractère</translation>
+    </message>
+    <message>
+        <source>both alleles need the same number of digits</source>
+        <translation>les deux allèles doivent avoir le même nombre de chiffres</translation>
+    </message>
+    <message>
+        <source>is it &quot;%1&quot; without its leading zero?</source>
+        <translation>est-ce «&#xa0;%1&#xa0;» sans son zéro initial&#xa0;?</translation>
+    </message>
+    <message>
+        <source>%1 should be both allele sizes as digits side by side</source>
+        <translation>%1 devrait donner les tailles des deux allèles, en chiffres côte à côte</translation>
+    </message>
+    <message>
+        <source>%1 holds an undefined allele</source>
+        <translation>%1 contient un allèle indéfini</translation>
+    </message>
+    <message>
+        <source>fields after the name: %1, loci named: %2</source>
+        <translation>champs après le nom&#xa0;: %1, locus nommés&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>separators are read in parents files only</source>
+        <translation>les séparateurs ne sont lus que dans les fichiers des parents</translation>
+    </message>
+    <message>
+        <source>a separator stands alone on its line</source>
+        <translation>un séparateur est seul sur sa ligne</translation>
+    </message>
+    <message>
+        <source>write one name per locus</source>
+        <translation>écrivez un nom par locus</translation>
+    </message>
+    <message>
+        <source>%1 stands in line %2 already</source>
+        <translation>%1 figure déjà à la ligne %2</translation>
+    </message>
+    <message>
+        <source>it is %1</source>
+        <translation>la valeur est %1</translation>
+    </message>
+    <message>
+        <source>its report %1 is missing</source>
+        <translation>son rapport %1 manque</translation>
+    </message>
+    <message>
+        <source>its report %1 is not listed</source>
+        <translation>son rapport %1 n&apos;est pas mentionné</translation>
+    </message>
+    <message>
+        <source>its report %1 cannot be read</source>
+        <translation>son rapport %1 ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>its report %1 has other contents: it was edited, or is of another run</source>
+        <translation>son rapport %1 a un autre contenu&#xa0;: il a été modifié ou vient d&apos;une autre exécution</translation>
+    </message>
+    <message>
+        <source>its report %1 does not say what such a report says</source>
+        <translation>son rapport %1 ne dit pas ce que dit un tel rapport</translation>
+    </message>
+    <message>
+        <source>it holds no individual</source>
+        <translation>il ne contient aucun individu</translation>
+    </message>
+    <message>
+        <source>an individual has no name</source>
+        <translation>un individu n&apos;a pas de nom</translation>
+    </message>
+    <message>
+        <source>There is no parent among the individuals.</source>
+        <translation>Il n&apos;y a aucun parent parmi les individus.</translation>
+    </message>
+    <message>
+        <source>Another run is at work in &quot;%1&quot;. Wait for its end, or choose another project name.</source>
+        <translation>Une autre exécution travaille dans «&#xa0;%1&#xa0;». Attendez sa fin, ou choisissez un autre nom de projet.</translation>
+    </message>
+    <message>
+        <source>Another run is at work in &quot;%1&quot; (%2). Wait for its end, or choose another project name.</source>
+        <translation>Une autre exécution travaille dans «&#xa0;%1&#xa0;» (%2). Attendez sa fin, ou choisissez un autre nom de projet.</translation>
+    </message>
+    <message>
+        <source>An earlier run ended while it replaced the results in &quot;%1&quot;; its new results are now all in place.</source>
+        <translation>Une exécution antérieure s&apos;est arrêtée pendant qu&apos;elle remplaçait les résultats dans «&#xa0;%1&#xa0;»&#xa0;; ses nouveaux résultats sont maintenant tous en place.</translation>
+    </message>
+    <message>
+        <source>An earlier run ended while it replaced the results in &quot;%1&quot;; the results from before it are all back.</source>
+        <translation>Une exécution antérieure s&apos;est arrêtée pendant qu&apos;elle remplaçait les résultats dans «&#xa0;%1&#xa0;»&#xa0;; les résultats d&apos;avant sont tous rétablis.</translation>
+    </message>
+    <message>
+        <source>Cannot remove &quot;%1&quot; of an earlier run.</source>
+        <translation>Impossible de supprimer «&#xa0;%1&#xa0;» d&apos;une exécution antérieure.</translation>
+    </message>
+    <message>
+        <source>a folder of that name is in the way</source>
+        <translation>un dossier de ce nom fait obstacle</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a file</source>
+        <translation>«&#xa0;%1&#xa0;» est un fichier</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Le disque est plein</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permission refusée</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Le système de fichiers est en lecture seule</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Fichier ou dossier introuvable</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>C&apos;est un dossier</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Ce n&apos;est pas un dossier</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>Le fichier existe déjà</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Le nom de fichier est trop long</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Le fichier est trop grand</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Le quota du disque est dépassé</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Erreur d&apos;entrée-sortie</translation>
+    </message>
+    <message>
+        <source>%1 parents</source>
+        <translation>%1 parents</translation>
+    </message>
+    <message>
+        <source>%1 parent</source>
+        <translation>%1 parent</translation>
+    </message>
+    <message>
+        <source>%1 The earlier results could not be put back either: %2 Nothing is lost: &quot;kaldo check&quot; with this project, or the next run, goes on with it.</source>
+        <translation>%1 Les résultats antérieurs n&apos;ont pas pu être rétablis non plus&#xa0;: %2 Rien n&apos;est perdu&#xa0;: «&#xa0;kaldo check&#xa0;» avec ce projet, ou la prochaine exécution, poursuit le travail.</translation>
+    </message>
+    <message>
+        <source>%1 The results of earlier runs are as they were.</source>
+        <translation>%1 Les résultats des exécutions antérieures sont inchangés.</translation>
+    </message>
+    <message>
+        <source>Cannot replace &quot;%1&quot;: %2. Is it protected, or open in another program, such as a spreadsheet?</source>
+        <translation>Impossible de remplacer «&#xa0;%1&#xa0;»&#xa0;: %2. Le fichier est-il protégé, ou ouvert dans un autre programme, comme un tableur&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Cannot replace &quot;%1&quot;: %2</source>
+        <translation>Impossible de remplacer «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot open &quot;%1&quot;: %2</source>
+        <translation>Impossible d&apos;ouvrir «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write &quot;%1&quot;: %2</source>
+        <translation>Impossible d&apos;écrire «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot make the folder &quot;%1&quot;: %2</source>
+        <translation>Impossible de créer le dossier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot write into the folder &quot;%1&quot;: %2</source>
+        <translation>Impossible d&apos;écrire dans le dossier «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Cannot make the workbook: %1</source>
+        <translation>Impossible de créer le classeur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>An earlier run ended while it replaced the results in &quot;%1&quot;, which can neither be finished nor undone: %2</source>
+        <translation>Une exécution antérieure s&apos;est arrêtée pendant qu&apos;elle remplaçait les résultats dans «&#xa0;%1&#xa0;», ce qui ne peut être ni achevé ni annulé&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Who is a parent and who an offspring? Of %1 it is not known. Say it by file (--parents FILE --offspring FILE, or --males and --females), by --role COLUMN, or by --offspring-populations NAME,... (%2)</source>
+        <translation>Qui est parent et qui est descendant&#xa0;? On ne le sait pas pour %1. Dites-le par fichier (--parents FILE --offspring FILE, ou --males et --females), par --role COLUMN, ou par --offspring-populations NAME,... (%2)</translation>
+    </message>
+    <message>
+        <source>Who is a parent and who an offspring? Of %1 it is not known. Say it by file (--parents FILE --offspring FILE, or --males and --females), by --role COLUMN, or by --offspring-populations NAME,...</source>
+        <translation>Qui est parent et qui est descendant&#xa0;? On ne le sait pas pour %1. Dites-le par fichier (--parents FILE --offspring FILE, ou --males et --females), par --role COLUMN, ou par --offspring-populations NAME,...</translation>
+    </message>
+    <message>
+        <source>the sex of %1 is not known, here first, of %2 it is: tell all of them, or --no-sexes</source>
+        <translation>le sexe est inconnu pour %1, ici en premier, et connu pour %2&#xa0;: indiquez-les tous, ou --no-sexes</translation>
+    </message>
+    <message>
+        <source>The study would not run: %1</source>
+        <translation>L&apos;étude ne pourrait pas être exécutée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 are undefined at some locus. Choose with --missing-parents what becomes of them:</source>
+        <translation>%1 parmi %2 sont indéfinis à un locus. Choisissez avec --missing-parents ce qu&apos;ils deviennent&#xa0;:</translation>
+    </message>
+    <message>
+        <source>%1 of %2 is undefined at some locus. Choose with --missing-parents what becomes of them:</source>
+        <translation>%1 parmi %2 est indéfini à un locus. Choisissez avec --missing-parents ce qu&apos;il devient&#xa0;:</translation>
+    </message>
+    <message>
+        <source>  drop-individuals  %1</source>
+        <translation>  drop-individuals  %1</translation>
+    </message>
+    <message>
+        <source>  drop-loci         %1</source>
+        <translation>  drop-loci         %1</translation>
+    </message>
+    <message>
+        <source>  least             %1</source>
+        <translation>  least             %1</translation>
+    </message>
+    <message>
+        <source>  keep              nothing is left out; runs need --allow-undefined-parents</source>
+        <translation>  keep              rien n&apos;est écarté&#xa0;; les exécutions ont besoin de --allow-undefined-parents</translation>
+    </message>
+    <message>
+        <source>%1 left out (%2)</source>
+        <translation>%1 écartés (%2)</translation>
+    </message>
+    <message>
+        <source>%1 left out</source>
+        <translation>%1 écartés</translation>
+    </message>
+    <message>
+        <source>%1 and %2 stay</source>
+        <translation>%1 et %2 restent</translation>
+    </message>
 </context>
 </TS>

@@ -278,7 +278,7 @@ void MainMenu::StartExampleOf(Flow flow, bool simulation) {
     if (example) {
       StartWith(*example);
     } else {
-      ShowFailure(this, Text(example.error()));
+      ShowFailure(this, TrCore(example.error()));
     }
   };
   if (simulation) {

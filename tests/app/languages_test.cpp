@@ -74,7 +74,7 @@ TEST_F(LanguagesTest, SaysWhatTheCoreSaysInItsPlaces) {
        "0.01), Zuordnung zu einem beprobten Männchen 0.900."},
       {"%2 has a probability of %1 only", "%2 hat nur eine Wahrscheinlichkeit von %1"},
       {"Two records have the same name. parents.txt, line 3: open",
-       "Zwei Einträge haben denselben Namen. parents.txt, line 3: open"},
+       "Zwei Einträge haben denselben Namen. parents.txt, Zeile 3: open"},
       {"1 of 50 offspring of both runs has another pair; 0 in this run only, 3 in the other one "
        "only.",
        "1 von 50 Nachkommen beider Läufe hat ein anderes Paar; 0 nur in diesem Lauf, 3 nur im "
@@ -82,6 +82,14 @@ TEST_F(LanguagesTest, SaysWhatTheCoreSaysInItsPlaces) {
       {"known mothers: m.txt in this run only", "bekannte Mütter: m.txt nur in diesem Lauf"},
       {"error model: Uniform (epsilon 0.02) in this run, No Error in the other one",
        "Fehlermodell: Gleichverteilt (Epsilon 0.02) in diesem Lauf, Kein Fehler im anderen"},
+      {"Cannot write \"p/Loci.tsv\": No space left on device. The results of earlier runs are as "
+       "they were.",
+       "„p/Loci.tsv“ lässt sich nicht schreiben: Der Datenträger ist voll. Die Ergebnisse früherer "
+       "Läufe sind, wie sie waren."},
+      {"2 of 5 parents are undefined at some locus. Choose with --missing-parents what becomes of "
+       "them:\n  drop-loci         1 locus left out (B); 5 parents and 3 loci stay",
+       "2 von 5 Eltern sind an einem Locus undefiniert. Wählen Sie mit --missing-parents, was mit "
+       "ihnen geschieht:\n  drop-loci         ohne 1 Locus (B); 5 Eltern und 3 Loci bleiben"},
       {"Calculations completed!", "Calculations completed!"},
       {"nobody has said open, or sure", "nobody has said open, or sure"}};
   for (const auto& [english, german] : said) {

@@ -7,7 +7,7 @@ namespace kaldo {
 
 namespace {
 
-constexpr std::array kSentences = {
+constexpr auto kSentences = std::to_array<Phrase>({
     // What is wrong with the files and the choices of a user.
     Phrase("Cannot open file \"%1\"!"),
     Phrase("The names of loci file holds no locus!"),
@@ -69,6 +69,60 @@ constexpr std::array kSentences = {
     Phrase("This run record cannot be used!"),
     Phrase("An input file has changed since the recorded run!"),
     Phrase("The run may differ from the recorded one."),
+    // Where that is, and what was found there.
+    Phrase("line %1"),
+    Phrase("record %1"),
+    Phrase("record %1 (%2)"),
+    Phrase("locus %1"),
+    Phrase("column %1"),
+    Phrase("%1 has %2 digits, the first parents file uses %3"),
+    Phrase("%1 has %2 digit, the first parents file uses %3"),
+    Phrase("spreadsheets drop leading zeros: write them again or correct the field"),
+    Phrase("%1 has %2 digits for both alleles"),
+    Phrase("%1 has %2 characters"),
+    Phrase("%1 has %2 character"),
+    Phrase("both alleles need the same number of digits"),
+    Phrase("is it \"%1\" without its leading zero?"),
+    Phrase("%1 should be both allele sizes as digits side by side"),
+    Phrase("%1 holds an undefined allele"),
+    Phrase("fields after the name: %1, loci named: %2"),
+    Phrase("separators are read in parents files only"),
+    Phrase("a separator stands alone on its line"),
+    Phrase("write one name per locus"),
+    Phrase("%1 stands in line %2 already"),
+    Phrase("it is %1"),
+    Phrase("its report %1 is missing"),
+    Phrase("its report %1 is not listed"),
+    Phrase("its report %1 cannot be read"),
+    Phrase("its report %1 has other contents: it was edited, or is of another run"),
+    Phrase("its report %1 does not say what such a report says"),
+    // What is wrong with files of other programs.
+    Phrase("it holds no individual"),
+    Phrase("an individual has no name"),
+    Phrase("There is no parent among the individuals."),
+    Phrase("... and %1 more"),
+    // Runs that cannot go on or are not alone.
+    Phrase("Another run is at work in \"%1\". Wait for its end, or choose another project name."),
+    Phrase("Another run is at work in \"%1\" (%2). Wait for its end, or choose another project "
+           "name."),
+    Phrase("An earlier run ended while it replaced the results in \"%1\"; its new results are now "
+           "all in place."),
+    Phrase("An earlier run ended while it replaced the results in \"%1\"; the results from before "
+           "it are all back."),
+    Phrase("Cannot remove \"%1\" of an earlier run."),
+    Phrase("a folder of that name is in the way"),
+    Phrase("\"%1\" is a file"),
+    Phrase("No space left on device"),
+    Phrase("Permission denied"),
+    Phrase("Read-only file system"),
+    Phrase("No such file or directory"),
+    Phrase("Is a directory"),
+    Phrase("Not a directory"),
+    Phrase("File exists"),
+    Phrase("File name too long"),
+    Phrase("File too large"),
+    Phrase("Disk quota exceeded"),
+    Phrase("Input/output error"),
     // Progress.
     Phrase("Reading the files"),
     Phrase("Allocating"),
@@ -204,6 +258,8 @@ constexpr std::array kSentences = {
     Phrase("%1 pairs"),
     Phrase("%1 pair"),
     Phrase("%1 of %2 sides"),
+    Phrase("%1 parents"),
+    Phrase("%1 parent"),
     Phrase("%1 more share one named parent, and whether they share the other one is open"),
     // What each locus is worth.
     Phrase("locus"),
@@ -259,9 +315,40 @@ constexpr std::array kSentences = {
     Phrase("By the estimate %1 parents were not collected. A simulation has room for %2 parents in "
            "all, so that %3 are drawn."),
     Phrase("Simulations have no groups of parents, as the parents of this run have."),
-};
+});
 
 constexpr std::array kFrames = {
+    // Runs that failed, and the reason that the system gives.
+    Phrase("%1 The earlier results could not be put back either: %2 Nothing is lost: \"kaldo "
+           "check\" with this project, or the next run, goes on with it."),
+    Phrase("%1 The results of earlier runs are as they were."),
+    Phrase("Cannot replace \"%1\": %2. Is it protected, or open in another program, such as a "
+           "spreadsheet?"),
+    Phrase("Cannot replace \"%1\": %2"),
+    Phrase("Cannot open \"%1\": %2"),
+    Phrase("Cannot write \"%1\": %2"),
+    Phrase("Cannot make the folder \"%1\": %2"),
+    Phrase("Cannot write into the folder \"%1\": %2"),
+    Phrase("Cannot make the workbook: %1"),
+    Phrase("An earlier run ended while it replaced the results in \"%1\", which can neither be "
+           "finished nor undone: %2"),
+    // Files of other programs. The options in them become the names of fields.
+    Phrase("Who is a parent and who an offspring? Of %1 it is not known. Say it by file (--parents "
+           "FILE --offspring FILE, or --males and --females), by --role COLUMN, or by "
+           "--offspring-populations NAME,... (%2)"),
+    Phrase("Who is a parent and who an offspring? Of %1 it is not known. Say it by file (--parents "
+           "FILE --offspring FILE, or --males and --females), by --role COLUMN, or by "
+           "--offspring-populations NAME,..."),
+    Phrase("the sex of %1 is not known, here first, of %2 it is: tell all of them, or --no-sexes"),
+    Phrase("The study would not run: %1"),
+    Phrase("%1 of %2 are undefined at some locus. Choose with --missing-parents what becomes of "
+           "them:"),
+    Phrase("%1 of %2 is undefined at some locus. Choose with --missing-parents what becomes of "
+           "them:"),
+    Phrase("  drop-individuals  %1"),
+    Phrase("  drop-loci         %1"),
+    Phrase("  least             %1"),
+    Phrase("  keep              nothing is left out; runs need --allow-undefined-parents"),
     Phrase("Made with errors (%1), allocated as if there were none: strict exclusion."),
     Phrase("Offspring of %1. %2"),
     Phrase("%1 (%2 % of the population uncollected)"),
@@ -287,6 +374,9 @@ constexpr std::array kFrames = {
     Phrase("allocation to a collected male %1"),
     Phrase("allocation to a collected female %1"),
     Phrase("allocation to an uncollected parent (UC) %1"),
+    Phrase("%1 left out (%2)"),
+    Phrase("%1 left out"),
+    Phrase("%1 and %2 stay"),
 };
 
 constexpr std::array kBeginnings = {

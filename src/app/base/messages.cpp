@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStringList>
 #include <QUrl>
 
 #include "app/base/text.h"
@@ -91,8 +92,23 @@ void ShowClosingSentence(QWidget* results, std::string_view sentence) {
 void ShowProblem(QWidget* parent, const Problem& problem) {
   ShowBox(parent, {.icon = QMessageBox::Warning,
                    .text = TrCore(SentenceOf(problem)),
-                   .details = Text(DetailLine(problem)),
+                   .details = TrDetails(problem),
                    .file = PathText(problem.file)});
+}
+
+QString TrDetails(const Problem& problem) {
+  const ProblemKind kind = problem.kind;
+  QStringList places{Text(DetailLine({.kind = kind, .file = problem.file}))};
+  for (const Problem& place :
+       {Problem{.kind = kind, .line = problem.line},
+        Problem{.kind = kind, .record = problem.record, .individual = problem.individual},
+        Problem{.kind = kind, .locus = problem.locus}}) {
+    places += TrCore(DetailLine(place));
+  }
+  places.removeAll(QString());
+  const QString place = places.join(Text(", "));
+  const QString found = TrCore(DetailLine({.kind = kind, .found = problem.found}));
+  return place.isEmpty() || found.isEmpty() ? place + found : place + Text(": ") + found;
 }
 
 void ShowFailure(QWidget* parent, const QString& text) {

@@ -25,6 +25,9 @@ void ShowClosingSentence(QWidget* results, std::string_view sentence);
 /// it as details, which can be selected and copied. A file that is there can be opened.
 void ShowProblem(QWidget* parent, const Problem& problem);
 
+/// The details of a problem in the language of the windows, names and numbers as they are.
+QString TrDetails(const Problem& problem);
+
 /// Tells that something could not be done, for instance that a file cannot be written.
 void ShowFailure(QWidget* parent, const QString& text);
 

@@ -50,7 +50,16 @@ QString Filled(const QString& text, const QStringList& parts) {
 
 std::optional<QString> Said(const QString& english);
 
-QString SaidOrSame(const QString& english) { return Said(english).value_or(english); }
+/// A text of several lines is known by its lines.
+QString SaidOrSame(const QString& english) {
+  const auto said = Said(english);
+  QStringList lines = english.split(QLatin1Char('\n'));
+  if (said || lines.size() == 1) {
+    return said.value_or(english);
+  }
+  std::transform(lines.begin(), lines.end(), lines.begin(), SaidOrSame);
+  return lines.join(QLatin1Char('\n'));
+}
 
 std::optional<QString> SaidWhole(const QString& english) {
   const QByteArray words = english.toUtf8();

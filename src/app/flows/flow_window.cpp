@@ -223,7 +223,7 @@ bool FlowWindow::MakeProjectFolder() {
     }
     return true;
   } catch (const RunFailure& failure) {
-    ShowFailure(this, Text(failure.what()));
+    ShowFailure(this, TrCore(failure.what()));
     return false;
   }
 }

@@ -184,7 +184,7 @@ bool Recover(QWidget* parent, const std::string& record) {
     }
     return true;
   } catch (const RunFailure& failure) {
-    ShowFailure(parent, Text(failure.what()));
+    ShowFailure(parent, TrCore(failure.what()));
     return false;
   }
 }

@@ -190,7 +190,7 @@ class RunDialog : public QDialog {
     } catch (const std::bad_alloc&) {
       failure_ = Tr("Out of memory. The results of earlier runs are as they were.");
     } catch (const std::exception& error) {
-      failure_ = Text(error.what());
+      failure_ = TrCore(error.what());
     }
     return RunEnd::kFailed;
   }

@@ -236,7 +236,7 @@ void SimulationFlowWindow::ConfirmStart() {
   }
   const LociList list(*loci);
   if (const auto failure = SaveLoci(list)) {
-    ShowFailure(this, Text(*failure));
+    ShowFailure(this, TrCore(*failure));
   }
   loci_.Refill(list.Names());
   parents_->Prepare(settings.procedure, settings.loci_file);

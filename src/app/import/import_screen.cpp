@@ -46,6 +46,27 @@ std::string FolderBeside(const std::vector<ImportedFile>& files) {
   return (first.parent_path() / (first.stem().string() + "-imported")).string();
 }
 
+/// A line per fault in the language of the windows; options in it stay, for InWordsOfFields.
+QString TrFaults(const ImportFaults& faults) {
+  QString text;
+  for (const ImportFault& fault : faults.kept) {
+    QStringList places{Text(Escaped(fault.file))};
+    if (fault.line != 0) {
+      places += Tr("line %1").arg(fault.line);
+    }
+    if (!fault.column.empty()) {
+      places += Tr("column %1").arg(Text(Quoted(fault.column)));
+    }
+    places.removeAll(QString());
+    QString place = places.join(Text(", "));
+    if (!fault.sample.empty()) {
+      place += Text(" (%1)").arg(Text(Escaped(fault.sample)));
+    }
+    text += (place.isEmpty() ? place : place + Text(": ")) + TrCore(fault.found) + Text("\n");
+  }
+  return faults.more == 0 ? text : text + Tr("... and %1 more").arg(faults.more) + Text("\n");
+}
+
 QLabel* NewLabelOf(QWidget& field, Phrase text) {
   auto* const label = new QLabel(Tr(text));
   label->setBuddy(&field);
@@ -149,7 +170,7 @@ void ImportScreen::Try() {
   if (choices_.files.empty()) {
     faults += Bytes(Tr("Name a file to be converted.")) + '\n';
   } else if (!tried.study) {
-    faults += tried.study.error().Text();
+    faults += Bytes(TrFaults(tried.study.error()));
   } else {
     faults += FaultForFlow(*tried.study);
   }
@@ -172,7 +193,7 @@ void ImportScreen::ShowTry(const ImportTry& tried, const std::string& faults) {
     text = tried.study->summary +
            Bytes(Tr("\"Import report.txt\" in the folder will tell all that is done.")) + '\n';
     for (const std::string& warning : tried.study->warnings) {
-      text += Bytes(Tr("Warning: ")) + warning + '\n';
+      text += Bytes(Tr("Warning: ") + TrCore(warning)) + '\n';
     }
     if (tried.study->settings.offspring_file.empty() && !need_.is_simulation) {
       text += Bytes(Tr("There are no offspring among them.")) + '\n';
@@ -218,7 +239,7 @@ void ImportScreen::Convert() {
   } catch (const RunRefused& refused) {
     return ShowProblem(this, refused.Reason());
   } catch (const RunFailure& failure) {
-    return ShowFailure(this, Text(failure.what()));
+    return ShowFailure(this, TrCore(failure.what()));
   }
   imported_ = study_->settings;
   accept();

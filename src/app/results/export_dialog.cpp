@@ -56,7 +56,7 @@ std::optional<Exported> Make(QWidget* parent, const ExportOffer& offer, const Wa
   } catch (const RunRefused& refused) {
     ShowProblem(parent, refused.Reason());
   } catch (const RunFailure& failure) {
-    ShowFailure(parent, Text(failure.what()));
+    ShowFailure(parent, TrCore(failure.what()));
   }
   return std::nullopt;
 }
