@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Every window can be used without a mouse and without eyes.
+// Every window can be used without a mouse and without eyes, and on a small monitor.
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QComboBox>
@@ -108,6 +108,19 @@ void ExpectNoFaults(const QWidget& window, std::string_view name) {
   EXPECT_EQ(Faults(window).All(), std::vector<std::string>{}) << name;
 }
 
+/// No screen is scrolled sideways where a monitor of 1366 x 768 is shown twice as large.
+void ExpectFits(QWidget& window, std::string_view name) {
+  const QSize size = window.size();
+  window.resize(683 * 9 / 10, 384 * 9 / 10);
+  QCoreApplication::processEvents();
+  EXPECT_LE(window.width(), 683) << name;
+  for (const QScrollArea* area : window.findChildren<QScrollArea*>()) {
+    EXPECT_TRUE(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0) << name;
+  }
+  window.resize(size);
+  QCoreApplication::processEvents();
+}
+
 /// Before the windows are made.
 class InLanguage : public testing::WithParamInterface<std::string> {
  protected:
@@ -123,6 +136,7 @@ class AccessibilityTest : public InLanguage, public test::MenuTest {
   void Inspect(std::string_view screen) {
     script_.Await(screen).Do([name = std::string(screen)](QWidget& window) {
       ExpectNoFaults(window, name);
+      ExpectFits(window, name);
     });
   }
 
