@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -74,6 +75,12 @@ void MatingPage::LayOut(const QString& folder) {
   list_->setModel(model);
   details_->setObjectName(Text("MatingsDetails"));
   details_->setMinimumHeight(2 * fontMetrics().lineSpacing());
+  // Who had how many with whom is always seen; the names of the offspring are scrolled to.
+  int always_seen = list_->verticalScrollBar()->sizeHint().width() + 2 * list_->frameWidth();
+  for (int column = 0; column < 3; ++column) {
+    always_seen += list_->columnWidth(column);
+  }
+  list_->setMinimumWidth(always_seen);
   auto* const splitter = new QSplitter(Qt::Horizontal);
   splitter->addWidget(view_);
   splitter->addWidget(list_);

@@ -165,8 +165,15 @@ MatingView::MatingView(std::shared_ptr<const MatingTable> table, QWidget* parent
   setVerticalScrollMode(ScrollPerPixel);
   model_->SetTheme(ThemeOf(palette()));
   FitCells();
-  if (!table_->ListPlaces().empty()) {
-    Choose(table_->ListPlaces().front());
+  // The largest family of two known parents: that of none of them is often the largest of all, and
+  // in the far corner.
+  const auto& places = table_->ListPlaces();
+  const Families& families = table_->Table();
+  const auto known = std::find_if(places.begin(), places.end(), [&](const MatingPlace& place) {
+    return families.rows[place.row].parent && families.columns[place.column].parent;
+  });
+  if (!places.empty()) {
+    Choose(known == places.end() ? places.front() : *known);
   }
 }
 
