@@ -1,6 +1,7 @@
 # WebAssembly for the page, built with Debian's emscripten.
 include(/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake)
-set(CMAKE_CXX_FLAGS_INIT "-fexceptions")
+# Vectors of 128 bits, which every browser of these years has, for the bounds of the search.
+set(CMAKE_CXX_FLAGS_INIT "-fexceptions -msimd128")
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-fexceptions")
 
 # Where another Node than Debian's comes first, it finds the libraries of Debian's by this alone.

@@ -29,7 +29,7 @@ async function bundled(entry, options) {
     minify: true,
     charset: 'ascii',
     format: 'iife',
-    target: ['chrome100', 'firefox100', 'safari15.4'],
+    target: ['chrome100', 'firefox100', 'safari16.4'],
     loader: { '.txt': 'text' },
     legalComments: 'inline',
     write: false,
