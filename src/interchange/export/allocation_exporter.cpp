@@ -107,18 +107,17 @@ std::optional<Problem> AllocationExporter::Prepare(AllocationSettings& settings,
   forms_ = wanted.forms;
   has_sequence_ = settings.sequence.has_value();
   knows_sexes_ = settings.flow == Flow::kSexed || !wanted.sexes_file.empty();
-  if (auto problem = CheckWanted(settings)) {
-    return problem;
-  }
-  if (forms_.Any() && wanted.names_file.empty()) {
+  std::optional<Problem> problem = CheckWanted(settings);
+  if (!problem && forms_.Any() && wanted.names_file.empty()) {
     wanted.names_file = NamesBeside(settings.offspring_file);
   }
-  if (!wanted.names_file.empty()) {
-    if (auto problem = ReadNames(wanted.names_file, input, source)) {
-      return problem;
-    }
+  if (!problem && !wanted.names_file.empty()) {
+    problem = ReadNames(wanted.names_file, input, source);
   }
-  return wanted.sexes_file.empty() ? std::nullopt : ReadSexesFile(wanted.sexes_file, input, source);
+  if (!problem && !wanted.sexes_file.empty()) {
+    problem = ReadSexesFile(wanted.sexes_file, input, source);
+  }
+  return problem;
 }
 
 std::vector<std::string_view> AllocationExporter::Files() const {
