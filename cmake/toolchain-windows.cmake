@@ -8,7 +8,9 @@ set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_CXX_FLAGS_INIT "-march=x86-64-v2")
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -s")
 
-set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
+# First what scripts/make-libraries made of what Debian has not packaged for Windows.
+set(CMAKE_FIND_ROOT_PATH
+  "${CMAKE_CURRENT_LIST_DIR}/../build/libraries/windows" /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

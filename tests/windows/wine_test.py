@@ -7,6 +7,7 @@ The prefix of Wine is made anew in a temporary folder.
 """
 
 import fcntl
+import gzip
 import os
 import pty
 import re
@@ -219,6 +220,21 @@ class WindowsTest(unittest.TestCase):
                 self.assertIn("Stopped. The results of earlier runs are as they were.",
                               console.text())
                 self.assertEqual(self.files(system), before)
+
+    def test_packed_files_and_workbooks_are_those_of_this_machine(self):
+        packed = self.folder / "pond.gen.gz"
+        packed.write_bytes(gzip.compress((ROOT / "examples/foreign/pond.gen").read_bytes()))
+        code, _, said = self.both("import", packed, "--offspring-populations", "pop3", "--to", "pond")
+        self.assertEqual(code, 0, said)
+        self.compare_files(4)
+        book = ["allocate", *NON_SEXED, "--project", "p", "--also", "xlsx"]
+        tried = wine(EXE, *book, cwd=self.folder, capture_output=True)
+        if b"built without libxlsxwriter" in tried.stderr:
+            self.skipTest("built without the libraries for workbooks: scripts/make-libraries windows")
+        self.assertEqual(self.both(*book)[0], 0)
+        self.compare_files(11)
+        read = self.both("import", self.folder / "here/p/Results.xlsx", "--to", "read")
+        self.assertIn("is no allele", read[2])
 
     def user_path(self):
         """The type of the user's PATH in the registry, in its words, and its folders."""
