@@ -117,7 +117,7 @@ Costs AllocationCosts(const std::filesystem::path& folder) {
   costs.load = SecondsSince(start);
   costs.input_bytes = BytesOf(files);
   AllocationResult result;
-  AllocationPlan plan(input, result);
+  AllocationPlan plan(settings.flow, input, result);
   if (plan.ItemsPerGroup() < kPortionsMeasured * plan.MostItemsPerPortion()) {
     throw std::runtime_error(fmt::format("at least {} offspring are needed",
                                          kPortionsMeasured * plan.MostItemsPerPortion()));
