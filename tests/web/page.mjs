@@ -7,6 +7,7 @@ import {
   mkdtempSync,
   readdirSync,
   readFileSync,
+  rmSync,
   writeFileSync,
 } from 'node:fs';
 import { createRequire } from 'node:module';
@@ -40,7 +41,11 @@ export function launch(browser = 'chrome') {
   });
 }
 
-export const newFolder = () => mkdtempSync(join(tmpdir(), 'kaldo-page-'));
+const scratch = mkdtempSync(join(tmpdir(), 'kaldo-page-'));
+process.on('exit', () => rmSync(scratch, { recursive: true, force: true }));
+
+/** An empty folder that is gone with the tests. */
+export const newFolder = () => mkdtempSync(join(scratch, 'folder-'));
 
 /** The page of a browser. It fails where the page reports a fault or asks for anything. */
 export class Page {
