@@ -96,7 +96,7 @@ tl::expected<ForeignText, std::string> DecodeText(std::string bytes) {
   if (!text) {
     return tl::unexpected(text.error());
   }
-  if (text->find('\0') != std::string::npos) {
+  if (std::find(text->begin(), text->end(), '\0') != text->end()) {
     return tl::unexpected(std::string("it holds bytes of 0, which no text has"));
   }
   return ForeignText{std::move(*text), encoding};
