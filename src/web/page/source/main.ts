@@ -10,14 +10,14 @@ import { Study } from './study';
 import { version } from 'kaldo-embedded';
 
 const study = new Study();
-const helper = new Engine(); // answers while a form is filled in
+const answering = new Engine(); // answers while a form is filled in
 let running: Engine | undefined;
 let finished: Results[] = []; // each with a program of its own, which holds them
 let shown: Results | undefined;
 let lastCheck = 0;
 
 const form = new StudyForm(study, () => scheduleCheck());
-const imports = new ImportForm(helper, (files, hasUndefinedParents) => {
+const imports = new ImportForm(answering, (files, hasUndefinedParents) => {
   study.allowUndefinedParents(hasUndefinedParents);
   void addFiles(files, true);
 });
@@ -56,7 +56,7 @@ async function showForm(): Promise<void> {
     },
   ]);
   byId('draws-part').hidden = isAllocation();
-  form.show(await helper.ask('form', { kind: study.kind, typed: study.typed([]) }));
+  form.show(await answering.ask('form', { kind: study.kind, typed: study.typed([]) }));
   form.showFiles((path) => void removeFile(path));
   byId('run').textContent = isAllocation() ? 'Allocate' : 'Simulate';
   scheduleCheck();
@@ -81,7 +81,7 @@ async function addFiles(all: Files, areImported = false): Promise<void> {
   const isRecord = (path: string): boolean => path.endsWith('.toml');
   const files: Files = new Map([...all].filter(([path]) => !isRecord(path)));
   study.add(files);
-  await helper.put(all);
+  await answering.put(all);
   const record = [...all.keys()].find(isRecord);
   if (record) {
     await openRecord(record);
@@ -95,7 +95,7 @@ async function addFiles(all: Files, areImported = false): Promise<void> {
 /** Fills in the form as it was for an earlier run. */
 async function openRecord(file: string): Promise<void> {
   try {
-    const { kind, typed } = await helper.ask('record', { file });
+    const { kind, typed } = await answering.ask('record', { file });
     study.repeat(kind, typed);
     byId('run-told').replaceChildren();
   } catch (error) {
@@ -131,7 +131,7 @@ async function openExample(example: Example): Promise<void> {
   study.sexed = example.sexed;
   study.draws = example.draws;
   study.replaceSettings(example.kind, example.typed);
-  await helper.put(files);
+  await answering.put(files);
   await showForm();
   byId('settings').scrollIntoView({ block: 'start' });
 }
@@ -160,7 +160,7 @@ async function check(mine: number): Promise<void> {
     form.showLoci([]);
     return;
   }
-  const checked = await helper.ask('check', {
+  const checked = await answering.ask('check', {
     kind: study.kind,
     typed: study.typed(form.settings),
   });
@@ -327,7 +327,7 @@ async function simulateLikeIt({ run }: Results): Promise<void> {
     for (const [path, bytes] of run.inputs) {
       study.files.set(path, bytes); // other ones may have taken their names meanwhile
     }
-    await helper.put(run.inputs);
+    await answering.put(run.inputs);
     study.repeat(kind, { ...typed, project });
     await showForm();
     byId('run-told').replaceChildren(...(note ? [h('p', { textContent: note })] : []));
