@@ -10,6 +10,7 @@
 
 #include "app/base/text.h"
 #include "app/base/tr.h"
+#include "app/base/wrapping_row.h"
 #include "app/results/chart_layout.h"
 #include "app/results/chart_view.h"
 #include "app/results/result_table.h"
@@ -63,8 +64,7 @@ void ChartPanel::AddButtons(QBoxLayout& layout, const QString& name) {
   copy->setObjectName(name + Text("Copy"));
   copy->setToolTip(
       Tr("Copy the selected rows, or all, with their heads, to be pasted into a spreadsheet."));
-  auto* row = new QHBoxLayout;
-  row->addStretch();
+  auto* row = new WrappingRow(WrappingRow::Side::kRight);
   saver_.AddButtons(*row);
   row->addWidget(copy);
   layout.addLayout(row);

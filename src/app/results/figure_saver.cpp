@@ -2,10 +2,10 @@
 #include "app/results/figure_saver.h"
 
 #include <QAction>
-#include <QBoxLayout>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLayout>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -68,7 +68,7 @@ void FigureSaver::CopyPicture() const {
   CopyFigure(figure, SizeOr(natural));
 }
 
-void FigureSaver::AddButtons(QBoxLayout& row) {
+void FigureSaver::AddButtons(QLayout& row) {
   auto* const save = new QPushButton(Tr("Save c&hart..."));
   save->setObjectName(name_ + Text("Save"));
   save->setToolTip(Tr("Save the chart for an article (SVG, PDF, PNG) or its numbers (CSV)."));

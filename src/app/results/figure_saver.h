@@ -8,7 +8,7 @@
 
 #include "app/results/chart_files.h"
 
-class QBoxLayout;
+class QLayout;
 class QPushButton;
 
 namespace kaldo {
@@ -30,7 +30,7 @@ class FigureSaver {
   void CopyPicture() const;
 
   /// Puts a button for each of these at the end of a row.
-  void AddButtons(QBoxLayout& row);
+  void AddButtons(QLayout& row);
 
   /// Gives a widget a context menu of the same.
   void AddMenu(QWidget& widget);

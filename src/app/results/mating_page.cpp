@@ -15,6 +15,7 @@
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
 #include "app/base/tr.h"
+#include "app/base/wrapping_row.h"
 #include "app/results/mating_figure.h"
 #include "app/results/mating_view.h"
 #include "app/results/result_table.h"
@@ -140,12 +141,13 @@ QLayout* MatingPage::NewButtonRow(const QString& folder) {
   connect(copy, &QPushButton::clicked, list_, [this] { list_->CopyRows(); });
   connect(save, &QPushButton::clicked, list_,
           [this, folder] { list_->ExportRows(folder + Text("/families.csv")); });
+  auto* const others = new WrappingRow(WrappingRow::Side::kRight);
+  saver_.AddButtons(*others);
+  others->addWidget(copy);
+  others->addWidget(save);
   auto* const row = new QHBoxLayout;
-  row->addWidget(offspring_);
-  row->addStretch();
-  saver_.AddButtons(*row);
-  row->addWidget(copy);
-  row->addWidget(save);
+  row->addWidget(offspring_, 0, Qt::AlignTop);
+  row->addLayout(others, 1);
   return row;
 }
 

@@ -19,6 +19,7 @@
 #include "app/base/messages.h"
 #include "app/base/recent_folders.h"
 #include "app/base/text.h"
+#include "app/base/wrapping_row.h"
 #include "base/version.h"
 
 namespace kaldo {
@@ -87,13 +88,12 @@ QWidget* ResultsWindow::ButtonRow() {
   auto* row = new QWidget;
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  buttons_ = new QHBoxLayout;
+  buttons_ = new WrappingRow;
   buttons_->addWidget(open);
   buttons_->addWidget(copy_command_);
   AddExports(*buttons_);
-  layout->addLayout(buttons_);
-  layout->addStretch();
-  layout->addWidget(close_button);
+  layout->addLayout(buttons_, 1);
+  layout->addWidget(close_button, 0, Qt::AlignBottom);
   connect(open, &QPushButton::clicked, this, [this] {
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(folder_))) {
       ShowFailure(this, Tr("The folder \"%1\" cannot be opened.").arg(folder_));

@@ -8,12 +8,13 @@
 #include "app/base/tr.h"
 #include "app/results/export_dialog.h"
 
-class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QTabWidget;
 
 namespace kaldo {
+
+class WrappingRow;
 
 /// What the result windows of all runs share: a title with the name of the project, tabs, and
 /// buttons to open the folder with the reports and to copy the command that repeats the run. Esc
@@ -60,7 +61,7 @@ class ResultsWindow : public QWidget {
   QString command_;
   QLabel* note_;
   QTabWidget* tabs_;
-  QHBoxLayout* buttons_ = nullptr;
+  WrappingRow* buttons_ = nullptr;
   QPushButton* copy_command_;
   ExportOffer exports_;
   QPushButton* export_;

@@ -12,6 +12,7 @@
 #include "app/base/form_fields.h"
 #include "app/base/text.h"
 #include "app/base/tr.h"
+#include "app/base/wrapping_row.h"
 #include "app/results/chart_panel.h"
 
 namespace kaldo {
@@ -121,10 +122,9 @@ QWidget* SummaryPage::NewTextSide() {
   layout->addWidget(text_, 1);
   layout->addWidget(label);
   layout->addWidget(to_check_);
-  auto* row = new QHBoxLayout;
+  auto* row = new WrappingRow;
   row->addWidget(more_);
   row->addWidget(trial_);
-  row->addStretch();
   layout->addLayout(row);
   trial_->hide();
   const bool checks = !summary_.to_check.isEmpty();
