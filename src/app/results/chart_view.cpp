@@ -77,8 +77,9 @@ void ChartView::Draw() {
   plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 
+// Title and legend may take two lines each: the page is scrolled rather than the bars be lost.
 QSize ChartView::minimumSizeHint() const {
-  return {fontMetrics().averageCharWidth() * 40, fontMetrics().lineSpacing() * 9};
+  return {fontMetrics().averageCharWidth() * 40, fontMetrics().lineSpacing() * 18};
 }
 
 QSize ChartView::sizeHint() const {
