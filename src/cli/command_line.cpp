@@ -56,8 +56,9 @@ struct Commands {
       "KALDO allocates offspring to their parents from microsatellite genotypes when only\n"
       "part of the true parents has been collected.",
       "kaldo"};
-  CLI::App* allocate =
-      app.add_subcommand("allocate", "Allocate every offspring to its most likely pair of parents");
+  // Paths may begin with "/" on every system: options never do.
+  CLI::App* allocate = app.allow_windows_style_options(false)->add_subcommand(
+      "allocate", "Allocate every offspring to its most likely pair of parents");
   CLI::App* check =
       app.add_subcommand("check", "Tell all that is wrong with files and choices; write nothing");
   CLI::App* check_simulation =

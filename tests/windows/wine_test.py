@@ -27,7 +27,7 @@ WINE = next((found for found in map(shutil.which, ("wine64", "/usr/lib/wine/wine
              if found), "wine64")
 ROOT = Path(__file__).resolve().parents[2]
 KALDO = EXE = BASE = None
-GENEROUS = 90           # seconds: against a hang only
+GENEROUS = 300          # seconds: against a hang only
 RECORD = "Run record.toml"
 
 NON_SEXED = [f"--{option}={ROOT}/examples/non-sexed/{option}.txt"
@@ -161,6 +161,7 @@ class WindowsTest(unittest.TestCase):
 
     def test_wrong_inputs_are_refused_in_the_same_words(self):
         for wrong in (["allocate"], ["simulate", "--iterations", "many"], ["alocate"],
+                      ["verify", "/nowhere/Run record.toml"],
                       ["allocate", "--project", "p", *NON_SEXED[:2], "--offspring", "fehlt-ä.txt"],
                       ["allocate", "--project", "p", *NON_SEXED[:2], f"--offspring={ROOT}"],
                       ["allocate", "--project", "p", *NON_SEXED[1:], f"--loci={KALDO}"]):
