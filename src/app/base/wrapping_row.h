@@ -1,38 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QLayout>
-#include <memory>
-#include <vector>
+#include <QWidget>
 
 namespace kaldo {
 
 /// Buttons beside each other, and on as many lines as they need where the window is too narrow: in
-/// other languages they are longer than in English.
-class WrappingRow final : public QLayout {
+/// other languages they are longer than in English. As high as its lines: pages, which are scrolled
+/// where they are higher than the window, need not know that its height depends on its width.
+class WrappingRow final : public QWidget {
  public:
   /// The side to which each line is pushed.
   enum class Side { kLeft, kRight };
 
-  explicit WrappingRow(Side side = Side::kLeft) : side_(side) {}
+  explicit WrappingRow(Side side = Side::kLeft);
 
-  void addItem(QLayoutItem* item) override;
-  int count() const override;
-  QLayoutItem* itemAt(int index) const override;
-  QLayoutItem* takeAt(int index) override;
-  QSize sizeHint() const override;     ///< of one line
-  QSize minimumSize() const override;  ///< of the widest button
-  bool hasHeightForWidth() const override { return true; }
-  int heightForWidth(int width) const override;
-  void setGeometry(const QRect& area) override;
+  bool hasHeightForWidth() const override { return false; }
 
- private:
-  using Line = std::vector<QLayoutItem*>;
-
-  std::vector<Line> LinesIn(int width) const;
-
-  Side side_;
-  std::vector<std::unique_ptr<QLayoutItem>> items_;
+ protected:
+  bool event(QEvent* event) override;
 };
 
 }  // namespace kaldo

@@ -65,9 +65,9 @@ void ChartPanel::AddButtons(QBoxLayout& layout, const QString& name) {
   copy->setToolTip(
       Tr("Copy the selected rows, or all, with their heads, to be pasted into a spreadsheet."));
   auto* row = new WrappingRow(WrappingRow::Side::kRight);
-  saver_.AddButtons(*row);
-  row->addWidget(copy);
-  layout.addLayout(row);
+  saver_.AddButtons(*row->layout());
+  row->layout()->addWidget(copy);
+  layout.addWidget(row);
   connect(copy, &QPushButton::clicked, this, [this] { table_->CopyRows(); });
   saver_.AddMenu(*chart_);
   auto* const action = new QAction(Tr("Copy &table"), chart_);

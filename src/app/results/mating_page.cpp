@@ -142,12 +142,12 @@ QLayout* MatingPage::NewButtonRow(const QString& folder) {
   connect(save, &QPushButton::clicked, list_,
           [this, folder] { list_->ExportRows(folder + Text("/families.csv")); });
   auto* const others = new WrappingRow(WrappingRow::Side::kRight);
-  saver_.AddButtons(*others);
-  others->addWidget(copy);
-  others->addWidget(save);
+  saver_.AddButtons(*others->layout());
+  others->layout()->addWidget(copy);
+  others->layout()->addWidget(save);
   auto* const row = new QHBoxLayout;
   row->addWidget(offspring_, 0, Qt::AlignTop);
-  row->addLayout(others, 1);
+  row->addWidget(others, 1);
   return row;
 }
 

@@ -89,10 +89,10 @@ QWidget* ResultsWindow::ButtonRow() {
   auto* layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   buttons_ = new WrappingRow;
-  buttons_->addWidget(open);
-  buttons_->addWidget(copy_command_);
-  AddExports(*buttons_);
-  layout->addLayout(buttons_, 1);
+  buttons_->layout()->addWidget(open);
+  buttons_->layout()->addWidget(copy_command_);
+  AddExports(*buttons_->layout());
+  layout->addWidget(buttons_, 1);
   layout->addWidget(close_button, 0, Qt::AlignBottom);
   connect(open, &QPushButton::clicked, this, [this] {
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(folder_))) {
@@ -158,7 +158,7 @@ void ResultsWindow::AddTab(QWidget* page, Phrase title, Phrase tip) {
   tabs_->setTabToolTip(tabs_->addTab(area, Tr(title)), Tr(tip));
 }
 
-void ResultsWindow::AddButton(QPushButton* button) { buttons_->addWidget(button); }
+void ResultsWindow::AddButton(QPushButton* button) { buttons_->layout()->addWidget(button); }
 
 void ResultsWindow::ShowTab(const QWidget& page) {
   for (int tab = 0; tab < tabs_->count(); ++tab) {

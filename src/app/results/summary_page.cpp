@@ -123,9 +123,9 @@ QWidget* SummaryPage::NewTextSide() {
   layout->addWidget(label);
   layout->addWidget(to_check_);
   auto* row = new WrappingRow;
-  row->addWidget(more_);
-  row->addWidget(trial_);
-  layout->addLayout(row);
+  row->layout()->addWidget(more_);
+  row->layout()->addWidget(trial_);
+  layout->addWidget(row);
   trial_->hide();
   const bool checks = !summary_.to_check.isEmpty();
   label->setVisible(checks);
