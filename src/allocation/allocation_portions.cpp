@@ -5,7 +5,7 @@
 #include <cmath>
 #include <optional>
 
-#include "allocation/reports/result_line.h"
+#include "allocation/allocation_confidence.h"
 #include "base/field_packing.h"
 #include "base/problem.h"
 #include "confidence/parent_frequencies.h"
@@ -137,7 +137,7 @@ bool AllocationPlan::IsPossible(const Portion& portion, std::string_view result)
 bool AllocationPlan::Take(const Portion& portion, std::string_view result) {
   if (portion.begin == 0) {
     if (portion.group > 0) {
-      KeepPairs();
+      result_.earlier_pairs.push_back(ReportedBy(flow_, result_));
     }
     result_.loci = LociOfCombination(input_, input_.combinations[portion.group]);
     result_.outcomes.resize(input_.NumberOfOffspring());
@@ -149,15 +149,6 @@ bool AllocationPlan::Take(const Portion& portion, std::string_view result) {
     result_.counters.back().Count(result_.outcomes[i]);
   }
   return true;
-}
-
-void AllocationPlan::KeepPairs() {
-  std::vector<StatedPair>& pairs = result_.earlier_pairs.emplace_back();
-  pairs.reserve(result_.outcomes.size());
-  for (const AllocationOutcome& outcome : result_.outcomes) {
-    const AllocatedSides sides = SidesOf(flow_, outcome);
-    pairs.push_back({sides.first.parent, sides.second.parent});
-  }
 }
 
 }  // namespace kaldo

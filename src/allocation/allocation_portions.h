@@ -44,8 +44,6 @@ class AllocationPlan final : public PortionPlan {
   bool Take(const Portion& portion, std::string_view result) override;
 
  private:
-  void KeepPairs();
-
   Flow flow_;
   const AllocationInput& input_;
   AllocationResult& result_;

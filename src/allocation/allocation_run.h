@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
 #include <chrono>
 #include <string_view>
 #include <vector>
@@ -12,15 +11,13 @@
 #include "base/run_observer.h"
 #include "confidence/confidence_run.h"
 #include "confidence/locus_quality.h"
+#include "confidence/posterior.h"
 #include "genotypes/stepping_condition.h"
 #include "method/allocation_decision.h"
 #include "method/allocation_shares.h"
 #include "runs/workforce.h"
 
 namespace kaldo {
-
-/// Whom an offspring is allocated to, in the order of its line; nothing for "UC".
-using StatedPair = std::array<std::optional<Slot>, 2>;
 
 /// What an allocation found.
 struct AllocationResult {
@@ -30,7 +27,7 @@ struct AllocationResult {
 
   /// Of the combinations before the last one: one pair per offspring, in file order. Empty where
   /// the run was opened again, because no report tells them.
-  std::vector<std::vector<StatedPair>> earlier_pairs;
+  std::vector<std::vector<ReportedParents>> earlier_pairs;
 
   // Of the last combination:
   LociOfRun loci;

@@ -7,32 +7,24 @@
 
 #include <fmt/format.h>
 
+#include "allocation/allocation_confidence.h"
 #include "allocation/findings.h"
-#include "allocation/reports/result_line.h"
 #include "base/counted_text.h"
 
 namespace kaldo {
 
 namespace {
 
-std::string_view ClassOf(Flow flow, const StatedPair& pair) {
+std::string_view ClassOf(Flow flow, const ReportedParents& pair) {
   const std::size_t first = pair[0] ? 0 : 1;
   const std::size_t second = pair[1] ? 0 : 1;
   return PairClassNames(flow)[flow == Flow::kSexed ? 2 * first + second : first + second];
 }
 
 /// The pairs of a step, the last one included.
-std::vector<StatedPair> PairsOfStep(Flow flow, const AllocationResult& result, std::size_t step) {
-  if (step < result.earlier_pairs.size()) {
-    return result.earlier_pairs[step];
-  }
-  std::vector<StatedPair> pairs;
-  pairs.reserve(result.outcomes.size());
-  for (const AllocationOutcome& outcome : result.outcomes) {
-    const AllocatedSides sides = SidesOf(flow, outcome);
-    pairs.push_back({sides.first.parent, sides.second.parent});
-  }
-  return pairs;
+std::vector<ReportedParents> PairsOfStep(Flow flow, const AllocationResult& result,
+                                         std::size_t step) {
+  return step < result.earlier_pairs.size() ? result.earlier_pairs[step] : ReportedBy(flow, result);
 }
 
 std::string LociText(const AllocationInput& input, const std::vector<LocusIndex>& loci) {
@@ -122,7 +114,7 @@ RunStatements StatementsOfStep(const AllocationSettings& settings, const Allocat
   run.flow = settings.flow;
   run.files = input.files;
   run.settings = SettingsOf(settings, input);
-  const std::vector<StatedPair> pairs = PairsOfStep(settings.flow, result, step);
+  const std::vector<ReportedParents> pairs = PairsOfStep(settings.flow, result, step);
   const bool is_last = step + 1 == input.combinations.size();
   run.offspring.resize(pairs.size());
   const auto name = [&](const std::optional<Slot>& parent) {
