@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/results/loci_use_page.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "app/base/form_fields.h"
@@ -27,24 +25,15 @@ LociUsePage::LociUsePage(const FinishedAllocation& allocation, const QString& fo
   auto* table = new ResultTable(Tr("What each locus is worth"));
   table->setObjectName(Text("LociTable"));
   table->setModel(model);
-  auto* copy =
-      NewButton(Phrase("Copy &rows"), "LociCopy",
-                Phrase("Copy the selected loci, or all, with their heads, to be pasted into a "
-                       "spreadsheet (Ctrl+C)."));
-  auto* save = NewButton(Phrase("&Export table..."), "LociExport",
-                         Phrase("Save the table as it is shown (CSV)."));
-  auto* row = new QHBoxLayout;
-  row->addStretch();
-  row->addWidget(copy);
-  row->addWidget(save);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(hint);
   layout->addWidget(table, 1);
-  layout->addLayout(row);
-  connect(copy, &QPushButton::clicked, table, [table] { table->CopyRows(); });
-  connect(save, &QPushButton::clicked, table,
-          [table, folder] { table->ExportRows(folder + Text("/loci.csv")); });
+  layout->addLayout(NewTableButtons(
+      *table, "Loci",
+      Phrase("Copy the selected loci, or all, with their heads, to be pasted into a "
+             "spreadsheet (Ctrl+C)."),
+      Phrase("Save the table as it is shown (CSV)."), folder + Text("/loci.csv")));
 }
 
 }  // namespace kaldo

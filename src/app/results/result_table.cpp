@@ -4,16 +4,20 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMimeData>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
+#include <string>
 
+#include "app/base/form_fields.h"
 #include "app/base/text.h"
 #include "app/base/tr.h"
 #include "app/results/copied_rows.h"
@@ -244,6 +248,20 @@ void ResultTable::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QTableView::keyPressEvent(event);
+}
+
+QLayout* NewTableButtons(ResultTable& table, std::string_view name, Phrase copy_help,
+                         Phrase export_help, const QString& path) {
+  auto* const copy = NewButton(Phrase("Copy &rows"), std::string(name) + "Copy", copy_help);
+  auto* const save =
+      NewButton(Phrase("&Export table..."), std::string(name) + "Export", export_help);
+  QObject::connect(copy, &QPushButton::clicked, &table, [&table] { table.CopyRows(); });
+  QObject::connect(save, &QPushButton::clicked, &table, [&table, path] { table.ExportRows(path); });
+  auto* const row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(copy);
+  row->addWidget(save);
+  return row;
 }
 
 }  // namespace kaldo

@@ -3,8 +3,12 @@
 
 #include <QAbstractTableModel>
 #include <QTableView>
+#include <string_view>
 
+#include "app/base/tr.h"
 #include "app/results/data_table.h"
+
+class QLayout;
 
 namespace kaldo {
 
@@ -59,5 +63,10 @@ class ResultTable : public QTableView {
  private:
   void AddActions();
 };
+
+/// The buttons below a table that copy its rows and export it, called NAME + "Copy" and "Export".
+/// `path` is suggested for the export.
+QLayout* NewTableButtons(ResultTable& table, std::string_view name, Phrase copy_help,
+                         Phrase export_help, const QString& path);
 
 }  // namespace kaldo

@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "app/base/text.h"
@@ -26,7 +25,11 @@ SearchableTable::SearchableTable(const SearchableTexts& texts, const QString& fo
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addLayout(NewChoiceRow(texts));
   layout->addWidget(table_);
-  layout->addLayout(NewButtons(texts, folder));
+  layout->addLayout(NewTableButtons(
+      *table_, texts.name,
+      Phrase("Copy the selected rows with their heads, to be pasted into a spreadsheet (Ctrl+C)."),
+      Phrase("Save all rows shown, in their order, as comma-separated values."),
+      folder + Text("/") + Text(texts.file)));
 }
 
 QLayout* SearchableTable::NewChoiceRow(const SearchableTexts& texts) {
@@ -48,24 +51,6 @@ QLayout* SearchableTable::NewChoiceRow(const SearchableTexts& texts) {
   row->addWidget(show_label);
   row->addWidget(choices_);
   row->addWidget(count_);
-  return row;
-}
-
-QLayout* SearchableTable::NewButtons(const SearchableTexts& texts, const QString& folder) {
-  auto* copy = new QPushButton(Tr("Copy &rows"));
-  copy->setObjectName(Text(texts.name) + Text("Copy"));
-  copy->setToolTip(
-      Tr("Copy the selected rows with their heads, to be pasted into a spreadsheet (Ctrl+C)."));
-  auto* save = new QPushButton(Tr("&Export table..."));
-  save->setObjectName(Text(texts.name) + Text("Export"));
-  save->setToolTip(Tr("Save all rows shown, in their order, as comma-separated values."));
-  connect(copy, &QPushButton::clicked, this, [this] { table_->CopyRows(); });
-  connect(save, &QPushButton::clicked, this,
-          [this, path = folder + Text("/") + Text(texts.file)] { table_->ExportRows(path); });
-  auto* row = new QHBoxLayout;
-  row->addStretch();
-  row->addWidget(copy);
-  row->addWidget(save);
   return row;
 }
 

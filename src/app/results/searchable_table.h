@@ -52,7 +52,6 @@ class SearchableTable : public QWidget {
 
  private:
   QLayout* NewChoiceRow(const SearchableTexts& texts);
-  QLayout* NewButtons(const SearchableTexts& texts, const QString& folder);
 
   ResultTable* table_;
   QLineEdit* find_;

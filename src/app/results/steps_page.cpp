@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "allocation/run_comparison.h"
@@ -60,7 +59,11 @@ StepsPage::StepsPage(SharedAllocation allocation, const QString& folder, QWidget
     table_->setObjectName(Text("StepsTable"));
     table_->setModel(model_);
     layout->addWidget(table_, 1);
-    layout->addLayout(NewButtonRow(folder));
+    layout->addLayout(NewTableButtons(
+        *table_, "Steps",
+        Phrase("Copy the selected offspring, or all, with their heads, to be pasted into a "
+               "spreadsheet (Ctrl+C)."),
+        Phrase("Save the table as it is shown (CSV)."), folder + Text("/steps.csv")));
   } else {
     layout->addStretch();
   }
@@ -89,22 +92,6 @@ QLayout* StepsPage::NewChoiceRow() {
   add(steps_[0], Phrase("S&tep:"), "StepsFirst", std::max(last - 1, 0));
   add(steps_[1], Phrase("Besi&de it:"), "StepsSecond", last);
   row->addStretch();
-  return row;
-}
-
-QLayout* StepsPage::NewButtonRow(const QString& folder) {
-  auto* const copy = NewButton(Phrase("Copy &rows"), "StepsCopy",
-                               Phrase("Copy the selected offspring, or all, with their heads, to "
-                                      "be pasted into a spreadsheet (Ctrl+C)."));
-  auto* const save = NewButton(Phrase("&Export table..."), "StepsExport",
-                               Phrase("Save the table as it is shown (CSV)."));
-  connect(copy, &QPushButton::clicked, table_, [this] { table_->CopyRows(); });
-  connect(save, &QPushButton::clicked, table_,
-          [this, folder] { table_->ExportRows(folder + Text("/steps.csv")); });
-  auto* const row = new QHBoxLayout;
-  row->addStretch();
-  row->addWidget(copy);
-  row->addWidget(save);
   return row;
 }
 

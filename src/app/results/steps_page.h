@@ -25,7 +25,6 @@ class StepsPage : public QWidget {
 
  private:
   QLayout* NewChoiceRow();
-  QLayout* NewButtonRow(const QString& folder);
   void ShowSteps();
   QString NumbersText(std::size_t first, std::size_t second) const;
   QString ShowChanged(std::size_t first, std::size_t second);
