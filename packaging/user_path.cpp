@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr wchar_t kName[] = L"Path";
+constexpr const wchar_t* kName = L"Path";
 constexpr std::size_t kMostLetters = 32767;  ///< that Windows takes for a variable
 
 /// The key of the user's variables, closed with its block.

@@ -37,8 +37,9 @@ std::error_code RemoveFolder(const std::string& folder) {
   }
   const bool is_folder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
   if (is_folder && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) {
+    const std::string inside = folder + '/';
     for (const std::string& name : NamesIn(folder)) {
-      if (const std::error_code error = RemoveFolder(folder + '/' + name)) {
+      if (const std::error_code error = RemoveFolder(inside + name)) {
         return error;
       }
     }
