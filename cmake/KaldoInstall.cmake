@@ -15,7 +15,7 @@ if(TARGET kaldo-desktop)
   install(FILES packaging/kaldo-desktop.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
   install(FILES packaging/kaldo.svg
     DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
-  install(FILES packaging/io.github.kaldo.kaldo.metainfo.xml
+  install(FILES packaging/kaldo-desktop.metainfo.xml
     DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
   install(FILES packaging/kaldo-run-record.xml
     DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages")
