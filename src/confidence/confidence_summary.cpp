@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "confidence/confidence_summary.h"
 
+#include <fmt/format.h>
+
 #include "confidence/certainty.h"
 
 namespace kaldo {
@@ -48,6 +50,14 @@ ConfidenceSummary SummaryOf(std::span<const OffspringConfidence> offspring,
     }
   }
   return summary;
+}
+
+std::string SidesSentence(const ConfidenceSummary& sides) {
+  return fmt::format(
+      "Of the {} parents of the offspring {} are sure, {} likely, {} open and {} not collected; of "
+      "the {} that are named {:.1f} are expected to be wrong.",
+      sides.Sides(), sides.surely_named, sides.named, sides.open, sides.uncollected, sides.Named(),
+      sides.wrong_names);
 }
 
 }  // namespace kaldo

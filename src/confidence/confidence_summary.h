@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 
 #include "confidence/confidence_run.h"
 
@@ -32,5 +33,8 @@ inline constexpr double kImprobable = 0.5;
 /// `reported` is what the posteriors were asked about, one per offspring, or empty.
 ConfidenceSummary SummaryOf(std::span<const OffspringConfidence> offspring,
                             std::span<const ReportedParents> reported);
+
+/// How many sides are how sure, and how many names are expected to be wrong, in one sentence.
+std::string SidesSentence(const ConfidenceSummary& sides);
 
 }  // namespace kaldo

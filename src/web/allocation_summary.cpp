@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <fmt/format.h>
-
 #include "allocation/allocation_command.h"
 #include "allocation/allocation_confidence.h"
 #include "allocation/allocation_record.h"
@@ -67,11 +65,7 @@ void AddPosteriors(const ShownAllocation& allocation, Json& summary) {
       SummaryOf(result.confidence->offspring, ReportedBy(allocation.settings.flow, result));
   summary["charts"].push_back(ChartJson(VerdictChart(study, sides)));
   summary["charts"].push_back(ChartJson(ProbabilityChart(study, sides)));
-  summary["notes"].push_back(fmt::format(
-      "Of the {} parents of the offspring {} are sure, {} likely, {} open and {} not collected; of "
-      "the {} that are named {:.1f} are expected to be wrong.",
-      sides.Sides(), sides.surely_named, sides.named, sides.open, sides.uncollected, sides.Named(),
-      sides.wrong_names));
+  summary["notes"].push_back(SidesSentence(sides));
   const auto named = NamedParentsOf(result.confidence->offspring);
   summary["notes"].push_back(SibshipsSentence(SibshipsOf(named)));
   summary["notes"].push_back(BreedersSentence(EffectiveBreedersOf(named)));

@@ -6,6 +6,7 @@
 #include "simulation/reports/estimate_texts.h"
 #include "simulation/simulation_command.h"
 #include "simulation/simulation_record.h"
+#include "simulation/trial_of_allocation.h"
 #include "web/summary_json.h"
 
 namespace kaldo {
@@ -101,6 +102,7 @@ Json SummaryJson(const ShownSimulation& simulation) {
       {"headline", HeadlineOf(run.result)},
       {"notes",
        Json::array({fmt::format("The seed of the random numbers was {}.", run.result.seed)})},
+      {"trial", TrialSentence(settings, run.result)},
       {"check", Json::array()},
       {"warnings", RecordOf(settings, run.input, run.result).warnings},
       {"text", EscapedLines(ShortResult(settings, run, {}))},

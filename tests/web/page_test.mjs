@@ -181,6 +181,12 @@ test('offspring are sorted, sought, filtered and looked at; then simulated', asy
   await page.click('#runs button'); // what was simulated is still there
   assert.match(await page.text('#results-title'), /allocation/);
   assert.deepEqual(await page.texts('#to-check li'), toCheck);
+  const told = () => page.text('#panel-summary ul');
+  assert.match(await told(), /A simulation like this run \(3 x \d+ pseudo-offspring\)/);
+  await page.type('tolerance', '2'); // that is another one
+  await page.run();
+  await page.click('#runs button');
+  assert.doesNotMatch(await told(), /3 x [^]*3 x/);
   await page.close();
 });
 

@@ -253,6 +253,8 @@ constexpr auto kSentences = std::to_array<Phrase>({
     Phrase("none open, one named below 0.95"),
     Phrase("a parent cannot be told"),
     Phrase("a parent is not in your files, the other is sure or not in them either"),
+    Phrase("Of the %1 parents of the offspring %2 are sure, %3 likely, %4 open and %5 not "
+           "collected; of the %6 that are named %7 are expected to be wrong."),
     // Sibships and breeders.
     Phrase("Effective number of breeders: none, because no parent is named for two offspring."),
     Phrase("%1 pairs"),

@@ -111,18 +111,8 @@ void AddFindings(const AllocationSettings& settings, const AllocationRun& run, S
         Text("%1: %2").arg(Text(run.input.table.Name(slot).Text()),
                            TrCore(DoubtText(run.input, run.result, settings.flow, check)));
   }
-  const ConfidenceSummary sides =
-      SummaryOf(run.result.confidence->offspring, ReportedBy(settings.flow, run.result));
-  summary.notes +=
-      Tr("Of the %1 parents of the offspring %2 are sure, %3 likely, %4 open and %5 not "
-         "collected; of the %6 that are named %7 are expected to be wrong.")
-          .arg(sides.Sides())
-          .arg(sides.surely_named)
-          .arg(sides.named)
-          .arg(sides.open)
-          .arg(sides.uncollected)
-          .arg(sides.Named())
-          .arg(sides.wrong_names, 0, 'f', 1);
+  summary.notes += TrCore(SidesSentence(
+      SummaryOf(run.result.confidence->offspring, ReportedBy(settings.flow, run.result))));
 }
 
 }  // namespace

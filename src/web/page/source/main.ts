@@ -7,6 +7,7 @@ import { ImportForm } from './import_form';
 import type { Checked, Fault, Files } from './protocol';
 import { refusalBox, Results } from './results';
 import { Study } from './study';
+import { Trial } from './trial';
 import { version } from 'kaldo-embedded';
 
 const study = new Study();
@@ -14,6 +15,7 @@ const answering = new Engine(); // answers while a form is filled in
 let running: Engine | undefined;
 let finished: Results[] = []; // each with a program of its own, which holds them
 let shown: Results | undefined;
+let trial: Trial | undefined; // what was last offered to be simulated
 let lastCheck = 0;
 
 const form = new StudyForm(study, () => scheduleCheck());
@@ -250,7 +252,9 @@ async function run(): Promise<void> {
   const { kind, project } = study;
   try {
     await engine.put(inputs);
-    const summary = await engine.ask('run', { kind, typed: study.typed(form.settings) });
+    const typed = study.typed(form.settings);
+    const summary = await engine.ask('run', { kind, typed });
+    trial?.tell(kind, typed, summary.trial);
     const results = new Results(
       { engine, summary, project, inputs, isAllocation: kind === 'allocation' },
       () => void simulateLikeIt(results),
@@ -320,8 +324,9 @@ function setRunning(isRunning: boolean): void {
 }
 
 /** Fills in the simulation that tells how far the allocation can be trusted. */
-async function simulateLikeIt({ run }: Results): Promise<void> {
+async function simulateLikeIt(allocation: Results): Promise<void> {
   try {
+    const { run } = allocation;
     const project = `${run.project}-simulation`;
     const { kind, typed, note } = await run.engine.ask('trial', {});
     for (const [path, bytes] of run.inputs) {
@@ -330,6 +335,7 @@ async function simulateLikeIt({ run }: Results): Promise<void> {
     await answering.put(run.inputs);
     study.repeat(kind, { ...typed, project });
     await showForm();
+    trial = new Trial(allocation, study.typed(form.settings));
     byId('run-told').replaceChildren(...(note ? [h('p', { textContent: note })] : []));
     byId('settings').scrollIntoView({ block: 'start' });
     byId('run').focus();

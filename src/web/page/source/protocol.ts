@@ -34,6 +34,7 @@ export interface Summary {
   title: string;
   headline: string;
   notes: string[];
+  trial?: string; // of a simulation: what it says of an allocation like it
   check: { place: number; name: string; why: string }[];
   warnings: string[];
   text: string;

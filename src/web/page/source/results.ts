@@ -47,6 +47,7 @@ export class Results {
   /** True until what was made has been downloaded. */
   isUnsaved = false;
   private tabs: { name: string; tab: HTMLButtonElement; panel: HTMLElement }[] = [];
+  private readonly notes = h('ul', { hidden: true });
   private offspringTable: DataTable | undefined;
 
   constructor(
@@ -71,6 +72,12 @@ export class Results {
     byId('results-title').textContent = this.run.summary.title;
     byId('tabs').replaceChildren(...this.tabs.map(({ tab }) => tab));
     byId('panels').replaceChildren(...this.tabs.map(({ panel }) => panel));
+  }
+
+  /** Adds a sentence to those below the headline. */
+  addNote(textContent: string): void {
+    this.notes.append(h('li', { textContent }));
+    this.notes.hidden = false;
   }
 
   private addTab(name: string, fill: (panel: HTMLElement) => Promise<void>): void {
@@ -125,9 +132,8 @@ export class Results {
     const list = (texts: string[]): HTMLElement =>
       h('ul', {}, ...texts.map((textContent) => h('li', { textContent })));
     const parts: HTMLElement[] = [h('p', { className: 'headline', textContent: summary.headline })];
-    if (summary.notes.length > 0) {
-      parts.push(list(summary.notes));
-    }
+    summary.notes.forEach((note) => this.addNote(note));
+    parts.push(this.notes);
     if (this.run.isAllocation && summary.certainty) {
       const trial = button('Simulate with the same settings', this.onTrial, 'trial');
       parts.push(h('p', {}, trial));
