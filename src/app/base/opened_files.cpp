@@ -3,6 +3,7 @@
 
 #include <chrono>
 
+#include "base/path_text.h"
 #include "interchange/import/foreign_text.h"
 
 namespace kaldo {
@@ -54,7 +55,7 @@ std::optional<OpenedFiles::Looks> OpenedFiles::LooksNow(const std::filesystem::p
 tl::expected<TokenFile, Problem> OpenedFiles::Open(const std::string& path,
                                                    std::size_t most_bytes) {
   std::error_code ignored;
-  const std::filesystem::path place = std::filesystem::absolute(path, ignored);
+  const std::filesystem::path place = std::filesystem::absolute(FilePath(path), ignored);
   // Before it is read: a change meanwhile shows the next time.
   const auto looks = LooksNow(place);
   const auto now = std::filesystem::file_time_type::clock::now();
@@ -84,7 +85,7 @@ tl::expected<TokenFile, Problem> OpenedFiles::Open(const std::string& path,
 std::optional<ForeignLook> OpenedFiles::ForeignLookAt(const std::string& path) {
   (void)Open(path);
   std::error_code ignored;
-  const auto found = looked_at_.find(std::filesystem::absolute(path, ignored));
+  const auto found = looked_at_.find(std::filesystem::absolute(FilePath(path), ignored));
   return found == looked_at_.end() ? std::nullopt : found->second;
 }
 

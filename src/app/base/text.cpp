@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/base/text.h"
 
-#include <QFile>
 #include <QTextDocument>
 
 namespace kaldo {
@@ -44,10 +43,8 @@ QString TipText(const QString& text) {
                                      : folded;
 }
 
-QString PathText(const std::string& path) {
-  return QFile::decodeName(QByteArray::fromStdString(path));
-}
+QString PathText(const std::string& path) { return Text(path); }
 
-std::string PathBytes(const QString& path) { return QFile::encodeName(path).toStdString(); }
+std::string PathBytes(const QString& path) { return Bytes(path); }
 
 }  // namespace kaldo

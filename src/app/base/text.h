@@ -17,7 +17,7 @@ std::string Bytes(const QString& text);
 /// a file or a locus may look like HTML, of which a tip would load pictures and follow the format.
 QString TipText(const QString& text);
 
-/// A file name of the system as windows show it, and back to its bytes.
+/// A file name of the core, UTF-8 on every system, as windows show it, and back to its bytes.
 QString PathText(const std::string& path);
 std::string PathBytes(const QString& path);
 

@@ -22,6 +22,7 @@
 #include "app/import/import_fields.h"
 #include "app/import/import_files.h"
 #include "app/import/import_preview.h"
+#include "base/path_text.h"
 #include "runs/run_refused.h"
 
 namespace kaldo {
@@ -42,8 +43,9 @@ constexpr auto kNoSexes = Phrase(
 
 /// Beside the first file, under its name.
 std::string FolderBeside(const std::vector<ImportedFile>& files) {
-  const std::filesystem::path first = files.empty() ? "study" : files.front().path;
-  return (first.parent_path() / (first.stem().string() + "-imported")).string();
+  const std::filesystem::path first = files.empty() ? "study" : FilePath(files.front().path);
+  std::filesystem::path folder = first.parent_path() / first.stem();
+  return PathText(folder += "-imported");
 }
 
 /// A line per fault in the language of the windows; options in it stay, for InWordsOfFields.
