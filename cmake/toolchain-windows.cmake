@@ -7,6 +7,8 @@ set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_CXX_FLAGS_INIT "-march=x86-64-v2")
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -s")
+# The other one of its two libraries wants a file that Windows does not have.
+set(ZLIB_USE_STATIC_LIBS ON)
 
 # First what scripts/make-libraries made of what Debian has not packaged for Windows.
 set(CMAKE_FIND_ROOT_PATH
