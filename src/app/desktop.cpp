@@ -31,10 +31,12 @@ int RunDesktop(const QString& record) {
   QApplication::setApplicationName(Text("KALDO"));
   QApplication::setApplicationVersion(Text(Version()));
   QApplication::setDesktopFileName(Text("kaldo-desktop"));
-  QApplication::setWindowIcon(QIcon(Text(":/kaldo.svg")));
+  QApplication::setWindowIcon(QIcon(Text(":/kaldo.ico")));
   QApplication::setQuitOnLastWindowClosed(false);  // the end of the main menu ends the program
-  // A program menu may start the program in a folder that nobody may write to.
-  if (!QFileInfo(QDir::currentPath()).isWritable()) {
+  // A program menu may start the program in a folder that nobody may write to, and a double click
+  // in the program's own.
+  if (!QFileInfo(QDir::currentPath()).isWritable() ||
+      QDir::current() == QDir(QApplication::applicationDirPath())) {
     QDir::setCurrent(QDir::homePath());
   }
   IntroductionScreen introduction;

@@ -33,7 +33,7 @@ IntroductionScreen::IntroductionScreen() {
   setWindowTitle(Text(kProductTitle));
   auto* const icon = new QLabel;
   const int side = fontMetrics().height() * 5;
-  icon->setPixmap(QIcon(Text(":/kaldo.svg")).pixmap(side, side));
+  icon->setPixmap(QIcon(Text(":/kaldo.ico")).pixmap(side, side));
   auto* const title = new QLabel(Text(kProductTitle));
   QFont font = title->font();
   font.setPointSizeF(font.pointSizeF() * 2.4);
