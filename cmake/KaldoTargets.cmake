@@ -33,13 +33,14 @@ function(kaldo_precompile target)
   endif()
 endfunction()
 
-# kaldo_add_room(NAME [FOLDERS folder...] [SOURCES file...] LINKS target... PRIVATE_LINKS target...)
+# kaldo_add_room(NAME [FOLDERS folder...] [SOURCES file...] [HEADERS header...] LINKS target...
+#   PRIVATE_LINKS target...)
 # A room of src/ as one static library: every source of its folder and of the folders named, but
-# main.cpp. SOURCES are those that stand elsewhere. Headers are included by their room:
-# "genotypes/loci_list.h". A room links only to the rooms below it, so a wrong include does not
-# build.
+# main.cpp. SOURCES are those that stand elsewhere, HEADERS what kaldo_precompile() reads besides.
+# Headers are included by their room: "genotypes/loci_list.h". A room links only to the rooms below it,
+# so a wrong include does not build.
 function(kaldo_add_room name)
-  cmake_parse_arguments(ARG "" "" "FOLDERS;SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "FOLDERS;SOURCES;HEADERS;LINKS;PRIVATE_LINKS" ${ARGN})
   set(patterns *.cpp)
   foreach(folder ${ARG_FOLDERS})
     list(APPEND patterns "${folder}/*.cpp")
@@ -51,5 +52,5 @@ function(kaldo_add_room name)
   target_link_libraries(${name}
     PUBLIC ${ARG_LINKS}
     PRIVATE kaldo_options ${ARG_PRIVATE_LINKS})
-  kaldo_precompile(${name})
+  kaldo_precompile(${name} ${ARG_HEADERS})
 endfunction()

@@ -11,8 +11,9 @@ set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -s")
 set(ZLIB_USE_STATIC_LIBS ON)
 
 # First what scripts/make-libraries made of what Debian has not packaged for Windows.
+cmake_path(SET kaldo_libraries NORMALIZE "${CMAKE_CURRENT_LIST_DIR}/../build/libraries")
 set(CMAKE_FIND_ROOT_PATH
-  "${CMAKE_CURRENT_LIST_DIR}/../build/libraries/windows" /usr/x86_64-w64-mingw32)
+  "${kaldo_libraries}/windows" "${kaldo_libraries}/windows-desktop" /usr/x86_64-w64-mingw32)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

@@ -37,6 +37,7 @@ Section
   WriteRegStr HKCU "${REMOVAL}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
   CreateDirectory "$SMPROGRAMS\KALDO"
   SetOutPath "$PROFILE"
+  CreateShortcut "$SMPROGRAMS\KALDO\KALDO.lnk" "$INSTDIR\kaldo-desktop.exe"
   CreateShortcut "$SMPROGRAMS\KALDO\KALDO command line.lnk" "$SYSDIR\cmd.exe" \
     '/k "set PATH=$INSTDIR;%PATH%&&kaldo --help"'
   CreateShortcut "$SMPROGRAMS\KALDO\Documents and examples.lnk" "$INSTDIR"
@@ -53,6 +54,7 @@ Section Uninstall
   !include "${REMOVED}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
+  Delete "$SMPROGRAMS\KALDO\KALDO.lnk"
   Delete "$SMPROGRAMS\KALDO\KALDO command line.lnk"
   Delete "$SMPROGRAMS\KALDO\Documents and examples.lnk"
   Delete "$SMPROGRAMS\KALDO\KALDO in the browser.lnk"
