@@ -25,6 +25,7 @@ from urllib.parse import unquote
 
 WINE = next((found for found in map(shutil.which, ("wine64", "/usr/lib/wine/wine64", "wine"))
              if found), "wine64")
+SERVER = Path(WINE).resolve().parent / "wineserver"
 ROOT = Path(__file__).resolve().parents[2]
 KALDO = EXE = BASE = None
 GENEROUS = 300          # seconds: against a hang only
@@ -322,11 +323,14 @@ def main():
     try:
         subprocess.run(["x86_64-w64-mingw32-g++-posix", "-static", "-o", BASE / "hold.exe",
                         ROOT / "tests/windows/hold.cpp"], check=True)
-        wine(EXE, "--version", capture_output=True)     # makes the prefix
+        # The services of Wine start once, with the first program, and stay: what they say when they
+        # come up on a busy machine would stand among the words of a program that is compared.
+        (BASE / "prefix").mkdir()
+        subprocess.run([SERVER, "-p"], env=environment(), check=True)
+        wine(EXE, "--version", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         unittest.main(argv=sys.argv[:1] + sys.argv[3:], verbosity=2)
     finally:
-        subprocess.run([Path(WINE).resolve().parent / "wineserver", "-k"], env=environment(),
-                       check=False, stderr=subprocess.DEVNULL)
+        subprocess.run([SERVER, "-k"], env=environment(), check=False, stderr=subprocess.DEVNULL)
         shutil.rmtree(BASE, ignore_errors=True)
 
 
