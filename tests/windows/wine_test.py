@@ -72,9 +72,15 @@ class Console:
         self.program = subprocess.Popen(
             command, cwd=folder, env={**environment(), **more}, stdin=terminal, stdout=terminal,
             stderr=terminal, start_new_session=True,
-            preexec_fn=lambda: fcntl.ioctl(0, termios.TIOCSCTTY, 0))
+            preexec_fn=self.own_the_terminal)
         os.close(terminal)
         self.written = b""
+
+    @staticmethod
+    def own_the_terminal():
+        """As a shell of a user leaves it: a key may stop the program, whatever started the tests."""
+        fcntl.ioctl(0, termios.TIOCSCTTY, 0)
+        signal.signal(signal.SIGINT, signal.SIG_DFL)
 
     def text(self):
         """What was written, without the codes that move and colour; Wine skips over blanks."""
