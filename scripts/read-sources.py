@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Reads the sources of a build with clang-tidy, as many at once as there are processors.
 
-    read_sources.py BUILD_FOLDER [--alone] [OPTION OF CLANG-TIDY...] < SOURCES
+    read-sources.py BUILD_FOLDER [--alone] [OPTION OF CLANG-TIDY...] < SOURCES
 
 SOURCES are paths, one a line; the build knows how each is compiled. Most of the time goes into the
 headers of libraries, so sources of one folder with the same options are read as one that includes
