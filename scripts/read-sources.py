@@ -30,12 +30,12 @@ def key(command):
     return str(Path(command["file"]).parent), words[:words.index("-o")]
 
 
-def groups_of(commands):
+def groups_of(commands, most):
     """Lists of sources to read together, the longest first."""
     groups = []
     for _, alike in groupby(sorted(commands, key=key), key):
         alike = list(alike)
-        count = -(-len(alike) // TOGETHER)
+        count = -(-len(alike) // most)
         groups += [alike[place::count] for place in range(count)]
     return sorted(groups, key=len, reverse=True)
 
@@ -48,17 +48,15 @@ class Reader:
 
     def read(self, group):
         """What is found in sources that may be read together."""
-        if not group:
-            return ""
         if len(group) == 1:
             return self.tidy("-p", self.build, group[0]["file"])
-        found = self.together(group)
-        blamed = [command for command in group
-                  if re.search(rf"^{re.escape(command['file'])}:[\d:]+ error", found, re.MULTILINE)]
+        found = self.together(group) if group else ""
+        if not found:
+            return ""
+        blamed = [command for command in group if re.search(
+            rf"^{re.escape(command['file'])}:[\d:]+ error", found, re.MULTILINE)] or group
         rest = [command for command in group if command not in blamed]
-        if found and not blamed:
-            blamed, rest = group, []
-        return "".join(self.read([command]) for command in blamed) + (self.read(rest) if found else "")
+        return "".join(self.read([command]) for command in blamed) + self.read(rest)
 
     def together(self, group):
         """What is found in a source that includes several. It stands where they stand, so that the
@@ -86,9 +84,7 @@ def main(build, *options):
     commands = {command["file"]: command for command in known if command["file"] in wanted}
     if not commands:
         sys.exit(f"{build}/compile_commands.json names no source of this folder.")
-    groups = groups_of(commands.values())
-    if "--alone" in options:
-        groups = [[command] for command in commands.values()]
+    groups = groups_of(commands.values(), 1 if "--alone" in options else TOGETHER)
     options = [option for option in options if option != "--alone"]
     with tempfile.TemporaryDirectory() as folder:
         reader = Reader(build, options, folder)
