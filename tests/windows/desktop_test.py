@@ -15,7 +15,7 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True   # leave the source folder as it is
 
-from wine_test import GENEROUS, OF_THE_RUN, ROOT, WINE, libraries_of_the_compiler
+from wine_test import GENEROUS, OF_THE_RUN, ROOT, SERVER, WINE, libraries_of_the_compiler
 
 PROJECT = "kaldo-example/lake"
 DATA = "kaldo-example/data/non-sexed"
@@ -76,7 +76,7 @@ def main(kaldo, program):
         press("Return", "^ALLOCATION", until="results$")
         compare(base / "here", base / "there", kaldo)
     finally:
-        subprocess.run([Path(WINE).resolve().parent / "wineserver", "-k"], check=False)
+        subprocess.run([SERVER, "-k"], check=False)
         display.terminate()
         display.wait()
         shutil.rmtree(base, ignore_errors=True)
